@@ -1,0 +1,53 @@
+#pragma once
+
+#include <compare>
+#include <functional>
+#include <optional>
+#include <string>
+#include <string_view>
+
+/// A calendar date, year 1 to 9999.
+struct Date {
+  int year = 1;
+  int month = 1;
+  int day = 1;
+  constexpr auto operator<=>(const Date&) const = default;
+};
+
+/// Local wall-clock time to the second, as the shop's paper shows it.
+struct DateTime {
+  Date date;
+  int hour = 0;
+  int minute = 0;
+  int second = 0;
+  constexpr auto operator<=>(const DateTime&) const = default;
+};
+
+/// Where the present time comes from; given in, so that a test can set it.
+using Clock = std::function<DateTime()>;
+/// The machine's local time.
+DateTime localTime();
+
+/// The date `days` later (earlier when negative).
+Date plusDays(Date date, int days);
+
+/// For people: "2026-11-22 09:05:03", the time left out at 00:00:00.
+std::string generalText(const DateTime& value);
+/// "2026-11-22"
+std::string dateText(const Date& value);
+/// Short time: "09:05".
+std::string shortTime(const DateTime& value);
+/// "09:05:03"
+std::string longTime(const DateTime& value);
+/// As the data file holds it: always with the time and zero-padded, so that order as text is order
+/// in time.
+std::string storedText(const DateTime& value);
+
+/// Reads any of the forms above, with "-" or "/" between the parts and one or two digits each.
+/// Nothing for any other text or a date that does not exist.
+std::optional<DateTime> parseDateTime(std::string_view text);
+
+/// Access date literal: "#2026-11-22 09:05:03#", or "#2026-11-22#" at 00:00:00.
+std::string accessLiteral(const DateTime& value);
+/// Reads what accessLiteral writes, the "#" signs included.
+std::optional<DateTime> parseAccessLiteral(std::string_view text);
