@@ -1,0 +1,27 @@
+#pragma once
+
+#include <filesystem>
+#include <optional>
+#include <string>
+#include <string_view>
+
+/// A settings file as Windows reads and writes it, in GBK. Sections and keys are found without
+/// regard to ASCII case. Reading drops blanks and one pair of enclosing quotes ("..." or '...')
+/// around a value. Writing keeps comments, order, and unknown sections and keys as they are, and goes
+/// to a temporary file that replaces the old one, so that a power cut leaves the old or the new file.
+/// Every read looks at the file as it is now.
+class IniFile {
+ public:
+  /// The file need not exist; its name is found without regard to case.
+  explicit IniFile(std::filesystem::path path);
+
+  /// The value of a key; nothing when the key, the section or the file is absent or unreadable.
+  /// NUL characters are removed.
+  std::optional<std::string> read(std::string_view section, std::string_view key) const;
+  /// Sets a key, adding it (and its section) when absent. A value with blanks or quotes at its ends
+  /// is stored so that it reads back the same. False when the file cannot be written.
+  bool write(std::string_view section, std::string_view key, std::string_view value) const;
+
+ private:
+  std::filesystem::path path_;
+};

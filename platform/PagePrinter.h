@@ -1,0 +1,38 @@
+#pragma once
+
+#include <filesystem>
+#include <string>
+#include <vector>
+
+/// A line of text at its place on the paper, in twips (1440 to the inch) from the top left corner.
+struct PlacedText {
+  int x = 0;
+  int y = 0;
+  std::string text;  ///< UTF-8
+};
+
+/// One print job: texts in print order, in one fixed-pitch font (a Chinese character is two columns).
+struct PageDocument {
+  std::string name;          ///< of the job, for the print queue and the PDF's file name
+  int paperWidthMm = 80;     ///< roll width; the length follows from the texts
+  double fontPoints = 9;
+  std::vector<PlacedText> texts;
+
+  /// Height of one text line in twips.
+  int lineHeight() const;
+};
+
+/// The system's default printer, or a folder that gets one PDF per job.
+class PagePrinter {
+ public:
+  /// An empty folder means the system's default printer.
+  explicit PagePrinter(std::filesystem::path pdfFolder = {});
+  virtual ~PagePrinter() = default;
+
+  /// Prints the job on paper as long as needed. The PDFs' file names sort in print order.
+  /// Throws PortError when there is no printer, or the folder or the job fails.
+  virtual void print(const PageDocument& document);
+
+ private:
+  std::filesystem::path pdfFolder_;
+};
