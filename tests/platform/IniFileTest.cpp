@@ -36,7 +36,7 @@ TEST_F(IniFileTest, ReadsAsWindowsDoes) {
                   "Quoted=\"  two  \"\r\nSingle='x'\r\nTwice=\"\"y\"\"\r\nHalf=\"z\r\n"
                   "Path=a=b;c\r\nMode=打印商品全称+折扣\r\n"
                   "Nul=a") +
-      std::string(1, '\0') + "b\r\n[侰]\r\n[POS]\r\nLate=1\r\n" + gbk::encode("[朷]\r\nLast=9"));
+      std::string(1, '\0') + "b\r\n[POS]\r\nLate=1\r\n" + gbk::encode("[朷]\r\nLast=9"));
   const std::vector<std::pair<std::string, std::optional<std::string>>> cases = {
       {"PPort", "LPT1"}, {"EMPTY", ""},
       {"NoEquals", {}},  {"Quoted", "  two  "},
@@ -46,7 +46,7 @@ TEST_F(IniFileTest, ReadsAsWindowsDoes) {
       {"Late", {}},      {"stray", {}},
       {";PPort", {}},    {"absent", {}}};
   for (const auto& [key, value] : cases) EXPECT_EQ(ini_.read("POS", key), value) << key;
-  EXPECT_EQ(ini_.read("朷", "Last"), "9");  // its second byte in GBK is "]" or near it
+  EXPECT_EQ(ini_.read("朷", "Last"), "9");  // its second byte in GBK is "]"
   EXPECT_EQ(ini_.read("none", "PPort"), std::nullopt);
 }
 
@@ -78,6 +78,7 @@ TEST_F(IniFileTest, WritesNothingButTheValue) {
 }
 
 TEST_F(IniFileTest, EveryValueReadsBackTheSame) {
+  put("");
   for (const std::string value : {"  two  ", "\"q\"", "'q'", "\"", "''", "\"half",
                                   "%n;[x]=", "直接打印1联", "a 'b' c", " ", "", "-88"}) {
     EXPECT_TRUE(ini_.write("Q", "0QK", value));
