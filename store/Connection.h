@@ -1,0 +1,69 @@
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "store/DataFile.h"
+#include "store/Recordset.h"
+#include "store/Rows.h"
+#include "store/Value.h"
+
+class StatementCache;
+struct sqlite3;
+
+/// The one connection to the data file. Every failure throws StoreError.
+///
+/// Two kinds of statements run here. The program's own are literal text in the dialect of
+/// store/Dialect.h, built only through store/Literal.h: Execute, Read, Open. The library's own are
+/// engine text with "?" for bound values: run, query. Both kinds are prepared once per text; literals
+/// count as values, so that a thousand barcodes are one prepared statement.
+class Connection {
+ public:
+  enum class Mode { kExisting, kCreate };
+
+  /// Opens the file as it is, without looking at its tables (see openDataFile). kCreate makes a new
+  /// file, readable by its owner only, and refuses one that exists.
+  Connection(const DataSource& source, Mode mode);
+  ~Connection();
+  Connection(const Connection&) = delete;
+  Connection& operator=(const Connection&) = delete;
+
+  const DataSource& source() const { return source_; }
+
+  /// Runs a statement that returns no rows; gives the number of rows changed.
+  std::int64_t Execute(const std::string& statement);
+  /// Runs a query whose rows are read forward.
+  Rows Read(const std::string& statement);
+  /// Runs a query to its end.
+  Recordset Open(const std::string& statement);
+
+  /// As Execute and Read, with values bound to the "?" of an engine text.
+  template <class... Values>
+  std::int64_t run(const char* text, const Values&... values) {
+    return runBound(text, {toValue(values)...});
+  }
+  template <class... Values>
+  Rows query(const char* text, const Values&... values) {
+    return queryBound(text, {toValue(values)...});
+  }
+  /// The row key that the last insert gave.
+  std::int64_t lastRowId() const;
+
+  /// Several statements at once, for making tables; nothing is bound or cached.
+  void runScript(const std::string& statements);
+  /// Copies unfinished log pages into the data file, as far as no reader is in the way, without
+  /// waiting for anybody.
+  void checkpoint();
+
+ private:
+  friend class Transaction;
+  std::int64_t runBound(const char* text, std::vector<Value> values);
+  Rows queryBound(const char* text, std::vector<Value> values);
+
+  DataSource source_;
+  sqlite3* engine_ = nullptr;
+  std::unique_ptr<StatementCache> statements_;
+  int transactionDepth_ = 0;
+};

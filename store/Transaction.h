@@ -1,0 +1,22 @@
+#pragma once
+
+class Connection;
+
+/// What is written between its making and commit() is durable together or not at all. The end of the
+/// scope without commit() takes everything back. Transactions nest: an inner one that is taken back
+/// leaves the outer one's writes alone, and only the outermost commit() reaches the disk.
+class Transaction {
+ public:
+  /// Throws StoreError, for example when another program holds the file for too long.
+  explicit Transaction(Connection& connection);
+  ~Transaction();
+  Transaction(const Transaction&) = delete;
+  Transaction& operator=(const Transaction&) = delete;
+
+  void commit();
+
+ private:
+  Connection& connection_;
+  int depth_;
+  bool open_ = true;
+};
