@@ -50,7 +50,7 @@ void syncFolder(const fs::path& folder) {
 /// QSaveFile writes beside the file, syncs, keeps the permissions and renames.
 bool replaceContent(const fs::path& path, const std::string& bytes) {
   QSaveFile file(nameOf(path));
-  const bool isNew = !file.exists();
+  const bool isNew = !QFile::exists(nameOf(path));
   if (!file.open(QIODevice::WriteOnly)) return false;
   if (isNew) file.setPermissions(QFile::ReadOwner | QFile::WriteOwner);
   file.write(bytes.data(), static_cast<qint64>(bytes.size()));

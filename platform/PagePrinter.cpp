@@ -21,8 +21,8 @@ namespace {
 constexpr double kTwipsPerInch = 1440;
 constexpr double kTwipsPerPoint = 20;
 constexpr double kMmPerInch = 25.4;
-/// Left and right of the text, unless the printer itself leaves more.
-constexpr double kSideMarginMm = 2;
+/// Above, left and right of the text, unless the printer itself leaves more.
+constexpr double kMarginMm = 2;
 /// Below the last line, so that it can be torn off.
 constexpr double kFeedMm = 5;
 
@@ -74,27 +74,28 @@ void drawText(QPainter& painter, const PlacedText& placed, double lineTwips) {
   painter.restore();
 }
 
-/// Draws the whole job on one page of the roll. False when the device refuses.
-bool draw(const PageDocument& document, QPagedPaintDevice& device) {
+/// In twips.
+QMarginsF marginsOf(const QPagedPaintDevice& device) {
   QPageLayout layout = device.pageLayout();
   layout.setUnits(QPageLayout::Point);
-  const QMarginsF least = layout.minimumMargins();
-  const QSizeF paper(document.paperWidthMm,
-                     lengthMm(document) + mmOf(least.top() * kTwipsPerPoint));
+  const double own = twipsOf(kMarginMm);
+  return layout.minimumMargins() * kTwipsPerPoint | QMarginsF(own, own, own, own);
+}
+
+/// Draws the whole job on one page of the roll. False when the device refuses.
+bool draw(const PageDocument& document, QPagedPaintDevice& device) {
+  const QMarginsF margins = marginsOf(device);
+  const QSizeF paper(document.paperWidthMm, mmOf(margins.top()) + lengthMm(document));
   const QPageSize size(paper, QPageSize::Millimeter, "roll", QPageSize::ExactMatch);
-  layout = QPageLayout(size, QPageLayout::Portrait, QMarginsF());
+  QPageLayout layout(size, QPageLayout::Portrait, QMarginsF());
   layout.setMode(QPageLayout::FullPageMode);
   device.setPageLayout(layout);
-
-  const double side = twipsOf(kSideMarginMm);
-  const double left = std::max(side, least.left() * kTwipsPerPoint);
-  const double right = std::max(side, least.right() * kTwipsPerPoint);
-  const double lineTwips = twipsOf(document.paperWidthMm) - left - right;
 
   QPainter painter;
   if (!painter.begin(&device)) return false;
   painter.scale(device.logicalDpiX() / kTwipsPerInch, device.logicalDpiY() / kTwipsPerInch);
-  painter.translate(left, least.top() * kTwipsPerPoint);
+  painter.translate(margins.left(), margins.top());
+  const double lineTwips = twipsOf(document.paperWidthMm) - margins.left() - margins.right();
   painter.setFont(fixedPitchFont(document, lineTwips));
   for (const PlacedText& text : document.texts) drawText(painter, text, lineTwips);
   return painter.end();

@@ -1,5 +1,7 @@
 #include "platform/SerialLine.h"
 
+#include <poll.h>
+
 #include <QSerialPort>
 #include <utility>
 
@@ -23,6 +25,12 @@ std::string reason(const QSerialPort& port) {
     default:
       return port.errorString().toStdString();
   }
+}
+
+/// Whether a write would do something now: QSerialPort takes a full line for a broken one.
+bool isReady(const QSerialPort& port) {
+  pollfd request{port.handle(), POLLOUT, 0};
+  return ::poll(&request, 1, 0) > 0;
 }
 
 }  // namespace
@@ -55,7 +63,8 @@ void SerialLine::send(std::string_view bytes) {
   const auto size = static_cast<qint64>(bytes.size());
   if (port_->isOpen() && port_->bytesToWrite() + size > kMostWaiting) return;
   port_->write(bytes.data(), size);
-  port_->flush();
+  // At once, because the caller may be busy for a while before the event loop has its turn.
+  if (port_->isOpen() && isReady(*port_)) port_->flush();
   if (!port_->isOpen() || port_->error() == QSerialPort::ResourceError) {
     throw PortError("端口 " + name_ + " 写不进：" + reason(*port_));
   }

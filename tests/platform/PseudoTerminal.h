@@ -2,6 +2,7 @@
 
 #include <fcntl.h>
 #include <stdlib.h>
+#include <termios.h>
 #include <unistd.h>
 
 #include <stdexcept>
@@ -29,6 +30,12 @@ class PseudoTerminal {
       all.append(part, static_cast<std::size_t>(n));
     }
     return all;
+  }
+  /// Of the till's side; the master shows it.
+  speed_t speed() const {
+    termios settings{};
+    tcgetattr(master_, &settings);
+    return cfgetospeed(&settings);
   }
   void unplug() {
     if (master_ >= 0) ::close(master_);
