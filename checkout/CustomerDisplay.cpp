@@ -9,7 +9,9 @@
 
 namespace {
 
-bool isKnownModel(int model) { return model == 1 || model == 2; }
+bool isKnownModel(int model) {
+  return model == 1 || model == 2;
+}
 
 std::string portName(const std::string& setting) {
   if (setting == "COM1" || setting == "COM2") return setting;
@@ -44,9 +46,13 @@ void CustomerDisplay::clientView(Currency money, int mode) {
   send(bytes + "\x1BQA" + twoDecimals(money) + "\r");
 }
 
-bool CustomerDisplay::kickDrawer() { return send("\x02M"); }
+bool CustomerDisplay::kickDrawer() {
+  return send("\x02M");
+}
 
-void CustomerDisplay::close() { line_ = nullptr; }
+void CustomerDisplay::close() {
+  line_ = nullptr;
+}
 
 bool CustomerDisplay::send(std::string_view bytes) {
   if (!line_) return false;

@@ -26,7 +26,8 @@ class CustomerDisplay {
   /// switches the display off (state.hasDisplay) until the sale screen opens again.
   void OpenDisplayPort();
   /// Shows an amount. Never waits, never throws; a line that is gone is reported once and switches
-  /// the display off likewise. A mode that is none of the above leaves the figure's meaning as it is.
+  /// the display off likewise. A mode that is none of the above leaves the figure's meaning as it
+  /// is.
   void clientView(Currency money, int mode);
   /// Opens a drawer that hangs on the display: STX M. False when there is no working display.
   [[nodiscard]] bool kickDrawer();
