@@ -20,9 +20,11 @@ class EndSell : public CheckoutFixture {
   bool show(const std::function<void()>& cashier) {
     Settlement settlement(pos, *state.curBill, display, receipt, report);
     QTimer::singleShot(0, &dialog, [&] {
-      ASSERT_TRUE(QTest::qWaitForWindowActive(&dialog));
-      ASSERT_EQ(focused(), "txtInMoney");
+      EXPECT_TRUE(QTest::qWaitForWindowActive(&dialog));
+      EXPECT_EQ(focused(), "txtInMoney");
       cashier();
+      EXPECT_FALSE(dialog.isVisible());
+      dialog.close();
     });
     return dialog.init(settlement);
   }
