@@ -39,7 +39,9 @@ class EndSell : public CheckoutFixture {
 
 TEST_F(EndSell, cashFigureReplacesTheAmountDueAndShowsTheChange) {
   EXPECT_TRUE(show([this] {
+    EXPECT_EQ(labelText("title"), "单号：1结账时间：09:05收银员：张三");
     EXPECT_EQ(labelText("Money"), "88.50");
+    EXPECT_EQ(fieldText("txtInMoney"), "88.5");
     EXPECT_EQ(labelText("PCount"), "共 1 件商品");
     EXPECT_EQ(labelText("lbl1"), "0.0");
     type("100");

@@ -17,10 +17,6 @@ class LinePrinter : public CheckoutFixture {
     const std::string bytes = replaced(fileBytes(folder.file("lpt1")), pulse, "<drawer>\r\n");
     return replaced(gbk::decode(bytes), "\r\n", "\n");
   }
-  void payCash(const char* cash) {
-    screen.pay = [cash](Settlement& s) { s.confirmCash(cash); };
-    checkout.SettleBill();
-  }
 };
 
 TEST_F(LinePrinter, wideReceiptWithMemberAndDrawer) {
