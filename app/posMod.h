@@ -1,0 +1,52 @@
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <string>
+
+#include "app/ClsPosSet.h"
+#include "app/KeyBoard.h"
+#include "app/Ports.h"
+#include "base/DateTime.h"
+#include "platform/IniFile.h"
+#include "saleslib/ClsMemberSvc.h"
+#include "saleslib/ClsOperator.h"
+#include "saleslib/ClsSysParam.h"
+#include "store/Connection.h"
+#include "store/DataFileLock.h"
+
+/// The process-wide objects of the till, made once at start and handed by reference to every window.
+/// Knows no window.
+class posMod {
+ public:
+  /// `folder` is the program's folder, the one of the executable.
+  explicit posMod(std::filesystem::path folder, Clock clock = localTime);
+
+  std::filesystem::path folder;
+  Clock clock;
+  IniFile configIni;                         ///< folder/Config.ini
+  std::unique_ptr<Connection> gConn;         ///< the one connection; none until OpenDataStore
+  ClsSysParam gSysParam;
+  ClsMemberSvc gMemberSvc;
+  KeyBoard gKeyBoard;
+  ClsPosSet gPosSet;
+  std::shared_ptr<ClsOperator> gOperator;    ///< who is logged in; none when nobody is
+  Ports ports;
+
+  /// Takes the till's lock on the data file and opens it. An empty text, or why it could not, for a
+  /// message box.
+  [[nodiscard]] std::string OpenDataStore();
+  /// Binds the services to the data file and loads keyboard map and terminal settings; hides the
+  /// pointer unless the settings show it. Needs the data file open. Throws StoreError.
+  void start();
+  /// Forces the mouse pointer visible or hidden.
+  void ShowMouse(bool show);
+  /// Logs the operator off, if one is logged in.
+  void logOff();
+  /// Copies folder/data/pos.mdb over folder/data/pos3.mdb, whole and consistent although it is open.
+  /// Throws StoreError or Failure.
+  void backUp();
+
+ private:
+  std::unique_ptr<DataFileLock> lock_;
+};

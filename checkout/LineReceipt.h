@@ -1,0 +1,41 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "checkout/Outage.h"
+
+class CashDrawer;
+class posMod;
+struct SaleState;
+
+/// The receipt on a line printer, printed while the sale goes on. Texts are GBK on the wire, each line
+/// followed by CR LF; the port is opened for each procedure and closed after it. Nothing throws: a
+/// printer that fails is reported once per outage and the sale goes on.
+class LineReceipt {
+ public:
+  LineReceipt(posMod& pos, SaleState& state, CashDrawer& drawer, Outage::Report report);
+
+  /// The heading of the next receipt. Only when line printing is on.
+  void PrintHeader();
+  /// The current line. Only when line printing is on.
+  void PrintLine();
+  /// Totals and payment of the open bill, the drawer, and the heading of the next receipt. Without
+  /// line printing it only opens the drawer.
+  void PrintFoot();
+  /// Two empty lines, so that a bill put aside stands apart. Only when line printing is on.
+  void FeedLines();
+
+  /// The texts of these procedures, without line ends, for paper of the state's widths.
+  std::vector<std::string> headerLines() const;
+  std::string lineText() const;
+  std::vector<std::string> footLines() const;
+
+ private:
+  void send(const std::vector<std::string>& lines);
+
+  posMod& pos_;
+  SaleState& state_;
+  CashDrawer& drawer_;
+  Outage outage_;
+};

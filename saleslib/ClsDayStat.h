@@ -1,0 +1,33 @@
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <vector>
+
+#include "base/Currency.h"
+#include "base/DateTime.h"
+#include "saleslib/ClsSell.h"
+
+class Connection;
+
+/// Bills of one day, or still open, of one operator.
+class ClsDayStat {
+ public:
+  using Sells_t = std::vector<std::shared_ptr<ClsSell>>;
+
+  /// Selects the operator's settled bills of that day, in the order of their numbers, without lines.
+  /// The third argument is unused and 0.
+  void DayQuery(Connection& connection, const Date& day, std::int64_t unused,
+                std::int32_t operatorId);
+  /// The latest settled bill of the shop, whoever made it; none when there is none.
+  std::shared_ptr<ClsSell> LastSell(Connection& connection) const;
+  /// Selects the operator's bills that are still open, with their lines loaded.
+  void OpenQuery(Connection& connection, std::int32_t operatorId);
+
+  const Sells_t& Sells() const;
+  double SumQuantity() const;
+  Currency SumMoney() const;
+
+ private:
+  Sells_t sells_;
+};

@@ -1,0 +1,28 @@
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <string_view>
+#include <vector>
+
+#include "saleslib/ClsMember.h"
+
+class Connection;
+
+/// Looks members up.
+class ClsMemberSvc {
+ public:
+  void Conn(Connection& connection);
+  /// Takes note of a member that was just stored. Nothing is kept here: the next look-up reads it.
+  void AddMember(const ClsMember& member);
+  /// The member with that card number; else the member with that telephone number when there is just
+  /// one; else none. An empty number finds nobody.
+  std::shared_ptr<ClsMember> GetMember(std::string_view number) const;
+  /// All members with that telephone number, in the order of their card numbers.
+  std::vector<std::shared_ptr<ClsMember>> GetMembersByPhone(std::string_view phone) const;
+  /// The member that a bill keeps by id; none when there is no such member.
+  std::shared_ptr<ClsMember> GetMemberById(std::int32_t id) const;
+
+ private:
+  Connection* connection_ = nullptr;
+};

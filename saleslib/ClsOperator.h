@@ -1,0 +1,43 @@
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "saleslib/ClsRights.h"
+
+class Connection;
+
+/// One operator (cashier). Passwords are kept as salted hashes only.
+class ClsOperator {
+ public:
+  /// Binds and loads the operator with that number. An unknown number leaves an operator with that
+  /// Id, no name and no rights; Found() tells.
+  void Init(Connection& connection, std::int16_t id);
+  bool Found() const;
+
+  /// Stores the record, a new password included. Throws StoreError.
+  void Save();
+
+  /// The identifier printed on receipts after "收银员：".
+  const std::string& Code() const;
+  void setCode(std::string code);
+  /// The operator's new password; stored by Save. May be empty.
+  void setPassword(std::string_view password);
+  const std::string& Name() const;
+  void setName(std::string name);
+  std::int16_t Id() const;
+  const ClsRights& Rights() const;
+  void setOnline(std::int16_t online);
+
+ private:
+  Connection* connection_ = nullptr;
+  bool found_ = false;
+  std::int16_t id_ = 0;
+  std::string code_;
+  std::string name_;
+  std::int16_t online_ = 0;
+  std::optional<std::string> newPasswordHash_;
+  ClsRights rights_;
+};

@@ -1,0 +1,86 @@
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "base/Currency.h"
+#include "base/DateTime.h"
+#include "saleslib/ClsSellItem.h"
+
+class Connection;
+class Row;
+
+/// One bill. Amount and Quantity are sums over the committed lines until the settlement writes the
+/// rounded amount due.
+class ClsSell {
+ public:
+  using Items_t = std::vector<std::shared_ptr<ClsSellItem>>;
+
+  /// Binds. Bill number 0 starts a new open bill of that operator: its row, number and time are
+  /// stored at once. Otherwise loads the stored bill; false when there is none. Throws StoreError.
+  [[nodiscard]] bool Open(Connection& connection, std::int32_t billNo, std::int32_t operatorId,
+                          const Clock& clock = localTime);
+  /// Loads the member's latest settled bill; false when there is none.
+  [[nodiscard]] bool OpenLastOfMember(Connection& connection, std::int32_t memberId);
+  /// From a row of sell, without its lines.
+  static std::shared_ptr<ClsSell> fromRow(Connection& connection, const Row& row);
+
+  /// Stores the bill with its lines in one transaction, after checking that the lines add up to its
+  /// quantity and, before the shop's rounding, to its amount (ensure). False when the store failed;
+  /// ErrText has the reason and nothing was written.
+  [[nodiscard]] bool Save();
+  /// Deletes the bill with its lines, in one transaction; the caller has put the stock back.
+  void Void();
+  /// Loads the lines of a stored bill into Items, and checks that they add up to the bill.
+  void LoadLines();
+  /// Adds a committed line: amount and quantity grow by the line's.
+  void AddItem(std::shared_ptr<ClsSellItem> line);
+  /// Works quantity and amount out again from the lines, after one of them was lowered.
+  void Recalculate();
+
+  std::int32_t BillNo() const;
+  Currency Amount() const;  ///< amount due
+  void setAmount(Currency amount);
+  Currency Cash() const;
+  void setCash(Currency cash);
+  DateTime SellTime() const;
+  const Items_t& Items() const;
+  std::int32_t OperatorId() const;
+  double Quantity() const;
+  std::int32_t MemberId() const;  ///< 0 for none
+  void setMemberId(std::int32_t memberId);
+  std::int16_t State() const;  ///< 0 open, 1 settled
+  void setState(std::int16_t state);
+  Currency Favorable() const;  ///< discount amount given at settlement
+  void setFavorable(Currency favorable);
+  std::int16_t Salesman() const;
+  void setSalesman(std::int16_t salesman);
+  Currency BankCard() const;
+  void setBankCard(Currency amount);
+  Currency CardPay() const;
+  void setCardPay(Currency amount);
+  const std::string& CardNo() const;
+  void setCardNo(std::string number);
+  const std::string& ErrText() const;
+
+  /// Sum of the lines' amounts, before the shop's rounding.
+  Currency GoodsAmount() const;
+  /// Cash + bank card + stored-value card + discount - amount due.
+  Currency Change() const;
+
+ private:
+  void store();
+
+  Connection* connection_ = nullptr;
+  std::int32_t billNo_ = 0;
+  std::int32_t operatorId_ = 0;
+  DateTime sellTime_;
+  std::int16_t state_ = 0, salesman_ = 0;
+  std::int32_t memberId_ = 0;
+  double quantity_ = 0;
+  Currency goodsAmount_, amount_, cash_, favorable_, bankCard_, cardPay_;
+  std::string cardNo_, errText_;
+  Items_t items_;
+};

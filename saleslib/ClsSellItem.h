@@ -1,0 +1,67 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+#include "base/Currency.h"
+#include "base/DateTime.h"
+
+class Connection;
+class Row;
+
+/// One line of a bill.
+class ClsSellItem {
+ public:
+  /// Binds and starts a new line of that bill; the third argument is unused and 0.
+  void Init(Connection& connection, std::int32_t billNo, int unused = 0, Clock clock = localTime);
+  /// From a row of sellProducts.
+  static ClsSellItem fromRow(Connection& connection, const Row& row);
+
+  /// Inserts the line's row the first time, updates it afterwards. Throws StoreError. Inside a
+  /// transaction that is taken back the line still counts as new (see Id).
+  void Save();
+  /// Deletes the line's row.
+  void Delete();
+
+  Currency Price() const;
+  void setPrice(Currency price);
+  double Quantity() const;  ///< in units of sale
+  void setQuantity(double quantity);
+  ::Discount Discount() const;
+  void setDiscount(::Discount discount);
+  /// Price x quantity x discount, rounded to 0.01, halves away from zero. Throws Overflow.
+  Currency Money() const;
+  /// The row's key in sellProducts; 0 until stored.
+  std::int32_t Id() const;
+  const std::string& EntryCode() const;  ///< what the cashier entered
+  void setEntryCode(std::string code);
+  const std::string& SpName() const;
+  void setSpName(std::string name);
+  const std::string& SpCode() const;  ///< item code
+  void setSpCode(std::string code);
+  const std::string& Origin() const;
+  void setOrigin(std::string origin);
+  const std::string& Unit() const;
+  void setUnit(std::string unit);
+  std::int16_t Ratio() const;  ///< stock units per unit of sale
+  void setRatio(std::int16_t ratio);
+  Currency Cost() const;
+  void setCost(Currency cost);
+  const std::string& Category() const;
+  void setCategory(std::string category);
+
+  std::int32_t BillNo() const;
+  /// Quantity x ratio: what the line takes out of stock.
+  double StockQuantity() const;
+
+ private:
+  Connection* connection_ = nullptr;
+  Clock clock_ = localTime;
+  std::int32_t billNo_ = 0;
+  std::int32_t id_ = 0;
+  Currency price_, cost_;
+  double quantity_ = 1;
+  ::Discount discount_;
+  std::int16_t ratio_ = 1;
+  std::string entryCode_, spName_, spCode_, origin_, unit_, category_;
+};

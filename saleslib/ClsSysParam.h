@@ -1,0 +1,51 @@
+#pragma once
+
+#include <cstdint>
+#include <map>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "base/Currency.h"
+
+class Connection;
+
+/// The shop's parameters, read from the data file when bound; each has a sound value when none is set.
+class ClsSysParam {
+ public:
+  /// Binds and reads all parameters. A stored value that is not of its parameter's kind counts as
+  /// not set. Throws StoreError.
+  void Conn(Connection& connection);
+
+  std::string ShopName() const;        ///< title line of receipts; empty
+  std::string ReceiptText1() const;    ///< ReceiptText1 ... 6: free texts on receipts; empty
+  std::string ReceiptText2() const;
+  std::string ReceiptText3() const;
+  std::string ReceiptText4() const;
+  std::string ReceiptText5() const;
+  std::string ReceiptText6() const;
+  std::int16_t StockRule() const;      ///< 0: stock may go negative (default); 1: it may not
+  bool RoundJiao() const;              ///< amounts due rounded to 0.1; off
+  bool RoundYuan() const;              ///< amounts due rounded to whole yuan; off
+  std::int16_t PointUnit() const;      ///< yuan per member point; 10
+  double GeneralRate() const;          ///< factor for goods without a discount of their own; 1
+  Currency VipRate() const;            ///< discount factor of the card class 贵宾卡; 1
+  Currency SilverRate() const;         ///< of 银卡; 1
+  Currency GoldRate() const;           ///< of 金卡; 1
+  bool BackupOnExit() const;           ///< off
+
+  /// A parameter as the owner's tool lists it.
+  struct Parameter {
+    std::string name;
+    std::string value;  ///< the text in force, default or set
+    bool isSet;
+  };
+  /// All parameters in a fixed order.
+  std::vector<Parameter> list() const;
+  /// Stores one parameter. Returns an empty text, or the reason why not (unknown name, wrong kind).
+  [[nodiscard]] std::string set(std::string_view name, std::string_view value);
+
+ private:
+  Connection* connection_ = nullptr;
+  std::map<std::string, std::string, std::less<>> values_;
+};

@@ -1,0 +1,37 @@
+#pragma once
+
+#include <cstdint>
+
+#include "base/Currency.h"
+#include "base/DateTime.h"
+
+class Connection;
+
+/// One return against a line of a stored bill.
+class ClsUnSell {
+ public:
+  /// Binds and starts a return against that bill; the third argument is unused and 0.
+  void Init(Connection& connection, std::int32_t billNo, int unused = 0, Clock clock = localTime);
+  /// Stores the return, in one transaction. UnQty is limited to what the line still holds; read it
+  /// back. Throws StoreError; ensure() guards a line that is not of this bill.
+  void Save();
+
+  double UnQty() const;
+  void setUnQty(double quantity);
+  Currency UnMoney() const;
+  void setUnMoney(Currency money);
+  void setItemId(std::int32_t id);
+  void setOperatorId(std::int16_t id);
+  void setCost(Currency cost);
+  void setRatio(std::int16_t ratio);
+  void setDiscount(::Discount discount);
+
+ private:
+  Connection* connection_ = nullptr;
+  Clock clock_ = localTime;
+  std::int32_t billNo_ = 0, itemId_ = 0;
+  double quantity_ = 0;
+  Currency money_, cost_;
+  std::int16_t operatorId_ = 0, ratio_ = 1;
+  ::Discount discount_;
+};

@@ -1,0 +1,14 @@
+#pragma once
+
+#include <QString>
+
+class ClsPosSet;
+class QApplication;
+class QColor;
+
+/// The look of the whole program: one style sheet, large type, high contrast, focus always visible.
+
+/// Sets fonts and style sheet for all windows.
+void applyStyle(QApplication& application);
+/// A setting's colour, 0x00BBGGRR.
+QColor settingColour(int bgr);

@@ -1,0 +1,32 @@
+#pragma once
+
+#include <QDialog>
+
+class posMod;
+class QLineEdit;
+
+/// Who is at the till: operator number and password.
+class frmLogin : public QDialog {
+  Q_OBJECT
+
+ public:
+  explicit frmLogin(posMod& pos, QWidget* parent = nullptr);
+
+  /// Result codes of goLogin.
+  enum Result { kAccepted = 0, kFailed = 2, kCancelled = 3 };
+  /// Shows the dialog modally and returns how it ended; closing the window keeps the last code.
+  /// The operator becomes pos.gOperator only when the right to sell was found.
+  int goLogin();
+
+ protected:
+  void keyPressEvent(QKeyEvent* event) override;
+
+ private:
+  void check();
+  void cancel();
+
+  posMod& pos_;
+  int result_ = kAccepted;
+  QLineEdit* txtNumber_;
+  QLineEdit* txtPassword_;
+};
