@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "app/posMod.h"
+#include "base/Failure.h"
 #include "base/NumberText.h"
 #include "base/Text.h"
 #include "checkout/AmountDue.h"
@@ -32,7 +33,9 @@ QString codeOf(const QString& typed) {
   return plain ? QString::fromStdString(folded) : typed;
 }
 
-QString text(const std::string& utf8) { return QString::fromStdString(utf8); }
+QString text(const std::string& utf8) {
+  return QString::fromStdString(utf8);
+}
 
 }  // namespace
 
@@ -179,7 +182,9 @@ bool BillLines::ShowLine(bool takeStock) {
   return shown;
 }
 
-bool BillLines::RefreshLine() { return ShowLine(false); }
+bool BillLines::RefreshLine() {
+  return ShowLine(false);
+}
 
 bool BillLines::storeAndShow(double taken) {
   Shown shown;

@@ -34,9 +34,7 @@ QVariant alignment(const Column& column) {
 }  // namespace
 
 BillModel::BillModel(const SaleState& state, QObject* parent)
-    : QAbstractTableModel(parent),
-      state_(state),
-      shownRows_(static_cast<int>(state.rows.size())) {}
+    : QAbstractTableModel(parent), state_(state), shownRows_(static_cast<int>(state.rows.size())) {}
 
 void BillModel::rowsChanged() {
   const int rows = static_cast<int>(state_.rows.size());

@@ -3,6 +3,7 @@
 #include <limits>
 
 #include "app/posMod.h"
+#include "base/Failure.h"
 #include "base/NumberText.h"
 #include "base/Text.h"
 #include "checkout/SaleScreen.h"
@@ -29,7 +30,7 @@ ItemLookup::ItemLookup(posMod& pos, SaleState& state, SaleScreen& screen)
 
 bool ItemLookup::LookupBarcode(const QString& code) {
   const std::string typed = code.toStdString();
-  return lookUpBarcodeTable("select * from tmda where sptm =" + quoted(typed) + " ", typed);
+  return lookUpBarcodeTable("select * from tmda where sptm =" + ::quoted(typed) + " ", typed);
 }
 
 bool ItemLookup::LookupSpec(const QString& code) {
@@ -44,9 +45,8 @@ bool ItemLookup::LookupItemNo(const QString& code) {
            QString::fromStdString(row.text("f_sphh")) + stockText(row.text("f_spbm"));
   };
   return lookUp("select * from spda where f_sphh like" + likeFragment(code.toStdString()) + " ",
-                caption, [this](ClsSellItem& line, const Row& row) {
-                  fillFromMasterRow(line, row);
-                });
+                caption,
+                [this](ClsSellItem& line, const Row& row) { fillFromMasterRow(line, row); });
 }
 
 bool ItemLookup::lookUpBarcodeTable(const std::string& statement, const std::string& code) {
@@ -97,8 +97,7 @@ void ItemLookup::fillFromBarcodeRow(ClsSellItem& line, const Row& row, const std
 }
 
 void ItemLookup::fillFromMasterRow(ClsSellItem& line, const Row& row) {
-  const Price price =
-      priceOfMasterRow(row, state_.curMember.get(), pos_.gSysParam.GeneralRate());
+  const Price price = priceOfMasterRow(row, state_.curMember.get(), pos_.gSysParam.GeneralRate());
   line.setUnit(row.text("f_jldw"));
   line.setSpCode(row.text("f_spbm"));
   line.setRatio(1);

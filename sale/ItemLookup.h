@@ -5,6 +5,7 @@
 #include <functional>
 #include <string>
 
+#include "base/Currency.h"
 #include "saleslib/ClsStock.h"
 
 class ClsSellItem;
@@ -14,9 +15,9 @@ class SaleScreen;
 struct Price;
 struct SaleState;
 
-/// Turns a typed or scanned code into a priced current line. Each look-up lets the cashier choose when
-/// several items match and asks for a missing price, and answers whether state.curLine is a new line;
-/// when not, it is unchanged. A look-up that breaks shows why and finds nothing.
+/// Turns a typed or scanned code into a priced current line. Each look-up lets the cashier choose
+/// when several items match and asks for a missing price, and answers whether state.curLine is a
+/// new line; when not, it is unchanged. A look-up that breaks shows why and finds nothing.
 class ItemLookup {
   Q_DECLARE_TR_FUNCTIONS(ItemLookup)
 

@@ -1,11 +1,14 @@
 #include "sale/OriginalPrice.h"
 
+#include "base/Failure.h"
 #include "base/NumberText.h"
 #include "checkout/SaleState.h"
 
 namespace {
 
-[[noreturn]] void tooLarge() { throw Overflow("原价合计太大，无法计算。"); }
+[[noreturn]] void tooLarge() {
+  throw Overflow("原价合计太大，无法计算。");
+}
 
 std::int64_t plus(std::int64_t a, std::int64_t b) {
   std::int64_t sum = 0;

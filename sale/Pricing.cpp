@@ -5,7 +5,9 @@
 
 namespace {
 
-bool positive(const std::optional<Currency>& price) { return price && *price > Currency(); }
+bool positive(const std::optional<Currency>& price) {
+  return price && *price > Currency();
+}
 
 // An item's own discount, where 1 or an empty field means that it has none of its own.
 Discount ownOrGeneral(const std::optional<double>& own, double generalRate) {
@@ -24,7 +26,8 @@ bool onPromotion(const Row& row, const Date& today) {
 
 Price priceOfBarcodeRow(const Row& row, const ClsMember* member, const Date& today,
                         double generalRate) {
-  Price price{.name = row.text("spmc")};
+  Price price;
+  price.name = row.text("spmc");
   if (const auto memberPrice = row.currency("pfj"); member != nullptr && positive(memberPrice)) {
     price.price = *memberPrice;
     price.discount = Discount(member->Discount());
@@ -40,7 +43,8 @@ Price priceOfBarcodeRow(const Row& row, const ClsMember* member, const Date& tod
 }
 
 Price priceOfMasterRow(const Row& row, const ClsMember* member, double generalRate) {
-  Price price{.name = row.text("f_spmc")};
+  Price price;
+  price.name = row.text("f_spmc");
   const auto retail = row.currency("f_xsdj");
   if (!positive(retail)) {
     price.missing = true;
