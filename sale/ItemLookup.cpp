@@ -30,7 +30,7 @@ ItemLookup::ItemLookup(posMod& pos, SaleState& state, SaleScreen& screen)
 
 bool ItemLookup::LookupBarcode(const QString& code) {
   const std::string typed = code.toStdString();
-  return lookUpBarcodeTable("select * from tmda where sptm =" + ::quoted(typed) + " ", typed);
+  return lookUpBarcodeTable("select * from tmda where sptm =" + quotedText(typed) + " ", typed);
 }
 
 bool ItemLookup::LookupSpec(const QString& code) {
