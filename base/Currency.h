@@ -43,7 +43,8 @@ class Currency {
 
 /// The amount of a bill line: price x quantity x discount, rounded to 0.01, halves away from zero.
 /// Quantity and discount count as the decimal numbers that they show (0.1 is a tenth).
-/// Throws Overflow when it does not fit or the quantity is not finite.
+/// Throws Overflow when it does not fit, when the exact product has more digits than 128 bits hold,
+/// or when the quantity is not finite.
 Currency lineAmount(Currency price, double quantity, Discount discount);
 
 /// Rounded to whole yuan, halves to the even neighbour: 12.50 gives 12, 13.50 gives 14.

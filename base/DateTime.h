@@ -28,7 +28,7 @@ using Clock = std::function<DateTime()>;
 /// The machine's local time.
 DateTime localTime();
 
-/// The date `days` later (earlier when negative).
+/// The date `days` later (earlier when negative), stopping at the ends of the calendar above.
 Date plusDays(Date date, int days);
 
 /// For people: "2026-11-22 09:05:03", the time left out at 00:00:00.
@@ -43,8 +43,10 @@ std::string longTime(const DateTime& value);
 /// in time.
 std::string storedText(const DateTime& value);
 
-/// Reads any of the forms above, with "-" or "/" between the parts and one or two digits each.
-/// Nothing for any other text or a date that does not exist.
+/// Reads the forms above that begin with a date, the seconds or the whole time left out if they
+/// like: four digits of the year, one or two of each other part, "-" or "/" in the date; blanks
+/// around and full-width characters are allowed. Nothing for any other text or a date that does not
+/// exist.
 std::optional<DateTime> parseDateTime(std::string_view text);
 
 /// Access date literal: "#2026-11-22 09:05:03#", or "#2026-11-22#" at 00:00:00.

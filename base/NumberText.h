@@ -9,14 +9,16 @@
 
 /// Numbers as people read and type them, independent of any locale.
 
-/// General form: up to 15 significant digits, no trailing zeros, no exponent between 1e-15 and 1e15.
+/// General form: up to 15 significant digits, no trailing zeros, no exponent between 1e-15 and
+/// 1e15, no negative zero. Throws Overflow when the value is not finite. Money shows all of its
+/// digits.
 std::string generalNumber(double value);
 std::string generalNumber(Currency value);
 std::string generalNumber(Discount value);
 
-/// Pattern "0.00": two decimals, halves away from zero.
+/// Pattern "0.00": two decimals, halves away from zero; what rounds to zero has no sign.
 std::string twoDecimals(Currency value);
-/// Pattern "0.0": one decimal, halves away from zero.
+/// Pattern "0.0": one decimal, the same way.
 std::string oneDecimal(Currency value);
 
 /// A number as typed: see Decimal::parse. Nothing when the text is not a number.
@@ -30,5 +32,5 @@ std::optional<std::int16_t> parseWhole16(std::string_view text);
 /// putting back what was taken restores the stock exactly.
 double roundedQuantity(double quantity);
 
-/// Rounded to a whole number, halves to the even neighbour.
+/// Rounded to a whole number, halves to the even neighbour. Throws Overflow when it does not fit.
 std::int64_t wholeHalfEven(double value);

@@ -8,8 +8,8 @@
 
 /// Blanks (the full-width one U+3000 too), tabs and line ends removed at both ends.
 std::string trimmed(std::string_view text);
-/// Full-width digits, letters and punctuation (U+FF01 ... U+FF5E) as their ASCII namesakes, U+3000 as
-/// a blank: what an input method left on makes of a number.
+/// Full-width digits, letters and punctuation (U+FF01 ... U+FF5E) as their ASCII namesakes, U+3000
+/// as a blank: what an input method left on makes of a number.
 std::string halfWidth(std::string_view text);
 /// Number of characters; a broken byte counts as one.
 std::size_t characters(std::string_view text);

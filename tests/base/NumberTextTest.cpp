@@ -1,0 +1,92 @@
+#include "base/NumberText.h"
+
+#include <gmock/gmock.h>
+
+#include <limits>
+
+#include "base/Decimal.h"
+#include "base/Failure.h"
+
+namespace {
+
+TEST(NumberText, GeneralForm) {
+  const std::pair<double, const char*> rows[] = {{0, "0"},
+                                                 {-0.0, "0"},
+                                                 {0.1 + 0.2, "0.3"},
+                                                 {-12.5, "-12.5"},
+                                                 {100, "100"},
+                                                 {1e15, "1000000000000000"},
+                                                 {1e-15, "0.000000000000001"},
+                                                 {1.5e20, "1.5E+20"},
+                                                 {-1e-16, "-1E-16"},
+                                                 {123456789012345678.0, "1.23456789012346E+17"},
+                                                 {0.99999999999999999, "1"},
+                                                 {1234.00005, "1234.00005"},
+                                                 {1 / 3.0, "0.333333333333333"}};
+  for (const auto& [value, text] : rows) EXPECT_EQ(generalNumber(value), text);
+  EXPECT_THROW(generalNumber(std::numeric_limits<double>::infinity()), Overflow);
+}
+
+TEST(NumberText, ReadsWhatPeopleType) {
+  const std::pair<const char*, double> rows[] = {{"12", 12},
+                                                 {" +12.50\t", 12.5},
+                                                 {"-.5", -0.5},
+                                                 {"5.", 5},
+                                                 {"０１．５", 1.5},
+                                                 {"\u3000－３\u3000", -3},
+                                                 {"0.1", 0.1},
+                                                 {"123456789.123456789", 123456789.123456789},
+                                                 {"1.50000000000000000000000000", 1.5}};
+  for (const auto& [text, value] : rows) EXPECT_EQ(parseNumber(text), value) << text;
+  for (const char* text :
+       {"", " ", ".", "-", "+-1", "1-", "1 2", "1e3", "1E3", "0x10", "1,000", "nan", "inf", "1.2.3",
+        "..", "一", "\xFF", "99999999999999999999", "0.1234567890123456789"}) {
+    EXPECT_EQ(parseNumber(text), std::nullopt) << text;
+  }
+  EXPECT_EQ(parseNumber(std::string(10000, '7')), std::nullopt);
+  EXPECT_EQ(parseNumber(std::string("1\0", 2)), std::nullopt);
+}
+
+TEST(NumberText, WholeNumbersFitOrAreNothing) {
+  EXPECT_EQ(parseWhole16("32767.4"), 32767);
+  EXPECT_EQ(parseWhole16("32767.5"), std::nullopt);
+  EXPECT_EQ(parseWhole16("-32768.5"), -32768);
+  EXPECT_EQ(parseWhole32("2147483648"), std::nullopt);
+  EXPECT_EQ(parseWhole32("abc"), std::nullopt);
+  EXPECT_THROW(wholeHalfEven(1e19), Overflow);
+  EXPECT_THROW(wholeHalfEven(std::numeric_limits<double>::quiet_NaN()), Overflow);
+}
+
+TEST(NumberText, QuantitiesSumWithoutDrift) {
+  double stock = 100.3;
+  for (int i = 0; i < 1000; ++i) stock = roundedQuantity(stock - 0.1);
+  EXPECT_EQ(stock, 0.3);
+  EXPECT_EQ(roundedQuantity(roundedQuantity(12.345678 - 0.1) + 0.1), 12.345678);
+  EXPECT_EQ(generalNumber(roundedQuantity(-0.0000001)), "0");
+  EXPECT_EQ(roundedQuantity(1e300), 1e300);
+}
+
+TEST(Decimal, CountsADoubleAsItShows) {
+  struct Row {
+    double value;
+    std::int64_t mantissa;
+    int decimals;
+  };
+  for (const Row& row : {Row{0, 0, 0}, Row{-0.1, -1, 1}, Row{1e18, 1'000'000'000'000'000'000, 0},
+                         Row{1.23456e-15, 1235, 18}, Row{1e-300, 0, 18}}) {
+    const auto decimal = Decimal::fromDouble(row.value).value();
+    EXPECT_EQ(decimal.mantissa, row.mantissa);
+    EXPECT_EQ(decimal.decimals, row.decimals);
+  }
+  EXPECT_FALSE(Decimal::fromDouble(1e19).has_value());
+}
+
+TEST(Discount, IsTheDecimalThatItShows) {
+  EXPECT_EQ(generalNumber(Discount(0.9F)), "0.9");
+  EXPECT_EQ(Discount(0.85F), Discount(0.85));
+  EXPECT_EQ(generalNumber(Discount(0.12345675)), "0.1234568");
+  EXPECT_EQ(generalNumber(Discount(-0.0)), "0");
+  EXPECT_TRUE(Discount(std::numeric_limits<double>::quiet_NaN()).isNone());
+}
+
+}  // namespace
