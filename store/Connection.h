@@ -50,6 +50,8 @@ class Connection {
   Rows query(const char* text, const Values&... values) {
     return queryBound(text, {toValue(values)...});
   }
+  /// As run, for a statement whose columns are known at run time only.
+  std::int64_t runBound(const char* text, std::vector<Value> values);
   /// The row key that the last insert gave.
   std::int64_t lastRowId() const;
 
@@ -61,7 +63,6 @@ class Connection {
 
  private:
   friend class Transaction;
-  std::int64_t runBound(const char* text, std::vector<Value> values);
   Rows queryBound(const char* text, std::vector<Value> values);
 
   struct EngineCloser {
