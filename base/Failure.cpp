@@ -3,8 +3,8 @@
 #include <cstdio>
 #include <cstdlib>
 
-void ensure(bool holds, const char* what, std::source_location where) {
+void ensure(bool holds, const char* what, const char* file, int line) {
   if (holds) return;
-  std::fprintf(stderr, "%s:%u: broken invariant: %s\n", where.file_name(), where.line(), what);
+  std::fprintf(stderr, "%s:%d: broken invariant: %s\n", file, line, what);
   std::abort();
 }

@@ -3,6 +3,7 @@
 #include <iconv.h>
 
 #include <algorithm>
+#include <cstdint>
 
 #include "base/Failure.h"
 #include "base/Text.h"
@@ -26,7 +27,7 @@ bool isAscii(std::string_view text) {
 class Converter {
  public:
   Converter(const char* to, const char* from) : descriptor_(iconv_open(to, from)) {
-    if (descriptor_ == reinterpret_cast<iconv_t>(-1)) {
+    if (reinterpret_cast<std::intptr_t>(descriptor_) == -1) {
       throw Failure("这台电脑缺少中文字符集（GBK）的支持，请安装后再启动。");
     }
   }

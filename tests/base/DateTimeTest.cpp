@@ -46,10 +46,4 @@ TEST(DateTime, PlusDaysFollowsTheCalendar) {
   EXPECT_EQ(plusDays({2026, 1, 1}, -2147483647 - 1), (Date{1, 1, 1}));
 }
 
-TEST(DateTime, LocalTimeIsAValidMoment) {
-  const DateTime now = localTime();
-  EXPECT_GT(now.date.year, 2020);
-  EXPECT_EQ(parseDateTime(storedText(now)), now);
-}
-
 }  // namespace

@@ -17,9 +17,7 @@ TEST(Gbk, EncodesAndSubstitutes) {
   const std::pair<std::string, std::string> rows[] = {
       {"", ""},
       {"Cola 330ml", "Cola 330ml"},
-      {"中文a",
-       "\xD6\xD0\xCE\xC4"
-       "a"},
+      {"中a文", "\xD6\xD0\x61\xCE\xC4"},
       {"镕", "\xE9\x46"},  // in GBK, not in GB 2312
       {"€1", "? 1"},
       {"a😀b中", "a? b\xD6\xD0"},

@@ -10,34 +10,24 @@
 namespace {
 
 TEST(NumberText, GeneralForm) {
-  const std::pair<double, const char*> rows[] = {{0, "0"},
-                                                 {-0.0, "0"},
-                                                 {0.1 + 0.2, "0.3"},
-                                                 {-12.5, "-12.5"},
-                                                 {100, "100"},
-                                                 {1e15, "1000000000000000"},
-                                                 {1e-15, "0.000000000000001"},
-                                                 {1.5e20, "1.5E+20"},
-                                                 {-1e-16, "-1E-16"},
-                                                 {123456789012345678.0, "1.23456789012346E+17"},
-                                                 {0.99999999999999999, "1"},
-                                                 {1234.00005, "1234.00005"},
-                                                 {1 / 3.0, "0.333333333333333"}};
-  for (const auto& [value, text] : rows) EXPECT_EQ(generalNumber(value), text);
+  using Row = std::pair<double, const char*>;
+  for (const auto& [value, text] :
+       {Row{0, "0"}, Row{-0.0, "0"}, Row{0.1 + 0.2, "0.3"}, Row{-12.5, "-12.5"}, Row{100, "100"},
+        Row{1e15, "1000000000000000"}, Row{1e-15, "0.000000000000001"}, Row{1.5e20, "1.5E+20"},
+        Row{-1e-16, "-1E-16"}, Row{123456789012345678.0, "1.23456789012346E+17"},
+        Row{0.99999999999999999, "1"}, Row{1234.00005, "1234.00005"},
+        Row{1 / 3.0, "0.333333333333333"}})
+    EXPECT_EQ(generalNumber(value), text);
   EXPECT_THROW(generalNumber(std::numeric_limits<double>::infinity()), Overflow);
 }
 
 TEST(NumberText, ReadsWhatPeopleType) {
-  const std::pair<const char*, double> rows[] = {{"12", 12},
-                                                 {" +12.50\t", 12.5},
-                                                 {"-.5", -0.5},
-                                                 {"5.", 5},
-                                                 {"０１．５", 1.5},
-                                                 {"\u3000－３\u3000", -3},
-                                                 {"0.1", 0.1},
-                                                 {"123456789.123456789", 123456789.123456789},
-                                                 {"1.50000000000000000000000000", 1.5}};
-  for (const auto& [text, value] : rows) EXPECT_EQ(parseNumber(text), value) << text;
+  using Row = std::pair<const char*, double>;
+  for (const auto& [text, value] :
+       {Row{"12", 12}, Row{" +12.50\t", 12.5}, Row{"-.5", -0.5}, Row{"5.", 5}, Row{"０１．５", 1.5},
+        Row{"\u3000－３\u3000", -3}, Row{"0.1", 0.1},
+        Row{"123456789.123456789", 123456789.123456789}, Row{"1.50000000000000000000000000", 1.5}})
+    EXPECT_EQ(parseNumber(text), value) << text;
   for (const char* text :
        {"", " ", ".", "-", "+-1", "1-", "1 2", "1e3", "1E3", "0x10", "1,000", "nan", "inf", "1.2.3",
         "..", "一", "\xFF", "99999999999999999999", "0.1234567890123456789"}) {

@@ -1,0 +1,161 @@
+#include <QApplication>
+#include <QElapsedTimer>
+#include <QGenericPlugin>
+#include <QKeySequence>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPointer>
+#include <QSocketNotifier>
+#include <QTest>
+#include <QTimer>
+#include <QWindow>
+
+#include <unistd.h>
+
+#include "Screenshot.h"
+
+namespace {
+
+constexpr int kWaitLimitMs = 20000;
+constexpr int kPollMs = 2;
+
+/// Executes command lines from a socket inside the till's process, one after the other:
+///   key NAME       a key click in the active window (names as QKeySequence knows them)
+///   type TEXT      key clicks that type a text
+///   wait NAME      until the active window's objectName is NAME
+///   text NAME      the text of a label or input field of a visible window
+///   shot FILE      a picture of the screen
+/// Each is answered by one line, "ok ..." or "error ...". A click is answered before it is
+/// delivered, because a window that it opens only returns when that window is closed.
+class Driver : public QObject {
+ public:
+  explicit Driver(int socket) : socket_(socket), notifier_(socket, QSocketNotifier::Read) {
+    connect(&notifier_, &QSocketNotifier::activated, this, &Driver::readCommands);
+  }
+
+ private:
+  void readCommands() {
+    char bytes[4096];
+    const ssize_t got = ::read(socket_, bytes, sizeof bytes);
+    if (got <= 0) {
+      notifier_.setEnabled(false);
+      return;
+    }
+    pending_.append(bytes, got);
+    for (qsizetype end; (end = pending_.indexOf('\n')) >= 0;) {
+      const QString line = QString::fromUtf8(pending_.left(end));
+      pending_.remove(0, end + 1);
+      execute(line.section(QLatin1Char(' '), 0, 0), line.section(QLatin1Char(' '), 1));
+    }
+  }
+
+  void execute(const QString& command, const QString& argument) {
+    if (command == QLatin1String("key")) {
+      click(argument);
+    } else if (command == QLatin1String("type")) {
+      type(argument);
+    } else if (command == QLatin1String("wait")) {
+      QElapsedTimer timer;
+      timer.start();
+      waitFor(argument, timer);
+    } else if (command == QLatin1String("text")) {
+      answerText(argument);
+    } else if (command == QLatin1String("shot")) {
+      answer(screenshot().save(argument) ? QStringLiteral("ok")
+                                         : QStringLiteral("error cannot save"));
+    } else {
+      answer(QStringLiteral("error unknown command"));
+    }
+  }
+
+  static QWindow* activeWindow() {
+    if (QWidget* window = QApplication::activeWindow()) return window->windowHandle();
+    return QGuiApplication::focusWindow();
+  }
+
+  void click(const QString& name) {
+    const QKeySequence keys = QKeySequence::fromString(name, QKeySequence::PortableText);
+    if (keys.count() != 1 || keys[0].key() == Qt::Key_unknown) {
+      answer(QStringLiteral("error unknown key"));
+      return;
+    }
+    answer(QStringLiteral("ok"));
+    const QKeyCombination key = keys[0];
+    QTimer::singleShot(0, this, [key] {
+      if (QWindow* window = activeWindow()) {
+        QTest::keyClick(window, key.key(), key.keyboardModifiers());
+      }
+    });
+  }
+
+  void type(const QString& text) {
+    answer(QStringLiteral("ok"));
+    for (const QChar character : text) {
+      QTimer::singleShot(0, this, [character] {
+        QWindow* window = activeWindow();
+        if (window == nullptr) return;
+        if (character.unicode() < 128) {
+          QTest::keyClick(window, character.toLatin1());
+        } else {
+          QTest::sendKeyEvent(QTest::Click, window, Qt::Key_unknown, QString(character),
+                              Qt::NoModifier);
+        }
+      });
+    }
+  }
+
+  void waitFor(const QString& name, QElapsedTimer timer) {
+    const QWidget* window = QApplication::activeWindow();
+    if (window != nullptr && window->objectName() == name) {
+      answer(QStringLiteral("ok"));
+    } else if (timer.elapsed() > kWaitLimitMs) {
+      answer(QStringLiteral("error the active window is ") +
+             (window ? window->objectName() : QStringLiteral("none")));
+    } else {
+      QTimer::singleShot(kPollMs, this, [this, name, timer] { waitFor(name, timer); });
+    }
+  }
+
+  void answerText(const QString& name) {
+    for (const QWidget* window : QApplication::topLevelWidgets()) {
+      if (!window->isVisible()) continue;
+      const QWidget* found = window->findChild<QWidget*>(name);
+      QString text;
+      if (const auto* label = qobject_cast<const QLabel*>(found)) text = label->text();
+      if (const auto* edit = qobject_cast<const QLineEdit*>(found)) text = edit->text();
+      if (found != nullptr) {
+        answer(QStringLiteral("ok ") + text.replace(QLatin1Char('\n'), QLatin1Char(' ')));
+        return;
+      }
+    }
+    answer(QStringLiteral("error no such control"));
+  }
+
+  void answer(const QString& line) {
+    const QByteArray bytes = line.toUtf8() + '\n';
+    for (qsizetype sent = 0; sent < bytes.size();) {
+      const ssize_t step = ::write(socket_, bytes.constData() + sent, bytes.size() - sent);
+      if (step <= 0) return;
+      sent += step;
+    }
+  }
+
+  int socket_;
+  QSocketNotifier notifier_;
+  QByteArray pending_;
+};
+
+}  // namespace
+
+/// What Qt loads; the specification is the socket's file descriptor.
+class DriverPlugin : public QGenericPlugin {
+  Q_OBJECT
+  Q_PLUGIN_METADATA(IID QGenericPluginFactoryInterface_iid FILE "DriverPlugin.json")
+
+ public:
+  QObject* create(const QString&, const QString& socket) override {
+    return new Driver(socket.toInt());
+  }
+};
+
+#include "DriverPlugin.moc"

@@ -1,0 +1,120 @@
+#include "driver/TillDriver.h"
+
+#include <fcntl.h>
+#include <signal.h>
+#include <sys/socket.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <fstream>
+#include <stdexcept>
+#include <vector>
+
+namespace {
+
+constexpr auto kTextLimit = std::chrono::seconds(20);
+
+/// The screen of the off-screen platform, as its configuration file wants it.
+std::filesystem::path writeScreen(const std::filesystem::path& folder, int width, int height) {
+  const auto file = folder / "screen.json";
+  std::ofstream(file) << R"({"screens":[{"name":"till","x":0,"y":0,"width":)" << width
+                      << R"(,"height":)" << height
+                      << R"(,"logicalDpi":96,"logicalBaseDpi":96,"dpr":1}]})";
+  return file;
+}
+
+[[noreturn]] void becomeTill(const std::filesystem::path& folder,
+                             const std::filesystem::path& screen, int socket) {
+  setenv("QT_QPA_PLATFORM", ("offscreen:configfile=" + screen.string()).c_str(), 1);
+  setenv("QT_QPA_GENERIC_PLUGINS", ("tilldriver:" + std::to_string(socket)).c_str(), 1);
+  setenv("QT_PLUGIN_PATH", DRIVER_PLUGIN_FOLDER, 1);
+  const std::string program = (folder / "till").string();
+  execl(program.c_str(), program.c_str(), nullptr);
+  _exit(127);
+}
+
+}  // namespace
+
+TillDriver::TillDriver(const std::filesystem::path& folder, int screenWidth, int screenHeight) {
+  const auto screen = writeScreen(folder, screenWidth, screenHeight);
+  int ends[2];
+  if (socketpair(AF_UNIX, SOCK_STREAM, 0, ends) != 0) throw std::runtime_error("no socket");
+  fcntl(ends[0], F_SETFD, FD_CLOEXEC);
+  process_ = fork();
+  if (process_ < 0) throw std::runtime_error("no process");
+  if (process_ == 0) becomeTill(folder, screen, ends[1]);
+  ::close(ends[1]);
+  socket_ = ends[0];
+}
+
+TillDriver::~TillDriver() {
+  kill();
+  ::close(socket_);
+}
+
+std::string TillDriver::ask(const std::string& command) {
+  const std::string line = command + "\n";
+  if (::send(socket_, line.data(), line.size(), MSG_NOSIGNAL) != ssize_t(line.size())) {
+    throw std::runtime_error("the till is gone at: " + command);
+  }
+  for (std::size_t end; (end = received_.find('\n')) == std::string::npos;) {
+    char bytes[4096];
+    const ssize_t got = ::recv(socket_, bytes, sizeof bytes, 0);
+    if (got <= 0) throw std::runtime_error("the till went away at: " + command);
+    received_.append(bytes, std::size_t(got));
+  }
+  const std::size_t end = received_.find('\n');
+  const std::string answer = received_.substr(0, end);
+  received_.erase(0, end + 1);
+  if (!answer.starts_with("ok")) throw std::runtime_error(command + ": " + answer);
+  return answer.size() > 3 ? answer.substr(3) : std::string();
+}
+
+void TillDriver::key(std::string_view name) {
+  ask("key " + std::string(name));
+}
+
+void TillDriver::type(std::string_view text) {
+  ask("type " + std::string(text));
+}
+
+void TillDriver::enter(std::string_view text) {
+  type(text);
+  key("Return");
+}
+
+void TillDriver::waitFor(std::string_view window) {
+  ask("wait " + std::string(window));
+}
+
+void TillDriver::waitForText(std::string_view control, std::string_view part) {
+  const auto giveUp = std::chrono::steady_clock::now() + kTextLimit;
+  std::string shown;
+  do {
+    shown = text(control);
+    if (shown.find(part) != std::string::npos) return;
+  } while (std::chrono::steady_clock::now() < giveUp);
+  throw std::runtime_error(std::string(control) + " shows \"" + shown + "\", not \"" +
+                           std::string(part) + "\"");
+}
+
+std::string TillDriver::text(std::string_view control) {
+  return ask("text " + std::string(control));
+}
+
+void TillDriver::shot(const std::filesystem::path& file) {
+  ask("shot " + file.string());
+}
+
+int TillDriver::waitForEnd() {
+  int status = 0;
+  if (process_ > 0) waitpid(process_, &status, 0);
+  process_ = -1;
+  return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
+}
+
+void TillDriver::kill() {
+  if (process_ <= 0) return;
+  ::kill(process_, SIGKILL);
+  waitForEnd();
+}

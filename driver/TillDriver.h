@@ -1,0 +1,45 @@
+#pragma once
+
+#include <chrono>
+#include <filesystem>
+#include <string>
+#include <string_view>
+
+/// Starts the real till off-screen and works it with real key events. A step that the till does not
+/// take throws std::runtime_error naming the step.
+class TillDriver {
+ public:
+  /// `folder` is an installed program folder with its data file.
+  explicit TillDriver(const std::filesystem::path& folder, int screenWidth = 1024,
+                      int screenHeight = 768);
+  ~TillDriver();  ///< kills a till that is still running
+  TillDriver(const TillDriver&) = delete;
+  TillDriver& operator=(const TillDriver&) = delete;
+
+  /// A key click in the active window: "Return", "F1", "Up", "Menu", "Ctrl+A", ...
+  void key(std::string_view name);
+  /// Types a text.
+  void type(std::string_view text);
+  /// Types a text and presses Enter.
+  void enter(std::string_view text);
+  /// Waits until the window of that name is the active one.
+  void waitFor(std::string_view window);
+  /// Waits until a control shows a text that contains `part`.
+  void waitForText(std::string_view control, std::string_view part);
+  /// The text that a label or an input field shows.
+  std::string text(std::string_view control);
+  /// Saves a picture of the screen as PNG.
+  void shot(const std::filesystem::path& file);
+
+  /// Waits for the till to end by itself and gives its exit code.
+  int waitForEnd();
+  /// Kills the till at once, as a power cut would.
+  void kill();
+
+ private:
+  std::string ask(const std::string& command);
+
+  int socket_ = -1;
+  int process_ = -1;
+  std::string received_;
+};
