@@ -106,5 +106,4 @@ void addOperatorCommand(CLI::App& app, Console& console) {
   addNumber(*changing, *options);
   addPassword(*changing, *options);
   addNumber(*addAction(*parent, console, "remove", "删除操作员", options, remove), *options);
-  for (CLI::App* command : parent->get_subcommands(nullptr)) command->group("命令");
 }

@@ -60,5 +60,4 @@ void addParamCommand(CLI::App& app, Console& console) {
   options->file.addTo(*setting);
   setting->add_option("NAME=VALUE", options->settings, "参数名=值，可以写几个")->required();
   setting->callback([options, &console] { set(*options, console); });
-  for (CLI::App* command : {listing, setting}) command->group("命令");
 }

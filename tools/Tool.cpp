@@ -20,6 +20,7 @@ namespace {
 constexpr int kDone = 0;
 constexpr int kFailed = 1;
 constexpr int kNoCommandLine = 2;
+constexpr const char* kOptions = "选项";
 
 void speakChinese(CLI::App& app) {
   const auto formatter = std::make_shared<CLI::Formatter>();
@@ -33,8 +34,16 @@ void speakChinese(CLI::App& app) {
   formatter->label("TEXT", "文字");
   formatter->label("INT", "整数");
   app.formatter(formatter);
-  app.option_defaults()->group("选项");
-  app.set_help_flag("-h,--help", "显示用法")->group("选项");
+  app.option_defaults()->group(kOptions);
+  app.set_help_flag("-h,--help", "显示用法");
+}
+
+void groupInChinese(CLI::App& app) {
+  app.get_help_ptr()->group(kOptions);
+  for (CLI::App* command : app.get_subcommands(nullptr)) {
+    command->group("命令");
+    groupInChinese(*command);
+  }
 }
 
 std::string inChinese(const CLI::ParseError& error) {
@@ -78,7 +87,7 @@ int runTool(int count, const char* const* arguments, Console& console) {
   addImportCommand(app, console);
   addExportCommand(app, console);
   addCheckCommand(app, console, exitCode);
-  for (CLI::App* command : app.get_subcommands(nullptr)) command->group("命令");
+  groupInChinese(app);
   try {
     app.parse(wordsOf(count, arguments));
     return exitCode;
