@@ -147,9 +147,8 @@ void CsvReader::readQuoted(std::string& field) {
 
 CsvReader::Ended CsvReader::endAfter(int character) {
   if (character == '\r' && peek() == '\n') get();
-  if (character == '\n' || character == '\r') return Ended::kRow;
+  if (character == '\n' || character == '\r' || character == kEnd) return Ended::kRow;
   if (character == ',') return Ended::kField;
-  if (character == kEnd) return Ended::kText;
   refuse("引号后面还有文字");
 }
 

@@ -27,7 +27,7 @@ class CsvReader {
 
  private:
   static constexpr int kEnd = -1;
-  enum class Ended { kField, kRow, kText };
+  enum class Ended { kField, kRow };
 
   int get();
   int peek();

@@ -27,8 +27,10 @@ void makePrivate(const std::string& path) {
   const int file = open(path.c_str(), O_CREAT | O_WRONLY | O_CLOEXEC, 0600);
   if (file < 0) throw Refusal("不能写文件：" + path);
   struct stat kind {};
-  if (fstat(file, &kind) == 0 && S_ISREG(kind.st_mode)) fchmod(file, 0600);
+  const bool isPrivate =
+      fstat(file, &kind) == 0 && (!S_ISREG(kind.st_mode) || fchmod(file, 0600) == 0);
   close(file);
+  if (!isPrivate) throw Refusal("文件是别人的，不能导出到那里：" + path);
 }
 
 void exportTo(const Options& options, Console& console) {
