@@ -60,6 +60,7 @@ TEST_F(SaleSessionTest, enterIsTheMappedKeyAndTiesGoToTheEarlierCommand) {
   pos.gKeyBoard.mF4 = 0;
   open();
   enter(kWater);
+  session.textComing();
   till.text = kWater;
   press(107);
   EXPECT_EQ(lines(), "2");
