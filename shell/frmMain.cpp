@@ -12,6 +12,7 @@
 
 #include "app/posMod.h"
 #include "base/Failure.h"
+#include "platform/Twips.h"
 #include "shell/Modal.h"
 #include "shell/Style.h"
 #include "shell/frmLogin.h"
@@ -19,6 +20,7 @@
 
 namespace {
 
+constexpr int kMenuGap = 12;  // between the main menu and the further one beside it
 const char* const kExit = "exit";
 const char* const kEnd = "end";
 
@@ -50,7 +52,6 @@ frmMain::frmMain(posMod& pos, std::map<QString, Screen> screens, QWidget* parent
 }
 
 void frmMain::fillMenus() {
-  theMenu_->setObjectName("theMenu");
   theMenu_->setAlignment(frmMenu::kCentre);
   addScreens(*theMenu_, {{tr("前 台 销 售"), "sell"},
                          {tr("销 售 统 计"), "count"},
@@ -61,7 +62,6 @@ void frmMain::fillMenus() {
   theMenu_->closed = [this] { close(); };
   theMenu_->furtherMenu = [this] { showFurtherMenu(); };
 
-  furtherMenu_->setObjectName("furtherMenu");
   furtherMenu_->setWindowTitle(tr("更多功能"));
   furtherMenu_->setAlignment(frmMenu::kCentre);
   addScreens(*furtherMenu_, {{tr("销 售 查 询"), "search"},
@@ -87,9 +87,8 @@ bool frmMain::event(QEvent* event) {
 }
 
 void frmMain::applyColours() {
-  QPalette colours = Label1_->palette();
-  colours.setColor(QPalette::WindowText, legibleOn(settingColour(pos_.gPosSet.C1)));
-  Label1_->setPalette(colours);
+  const QColor fore = legibleOn(settingColour(pos_.gPosSet.C1));
+  Label1_->setStyleSheet("color: " + fore.name());  // stronger than the program's style sheet
   update();
 }
 
@@ -117,8 +116,10 @@ void frmMain::showMenu() {
 void frmMain::showFurtherMenu() {
   furtherMenu_->MenuClick = [this](const MenuItem& Menu) {
     furtherChoice_ = Menu;
-    theMenu_->hide();
+    theMenu_->reject();
   };
+  furtherMenu_->setBoxTop(theMenu_->BoxTop());
+  furtherMenu_->setBoxLeft(theMenu_->BoxLeft() + twips(theMenu_->width() + kMenuGap));
   furtherMenu_->ShowMenu(0);
 }
 
@@ -158,10 +159,10 @@ void frmMain::endProgram() {
 void frmMain::closeEvent(QCloseEvent* event) {
   if (pos_.gPosSet.VMouse == 0) pos_.ShowMouse(true);
   ended_ = true;
-  furtherMenu_->hide();
-  theMenu_->hide();
+  furtherMenu_->reject();
+  theMenu_->reject();
   event->accept();
-  QCoreApplication::quit();
+  QCoreApplication::exit(0);  // ends every modal loop; quit() would ask the windows first
 }
 
 void frmMain::paintEvent(QPaintEvent*) {
