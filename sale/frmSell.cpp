@@ -38,7 +38,7 @@ constexpr int kIdleInterval = 1500;
 
 // Column widths in tenths of the type size; the name takes the rest. The first one is where codes
 // are typed: it holds the thirteen digits of a barcode.
-constexpr std::array<int, BillRow::kColumns> kColumnTenths = {86, 82, 0,  46, 38, 34,
+constexpr std::array<int, BillRow::kColumns> kColumnTenths = {90, 88, 0,  46, 38, 34,
                                                               52, 48, 36, 30, 48};
 
 template <class Widget>
