@@ -63,7 +63,7 @@ void posMod::backUp() {
   const auto target = findIgnoringCase((folder / "data/pos3.mdb").string());
   std::error_code ignored;
   if (gConn && std::filesystem::equivalent(source, gConn->source().path, ignored))
-    gConn->copyTo(target);
+    copyDataFile(*gConn, target);
   else
     copyClosedDataFile(source, target);
 }

@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <memory>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "base/Currency.h"
@@ -11,6 +12,7 @@
 
 class Connection;
 class Row;
+class Rows;
 
 /// One bill. Amount and Quantity are sums over the committed lines until the settlement writes the
 /// rounded amount due.
@@ -27,50 +29,57 @@ class ClsSell {
   /// From a row of sell, without its lines.
   static std::shared_ptr<ClsSell> fromRow(Connection& connection, const Row& row);
 
-  /// Stores the bill with its lines in one transaction, after checking that the lines add up to its
-  /// quantity and, before the shop's rounding, to its amount (ensure). False when the store failed;
-  /// ErrText has the reason and nothing was written.
+  /// Stores the bill's row and those of its lines that have something to write, in one transaction,
+  /// after checking that the lines add up to its quantity and, before the shop's rounding, to its
+  /// amount (ensure; a bill that was opened by its number needs LoadLines first). False when the
+  /// store failed; ErrText has the reason, nothing was written, and a second Save writes it all.
   [[nodiscard]] bool Save();
   /// Deletes the bill with its lines, in one transaction; the caller has put the stock back.
   void Void();
-  /// Loads the lines of a stored bill into Items, and checks that they add up to the bill.
+  /// Loads the lines of a stored bill into Items, in entry order. An open bill's quantity and
+  /// amount are worked out from them; a settled bill whose lines do not add up to it throws
+  /// StoreError, naming the bill: the data file is damaged.
   void LoadLines();
-  /// Adds a committed line: amount and quantity grow by the line's.
+  /// Adds a committed line of this bill (ensure): amount and quantity grow by the line's.
   void AddItem(std::shared_ptr<ClsSellItem> line);
-  /// Works quantity and amount out again from the lines, after one of them was lowered.
+  /// Works quantity and amount out again from the lines, after one of them was changed. Save wants
+  /// that (see there).
   void Recalculate();
 
-  std::int32_t BillNo() const;
-  Currency Amount() const;  ///< amount due
-  void setAmount(Currency amount);
-  Currency Cash() const;
-  void setCash(Currency cash);
-  DateTime SellTime() const;
-  const Items_t& Items() const;
-  std::int32_t OperatorId() const;
-  double Quantity() const;
-  std::int32_t MemberId() const;  ///< 0 for none
-  void setMemberId(std::int32_t memberId);
-  std::int16_t State() const;  ///< 0 open, 1 settled
-  void setState(std::int16_t state);
-  Currency Favorable() const;  ///< discount amount given at settlement
-  void setFavorable(Currency favorable);
-  std::int16_t Salesman() const;
-  void setSalesman(std::int16_t salesman);
-  Currency BankCard() const;
-  void setBankCard(Currency amount);
-  Currency CardPay() const;
-  void setCardPay(Currency amount);
-  const std::string& CardNo() const;
-  void setCardNo(std::string number);
-  const std::string& ErrText() const;
+  std::int32_t BillNo() const { return billNo_; }
+  Currency Amount() const { return amount_; }  ///< amount due
+  void setAmount(Currency amount) { amount_ = amount; }
+  Currency Cash() const { return cash_; }
+  void setCash(Currency cash) { cash_ = cash; }
+  DateTime SellTime() const { return sellTime_; }
+  const Items_t& Items() const { return items_; }
+  std::int32_t OperatorId() const { return operatorId_; }
+  double Quantity() const { return quantity_; }
+  std::int32_t MemberId() const { return memberId_; }  ///< 0 for none
+  void setMemberId(std::int32_t memberId) { memberId_ = memberId; }
+  std::int16_t State() const { return state_; }  ///< 0 open, 1 settled
+  void setState(std::int16_t state) { state_ = state; }
+  Currency Favorable() const { return favorable_; }  ///< discount amount given at settlement
+  void setFavorable(Currency favorable) { favorable_ = favorable; }
+  std::int16_t Salesman() const { return salesman_; }
+  void setSalesman(std::int16_t salesman) { salesman_ = salesman; }
+  Currency BankCard() const { return bankCard_; }
+  void setBankCard(Currency amount) { bankCard_ = amount; }
+  Currency CardPay() const { return cardPay_; }
+  void setCardPay(Currency amount) { cardPay_ = amount; }
+  const std::string& CardNo() const { return cardNo_; }
+  void setCardNo(std::string number) { cardNo_ = std::move(number); }
+  const std::string& ErrText() const { return errText_; }
 
   /// Sum of the lines' amounts, before the shop's rounding.
-  Currency GoodsAmount() const;
+  Currency GoodsAmount() const { return goodsAmount_; }
   /// Cash + bank card + stored-value card + discount - amount due.
-  Currency Change() const;
+  Currency Change() const { return cash_ + bankCard_ + cardPay_ + favorable_ - amount_; }
 
  private:
+  void start(std::int32_t operatorId, const DateTime& now);
+  bool load(Rows rows);
+  void read(const Row& row);
   void store();
 
   Connection* connection_ = nullptr;

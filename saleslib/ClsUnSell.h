@@ -13,20 +13,23 @@ class ClsUnSell {
   /// Binds and starts a return against that bill; the third argument is unused and 0.
   void Init(Connection& connection, std::int32_t billNo, int unused = 0, Clock clock = localTime);
   /// Stores the return, in one transaction. UnQty is limited to what the line still holds; read it
-  /// back. Throws StoreError; ensure() guards a line that is not of this bill.
+  /// back. When that is nothing, nothing is stored, and UnQty and UnMoney read 0. Lowering the line
+  /// is the caller's. Throws StoreError; ensure() guards a line that is not of this bill.
   void Save();
 
-  double UnQty() const;
-  void setUnQty(double quantity);
-  Currency UnMoney() const;
-  void setUnMoney(Currency money);
-  void setItemId(std::int32_t id);
-  void setOperatorId(std::int16_t id);
-  void setCost(Currency cost);
-  void setRatio(std::int16_t ratio);
-  void setDiscount(::Discount discount);
+  double UnQty() const { return quantity_; }
+  void setUnQty(double quantity) { quantity_ = quantity; }
+  Currency UnMoney() const { return money_; }
+  void setUnMoney(Currency money) { money_ = money; }
+  void setItemId(std::int32_t id) { itemId_ = id; }
+  void setOperatorId(std::int16_t id) { operatorId_ = id; }
+  void setCost(Currency cost) { cost_ = cost; }
+  void setRatio(std::int16_t ratio) { ratio_ = ratio; }
+  void setDiscount(::Discount discount) { discount_ = discount; }
 
  private:
+  double heldByLine() const;
+
   Connection* connection_ = nullptr;
   Clock clock_ = localTime;
   std::int32_t billNo_ = 0, itemId_ = 0;

@@ -1,0 +1,147 @@
+#include "saleslib/ClsMember.h"
+
+#include <algorithm>
+#include <cmath>
+#include <utility>
+
+#include "base/Failure.h"
+#include "saleslib/Fields.h"
+#include "store/Connection.h"
+#include "store/StoreError.h"
+
+namespace {
+
+constexpr std::size_t kLongestText = 100;
+
+bool hasControlCharacter(const std::string& text) {
+  return std::any_of(text.begin(), text.end(), [](char c) {
+    const auto byte = static_cast<unsigned char>(c);
+    return byte < 0x20 || byte == 0x7f;
+  });
+}
+
+}  // namespace
+
+void ClsMember::Init(Connection& connection, std::int32_t id, Clock clock) {
+  *this = ClsMember();
+  if (id != 0) {
+    Rows rows = connection.query("select * from member where id = ?", id);
+    if (rows.next()) *this = fromRow(connection, rows);
+  }
+  connection_ = &connection;
+  clock_ = std::move(clock);
+}
+
+ClsMember ClsMember::fromRow(Connection& connection, const Row& row) {
+  ClsMember member;
+  member.connection_ = &connection;
+  member.id_ = whole32(row, "id");
+  member.inserted_ = kFromFile;
+  member.bh_ = row.text("bh");
+  member.name_ = row.text("name");
+  member.sex_ = row.text("sex");
+  member.age_ = whole16(row, "age");
+  member.phone_ = row.text("phone");
+  member.address_ = row.text("address");
+  member.other_ = row.text("other");
+  member.enabled_ = row.whole("enabled").value_or(1) != 0;
+  member.totalSpent_ = money(row, "total_spent");
+  member.points_ = whole16(row, "points");
+  member.discount_ = row.number("discount");
+  member.joined_ = row.dateTime("join_date").value_or(DateTime());
+  return member;
+}
+
+bool ClsMember::Save() {
+  ensure(connection_ != nullptr, "a member is bound before it is stored");
+  try {
+    errText_ = refusal();
+    if (!errText_.empty()) return false;
+    if (Id() == 0) {
+      insert();
+    } else {
+      update();
+    }
+  } catch (const StoreError& error) {
+    errText_ = error.what();
+    return false;
+  }
+  birthday_.markWritten(*connection_);
+  balance_.markWritten(*connection_);
+  password_.markWritten(*connection_);
+  edited_ = false;
+  return true;
+}
+
+bool ClsMember::Update() {
+  ensure(Id() != 0, "only a loaded member is updated");
+  return Save();
+}
+
+std::string ClsMember::refusal() const {
+  if (Id() != 0 && !edited_) return {};
+  if (bh_.empty()) return "请输入会员编号！";
+  if (name_.empty()) return "请输入会员姓名！";
+  if (std::string text = refusedText(); !text.empty()) return text;
+  if (age_ < 0) return "年龄不能是负数！";
+  if (discount_ && !(*discount_ >= 0 && std::isfinite(*discount_))) return "折扣不能是负数！";
+  if (balance_.value && *balance_.value < Currency()) return "储值卡余额不能是负数！";
+  Rows rows = connection_->query("select id from member where bh = ?", bh_);
+  if (rows.next() && whole32(rows, "id") != Id()) return "会员编号 " + bh_ + " 已经存在！";
+  return {};
+}
+
+std::string ClsMember::refusedText() const {
+  const std::pair<const char*, const std::string*> texts[] = {
+      {"会员编号", &bh_}, {"会员姓名", &name_},    {"性别", &sex_},
+      {"电话", &phone_},  {"联系地址", &address_}, {"备注", &other_},
+  };
+  for (const auto& [title, text] : texts) {
+    if (characters(*text) > kLongestText) return std::string(title) + "不能超过100个字符！";
+    if (hasControlCharacter(*text)) return std::string(title) + "含有无法保存的字符！";
+  }
+  const std::string& password = password_.value.value_or(std::string());
+  if (characters(password) > kLongestText) return "储值卡密码不能超过100个字符！";
+  if (hasControlCharacter(password)) return "储值卡密码含有无法保存的字符！";
+  return {};
+}
+
+void ClsMember::insert() {
+  joined_ = clock_();
+  connection_->run(
+      "insert into member (bh, name, sex, age, phone, address, other, enabled, total_spent, points,"
+      " discount, birthday, card, password, join_date)"
+      " values (?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?)",
+      bh_, name_, sex_, age_, phone_, address_, other_, enabled_, totalSpent_, points_, discount_,
+      birthday_.value, balance_.value.value_or(Currency()), password_.value.value_or(std::string()),
+      joined_);
+  id_ = key32(connection_->lastRowId());
+  inserted_ = connection_->writeMark();
+}
+
+void ClsMember::update() {
+  const std::int64_t changed = connection_->run(
+      "update member set bh = ?, name = ?, sex = ?, age = ?, phone = ?, address = ?, other = ?,"
+      " enabled = ?, total_spent = ?, points = ?, discount = ?, birthday = coalesce(?, birthday),"
+      " card = coalesce(?, card), password = coalesce(?, password) where id = ?",
+      bh_, name_, sex_, age_, phone_, address_, other_, enabled_, totalSpent_, points_, discount_,
+      birthday_.unwritten(*connection_), balance_.unwritten(*connection_),
+      password_.unwritten(*connection_), id_);
+  if (changed == 0) throw StoreError("会员 " + bh_ + " 已被删除，没有保存！");
+}
+
+template <class T>
+std::optional<T> ClsMember::WriteOnly<T>::unwritten(const Connection& connection) const {
+  return connection.stands(written) ? std::nullopt : value;
+}
+
+// A mark that still stands is kept: were this Save taken back, the value must not be written again
+// over a balance that has moved on since.
+template <class T>
+void ClsMember::WriteOnly<T>::markWritten(Connection& connection) {
+  if (!connection.stands(written)) written = connection.writeMark();
+}
+
+std::int32_t ClsMember::Id() const {
+  return id_ != 0 && connection_->stands(inserted_) ? id_ : 0;
+}
