@@ -54,8 +54,7 @@ int QuickKeyModel::columnCount(const QModelIndex& parent) const {
 QVariant QuickKeyModel::data(const QModelIndex& index, int role) const {
   const clsQk& quickKey = quickKeys_[static_cast<std::size_t>(index.row())];
   if (role == Qt::DisplayRole) return cell(quickKey, index.column());
-  if (role == Qt::ForegroundRole && isFunctionKey(quickKey.QK_int))
-    return QColor(Qt::red).darker();
+  if (role == Qt::ForegroundRole && isFunctionKey(quickKey.QK_int)) return QColor(Qt::red).darker();
   return {};
 }
 
