@@ -10,12 +10,20 @@
 
 namespace {
 
+constexpr const char* kShared = "shared";
 constexpr int kAlt = 18;
 constexpr int kNameMargin = 10;
 constexpr int kNamePixels = 16;
 constexpr QColor kNameColour(0x44, 0x55, 0x66);
 
 }  // namespace
+
+void markShared(QWidget& control, bool shared) {
+  if (control.property(kShared).toBool() == shared) return;
+  control.setProperty(kShared, shared);
+  control.style()->unpolish(&control);
+  control.style()->polish(&control);
+}
 
 KeyBox::KeyBox(QWidget* parent) : QLineEdit(parent) {
   // An input method would swallow the keys, the menu key would open a menu, and the cursor would
@@ -34,11 +42,11 @@ void KeyBox::setCode(int code) {
 }
 
 void KeyBox::setShared(bool shared) {
-  if (shared == shared_) return;
-  shared_ = shared;
-  setProperty("shared", shared);
-  style()->unpolish(this);
-  style()->polish(this);
+  markShared(*this, shared);
+}
+
+bool KeyBox::isShared() const {
+  return property(kShared).toBool();
 }
 
 // No shortcut of the window may take a key away that is being defined; Alt goes to the access keys.
@@ -70,9 +78,9 @@ void KeyBox::keyReleaseEvent(QKeyEvent* event) {
   emit captured();
 }
 
-void KeyBox::focusInEvent(QFocusEvent* event) {
+void KeyBox::focusOutEvent(QFocusEvent* event) {
   pressed_ = 0;
-  QLineEdit::focusInEvent(event);
+  QLineEdit::focusOutEvent(event);
 }
 
 void KeyBox::paintEvent(QPaintEvent* event) {
@@ -83,7 +91,7 @@ void KeyBox::paintEvent(QPaintEvent* event) {
   QFont small = font();
   small.setPixelSize(kNamePixels);
   painter.setFont(small);
-  painter.setPen(shared_ ? QColor(Qt::red).darker() : kNameColour);
+  painter.setPen(isShared() ? QColor(Qt::red).darker() : kNameColour);
   painter.drawText(rect().adjusted(0, 0, -kNameMargin, 0), Qt::AlignRight | Qt::AlignVCenter,
                    keyName(*shown));
 }

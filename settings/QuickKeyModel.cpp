@@ -43,6 +43,11 @@ void QuickKeyModel::setFunctionKeys(std::vector<int> codes) {
   if (rowCount() > 0) emit dataChanged(index(0, 0), index(rowCount() - 1, kColumns - 1));
 }
 
+bool QuickKeyModel::usesFunctionKey() const {
+  return std::ranges::any_of(quickKeys_,
+                             [this](const clsQk& each) { return isFunctionKey(each.QK_int); });
+}
+
 int QuickKeyModel::rowCount(const QModelIndex& parent) const {
   return parent.isValid() ? 0 : static_cast<int>(quickKeys_.size());
 }

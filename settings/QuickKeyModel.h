@@ -23,6 +23,7 @@ class QuickKeyModel : public QAbstractTableModel {
   void removeFirst(int code);
   /// Quick keys on one of these keys never fire on the sale screen, and are shown in red.
   void setFunctionKeys(std::vector<int> codes);
+  bool usesFunctionKey() const;
 
   int rowCount(const QModelIndex& parent = {}) const override;
   int columnCount(const QModelIndex& parent = {}) const override;

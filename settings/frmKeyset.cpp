@@ -39,6 +39,8 @@ frmKeyset::frmKeyset(posMod& pos, QWidget* parent) : QDialog(parent), pos_(pos) 
             "Label1");
   instruction->setWordWrap(true);
   lblShared_ = named(new QLabel, "lblShared");
+  lblShared_->setWordWrap(true);
+  lblShared_->setMinimumHeight(lblShared_->fontMetrics().height());  // nothing moves when it speaks
 
   auto* layout = new QVBoxLayout(this);
   layout->setContentsMargins(24, 12, 24, 12);
@@ -107,7 +109,8 @@ QWidget* frmKeyset::quickKeyFields() {
   grid->addWidget(new QLabel(tr("对应商品编码：")), 1, 0, Qt::AlignRight);
   grid->addWidget(txtKeyBm_, 1, 1);
   grid->addLayout(actions, 2, 0, 1, 2);
-  grid->addWidget(named(new QLabel(tr("不能为上方功能按键设定快捷功能")), "lblNote"), 3, 0, 1, 2);
+  lblNote_ = named(new QLabel(tr("不能为上方功能按键设定快捷功能")), "lblNote");
+  grid->addWidget(lblNote_, 3, 0, 1, 2);
   grid->setRowStretch(4, 1);
   return area;
 }
@@ -164,6 +167,7 @@ void frmKeyset::showSharedKeys() {
         tr("%1：%2").arg(keyText(code), QStringList(names.begin(), names.end()).join(tr("、")));
   lblShared_->setText(texts.isEmpty() ? QString() : tr("一键多用　") + texts.join(tr("；")));
   quickKeys_->setFunctionKeys(functionKeys(keys));
+  markShared(*lblNote_, quickKeys_->usesFunctionKey());
 }
 
 std::optional<int> frmKeyset::typedQuickKey() {
@@ -204,6 +208,7 @@ void frmKeyset::remove() {
 }
 
 void frmKeyset::nextQuickKey() {
+  showSharedKeys();
   txtKeyInt_->clear();
   txtKeyBm_->clear();
   txtKeyInt_->setFocus();

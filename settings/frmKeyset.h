@@ -35,6 +35,7 @@ class frmKeyset : public QDialog {
   QWidget* buttons();
   std::vector<QWidget*> controls() const;
 
+  /// Marks in red, and says, what shares a key.
   void showSharedKeys();
   /// The typed quick key's code, if code and item are there; else focuses what is missing.
   std::optional<int> typedQuickKey();
@@ -50,6 +51,7 @@ class frmKeyset : public QDialog {
   posMod& pos_;
   std::array<KeyBox*, kFunctions> boxes_{};
   QLabel* lblShared_ = nullptr;
+  QLabel* lblNote_ = nullptr;
   QuickKeyModel* quickKeys_ = nullptr;
   QAbstractItemView* ListView1_ = nullptr;
   KeyBox* txtKeyInt_ = nullptr;
