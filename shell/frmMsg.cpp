@@ -10,7 +10,7 @@
 
 namespace {
 
-constexpr int kTextWidth = 460;
+constexpr int kTextWidth = 560;
 
 QFrame* framed(QLabel* label, const QString& name, QWidget* parent) {
   auto* frame = new QFrame(parent);
@@ -51,9 +51,9 @@ void frmMsg::Message(const QString& msg) {
 
 // A key held down is one press: the Enter that brought the message up does not take it away again.
 void frmMsg::keyPressEvent(QKeyEvent* event) {
-  if (!event->isAutoRepeat()) hide();
+  if (!event->isAutoRepeat()) accept();
 }
 
 void frmMsg::mousePressEvent(QMouseEvent*) {
-  hide();
+  accept();
 }
