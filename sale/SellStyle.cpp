@@ -16,14 +16,16 @@ QString css(int bgr) {
   return settingColour(bgr).name();
 }
 
-// The help line has no colour of its own among the settings: it reads on whatever C1 is.
+// A style sheet reaches into the dialogs that the screen owns: what they have too is told apart by
+// its parent. The help line has no colour of its own among the settings: it reads on whatever C1
+// is.
 QString colours(const ClsPosSet& settings) {
   return QStringLiteral(
              "#frmSell { background: %1; }"
              "#txtmoney { background: %2; color: %3; }"
              "#lblViewMember { color: %4; }"
-             "#title { color: %5; }"
-             "#title1, #title2, #title3 { color: %6; }"
+             "#frmSell > #title { color: %5; }"
+             "#frmSell > #title1, #frmSell > #title2, #frmSell > #title3 { color: %6; }"
              "#ViewF { color: %7; }"
              "#lv { selection-background-color: #ffe08a; selection-color: black; }")
       .arg(css(settings.C1), css(settings.C2), css(settings.C3), css(settings.C4), css(settings.C5),
@@ -32,7 +34,7 @@ QString colours(const ClsPosSet& settings) {
 
 QString sizes(int type) {
   return QStringLiteral(
-             "#title { font-size: %2px; font-weight: bold; }"
+             "#frmSell > #title { font-size: %2px; font-weight: bold; }"
              "#txtmoney { font-weight: bold; padding: 0 %3px; }"
              "#title1, #title2, #title3, #lv, #lv QHeaderView, #t { font-size: %1px; }"
              "#ViewF { font-size: %1px; }"
