@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <memory>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "store/DataFile.h"
@@ -10,6 +11,7 @@
 #include "store/Rows.h"
 #include "store/Value.h"
 
+class Statement;
 class StatementCache;
 struct sqlite3;
 
@@ -17,8 +19,8 @@ struct sqlite3;
 ///
 /// Two kinds of statements run here. The program's own are literal text in the dialect of
 /// store/Dialect.h, built only through store/Literal.h: Execute, Read, Open. The library's own are
-/// engine text with "?" for bound values: run, query. Both kinds are prepared once per text; literals
-/// count as values, so that a thousand barcodes are one prepared statement.
+/// engine text with "?" for bound values: run, query. Both kinds are prepared once per text;
+/// literals count as values, so that a thousand barcodes are one prepared statement.
 class Connection {
  public:
   enum class Mode { kExisting, kCreate };
@@ -51,7 +53,7 @@ class Connection {
   /// The row key that the last insert gave.
   std::int64_t lastRowId() const;
 
-  /// Several statements at once, for making tables; nothing is bound or cached.
+  /// Several statements of engine text at once, for making tables; nothing is bound or cached.
   void runScript(const std::string& statements);
   /// Copies unfinished log pages into the data file, as far as no reader is in the way, without
   /// waiting for anybody.
@@ -62,8 +64,17 @@ class Connection {
   std::int64_t runBound(const char* text, std::vector<Value> values);
   Rows queryBound(const char* text, std::vector<Value> values);
 
+  struct EngineCloser {
+    void operator()(sqlite3* engine) const;
+  };
+
+  void openEngine();
+  void requireTransaction() const;
+  std::shared_ptr<Statement> prepared(std::string_view text, std::vector<Value> values);
+  std::int64_t runToEnd(std::string_view text, std::vector<Value> values);
+
   DataSource source_;
-  sqlite3* engine_ = nullptr;
+  std::unique_ptr<sqlite3, EngineCloser> engine_;
   std::unique_ptr<StatementCache> statements_;
   int transactionDepth_ = 0;
 };

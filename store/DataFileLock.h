@@ -2,8 +2,8 @@
 
 #include <filesystem>
 
-/// Keeps a second till off the same data file: a lock on "<data file>.lock" beside it, which goes with
-/// the process however that ends. The owner's tool and other readers do not take it.
+/// Keeps a second till off the same data file: a lock on "<data file>.lock" beside it, which goes
+/// with the process however that ends. The owner's tool and other readers do not take it.
 class DataFileLock {
  public:
   /// Throws StoreError when another till holds the lock or it cannot be made.

@@ -7,14 +7,15 @@
 #include "store/Value.h"
 
 /// The program's own statements are written as Access understands them:
-///   'text' with '' for a quote inside; #2026-11-22 09:05:03# and #2026-11-22#; [names]; bare numbers;
-///   like '%fragment%' with % and _ as wildcards; names without regard to case.
-/// This is the one place that turns them into the engine's form: every literal becomes a bound value.
+///   'text' with '' for a quote inside; #2026-11-22 09:05:03# and #2026-11-22#; [names]; bare
+///   numbers; like '%fragment%' with % and _ as wildcards; names without regard to case.
+/// This is the one place that turns them into the engine's form: every literal becomes a bound
+/// value.
 struct EngineStatement {
   std::string text;
   std::vector<Value> values;
 };
 
-/// Throws StoreError for text that no statement can be: an open quote, a date that does not exist, a
-/// second statement after ";", a comment mark outside quotes.
+/// Throws StoreError for text that no statement can be: an open quote, a date that does not exist,
+/// a second statement after ";", a comment mark outside quotes.
 EngineStatement translate(std::string_view statement);

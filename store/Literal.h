@@ -9,7 +9,7 @@
 /// The only way values enter a literal statement. Whatever was typed stays a value.
 
 /// 'text' with every quote doubled.
-std::string quoted(std::string_view text);
+std::string quotedText(std::string_view text);
 /// '%fragment%', the fragment's own % and _ staying wildcards, as the cashier typed them.
 std::string likeFragment(std::string_view fragment);
 /// Plain decimal form.

@@ -10,5 +10,6 @@ class Connection;
 const std::vector<std::string>& schemaSteps();
 
 /// Brings the tables to the newest version in one transaction. An empty file becomes a shop's data
-/// file only when `isNew`. Throws StoreError when the file is no shop's data file or is newer than this program.
+/// file only when `isNew`. Throws StoreError when the file is no shop's data file or is newer than
+/// this program.
 void upgradeSchema(Connection& connection, bool isNew);

@@ -1,0 +1,189 @@
+#include "store/Connection.h"
+
+#include <fcntl.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <cstring>
+#include <fstream>
+#include <utility>
+
+#include "base/FileName.h"
+#include "store/DataFilePath.h"
+#include "store/Dialect.h"
+#include "store/Engine.h"
+#include "store/Statement.h"
+#include "store/StatementCache.h"
+#include "store/StoreError.h"
+
+namespace {
+
+constexpr int kBusyMilliseconds = 2000;  // a cashier waits for another program no longer than this
+
+// Made before the engine sees it, so that it is at no instant readable by others; the engine gives
+// its log files the permissions of the data file.
+void makeEmptyFile(const std::filesystem::path& path) {
+  const int file = open(path.c_str(), O_CREAT | O_EXCL | O_WRONLY | O_CLOEXEC, 0600);
+  if (file < 0) {
+    if (errno == EEXIST) throw StoreError("已经有这个文件，不会覆盖：" + path.string());
+    throw StoreError("不能建立数据文件 " + path.string() + "：" + std::strerror(errno));
+  }
+  close(file);
+}
+
+bool beginsAsPlainFile(const std::filesystem::path& path) {
+  static constexpr char kPlainBeginning[] = "SQLite format 3";
+  char beginning[sizeof kPlainBeginning] = {};
+  std::ifstream(path, std::ios::binary).read(beginning, sizeof beginning);
+  return std::memcmp(beginning, kPlainBeginning, sizeof beginning) == 0;
+}
+
+void execute(sqlite3* engine, const char* statements) {
+  check(engine, sqlite3_exec(engine, statements, nullptr, nullptr, nullptr));
+}
+
+// The key comes before everything else, the page size of the cipher right after it. The first read
+// of the tables' list tells whether the key fits; that is also when the engine derives it, once.
+void unlock(sqlite3* engine, const DataSource& source) {
+  if (source.password.empty()) {
+    execute(engine, "pragma page_size = 4096");
+  } else {
+    check(engine,
+          sqlite3_key(engine, source.password.data(), static_cast<int>(source.password.size())));
+    execute(engine, "pragma cipher_page_size = 4096");
+  }
+  execute(engine, "select count(*) from sqlite_master");
+}
+
+// What the cashier was shown as done survives a power cut: every commit is synced. The page cache
+// (in KiB) holds the indexes of a large shop. The log is copied into the data file by the engine
+// when it has grown to a thousand pages, or earlier by checkpoint().
+void configure(sqlite3* engine) {
+  execute(engine,
+          "pragma synchronous = full; pragma cache_size = -8192;"
+          "pragma wal_autocheckpoint = 1000");
+}
+
+void requireWritable(sqlite3* engine) {
+  if (sqlite3_db_readonly(engine, "main") == 1) {
+    throw StoreError(failureText(SQLITE_READONLY, ""));
+  }
+}
+
+}  // namespace
+
+void Connection::EngineCloser::operator()(sqlite3* engine) const {
+  sqlite3_close_v2(engine);
+}
+
+Connection::Connection(const DataSource& source, Mode mode) : source_(source) {
+  source_.path = mode == Mode::kCreate ? findIgnoringCase(source.path.string())
+                                       : existingDataFile(source.path);
+  if (mode == Mode::kCreate) makeEmptyFile(source_.path);
+  try {
+    openEngine();
+  } catch (const StoreError& error) {
+    engine_.reset();
+    if (mode == Mode::kCreate) unlink(source_.path.c_str());
+    throw StoreError("数据文件 " + source_.path.string() + " 打不开：" + error.what());
+  }
+  statements_ = std::make_unique<StatementCache>(engine_.get());
+}
+
+// One thread uses the connection, so the engine need not lock its own calls.
+void Connection::openEngine() {
+  if (!source_.password.empty() && beginsAsPlainFile(source_.path)) {
+    throw StoreError("这个数据文件没有密码，请在设置中去掉密码部分。");
+  }
+  sqlite3* opened = nullptr;
+  const int code = sqlite3_open_v2(source_.path.c_str(), &opened,
+                                   SQLITE_OPEN_READWRITE | SQLITE_OPEN_NOMUTEX, nullptr);
+  engine_.reset(opened);
+  check(opened, code);
+  sqlite3_extended_result_codes(opened, 1);
+  sqlite3_busy_timeout(opened, kBusyMilliseconds);
+  unlock(opened, source_);
+  requireWritable(opened);
+  configure(opened);
+}
+
+Connection::~Connection() = default;
+
+std::int64_t Connection::Execute(const std::string& statement) {
+  EngineStatement engineForm = translate(statement);
+  return runToEnd(engineForm.text, std::move(engineForm.values));
+}
+
+Rows Connection::Read(const std::string& statement) {
+  EngineStatement engineForm = translate(statement);
+  return Rows(prepared(engineForm.text, std::move(engineForm.values)));
+}
+
+Recordset Connection::Open(const std::string& statement) {
+  EngineStatement engineForm = translate(statement);
+  const std::shared_ptr<Statement> running =
+      prepared(engineForm.text, std::move(engineForm.values));
+  const Rows ended(running);
+  std::vector<std::vector<Value>> rows;
+  while (running->step()) {
+    std::vector<Value>& values = rows.emplace_back();
+    for (int index = 0; index < running->columnCount(); ++index) {
+      values.push_back(running->column(index));
+    }
+  }
+  std::vector<std::string> columns;
+  for (int index = 0; index < running->columnCount(); ++index) {
+    columns.emplace_back(running->columnName(index));
+  }
+  return Recordset(std::move(columns), std::move(rows));
+}
+
+std::int64_t Connection::runBound(const char* text, std::vector<Value> values) {
+  return runToEnd(text, std::move(values));
+}
+
+Rows Connection::queryBound(const char* text, std::vector<Value> values) {
+  return Rows(prepared(text, std::move(values)));
+}
+
+std::int64_t Connection::lastRowId() const {
+  return sqlite3_last_insert_rowid(engine_.get());
+}
+
+void Connection::runScript(const std::string& statements) {
+  requireTransaction();
+  execute(engine_.get(), statements.c_str());
+}
+
+void Connection::checkpoint() {
+  const int code = sqlite3_wal_checkpoint_v2(engine_.get(), nullptr, SQLITE_CHECKPOINT_PASSIVE,
+                                             nullptr, nullptr);
+  if ((code & 0xff) == SQLITE_BUSY || (code & 0xff) == SQLITE_LOCKED) return;  // the next one will
+  check(engine_.get(), code);
+}
+
+// On a full or failing disk the engine may take the whole transaction back by itself. What follows
+// inside it must not slip through as single commits.
+void Connection::requireTransaction() const {
+  if (transactionDepth_ > 0 && sqlite3_get_autocommit(engine_.get())) {
+    throw StoreError("前面的写入失败，这一步的数据已全部撤销，没有保存。");
+  }
+}
+
+std::shared_ptr<Statement> Connection::prepared(std::string_view text, std::vector<Value> values) {
+  requireTransaction();
+  std::shared_ptr<Statement> statement = statements_->take(text);
+  statement->bind(std::move(values));
+  return statement;
+}
+
+std::int64_t Connection::runToEnd(std::string_view text, std::vector<Value> values) {
+  const int changesBefore = sqlite3_total_changes(engine_.get());
+  const std::shared_ptr<Statement> running = prepared(text, std::move(values));
+  const Rows ended(running);
+  while (running->step()) {
+  }
+  // The engine's count is that of the last insert, update or delete, which another kind of
+  // statement leaves as it was.
+  return sqlite3_total_changes(engine_.get()) == changesBefore ? 0 : sqlite3_changes(engine_.get());
+}

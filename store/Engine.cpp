@@ -1,0 +1,44 @@
+#include "store/Engine.h"
+
+#include <array>
+
+#include "store/StoreError.h"
+
+namespace {
+
+struct Meaning {
+  int code;
+  const char* text;
+};
+
+constexpr std::array kMeanings = {
+    Meaning{SQLITE_BUSY, "数据文件正被另一个程序占用，请关闭那个程序或稍后再试。"},
+    Meaning{SQLITE_LOCKED, "数据文件正被另一个操作占用，请稍后再试。"},
+    Meaning{SQLITE_FULL, "磁盘已满，数据没有保存。请清理磁盘后再试。"},
+    Meaning{SQLITE_READONLY, "数据文件或它所在的文件夹不能写入，请检查权限。"},
+    Meaning{SQLITE_IOERR, "读写数据文件时出错，请检查磁盘。"},
+    Meaning{SQLITE_CORRUPT, "数据文件已损坏，请用备份恢复。"},
+    Meaning{SQLITE_NOTADB, "这不是数据文件，或者数据文件的密码不对。"},
+    Meaning{SQLITE_CANTOPEN, "数据文件或它所在的文件夹打不开，请检查权限。"},
+    Meaning{SQLITE_PERM, "没有读写数据文件的权限。"},
+    Meaning{SQLITE_NOMEM, "内存不足，数据没有保存。"},
+    Meaning{SQLITE_TOOBIG, "文字太长，数据文件存不下。"},
+};
+
+}  // namespace
+
+std::string failureText(int code, const char* detail) {
+  for (const Meaning& meaning : kMeanings) {
+    if (meaning.code == (code & 0xff)) {
+      return meaning.text + ("（错误 " + std::to_string(code) + "）");
+    }
+  }
+  const char* cause =
+      (code & 0xff) == SQLITE_CONSTRAINT ? "数据与已有的记录冲突：" : "数据语句有误：";
+  return cause + std::string(detail);
+}
+
+void check(sqlite3* engine, int code) {
+  if (code == SQLITE_OK || code == SQLITE_ROW || code == SQLITE_DONE) return;
+  throw StoreError(failureText(code, engine ? sqlite3_errmsg(engine) : sqlite3_errstr(code)));
+}

@@ -1,0 +1,174 @@
+#include <gmock/gmock.h>
+#include <sys/stat.h>
+
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <memory>
+
+#include "TemporaryFolder.h"
+#include "store/Connection.h"
+#include "store/DataFileLock.h"
+#include "store/Schema.h"
+#include "store/StoreError.h"
+
+using testing::HasSubstr;
+using testing::ThrowsMessage;
+
+namespace {
+
+std::string pragma(Connection& connection, const std::string& name) {
+  Rows rows = connection.query(("pragma " + name).c_str());
+  return rows.next() ? rows.text(name == "busy_timeout" ? "timeout" : name) : "";
+}
+
+unsigned permissions(const std::string& path) {
+  struct stat status {};
+  return stat(path.c_str(), &status) == 0 ? status.st_mode & 0777U : 0U;
+}
+
+std::string contents(const std::string& path) {
+  if (!std::filesystem::is_regular_file(path)) return "";
+  std::ifstream file(path, std::ios::binary);
+  return {std::istreambuf_iterator<char>(file), {}};
+}
+
+class OpeningTest : public testing::Test {
+ protected:
+  void write(const std::string& name, const std::string& bytes) {
+    std::ofstream(folder_.file(name), std::ios::binary) << bytes;
+  }
+  TemporaryFolder folder_;
+};
+
+TEST_F(OpeningTest, ReadsTheConnectionText) {
+  struct Case {
+    const char* text;
+    const char* path;
+    const char* password;
+  };
+  for (const Case& one : {Case{" C:\\data\\POS.mdb ", "C:\\data\\POS.mdb", ""},
+                          Case{"p.mdb;Jet OLEDB:Database password=kvrnex", "p.mdb", "kvrnex"},
+                          Case{"p.mdb;JET oledb:database PASSWORD= a;b=c", "p.mdb", " a;b=c"}}) {
+    const DataSource source = DataSource::parse(one.text);
+    EXPECT_EQ(source.path, one.path);
+    EXPECT_EQ(source.password, one.password) << one.text;
+  }
+}
+
+TEST_F(OpeningTest, ANewFileIsDurableEncryptedAndItsOwnersAlone) {
+  const DataSource source{folder_.file("pos.mdb"), kBuiltInPassword};
+  {
+    const auto made = createDataFile(source);
+    made->run("insert into stock values ('kept', 2)");
+    EXPECT_EQ(pragma(*made, "journal_mode"), "wal");
+    EXPECT_EQ(pragma(*made, "synchronous"), "2");
+    EXPECT_EQ(pragma(*made, "cipher_page_size"), "4096");
+    EXPECT_EQ(pragma(*made, "page_size"), "4096");
+    EXPECT_EQ(pragma(*made, "busy_timeout"), "2000");
+    for (const char* name : {"pos.mdb", "pos.mdb-wal", "pos.mdb-shm"}) {
+      EXPECT_EQ(permissions(folder_.file(name)), 0600U) << name;
+    }
+    EXPECT_NO_THROW(made->checkpoint());
+  }
+  EXPECT_EQ(contents(source.path).find("SQLite"), std::string::npos);
+  const auto opened = openDataFile({folder_.file("POS.MDB"), kBuiltInPassword});
+  EXPECT_EQ(pragma(*opened, "journal_mode"), "wal");
+  EXPECT_EQ(pragma(*opened, "synchronous"), "2");
+  EXPECT_EQ(opened->Open("select * from stock").count(), 1U);
+  EXPECT_THAT([&] { createDataFile(source); }, ThrowsMessage<StoreError>(HasSubstr("不会覆盖")));
+  EXPECT_EQ(opened->Open("select * from stock").count(), 1U);
+}
+
+TEST_F(OpeningTest, SaysWhyAFileCannotBeOpenedAndLeavesItAsItIs) {
+  write("empty.mdb", "");
+  write("text.mdb", "a letter to the bank");
+  write("noise.mdb", std::string(8192, '\x5a'));
+  std::filesystem::create_directory(folder_.file("folder.mdb"));
+  createDataFile({folder_.file("secret.mdb"), "right"});
+  createDataFile({folder_.file("plain.mdb"), ""});
+  Connection({folder_.file("foreign.mdb"), ""}, Connection::Mode::kCreate)
+      .runScript("create table customers (name); pragma user_version = 1");
+
+  struct Case {
+    const char* name;
+    const char* password;
+    const char* text;
+  };
+  for (const Case& one :
+       {Case{"nowhere.mdb", "", "找不到数据文件"}, Case{"nofolder/pos.mdb", "", "找不到数据文件"},
+        Case{"folder.mdb", "", "文件夹"}, Case{"empty.mdb", "", "不是本系统的数据文件"},
+        Case{"text.mdb", "", "不是数据文件"}, Case{"noise.mdb", "", "不是数据文件"},
+        Case{"noise.mdb", "right", "密码不对"}, Case{"secret.mdb", "", "密码不对"},
+        Case{"secret.mdb", "Right", "密码不对"}, Case{"plain.mdb", "right", "没有密码"},
+        Case{"foreign.mdb", "", "不是本系统的数据文件"}}) {
+    const std::string path = folder_.file(one.name);
+    const std::string before = contents(path);
+    EXPECT_THAT(
+        [&] {
+          openDataFile({path, one.password});
+        },
+        ThrowsMessage<StoreError>(testing::AllOf(HasSubstr(one.text), HasSubstr(path))));
+    EXPECT_EQ(contents(path), before) << one.name;
+  }
+}
+
+TEST_F(OpeningTest, SaysThatAnotherProgramHoldsTheFile) {
+  const DataSource source{folder_.file("pos.mdb"), ""};
+  createDataFile(source);
+  Connection other(source, Connection::Mode::kExisting);
+  other.runScript("pragma locking_mode = exclusive; begin immediate; commit");
+  EXPECT_THAT([&] { openDataFile(source); }, ThrowsMessage<StoreError>(HasSubstr("另一个程序")));
+}
+
+TEST_F(OpeningTest, BringsAnOlderFileUpToDateInOneTransactionAndRefusesANewerOne) {
+  const DataSource source{folder_.file("pos.mdb"), kBuiltInPassword};
+  createDataFile(source);
+  const std::string newest = std::to_string(schemaSteps().size());
+  {
+    Connection older(source, Connection::Mode::kExisting);
+    for (const char* table :
+         {"tmda", "spda", "SP_LB", "sell", "sellProducts", "member", "cardStored", "un_sell",
+          "operators", "operator_rights", "sys_param"}) {
+      older.runScript("drop table " + std::string(table));
+    }
+    older.runScript("pragma user_version = 0");
+  }
+  // The table that is still there makes the first step fail in its middle.
+  EXPECT_THROW(openDataFile(source), StoreError);
+  {
+    Connection older(source, Connection::Mode::kExisting);
+    EXPECT_EQ(older
+                  .Open("select * from sqlite_master where type = 'table' and name like 's%' and "
+                        "name not like 'sqlite%'")
+                  .count(),
+              1U)
+        << "a failed upgrade left some of its tables";
+    EXPECT_EQ(pragma(older, "user_version"), "0");
+    older.runScript("drop table stock");
+  }
+  {
+    const auto upgraded = openDataFile(source);
+    EXPECT_EQ(pragma(*upgraded, "user_version"), newest);
+    EXPECT_EQ(upgraded->Open("select * from sys_param").count(), 0U);
+    upgraded->runScript("pragma user_version = " + newest + "0");
+  }
+  EXPECT_THAT([&] { openDataFile(source); }, ThrowsMessage<StoreError>(HasSubstr("更新版本")));
+}
+
+TEST_F(OpeningTest, OneTillHoldsAFileWhileOthersMayRead) {
+  const DataSource source{folder_.file("pos.mdb"), ""};
+  EXPECT_THAT([&] { DataFileLock lock(source.path); },
+              ThrowsMessage<StoreError>(HasSubstr("找不到数据文件")));
+  createDataFile(source);
+  {
+    const DataFileLock till(source.path);
+    EXPECT_EQ(permissions(folder_.file("pos.mdb.lock")), 0600U);
+    EXPECT_THAT([&] { DataFileLock second(folder_.file("POS.mdb")); },
+                ThrowsMessage<StoreError>(HasSubstr("已经打开")));
+    EXPECT_NO_THROW(openDataFile(source));
+  }
+  EXPECT_NO_THROW(DataFileLock(source.path));
+}
+
+}  // namespace

@@ -1,0 +1,110 @@
+#include "store/Transaction.h"
+
+#include <gmock/gmock.h>
+
+#include <memory>
+
+#include "TemporaryFolder.h"
+#include "store/Connection.h"
+#include "store/StoreError.h"
+
+namespace {
+
+class TransactionTest : public testing::Test {
+ protected:
+  TransactionTest() { connection_ = createDataFile(source_); }
+
+  void put(const std::string& code) {
+    connection_->run("insert into stock (spbm, quantity) values (?, 1)", code);
+  }
+  static std::string codes(Connection& connection) {
+    std::string all;
+    Rows rows = connection.query("select spbm from stock order by spbm");
+    while (rows.next()) all += rows.text("spbm");
+    return all;
+  }
+
+  TemporaryFolder folder_;
+  DataSource source_{folder_.file("pos.mdb"), kBuiltInPassword};
+  std::unique_ptr<Connection> connection_;
+};
+
+TEST_F(TransactionTest, KeepsWhatWasCommittedAtEveryLevelAndNothingElse) {
+  {
+    Transaction outer(*connection_);
+    put("a");
+    {
+      Transaction inner(*connection_);
+      put("b");
+    }
+    {
+      Transaction inner(*connection_);
+      put("c");
+      inner.commit();
+    }
+    const auto reader = openDataFile(source_);
+    EXPECT_EQ(codes(*reader), "") << "an inner commit must not reach the disk";
+    outer.commit();
+    EXPECT_EQ(codes(*reader), "ac");
+  }
+  {
+    Transaction outer(*connection_);
+    Transaction inner(*connection_);
+    put("d");
+    inner.commit();
+  }
+  EXPECT_EQ(codes(*connection_), "ac");
+}
+
+TEST_F(TransactionTest, IsRefusedWithATextWhileAnotherProgramWrites) {
+  const auto other = openDataFile(source_);
+  {
+    Transaction writing(*other);
+    EXPECT_THAT([&] { Transaction refused(*connection_); },
+                testing::ThrowsMessage<StoreError>(testing::HasSubstr("另一个程序占用")));
+  }
+  Transaction afterwards(*connection_);
+  put("a");
+  afterwards.commit();
+  EXPECT_EQ(codes(*connection_), "a");
+}
+
+// A limit on the pages of the file stands for a full disk.
+TEST_F(TransactionTest, TakesEverythingBackOnAFullDiskAndStaysUsable) {
+  connection_->runScript("pragma max_page_count = 1");  // the engine takes it as "no more than now"
+  const std::string large(1'000'000, 'x');
+  {
+    Transaction outer(*connection_);
+    put("a");
+    {
+      Transaction inner(*connection_);
+      EXPECT_THAT([&] { put(large); },
+                  testing::ThrowsMessage<StoreError>(testing::HasSubstr("磁盘已满")));
+    }
+    try {
+      put("b");
+      outer.commit();
+    } catch (const StoreError&) {
+    }
+  }
+  const std::string kept = codes(*connection_);
+  EXPECT_TRUE(kept.empty() || kept == "ab") << "half a transaction: " << kept;
+  connection_->runScript("pragma max_page_count = 1000000");
+  Transaction afterwards(*connection_);
+  put("c");
+  afterwards.commit();
+  EXPECT_EQ(codes(*connection_), kept + "c");
+}
+
+TEST_F(TransactionTest, WhatTheEngineTookBackByItselfIsNotHalfKept) {
+  {
+    Transaction outer(*connection_);
+    put("a");
+    connection_->runScript("rollback");  // as the engine does on a failing disk
+    EXPECT_THROW(put("b"), StoreError) << "would be a commit of its own";
+    EXPECT_THROW(outer.commit(), StoreError);
+  }
+  EXPECT_EQ(codes(*connection_), "");
+}
+
+}  // namespace
