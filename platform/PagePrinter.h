@@ -4,6 +4,8 @@
 #include <string>
 #include <vector>
 
+#include "base/DateTime.h"
+
 /// A line of text at its place on the paper, in twips (1440 to the inch) from the top left corner.
 struct PlacedText {
   int x = 0;
@@ -11,10 +13,11 @@ struct PlacedText {
   std::string text;  ///< UTF-8
 };
 
-/// One print job: texts in print order, in one fixed-pitch font (a Chinese character is two columns).
+/// One print job: texts in print order, in one fixed-pitch font (a Chinese character is two
+/// columns).
 struct PageDocument {
-  std::string name;          ///< of the job, for the print queue and the PDF's file name
-  int paperWidthMm = 80;     ///< roll width; the length follows from the texts
+  std::string name;       ///< of the job, for the print queue and the PDF's file name
+  int paperWidthMm = 80;  ///< roll width; the length follows from the texts
   double fontPoints = 9;
   std::vector<PlacedText> texts;
 
@@ -25,14 +28,17 @@ struct PageDocument {
 /// The system's default printer, or a folder that gets one PDF per job.
 class PagePrinter {
  public:
-  /// An empty folder means the system's default printer.
-  explicit PagePrinter(std::filesystem::path pdfFolder = {});
+  /// An empty folder means the system's default printer. The clock dates the PDFs' file names.
+  explicit PagePrinter(std::filesystem::path pdfFolder = {}, Clock clock = localTime);
   virtual ~PagePrinter() = default;
 
-  /// Prints the job on paper as long as needed. The PDFs' file names sort in print order.
-  /// Throws PortError when there is no printer, or the folder or the job fails.
+  /// Prints the job on paper as long as needed: at most fontPoints large, and so that a full line
+  /// (40 columns on 80 mm, 32 on 58 mm) fits. A text that would leave the paper is set narrower.
+  /// The PDFs' file names sort in print order. Throws PortError when there is no printer, or the
+  /// folder or the job fails.
   virtual void print(const PageDocument& document);
 
  private:
   std::filesystem::path pdfFolder_;
+  Clock clock_;
 };

@@ -6,8 +6,8 @@
 #include "platform/ByteSink.h"
 
 /// A printer or drawer port reached as a file: a character device, FIFO, pseudo terminal or plain
-/// file (appended to; created when missing). Opened for each send and closed after it, so that the
-/// port is never held.
+/// file (appended to; created when missing, except in /dev). Opened for each send and closed after
+/// it, so that the port is never held.
 class PortFile : public ByteSink {
  public:
   /// `name` is what people call the port ("LPT1"), `path` what it stands for on this machine.

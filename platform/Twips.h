@@ -2,5 +2,9 @@
 
 /// Layout lengths are in twips: 1440 to the inch at 96 dots, so 15 to a pixel.
 constexpr int kTwipsPerPixel = 15;
-constexpr int pixels(int twips) { return twips / kTwipsPerPixel; }
-constexpr int twips(int pixelCount) { return pixelCount * kTwipsPerPixel; }
+constexpr int pixels(int twips) {
+  return twips / kTwipsPerPixel;
+}
+constexpr int twips(int pixelCount) {
+  return pixelCount * kTwipsPerPixel;
+}

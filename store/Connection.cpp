@@ -26,7 +26,7 @@ void makeEmptyFile(const std::filesystem::path& path) {
   const int file = open(path.c_str(), O_CREAT | O_EXCL | O_WRONLY | O_CLOEXEC, 0600);
   if (file < 0) {
     if (errno == EEXIST) throw StoreError("已经有这个文件，不会覆盖：" + path.string());
-    throw StoreError("不能建立数据文件 " + path.string() + "：" + std::strerror(errno));
+    throw StoreError("不能建立数据文件 " + path.string() + "：" + fileFault(errno));
   }
   close(file);
 }

@@ -5,7 +5,6 @@
 #include <unistd.h>
 
 #include <cerrno>
-#include <cstring>
 
 #include "store/DataFilePath.h"
 #include "store/StoreError.h"
@@ -22,7 +21,7 @@ DataFileLock::DataFileLock(const std::filesystem::path& dataFile) {
   if (cause == EWOULDBLOCK) {
     throw StoreError("收款程序已经打开，正在使用这个数据文件，不能同时打开第二个。");
   }
-  throw StoreError("不能锁定数据文件（" + path + "）：" + std::strerror(cause));
+  throw StoreError("不能锁定数据文件（" + path + "）：" + fileFault(cause));
 }
 
 DataFileLock::~DataFileLock() {

@@ -12,7 +12,7 @@ std::shared_ptr<Statement> StatementCache::take(std::string_view text) {
   }
   recent_.push_front(std::make_shared<Statement>(engine_, text));
   byText_.emplace(recent_.front()->text(), recent_.begin());
-  const std::shared_ptr<Statement> taken = recent_.front();
+  std::shared_ptr<Statement> taken = recent_.front();
   if (recent_.size() > kMostStatements) {
     byText_.erase(recent_.back()->text());
     recent_.pop_back();

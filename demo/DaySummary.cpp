@@ -1,0 +1,70 @@
+#include "demo/DaySummary.h"
+
+#include <fstream>
+#include <sstream>
+
+#include "base/NumberText.h"
+#include "store/Connection.h"
+#include "store/DataFile.h"
+
+namespace {
+
+std::map<std::string, double> stockOf(Connection& shop) {
+  std::map<std::string, double> stock;
+  Rows rows = shop.query("select spbm, quantity from stock");
+  while (rows.next()) stock[rows.text("spbm")] = rows.number("quantity").value_or(0);
+  return stock;
+}
+
+/// One line of text per settled bill; adds the amounts up.
+int listBills(Connection& shop, std::ostream& text, Currency& takings) {
+  int bills = 0;
+  Rows rows = shop.query("select * from sell where state = 1 order by id");
+  while (rows.next()) {
+    ++bills;
+    const Currency amount = rows.currency("amount").value_or(Currency());
+    takings += amount;
+    text << rows.text("sell_time") << "  流水号 " << rows.text("id") << "  "
+         << generalNumber(rows.number("quantity").value_or(0)) << " 件  应收 "
+         << twoDecimals(amount) << "  现金 " << twoDecimals(*rows.currency("cash")) << "  银行卡 "
+         << twoDecimals(*rows.currency("bank_card")) << "  储值卡 "
+         << twoDecimals(*rows.currency("card_pay")) << "  优惠 "
+         << twoDecimals(*rows.currency("favorable")) << "\n";
+  }
+  return bills;
+}
+
+}  // namespace
+
+DaySummary::DaySummary(const std::filesystem::path& dataFile)
+    : dataFile_(dataFile), stockBefore_(stockOf(*openDataFile({dataFile, kBuiltInPassword}))) {}
+
+bool DaySummary::write(const std::filesystem::path& file, int settledBills) const {
+  const auto shop = openDataFile({dataFile_, kBuiltInPassword});
+  std::ostringstream faults;
+  std::ofstream text(file);
+  text << "本日单据\n\n";
+  Currency takings;
+  const int bills = listBills(*shop, text, takings);
+  if (bills != settledBills) faults << "应有 " << settledBills << " 张单据\n";
+
+  Rows open = shop->query("select count(*) as n from sell where state <> 1");
+  if (open.next() && *open.whole("n") != 0) faults << "有未结束的单据\n";
+
+  std::map<std::string, double> expected = stockBefore_;
+  Rows sold = shop->query("select bm, sum(amount * ratio) as n from sellProducts group by bm");
+  while (sold.next()) {
+    double& stock = expected[sold.text("bm")];
+    stock = roundedQuantity(stock - sold.number("n").value_or(0));
+  }
+  const auto after = stockOf(*shop);
+  for (const auto& [code, quantity] : expected) {
+    const auto found = after.find(code);
+    const double now = found == after.end() ? 0 : found->second;
+    if (roundedQuantity(now) != quantity) faults << "库存不符：" << code << "\n";
+  }
+
+  text << "\n共 " << bills << " 张单据，应收合计 " << twoDecimals(takings) << " 元\n"
+       << (faults.str().empty() ? "账目与库存全部相符\n" : "不符之处：\n" + faults.str());
+  return faults.str().empty();
+}

@@ -1,0 +1,21 @@
+#pragma once
+
+#include <filesystem>
+#include <map>
+#include <string>
+
+/// The books before and after a day, and whether they agree with each other.
+class DaySummary {
+ public:
+  /// Notes the stock of every item before the day.
+  explicit DaySummary(const std::filesystem::path& dataFile);
+
+  /// Writes the day's bills, takings and stock as a text, and what does not agree. False when
+  /// something does not: a bill count other than `settledBills`, an open bill left behind, a line
+  /// sum, a stock figure.
+  bool write(const std::filesystem::path& file, int settledBills) const;
+
+ private:
+  std::filesystem::path dataFile_;
+  std::map<std::string, double> stockBefore_;
+};

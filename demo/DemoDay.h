@@ -1,0 +1,38 @@
+#pragma once
+
+#include <filesystem>
+
+#include "demo/DemoGoods.h"
+#include "demo/DisplayTube.h"
+
+class TillDriver;
+
+/// A day at the till of the demo shop, worked by keyboard: the morning with a line printer, the
+/// afternoon with the page printer. Leaves pictures, receipts and display texts in the out folder.
+class DemoDay {
+ public:
+  /// `program` is an installed program folder with a demo shop's data file; a copy of it in `out`
+  /// is worked on, so that every day starts alike.
+  DemoDay(const std::filesystem::path& program, const std::filesystem::path& out);
+
+  void morning();
+  void afternoon();
+  /// Receipts of the line printer and texts of the display, as people read them.
+  void writeTranscripts() const;
+
+  std::filesystem::path dataFile() const { return shop_ / "data" / "POS.mdb"; }
+  int settledBills() const { return settledBills_; }
+
+ private:
+  void setUpDevices(const char* receiptPort);
+  void logIn(TillDriver& till, const char* number, const char* password);
+  void basketOfEveryKind(TillDriver& till);
+  void shot(TillDriver& till, const char* name);
+
+  std::filesystem::path out_;
+  std::filesystem::path shop_;
+  DemoGoods goods_;
+  DisplayTube display_;
+  int shots_ = 0;
+  int settledBills_ = 0;
+};

@@ -1,0 +1,30 @@
+// Plays the demo day: demo_day <installed program folder> <out folder>
+#include <cstdio>
+#include <exception>
+#include <filesystem>
+
+#include "demo/DaySummary.h"
+#include "demo/DemoDay.h"
+
+int main(int argc, char** argv) {
+  if (argc != 3) {
+    std::fprintf(stderr, "usage: demo_day <installed program folder> <out folder>\n");
+    return 2;
+  }
+  try {
+    const std::filesystem::path out = std::filesystem::absolute(argv[2]);
+    DemoDay day(argv[1], out);
+    const DaySummary summary(day.dataFile());
+    day.morning();
+    day.afternoon();
+    day.writeTranscripts();
+    if (!summary.write(out / "summary.txt", day.settledBills())) {
+      std::fprintf(stderr, "the books of the demo day do not agree: see %s\n",
+                   (out / "summary.txt").c_str());
+      return 1;
+    }
+  } catch (const std::exception& failure) {
+    std::fprintf(stderr, "the demo day stopped: %s\n", failure.what());
+    return 1;
+  }
+}

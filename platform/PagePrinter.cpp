@@ -1,0 +1,158 @@
+#include "platform/PagePrinter.h"
+
+#include <QBuffer>
+#include <QFont>
+#include <QFontMetricsF>
+#include <QPageLayout>
+#include <QPainter>
+#include <QPdfWriter>
+#include <QPrinter>
+#include <QPrinterInfo>
+#include <QSaveFile>
+#include <algorithm>
+#include <cmath>
+#include <utility>
+
+#include "platform/PdfName.h"
+#include "platform/PortError.h"
+
+namespace {
+
+constexpr double kTwipsPerInch = 1440;
+constexpr double kTwipsPerPoint = 20;
+constexpr double kMmPerInch = 25.4;
+/// Above, left and right of the text, unless the printer itself leaves more.
+constexpr double kMarginMm = 2;
+/// Below the last line, so that it can be torn off.
+constexpr double kFeedMm = 5;
+
+double twipsOf(double mm) {
+  return mm / kMmPerInch * kTwipsPerInch;
+}
+double mmOf(double twips) {
+  return twips / kTwipsPerInch * kMmPerInch;
+}
+
+/// What a line printer on the same roll holds in a line.
+int columnsOn(int paperWidthMm) {
+  return paperWidthMm < 80 ? 32 : 40;
+}
+
+/// Sized in twips, not larger than the document wants and so that a full line fits.
+QFont fixedPitchFont(const PageDocument& document, double lineTwips) {
+  QFont font(QStringList{"Noto Sans Mono CJK SC", "WenQuanYi Zen Hei Mono", "SimSun", "NSimSun"});
+  font.setStyleHint(QFont::Monospace);
+  font.setFixedPitch(true);
+  font.setPixelSize(1000);
+  const QFontMetricsF metrics(font);
+  const double column =
+      std::max(metrics.horizontalAdvance("0"), metrics.horizontalAdvance("中") / 2) / 1000;
+  const double fitting = lineTwips / (columnsOn(document.paperWidthMm) * column);
+  font.setPixelSize(
+      static_cast<int>(std::floor(std::min(document.fontPoints * kTwipsPerPoint, fitting))));
+  return font;
+}
+
+double lengthMm(const PageDocument& document) {
+  double bottom = 0;
+  for (const PlacedText& text : document.texts) {
+    bottom = std::max(bottom, static_cast<double>(text.y) + document.lineHeight());
+  }
+  return mmOf(bottom) + kFeedMm;
+}
+
+void drawText(QPainter& painter, const PlacedText& placed, double lineTwips) {
+  const QString text = QString::fromStdString(placed.text);
+  const double room = lineTwips - placed.x;
+  const double width = QFontMetricsF(painter.font()).horizontalAdvance(text);
+  painter.save();
+  // Chinese characters stand in a square whose top is at y; their base line is at 0.88 of it.
+  painter.translate(placed.x, placed.y + 0.88 * painter.font().pixelSize());
+  // A name too long for the paper is set narrower: better small than cut off.
+  if (width > room && room > 0) painter.scale(room / width, 1);
+  painter.drawText(QPointF(0, 0), text);
+  painter.restore();
+}
+
+/// In twips.
+QMarginsF marginsOf(const QPagedPaintDevice& device) {
+  QPageLayout layout = device.pageLayout();
+  layout.setUnits(QPageLayout::Point);
+  const double own = twipsOf(kMarginMm);
+  return layout.minimumMargins() * kTwipsPerPoint | QMarginsF(own, own, own, own);
+}
+
+/// Draws the whole job on one page of the roll. False when the device refuses.
+bool draw(const PageDocument& document, QPagedPaintDevice& device) {
+  const QMarginsF margins = marginsOf(device);
+  const QSizeF paper(document.paperWidthMm, mmOf(margins.top()) + lengthMm(document));
+  const QPageSize size(paper, QPageSize::Millimeter, "roll", QPageSize::ExactMatch);
+  QPageLayout layout(size, QPageLayout::Portrait, QMarginsF());
+  layout.setMode(QPageLayout::FullPageMode);
+  device.setPageLayout(layout);
+
+  QPainter painter;
+  if (!painter.begin(&device)) return false;
+  painter.scale(device.logicalDpiX() / kTwipsPerInch, device.logicalDpiY() / kTwipsPerInch);
+  painter.translate(margins.left(), margins.top());
+  const double lineTwips = twipsOf(document.paperWidthMm) - margins.left() - margins.right();
+  painter.setFont(fixedPitchFont(document, lineTwips));
+  for (const PlacedText& text : document.texts) drawText(painter, text, lineTwips);
+  return painter.end();
+}
+
+QByteArray pdfOf(const PageDocument& document) {
+  QByteArray bytes;
+  QBuffer buffer(&bytes);
+  buffer.open(QIODevice::WriteOnly);
+  QPdfWriter writer(&buffer);
+  writer.setTitle(QString::fromStdString(document.name));
+  if (!draw(document, writer)) throw PortError("打印失败：不能生成 PDF");
+  return bytes;
+}
+
+/// Written under another name and renamed when whole, so that a program that watches the folder
+/// never takes half a job.
+void printToFolder(const PageDocument& document, const std::filesystem::path& folder,
+                   const DateTime& now) {
+  const QByteArray pdf = pdfOf(document);
+  const std::string failed = "打印文件夹 " + folder.string() + " 写不进：";
+  try {
+    const auto path = folder / nextPdfName(folder, now, document.name);
+    QSaveFile file(QString::fromStdString(path.string()));
+    const bool saved =
+        file.open(QIODevice::WriteOnly) && file.write(pdf) == pdf.size() && file.commit();
+    if (!saved) throw PortError(failed + file.errorString().toStdString());
+  } catch (const std::filesystem::filesystem_error& error) {
+    const bool missing = error.code() == std::errc::no_such_file_or_directory;
+    throw PortError(failed + (missing ? "没有这个文件夹" : error.code().message()));
+  }
+}
+
+void printOnDefaultPrinter(const PageDocument& document) {
+  const QPrinterInfo info = QPrinterInfo::defaultPrinter();
+  if (info.isNull()) throw PortError("没有默认打印机");
+  QPrinter printer(info, QPrinter::HighResolution);
+  printer.setDocName(QString::fromStdString(document.name));
+  if (!draw(document, printer) || printer.printerState() == QPrinter::Error) {
+    throw PortError("打印机 " + info.printerName().toStdString() + " 打印失败");
+  }
+}
+
+}  // namespace
+
+int PageDocument::lineHeight() const {
+  constexpr double kLeading = 1.2;
+  return static_cast<int>(std::lround(fontPoints * kTwipsPerPoint * kLeading));
+}
+
+PagePrinter::PagePrinter(std::filesystem::path pdfFolder, Clock clock)
+    : pdfFolder_(std::move(pdfFolder)), clock_(std::move(clock)) {}
+
+void PagePrinter::print(const PageDocument& document) {
+  if (pdfFolder_.empty()) {
+    printOnDefaultPrinter(document);
+  } else {
+    printToFolder(document, pdfFolder_, clock_());
+  }
+}

@@ -1,0 +1,107 @@
+#include "platform/IniFile.h"
+
+#include <gmock/gmock.h>
+
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+
+#include "TemporaryFolder.h"
+#include "base/Gbk.h"
+
+namespace {
+
+namespace fs = std::filesystem;
+
+class IniFileTest : public testing::Test {
+ protected:
+  void put(const std::string& bytes) { std::ofstream(path_, std::ios::binary) << bytes; }
+  std::string content() const {
+    std::ifstream file(path_, std::ios::binary);
+    return {std::istreambuf_iterator<char>(file), {}};
+  }
+
+  TemporaryFolder folder_;
+  std::string path_ = folder_.file("Config.ini");
+  IniFile ini_{folder_.file("config.INI")};
+};
+
+TEST_F(IniFileTest, ReadsAsWindowsDoes) {
+  put(gbk::encode("stray=1\r\n[Other]\r\nPPort=no\r\n"
+                  " [ pos ] ; here\r\n"
+                  ";PPort=comment\r\n"
+                  "  pport \t=  LPT1 \t\r\n"
+                  "PPort=second\r\n"
+                  "Empty=\r\nNoEquals\r\n"
+                  "Quoted=\"  two  \"\r\nSingle='x'\r\nTwice=\"\"y\"\"\r\nHalf=\"z\r\n"
+                  "Path=a=b;c\r\nMode=打印商品全称+折扣\r\n"
+                  "Nul=a") +
+      std::string(1, '\0') + "b\r\n[POS]\r\nLate=1\r\n" + gbk::encode("[朷]\r\nLast=9"));
+  const std::vector<std::pair<std::string, std::optional<std::string>>> cases = {
+      {"PPort", "LPT1"}, {"EMPTY", ""},
+      {"NoEquals", {}},  {"Quoted", "  two  "},
+      {"Single", "x"},   {"Twice", "\"y\""},
+      {"Half", "\"z"},   {"path", "a=b;c"},
+      {"Nul", "ab"},     {"Mode", "打印商品全称+折扣"},
+      {"Late", {}},      {"stray", {}},
+      {";PPort", {}},    {"absent", {}}};
+  for (const auto& [key, value] : cases) EXPECT_EQ(ini_.read("POS", key), value) << key;
+  EXPECT_EQ(ini_.read("朷", "Last"), "9");  // its second byte in GBK is "]"
+  EXPECT_EQ(ini_.read("none", "PPort"), std::nullopt);
+}
+
+TEST_F(IniFileTest, WritesNothingButTheValue) {
+  struct Case {
+    const char* before;
+    const char* value;
+    const char* after;
+  };
+  const Case cases[] = {
+      {"", "1", "[POS]\r\na=1\r\n"},
+      {"; hi", "1", "; hi\r\n[POS]\r\na=1\r\n"},
+      {"; hi\n[pos]\nA = 0 \nb=2\n\n[X]\nq= 1\n", "7", "; hi\n[pos]\nA = 7\nb=2\n\n[X]\nq= 1\n"},
+      {"[POS]\r\nb=2\r\n\r\n; of X\r\n[X]\r\n", "", "[POS]\r\nb=2\r\na=\r\n\r\n; of X\r\n[X]\r\n"},
+      {"[POS]\r\n;a=1\r\n[X]\r\na=3", "7", "[POS]\r\na=7\r\n;a=1\r\n[X]\r\na=3\r\n"},
+      {"[POS]\r\na=1\r\na=2", "", "[POS]\r\na=\r\na=2\r\n"},
+      {"[POS]\r\na=1\r\n", "x\r\n[Color]\nC1=9", "[POS]\r\na=x  [Color] C1=9\r\n"},
+      {"\xEF\xBB\xBF[POS]\na=打印\n", "不打印", "\xEF\xBB\xBF[POS]\na=不打印\n"},
+      {"\xFF\xFE\x01 junk\r\r\n\x80[", "1", "\xFF\xFE\x01 junk\r\r\n\x80[\r\n[POS]\r\na=1\r\n"}};
+  for (const Case& c : cases) {
+    put(c.before);
+    EXPECT_TRUE(ini_.write("POS", "a", c.value));
+    EXPECT_EQ(content(), c.after) << c.before;
+  }
+}
+
+TEST_F(IniFileTest, EveryValueReadsBackTheSame) {
+  put("");
+  for (const std::string value : {"  two  ", "\"q\"", "'q'", "\"", "''", "\"half",
+                                  "%n;[x]=", "直接打印1联", "a 'b' c", " ", "", "-88"}) {
+    EXPECT_TRUE(ini_.write("Q", "0QK", value));
+    EXPECT_EQ(ini_.read("q", "0qk"), value);
+  }
+  EXPECT_TRUE(ini_.write("POS", "printAmount", "打印"));
+  EXPECT_THAT(content(), testing::HasSubstr("\xB4\xF2\xD3\xA1"));  // GBK
+}
+
+TEST_F(IniFileTest, SurvivesWhatIsNoWritableFile) {
+  EXPECT_EQ(ini_.read("POS", "PPort"), std::nullopt);
+  EXPECT_FALSE(IniFile(folder_.file("no/such/Config.ini")).write("POS", "a", "1"));
+
+  put("[POS]\r\na=1\r\n");
+  fs::permissions(path_, fs::perms::owner_read);
+  EXPECT_FALSE(ini_.write("POS", "a", "2"));
+  EXPECT_EQ(ini_.read("POS", "a"), "1");
+  fs::permissions(path_, fs::perms::owner_all | fs::perms::group_read);
+  EXPECT_TRUE(ini_.write("POS", "a", "2"));
+  EXPECT_EQ(fs::status(path_).permissions(), fs::perms::owner_all | fs::perms::group_read);
+
+  fs::remove(path_);
+  fs::create_directory(path_);
+  EXPECT_EQ(ini_.read("POS", "a"), std::nullopt);
+  EXPECT_FALSE(ini_.write("POS", "a", "1"));
+  EXPECT_EQ(std::distance(fs::directory_iterator(folder_.path()), {}), 1)
+      << "a temporary file stayed";
+}
+
+}  // namespace
