@@ -9,19 +9,22 @@
 #include "saleslib/ClsSell.h"
 
 class Connection;
+class Rows;
 
 /// Bills of one day, or still open, of one operator.
 class ClsDayStat {
  public:
   using Sells_t = std::vector<std::shared_ptr<ClsSell>>;
 
-  /// Selects the operator's settled bills of that day, in the order of their numbers, without lines.
-  /// The third argument is unused and 0.
+  /// Selects the operator's settled bills of that day, in the order of their numbers, without
+  /// lines. The third argument is unused and 0.
   void DayQuery(Connection& connection, const Date& day, std::int64_t unused,
                 std::int32_t operatorId);
-  /// The latest settled bill of the shop, whoever made it; none when there is none.
+  /// The settled bill of the shop with the latest time (the highest number among equals), whoever
+  /// made it, without lines; none when there is none.
   std::shared_ptr<ClsSell> LastSell(Connection& connection) const;
-  /// Selects the operator's bills that are still open, with their lines loaded.
+  /// Selects the operator's bills that are still open, in the order of their numbers, with their
+  /// lines loaded.
   void OpenQuery(Connection& connection, std::int32_t operatorId);
 
   const Sells_t& Sells() const;
@@ -29,5 +32,7 @@ class ClsDayStat {
   Currency SumMoney() const;
 
  private:
+  void select(Connection& connection, Rows rows);
+
   Sells_t sells_;
 };

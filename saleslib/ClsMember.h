@@ -6,6 +6,7 @@
 
 #include "base/Currency.h"
 #include "base/DateTime.h"
+#include "store/WriteMarks.h"
 
 class Connection;
 class Row;
@@ -20,23 +21,26 @@ class ClsMember {
   static ClsMember fromRow(Connection& connection, const Row& row);
 
   /// Inserts a new member or updates a loaded one. False on a refusal or a failed store, the reason
-  /// in ErrText (no number, no name, number taken). A loaded member's balance and card password are
-  /// only written when they were set, and the rest as loaded or set since.
+  /// in ErrText: no number or name, number taken, a text of more than 100 characters or with
+  /// control characters, a negative age, balance or discount. A loaded member's personal data are
+  /// only judged when they were set: points and purchases of an old record with flaws can still be
+  /// kept. A loaded member's balance, card password and birthday are only written when they were
+  /// set.
   [[nodiscard]] bool Save();
   /// As Save, for a loaded member only.
   [[nodiscard]] bool Update();
 
   std::int32_t Id() const;
   const std::string& Bh() const;  ///< member and card number
-  void setBh(std::string bh);
+  void setBh(std::string bh);     ///< kept without blanks around
   const std::string& Name() const;
-  void setName(std::string name);
+  void setName(std::string name);  ///< kept without blanks around
   const std::string& Sex() const;  ///< "男" or "女"
   void setSex(std::string sex);
   std::int16_t Age() const;
   void setAge(std::int16_t age);
   const std::string& Phone() const;
-  void setPhone(std::string phone);
+  void setPhone(std::string phone);  ///< kept without blanks around
   const std::string& ErrText() const;
   std::int16_t Points() const;
   void setPoints(std::int16_t points);
@@ -56,18 +60,36 @@ class ClsMember {
   void setPassword(std::string password);
 
  private:
-  bool store(bool insert);
+  /// What the program sets but never reads: written once, again only when that write was taken
+  /// back.
+  template <class T>
+  struct WriteOnly {
+    std::optional<T> value;
+    WriteMark written = kNotWritten;
+
+    void set(T newValue);
+    std::optional<T> unwritten(const Connection& connection) const;
+  };
+
+  std::string refusal() const;
+  std::string refusedText() const;
+  void insert();
+  void update();
+  template <class T>
+  void edit(T& member, T value);
 
   Connection* connection_ = nullptr;
   Clock clock_ = localTime;
   std::int32_t id_ = 0;
+  WriteMark inserted_ = kNotWritten;
+  bool edited_ = false;
   std::string bh_, name_, sex_ = "男", phone_, other_, address_, errText_;
   std::int16_t age_ = 0, points_ = 0;
   DateTime joined_;
   bool enabled_ = true;
   Currency totalSpent_;
   std::optional<double> discount_;
-  std::optional<Date> birthday_;
-  std::optional<Currency> newBalance_;
-  std::optional<std::string> newPassword_;
+  WriteOnly<DateTime> birthday_;
+  WriteOnly<Currency> balance_;
+  WriteOnly<std::string> password_;
 };

@@ -15,8 +15,8 @@ class ClsMemberSvc {
   void Conn(Connection& connection);
   /// Takes note of a member that was just stored. Nothing is kept here: the next look-up reads it.
   void AddMember(const ClsMember& member);
-  /// The member with that card number; else the member with that telephone number when there is just
-  /// one; else none. An empty number finds nobody.
+  /// The member with that card number; else the member with that telephone number when there is
+  /// just one; else none. An empty number finds nobody.
   std::shared_ptr<ClsMember> GetMember(std::string_view number) const;
   /// All members with that telephone number, in the order of their card numbers.
   std::vector<std::shared_ptr<ClsMember>> GetMembersByPhone(std::string_view phone) const;

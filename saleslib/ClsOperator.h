@@ -13,11 +13,13 @@ class Connection;
 class ClsOperator {
  public:
   /// Binds and loads the operator with that number. An unknown number leaves an operator with that
-  /// Id, no name and no rights; Found() tells.
+  /// Id, no name and no rights, whom Save adds; Found() tells.
   void Init(Connection& connection, std::int16_t id);
   bool Found() const;
 
-  /// Stores the record, a new password included. Throws StoreError.
+  /// Stores the record in one transaction, a new password and new rights included. A new operator
+  /// has been given a password (ensure). Throws StoreError, also when the operator was removed
+  /// meanwhile.
   void Save();
 
   /// The identifier printed on receipts after "收银员：".
@@ -29,9 +31,14 @@ class ClsOperator {
   void setName(std::string name);
   std::int16_t Id() const;
   const ClsRights& Rights() const;
+  void setRights(ClsRights rights);
   void setOnline(std::int16_t online);
 
  private:
+  void insert();
+  void update();
+  void storeRights();
+
   Connection* connection_ = nullptr;
   bool found_ = false;
   std::int16_t id_ = 0;
@@ -40,4 +47,5 @@ class ClsOperator {
   std::int16_t online_ = 0;
   std::optional<std::string> newPasswordHash_;
   ClsRights rights_;
+  bool newRights_ = false;
 };

@@ -7,12 +7,14 @@
 /// The right to sell, and with it to open the till's screens.
 inline constexpr const char* kRightSell = "sell";
 
-/// One operator's rights, by key.
+/// One operator's rights, by key. Keys are compared without regard to ASCII case.
 class ClsRights {
  public:
   ClsRights() = default;
-  explicit ClsRights(std::set<std::string> keys);
+  explicit ClsRights(const std::set<std::string>& keys);
   [[nodiscard]] bool HasRight(std::string_view key) const;
+  /// All keys, in lower case.
+  const std::set<std::string>& Keys() const;
 
  private:
   std::set<std::string> keys_;

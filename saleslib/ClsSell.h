@@ -11,6 +11,7 @@
 
 class Connection;
 class Row;
+class Rows;
 
 /// One bill. Amount and Quantity are sums over the committed lines until the settlement writes the
 /// rounded amount due.
@@ -27,17 +28,21 @@ class ClsSell {
   /// From a row of sell, without its lines.
   static std::shared_ptr<ClsSell> fromRow(Connection& connection, const Row& row);
 
-  /// Stores the bill with its lines in one transaction, after checking that the lines add up to its
-  /// quantity and, before the shop's rounding, to its amount (ensure). False when the store failed;
-  /// ErrText has the reason and nothing was written.
+  /// Stores the bill's row and those of its lines that have something to write, in one transaction,
+  /// after checking that the lines add up to its quantity and, before the shop's rounding, to its
+  /// amount (ensure; a bill that was opened by its number needs LoadLines first). False when the
+  /// store failed; ErrText has the reason, nothing was written, and a second Save writes it all.
   [[nodiscard]] bool Save();
   /// Deletes the bill with its lines, in one transaction; the caller has put the stock back.
   void Void();
-  /// Loads the lines of a stored bill into Items, and checks that they add up to the bill.
+  /// Loads the lines of a stored bill into Items, in entry order. An open bill's quantity and
+  /// amount are worked out from them; a settled bill whose lines do not add up to it throws
+  /// StoreError, naming the bill: the data file is damaged.
   void LoadLines();
-  /// Adds a committed line: amount and quantity grow by the line's.
+  /// Adds a committed line of this bill (ensure): amount and quantity grow by the line's.
   void AddItem(std::shared_ptr<ClsSellItem> line);
-  /// Works quantity and amount out again from the lines, after one of them was lowered.
+  /// Works quantity and amount out again from the lines, after one of them was changed. Save wants
+  /// that (see there).
   void Recalculate();
 
   std::int32_t BillNo() const;
@@ -71,6 +76,9 @@ class ClsSell {
   Currency Change() const;
 
  private:
+  void start(std::int32_t operatorId, const DateTime& now);
+  bool load(Rows rows);
+  void read(const Row& row);
   void store();
 
   Connection* connection_ = nullptr;

@@ -5,6 +5,7 @@
 
 #include "base/Currency.h"
 #include "base/DateTime.h"
+#include "store/WriteMarks.h"
 
 class Connection;
 class Row;
@@ -17,10 +18,14 @@ class ClsSellItem {
   /// From a row of sellProducts.
   static ClsSellItem fromRow(Connection& connection, const Row& row);
 
-  /// Inserts the line's row the first time, updates it afterwards. Throws StoreError. Inside a
-  /// transaction that is taken back the line still counts as new (see Id).
+  /// Inserts the line's row the first time, updates it afterwards. Throws StoreError, also when the
+  /// row was deleted. A row that was inserted in a transaction that is taken back counts as new
+  /// again.
   void Save();
-  /// Deletes the line's row.
+  /// Whether Save has anything to write: the line is new, was changed since its last Save, or that
+  /// Save was taken back with its transaction.
+  [[nodiscard]] bool Changed() const;
+  /// Deletes the line's row, if it has one; the line is not saved again.
   void Delete();
 
   Currency Price() const;
@@ -55,10 +60,17 @@ class ClsSellItem {
   double StockQuantity() const;
 
  private:
+  void insert();
+  void update();
+  template <class T>
+  void change(T& member, T value);
+
   Connection* connection_ = nullptr;
   Clock clock_ = localTime;
   std::int32_t billNo_ = 0;
   std::int32_t id_ = 0;
+  WriteMark inserted_ = kNotWritten;
+  WriteMark saved_ = kNotWritten;
   Currency price_, cost_;
   double quantity_ = 1;
   ::Discount discount_;

@@ -10,29 +10,30 @@
 
 class Connection;
 
-/// The shop's parameters, read from the data file when bound; each has a sound value when none is set.
+/// The shop's parameters, read from the data file when bound and kept in memory; each has a sound
+/// value when none is set.
 class ClsSysParam {
  public:
   /// Binds and reads all parameters. A stored value that is not of its parameter's kind counts as
   /// not set. Throws StoreError.
   void Conn(Connection& connection);
 
-  std::string ShopName() const;        ///< title line of receipts; empty
-  std::string ReceiptText1() const;    ///< ReceiptText1 ... 6: free texts on receipts; empty
+  std::string ShopName() const;      ///< title line of receipts; empty
+  std::string ReceiptText1() const;  ///< ReceiptText1 ... 6: free texts on receipts; empty
   std::string ReceiptText2() const;
   std::string ReceiptText3() const;
   std::string ReceiptText4() const;
   std::string ReceiptText5() const;
   std::string ReceiptText6() const;
-  std::int16_t StockRule() const;      ///< 0: stock may go negative (default); 1: it may not
-  bool RoundJiao() const;              ///< amounts due rounded to 0.1; off
-  bool RoundYuan() const;              ///< amounts due rounded to whole yuan; off
-  std::int16_t PointUnit() const;      ///< yuan per member point; 10
-  double GeneralRate() const;          ///< factor for goods without a discount of their own; 1
-  Currency VipRate() const;            ///< discount factor of the card class 贵宾卡; 1
-  Currency SilverRate() const;         ///< of 银卡; 1
-  Currency GoldRate() const;           ///< of 金卡; 1
-  bool BackupOnExit() const;           ///< off
+  std::int16_t StockRule() const;  ///< 0: stock may go negative (default); 1: it may not
+  bool RoundJiao() const;          ///< amounts due rounded to 0.1; off
+  bool RoundYuan() const;          ///< amounts due rounded to whole yuan; off
+  std::int16_t PointUnit() const;  ///< yuan per member point; 10; 0 gives no points
+  double GeneralRate() const;      ///< factor for goods without a discount of their own; 1
+  Currency VipRate() const;        ///< discount factor of the card class 贵宾卡; 1
+  Currency SilverRate() const;     ///< of 银卡; 1
+  Currency GoldRate() const;       ///< of 金卡; 1
+  bool BackupOnExit() const;       ///< off
 
   /// A parameter as the owner's tool lists it.
   struct Parameter {
@@ -42,10 +43,18 @@ class ClsSysParam {
   };
   /// All parameters in a fixed order.
   std::vector<Parameter> list() const;
-  /// Stores one parameter. Returns an empty text, or the reason why not (unknown name, wrong kind).
+  /// Stores one parameter; its name counts without regard to case. A switch is 0, 1, true, false,
+  /// 是 or 否; a rate is more than 0 and at most 10; a text is one line of at most 200 characters.
+  /// Returns an empty text, or the reason why not (unknown name, wrong kind). Throws StoreError.
   [[nodiscard]] std::string set(std::string_view name, std::string_view value);
 
  private:
   Connection* connection_ = nullptr;
+  /// What is set, by name, in the form that Kind's reader gave it.
   std::map<std::string, std::string, std::less<>> values_;
+
+  std::string value(std::string_view name) const;
+  std::int16_t whole(std::string_view name) const;
+  bool isOn(std::string_view name) const;
+  Currency rate(std::string_view name) const;
 };

@@ -13,7 +13,8 @@ class ClsUnSell {
   /// Binds and starts a return against that bill; the third argument is unused and 0.
   void Init(Connection& connection, std::int32_t billNo, int unused = 0, Clock clock = localTime);
   /// Stores the return, in one transaction. UnQty is limited to what the line still holds; read it
-  /// back. Throws StoreError; ensure() guards a line that is not of this bill.
+  /// back. When that is nothing, nothing is stored, and UnQty and UnMoney read 0. Lowering the line
+  /// is the caller's. Throws StoreError; ensure() guards a line that is not of this bill.
   void Save();
 
   double UnQty() const;
@@ -27,6 +28,8 @@ class ClsUnSell {
   void setDiscount(::Discount discount);
 
  private:
+  double heldByLine() const;
+
   Connection* connection_ = nullptr;
   Clock clock_ = localTime;
   std::int32_t billNo_ = 0, itemId_ = 0;

@@ -10,6 +10,7 @@
 #include "store/Recordset.h"
 #include "store/Rows.h"
 #include "store/Value.h"
+#include "store/WriteMarks.h"
 
 class Statement;
 class StatementCache;
@@ -53,6 +54,12 @@ class Connection {
   /// The row key that the last insert gave.
   std::int64_t lastRowId() const;
 
+  /// The mark of what has just been written.
+  WriteMark writeMark() { return marks_.next(); }
+  /// Whether what was written before that mark has not been taken back since. True for kFromFile,
+  /// false for kNotWritten.
+  bool stands(WriteMark mark) const { return marks_.stands(mark); }
+
   /// Several statements of engine text at once, for making tables; nothing is bound or cached.
   void runScript(const std::string& statements);
   /// Copies unfinished log pages into the data file, as far as no reader is in the way, without
@@ -77,4 +84,5 @@ class Connection {
   std::unique_ptr<sqlite3, EngineCloser> engine_;
   std::unique_ptr<StatementCache> statements_;
   int transactionDepth_ = 0;
+  WriteMarks marks_;
 };

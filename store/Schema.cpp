@@ -31,6 +31,7 @@ create table tmda (
   splbmc  text collate nocase
 );
 create unique index tmda_key on tmda (sptm, spbm);
+create index tmda_item on tmda (spbm);                  -- ClsStock: the name of refused goods
 
 -- Goods master, one row per item code.
 create table spda (
@@ -72,8 +73,9 @@ create table sell (
   salesman     integer not null default 0,
   member_id    integer not null default 0
 );
-create index sell_open on sell (operator_id, state);    -- ClsDayStat: open bills of an operator
-create index sell_time on sell (sell_time);             -- ClsDayStat: bills of a day
+-- ClsDayStat: an operator's bills of a day, and the open ones
+create index sell_operator on sell (operator_id, state, sell_time);
+create index sell_time on sell (sell_time);             -- ClsDayStat: the latest bill
 create index sell_member on sell (member_id, id);       -- ClsSell: a member's latest bill
 
 -- Bill lines. The columns from entry_code on are the library's own.

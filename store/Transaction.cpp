@@ -17,7 +17,9 @@ std::string savepoint(const char* command, int depth) {
 // The outermost one takes the write lock at once: a transaction that reads first and is refused the
 // lock later could only be repeated as a whole.
 Transaction::Transaction(Connection& connection)
-    : connection_(connection), depth_(connection.transactionDepth_ + 1) {
+    : connection_(connection),
+      depth_(connection.transactionDepth_ + 1),
+      begin_(connection.writeMark()) {
   connection_.run(depth_ == kOutermost ? "begin immediate"
                                        : savepoint("savepoint", depth_).c_str());
   connection_.transactionDepth_ = depth_;
@@ -46,6 +48,7 @@ void Transaction::takeBack() noexcept {
   ensure(connection_.transactionDepth_ == depth_, "inner transactions end before outer ones");
   open_ = false;
   connection_.transactionDepth_ = depth_ - 1;
+  connection_.marks_.takeBackFrom(begin_);
   sqlite3* engine = connection_.engine_.get();
   if (sqlite3_get_autocommit(engine)) return;
   const std::string command =

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "store/WriteMarks.h"
+
 class Connection;
 
 /// What is written between its making and commit() is durable together or not at all. The end of
@@ -22,5 +24,6 @@ class Transaction {
 
   Connection& connection_;
   int depth_;
+  WriteMark begin_;
   bool open_ = true;
 };

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <variant>
 
@@ -22,3 +23,8 @@ Value toValue(const char* text);
 Value toValue(Currency money);
 Value toValue(Discount factor);
 Value toValue(const DateTime& time);
+/// Nothing is Null.
+template <class T>
+Value toValue(const std::optional<T>& value) {
+  return value ? toValue(*value) : Value();
+}

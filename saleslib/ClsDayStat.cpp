@@ -1,0 +1,48 @@
+#include "saleslib/ClsDayStat.h"
+
+#include "base/NumberText.h"
+#include "store/Connection.h"
+
+void ClsDayStat::DayQuery(Connection& connection, const Date& day, std::int64_t,
+                          std::int32_t operatorId) {
+  select(connection, connection.query("select * from sell where operator_id = ? and state = 1"
+                                      " and sell_time >= ? and sell_time < ? order by id",
+                                      operatorId, DateTime{day}, DateTime{plusDays(day, 1)}));
+}
+
+// Walked backwards from the latest time; only a few open bills are stepped over. Left alone, the engine
+// would sort all bills there are.
+std::shared_ptr<ClsSell> ClsDayStat::LastSell(Connection& connection) const {
+  Rows rows = connection.query(
+      "select * from sell indexed by sell_time where state = 1"
+      " order by sell_time desc, id desc limit 1");
+  return rows.next() ? ClsSell::fromRow(connection, rows) : nullptr;
+}
+
+void ClsDayStat::OpenQuery(Connection& connection, std::int32_t operatorId) {
+  select(connection,
+         connection.query("select * from sell where operator_id = ? and state = 0 order by id",
+                          operatorId));
+  for (const auto& bill : sells_) bill->LoadLines();
+}
+
+void ClsDayStat::select(Connection& connection, Rows rows) {
+  sells_.clear();
+  while (rows.next()) sells_.push_back(ClsSell::fromRow(connection, rows));
+}
+
+const ClsDayStat::Sells_t& ClsDayStat::Sells() const {
+  return sells_;
+}
+
+double ClsDayStat::SumQuantity() const {
+  double sum = 0;
+  for (const auto& bill : sells_) sum = roundedQuantity(sum + bill->Quantity());
+  return sum;
+}
+
+Currency ClsDayStat::SumMoney() const {
+  Currency sum;
+  for (const auto& bill : sells_) sum += bill->Amount();
+  return sum;
+}

@@ -1,0 +1,55 @@
+#include "saleslib/ClsLogin.h"
+
+#include <charconv>
+#include <cstdint>
+#include <optional>
+
+#include "base/Failure.h"
+#include "saleslib/ClsOperator.h"
+#include "saleslib/PasswordHash.h"
+#include "store/Connection.h"
+
+namespace {
+
+/// Digits only: a blank or a sign more is another number.
+std::optional<std::int16_t> operatorNumber(std::string_view text) {
+  std::int16_t number = 0;
+  const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
+  if (error != std::errc() || end != text.data() + text.size()) return std::nullopt;
+  return number;
+}
+
+std::optional<std::string> storedHash(Connection& connection, std::int16_t number) {
+  Rows rows = connection.query("select password from operators where id = ?", number);
+  if (!rows.next()) return std::nullopt;
+  return rows.text("password");
+}
+
+}  // namespace
+
+void ClsLogin::Conn(Connection& connection) {
+  connection_ = &connection;
+}
+
+bool ClsLogin::Check(std::string_view number, std::string_view password) {
+  ensure(connection_ != nullptr, "ClsLogin is bound before it is used");
+  operator_.reset();
+  errText_.clear();
+  const std::optional<std::int16_t> id = operatorNumber(number);
+  const std::optional<std::string> hash = id ? storedHash(*connection_, *id) : std::nullopt;
+  const bool matches = passwordMatches(hash.value_or(nobodysHash()), password);
+  if (!hash || !matches) {
+    errText_ = "用户编号或密码不正确！";
+    return false;
+  }
+  operator_ = std::make_shared<ClsOperator>();
+  operator_->Init(*connection_, *id);
+  return true;
+}
+
+std::shared_ptr<ClsOperator> ClsLogin::Operator() const {
+  return operator_;
+}
+const std::string& ClsLogin::ErrText() const {
+  return errText_;
+}

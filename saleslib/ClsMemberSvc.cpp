@@ -1,0 +1,41 @@
+#include "saleslib/ClsMemberSvc.h"
+
+#include <string>
+
+#include "base/Failure.h"
+#include "store/Connection.h"
+
+void ClsMemberSvc::Conn(Connection& connection) {
+  connection_ = &connection;
+}
+
+void ClsMemberSvc::AddMember(const ClsMember&) {}
+
+std::shared_ptr<ClsMember> ClsMemberSvc::GetMember(std::string_view number) const {
+  ensure(connection_ != nullptr, "ClsMemberSvc is bound before it is used");
+  if (number.empty()) return nullptr;
+  Rows rows = connection_->query("select * from member where bh = ?", std::string(number));
+  if (rows.next()) return std::make_shared<ClsMember>(ClsMember::fromRow(*connection_, rows));
+  const auto withPhone = GetMembersByPhone(number);
+  return withPhone.size() == 1 ? withPhone.front() : nullptr;
+}
+
+std::vector<std::shared_ptr<ClsMember>> ClsMemberSvc::GetMembersByPhone(
+    std::string_view phone) const {
+  ensure(connection_ != nullptr, "ClsMemberSvc is bound before it is used");
+  std::vector<std::shared_ptr<ClsMember>> members;
+  if (phone.empty()) return members;
+  Rows rows =
+      connection_->query("select * from member where phone = ? order by bh", std::string(phone));
+  while (rows.next()) {
+    members.push_back(std::make_shared<ClsMember>(ClsMember::fromRow(*connection_, rows)));
+  }
+  return members;
+}
+
+std::shared_ptr<ClsMember> ClsMemberSvc::GetMemberById(std::int32_t id) const {
+  ensure(connection_ != nullptr, "ClsMemberSvc is bound before it is used");
+  Rows rows = connection_->query("select * from member where id = ?", id);
+  if (!rows.next()) return nullptr;
+  return std::make_shared<ClsMember>(ClsMember::fromRow(*connection_, rows));
+}

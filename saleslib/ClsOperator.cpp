@@ -1,0 +1,102 @@
+#include "saleslib/ClsOperator.h"
+
+#include <utility>
+
+#include "base/Failure.h"
+#include "saleslib/PasswordHash.h"
+#include "store/Connection.h"
+#include "store/StoreError.h"
+#include "store/Transaction.h"
+
+namespace {
+
+ClsRights storedRights(Connection& connection, std::int16_t id) {
+  std::set<std::string> keys;
+  Rows rows = connection.query("select right_key from operator_rights where operator_id = ?", id);
+  while (rows.next()) keys.insert(rows.text("right_key"));
+  return ClsRights(keys);
+}
+
+}  // namespace
+
+void ClsOperator::Init(Connection& connection, std::int16_t id) {
+  *this = ClsOperator();
+  connection_ = &connection;
+  id_ = id;
+  Rows rows = connection.query("select name, code, online from operators where id = ?", id);
+  found_ = rows.next();
+  if (!found_) return;
+  name_ = rows.text("name");
+  code_ = rows.text("code");
+  online_ = static_cast<std::int16_t>(rows.whole("online").value_or(0));
+  rights_ = storedRights(connection, id);
+}
+
+bool ClsOperator::Found() const {
+  return found_;
+}
+
+void ClsOperator::Save() {
+  ensure(connection_ != nullptr, "an operator is bound before it is stored");
+  Transaction transaction(*connection_);
+  if (found_) {
+    update();
+  } else {
+    insert();
+  }
+  if (newRights_) storeRights();
+  transaction.commit();
+  found_ = true;
+}
+
+void ClsOperator::insert() {
+  ensure(newPasswordHash_.has_value(), "a new operator has a password");
+  connection_->run(
+      "insert into operators (id, name, code, password, online) values (?, ?, ?, ?, ?)", id_, name_,
+      code_, *newPasswordHash_, online_);
+}
+
+void ClsOperator::update() {
+  const std::int64_t changed = connection_->run(
+      "update operators set name = ?, code = ?, online = ?, password = coalesce(?, password)"
+      " where id = ?",
+      name_, code_, online_, newPasswordHash_, id_);
+  if (changed == 0) throw StoreError("操作员 " + std::to_string(id_) + " 已被删除，没有保存！");
+}
+
+void ClsOperator::storeRights() {
+  connection_->run("delete from operator_rights where operator_id = ?", id_);
+  for (const std::string& key : rights_.Keys()) {
+    connection_->run("insert into operator_rights (operator_id, right_key) values (?, ?)", id_,
+                     key);
+  }
+}
+
+const std::string& ClsOperator::Code() const {
+  return code_;
+}
+void ClsOperator::setCode(std::string code) {
+  code_ = std::move(code);
+}
+void ClsOperator::setPassword(std::string_view password) {
+  newPasswordHash_ = passwordHash(password);
+}
+const std::string& ClsOperator::Name() const {
+  return name_;
+}
+void ClsOperator::setName(std::string name) {
+  name_ = std::move(name);
+}
+std::int16_t ClsOperator::Id() const {
+  return id_;
+}
+const ClsRights& ClsOperator::Rights() const {
+  return rights_;
+}
+void ClsOperator::setRights(ClsRights rights) {
+  rights_ = std::move(rights);
+  newRights_ = true;
+}
+void ClsOperator::setOnline(std::int16_t online) {
+  online_ = online;
+}

@@ -1,0 +1,228 @@
+#include "saleslib/ClsSell.h"
+
+#include <utility>
+
+#include "base/Failure.h"
+#include "base/NumberText.h"
+#include "saleslib/Fields.h"
+#include "store/Connection.h"
+#include "store/StoreError.h"
+#include "store/Transaction.h"
+
+namespace {
+
+constexpr std::int16_t kOpen = 0;
+
+struct Totals {
+  double quantity = 0;
+  Currency amount;
+  bool operator==(const Totals&) const = default;
+};
+
+Totals totalsOf(const ClsSell::Items_t& lines) {
+  Totals totals;
+  for (const auto& line : lines) {
+    totals.quantity = roundedQuantity(totals.quantity + line->Quantity());
+    totals.amount += line->Money();
+  }
+  return totals;
+}
+
+}  // namespace
+
+bool ClsSell::Open(Connection& connection, std::int32_t billNo, std::int32_t operatorId,
+                   const Clock& clock) {
+  *this = ClsSell();
+  connection_ = &connection;
+  if (billNo == 0) {
+    start(operatorId, clock());
+    return true;
+  }
+  return load(connection.query("select * from sell where id = ?", billNo));
+}
+
+bool ClsSell::OpenLastOfMember(Connection& connection, std::int32_t memberId) {
+  *this = ClsSell();
+  connection_ = &connection;
+  return load(connection.query(
+      "select * from sell where member_id = ? and state = 1 order by id desc limit 1", memberId));
+}
+
+std::shared_ptr<ClsSell> ClsSell::fromRow(Connection& connection, const Row& row) {
+  auto bill = std::make_shared<ClsSell>();
+  bill->connection_ = &connection;
+  bill->read(row);
+  return bill;
+}
+
+void ClsSell::start(std::int32_t operatorId, const DateTime& now) {
+  operatorId_ = operatorId;
+  sellTime_ = now;
+  connection_->run("insert into sell (sell_time, operator_id) values (?, ?)", now, operatorId);
+  billNo_ = key32(connection_->lastRowId());
+}
+
+bool ClsSell::load(Rows rows) {
+  if (!rows.next()) return false;
+  read(rows);
+  return true;
+}
+
+void ClsSell::read(const Row& row) {
+  billNo_ = whole32(row, "id");
+  operatorId_ = whole32(row, "operator_id");
+  sellTime_ = row.dateTime("sell_time").value_or(DateTime());
+  state_ = whole16(row, "state");
+  quantity_ = row.number("quantity").value_or(0);
+  goodsAmount_ = money(row, "goods_amount");
+  amount_ = money(row, "amount");
+  cash_ = money(row, "cash");
+  favorable_ = money(row, "favorable");
+  bankCard_ = money(row, "bank_card");
+  cardPay_ = money(row, "card_pay");
+  cardNo_ = row.text("card_no");
+  salesman_ = whole16(row, "salesman");
+  memberId_ = whole32(row, "member_id");
+}
+
+bool ClsSell::Save() {
+  ensure(totalsOf(items_) == Totals{quantity_, goodsAmount_}, "a bill's lines add up to the bill");
+  errText_.clear();
+  try {
+    Transaction transaction(*connection_);
+    for (const auto& line : items_) {
+      if (line->Changed()) line->Save();
+    }
+    store();
+    transaction.commit();
+  } catch (const StoreError& error) {
+    errText_ = error.what();
+  }
+  return errText_.empty();
+}
+
+void ClsSell::store() {
+  const std::int64_t changed = connection_->run(
+      "update sell set state = ?, quantity = ?, goods_amount = ?, amount = ?, cash = ?,"
+      " favorable = ?, bank_card = ?, card_pay = ?, card_no = ?, salesman = ?, member_id = ?"
+      " where id = ?",
+      state_, quantity_, goodsAmount_, amount_, cash_, favorable_, bankCard_, cardPay_, cardNo_,
+      salesman_, memberId_, billNo_);
+  if (changed == 0) throw StoreError("单据 " + std::to_string(billNo_) + " 已不在数据文件中！");
+}
+
+void ClsSell::Void() {
+  Transaction transaction(*connection_);
+  connection_->run("delete from sellProducts where sellId = ?", billNo_);
+  connection_->run("delete from sell where id = ?", billNo_);
+  transaction.commit();
+}
+
+void ClsSell::LoadLines() {
+  items_.clear();
+  Rows rows =
+      connection_->query("select * from sellProducts where sellId = ? order by id", billNo_);
+  while (rows.next()) {
+    items_.push_back(std::make_shared<ClsSellItem>(ClsSellItem::fromRow(*connection_, rows)));
+  }
+  if (state_ == kOpen) {
+    Recalculate();
+  } else if (totalsOf(items_) != Totals{quantity_, goodsAmount_}) {
+    throw StoreError("单据 " + std::to_string(billNo_) +
+                     " 的商品明细与合计不符，数据文件可能已损坏，请与管理员联系！");
+  }
+}
+
+void ClsSell::AddItem(std::shared_ptr<ClsSellItem> line) {
+  ensure(line != nullptr && line->BillNo() == billNo_, "a line joins its own bill");
+  const Currency money = line->Money();
+  quantity_ = roundedQuantity(quantity_ + line->Quantity());
+  goodsAmount_ += money;
+  amount_ += money;
+  items_.push_back(std::move(line));
+}
+
+void ClsSell::Recalculate() {
+  const Totals totals = totalsOf(items_);
+  quantity_ = totals.quantity;
+  goodsAmount_ = amount_ = totals.amount;
+}
+
+std::int32_t ClsSell::BillNo() const {
+  return billNo_;
+}
+Currency ClsSell::Amount() const {
+  return amount_;
+}
+void ClsSell::setAmount(Currency amount) {
+  amount_ = amount;
+}
+Currency ClsSell::Cash() const {
+  return cash_;
+}
+void ClsSell::setCash(Currency cash) {
+  cash_ = cash;
+}
+DateTime ClsSell::SellTime() const {
+  return sellTime_;
+}
+const ClsSell::Items_t& ClsSell::Items() const {
+  return items_;
+}
+std::int32_t ClsSell::OperatorId() const {
+  return operatorId_;
+}
+double ClsSell::Quantity() const {
+  return quantity_;
+}
+std::int32_t ClsSell::MemberId() const {
+  return memberId_;
+}
+void ClsSell::setMemberId(std::int32_t memberId) {
+  memberId_ = memberId;
+}
+std::int16_t ClsSell::State() const {
+  return state_;
+}
+void ClsSell::setState(std::int16_t state) {
+  state_ = state;
+}
+Currency ClsSell::Favorable() const {
+  return favorable_;
+}
+void ClsSell::setFavorable(Currency favorable) {
+  favorable_ = favorable;
+}
+std::int16_t ClsSell::Salesman() const {
+  return salesman_;
+}
+void ClsSell::setSalesman(std::int16_t salesman) {
+  salesman_ = salesman;
+}
+Currency ClsSell::BankCard() const {
+  return bankCard_;
+}
+void ClsSell::setBankCard(Currency amount) {
+  bankCard_ = amount;
+}
+Currency ClsSell::CardPay() const {
+  return cardPay_;
+}
+void ClsSell::setCardPay(Currency amount) {
+  cardPay_ = amount;
+}
+const std::string& ClsSell::CardNo() const {
+  return cardNo_;
+}
+void ClsSell::setCardNo(std::string number) {
+  cardNo_ = std::move(number);
+}
+const std::string& ClsSell::ErrText() const {
+  return errText_;
+}
+Currency ClsSell::GoodsAmount() const {
+  return goodsAmount_;
+}
+Currency ClsSell::Change() const {
+  return cash_ + bankCard_ + cardPay_ + favorable_ - amount_;
+}

@@ -1,0 +1,163 @@
+#include "saleslib/ClsSellItem.h"
+
+#include <utility>
+
+#include "base/Failure.h"
+#include "base/NumberText.h"
+#include "saleslib/Fields.h"
+#include "store/Connection.h"
+#include "store/StoreError.h"
+
+void ClsSellItem::Init(Connection& connection, std::int32_t billNo, int, Clock clock) {
+  *this = ClsSellItem();
+  connection_ = &connection;
+  clock_ = std::move(clock);
+  billNo_ = billNo;
+}
+
+ClsSellItem ClsSellItem::fromRow(Connection& connection, const Row& row) {
+  ClsSellItem line;
+  line.connection_ = &connection;
+  line.billNo_ = whole32(row, "sellId");
+  line.id_ = whole32(row, "id");
+  line.inserted_ = line.saved_ = kFromFile;
+  line.price_ = money(row, "price");
+  line.cost_ = money(row, "in_price");
+  line.quantity_ = row.number("amount").value_or(0);
+  line.discount_ = ::Discount(row.number("discount").value_or(1));
+  line.ratio_ = whole16(row, "ratio");
+  line.entryCode_ = row.text("entry_code");
+  line.spName_ = row.text("name");
+  line.spCode_ = row.text("bm");
+  line.origin_ = row.text("origin");
+  line.unit_ = row.text("unit");
+  line.category_ = row.text("splbmc");
+  return line;
+}
+
+void ClsSellItem::Save() {
+  ensure(connection_ != nullptr, "a line is bound before it is stored");
+  if (Id() == 0) {
+    insert();
+  } else {
+    update();
+  }
+  saved_ = connection_->writeMark();
+}
+
+void ClsSellItem::insert() {
+  connection_->run(
+      "insert into sellProducts (sellId, insert_Date, bm, name, unit, amount, price, discount,"
+      " money, in_price, splbmc, entry_code, ratio, origin)"
+      " values (?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?)",
+      billNo_, clock_(), spCode_, spName_, unit_, quantity_, price_, discount_, Money(), cost_,
+      category_, entryCode_, ratio_, origin_);
+  id_ = key32(connection_->lastRowId());
+  inserted_ = connection_->writeMark();
+}
+
+void ClsSellItem::update() {
+  const std::int64_t changed = connection_->run(
+      "update sellProducts set bm = ?, name = ?, unit = ?, amount = ?, price = ?, discount = ?,"
+      " money = ?, in_price = ?, splbmc = ?, entry_code = ?, ratio = ?, origin = ? where id = ?",
+      spCode_, spName_, unit_, quantity_, price_, discount_, Money(), cost_, category_, entryCode_,
+      ratio_, origin_, id_);
+  if (changed == 0) {
+    throw StoreError("单据 " + std::to_string(billNo_) + " 的商品“" + spName_ +
+                     "”已不在数据文件中！");
+  }
+}
+
+bool ClsSellItem::Changed() const {
+  return Id() == 0 || !connection_->stands(saved_);
+}
+
+void ClsSellItem::Delete() {
+  if (Id() != 0) connection_->run("delete from sellProducts where id = ?", id_);
+}
+
+std::int32_t ClsSellItem::Id() const {
+  return id_ != 0 && connection_->stands(inserted_) ? id_ : 0;
+}
+
+template <class T>
+void ClsSellItem::change(T& member, T value) {
+  member = std::move(value);
+  saved_ = kNotWritten;
+}
+
+Currency ClsSellItem::Price() const {
+  return price_;
+}
+void ClsSellItem::setPrice(Currency price) {
+  change(price_, price);
+}
+double ClsSellItem::Quantity() const {
+  return quantity_;
+}
+void ClsSellItem::setQuantity(double quantity) {
+  change(quantity_, quantity);
+}
+Discount ClsSellItem::Discount() const {
+  return discount_;
+}
+void ClsSellItem::setDiscount(::Discount discount) {
+  change(discount_, discount);
+}
+Currency ClsSellItem::Money() const {
+  return lineAmount(price_, quantity_, discount_);
+}
+const std::string& ClsSellItem::EntryCode() const {
+  return entryCode_;
+}
+void ClsSellItem::setEntryCode(std::string code) {
+  change(entryCode_, std::move(code));
+}
+const std::string& ClsSellItem::SpName() const {
+  return spName_;
+}
+void ClsSellItem::setSpName(std::string name) {
+  change(spName_, std::move(name));
+}
+const std::string& ClsSellItem::SpCode() const {
+  return spCode_;
+}
+void ClsSellItem::setSpCode(std::string code) {
+  change(spCode_, std::move(code));
+}
+const std::string& ClsSellItem::Origin() const {
+  return origin_;
+}
+void ClsSellItem::setOrigin(std::string origin) {
+  change(origin_, std::move(origin));
+}
+const std::string& ClsSellItem::Unit() const {
+  return unit_;
+}
+void ClsSellItem::setUnit(std::string unit) {
+  change(unit_, std::move(unit));
+}
+std::int16_t ClsSellItem::Ratio() const {
+  return ratio_;
+}
+void ClsSellItem::setRatio(std::int16_t ratio) {
+  change(ratio_, ratio);
+}
+Currency ClsSellItem::Cost() const {
+  return cost_;
+}
+void ClsSellItem::setCost(Currency cost) {
+  change(cost_, cost);
+}
+const std::string& ClsSellItem::Category() const {
+  return category_;
+}
+void ClsSellItem::setCategory(std::string category) {
+  change(category_, std::move(category));
+}
+std::int32_t ClsSellItem::BillNo() const {
+  return billNo_;
+}
+double ClsSellItem::StockQuantity() const {
+  return roundedQuantity(quantity_ * ratio_);
+}

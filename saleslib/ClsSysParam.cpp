@@ -1,0 +1,190 @@
+#include "saleslib/ClsSysParam.h"
+
+#include <array>
+#include <optional>
+
+#include "base/Failure.h"
+#include "base/NumberText.h"
+#include "base/Text.h"
+#include "store/Connection.h"
+
+namespace {
+
+/// What values a parameter has.
+struct Kind {
+  /// The value in the form that is kept, or nothing for a text that is no such value.
+  std::optional<std::string> (*read)(std::string_view text);
+  const char* refusal;
+};
+
+struct Definition {
+  const char* name;
+  const Kind* kind;
+  const char* byDefault;
+};
+
+constexpr std::size_t kLongestText = 200;
+constexpr int kHighestRate = 10;
+
+std::optional<std::string> readText(std::string_view text) {
+  for (const char c : text) {
+    const auto byte = static_cast<unsigned char>(c);
+    if (byte < 0x20 || byte == 0x7f) return std::nullopt;
+  }
+  if (characters(text) > kLongestText) return std::nullopt;
+  return std::string(text);
+}
+
+std::optional<std::string> readSwitch(std::string_view text) {
+  const std::string word = asciiLower(halfWidth(trimmed(text)));
+  if (word == "1" || word == "true" || word == "是") return "1";
+  if (word == "0" || word == "false" || word == "否") return "0";
+  return std::nullopt;
+}
+
+std::optional<std::string> readWhole(std::string_view text) {
+  const std::optional<double> number = parseNumber(text);
+  const std::optional<std::int16_t> whole = parseWhole16(text);
+  if (!whole || *whole < 0 || *number != *whole) return std::nullopt;
+  return std::to_string(*whole);
+}
+
+std::optional<std::string> readStockRule(std::string_view text) {
+  const std::optional<std::string> whole = readWhole(text);
+  return whole == "0" || whole == "1" ? whole : std::nullopt;
+}
+
+std::optional<std::string> readRate(std::string_view text) {
+  const std::optional<Currency> rate = Currency::parse(text);
+  if (!rate || *rate <= Currency() || *rate > Currency::fromYuan(kHighestRate)) return std::nullopt;
+  return generalNumber(*rate);
+}
+
+constexpr Kind kText = {readText, "不能超过200个字符，也不能换行"};
+constexpr Kind kSwitch = {readSwitch, "只能是 0 或 1（否或是）"};
+constexpr Kind kWhole = {readWhole, "只能是 0 到 32767 的整数"};
+constexpr Kind kStockRule = {readStockRule, "只能是 0（可以负库存）或 1（不可以负库存）"};
+constexpr Kind kRate = {readRate, "只能是大于 0、不超过 10 的数"};
+
+constexpr std::array kDefinitions = {
+    Definition{"ShopName", &kText, ""},     Definition{"ReceiptText1", &kText, ""},
+    Definition{"ReceiptText2", &kText, ""}, Definition{"ReceiptText3", &kText, ""},
+    Definition{"ReceiptText4", &kText, ""}, Definition{"ReceiptText5", &kText, ""},
+    Definition{"ReceiptText6", &kText, ""}, Definition{"StockRule", &kStockRule, "0"},
+    Definition{"RoundJiao", &kSwitch, "0"}, Definition{"RoundYuan", &kSwitch, "0"},
+    Definition{"PointUnit", &kWhole, "10"}, Definition{"GeneralRate", &kRate, "1"},
+    Definition{"VipRate", &kRate, "1"},     Definition{"SilverRate", &kRate, "1"},
+    Definition{"GoldRate", &kRate, "1"},    Definition{"BackupOnExit", &kSwitch, "0"},
+};
+
+const Definition* find(std::string_view name) {
+  for (const Definition& definition : kDefinitions) {
+    if (equalIgnoringCase(definition.name, name)) return &definition;
+  }
+  return nullptr;
+}
+
+}  // namespace
+
+void ClsSysParam::Conn(Connection& connection) {
+  connection_ = &connection;
+  values_.clear();
+  Rows rows = connection.query("select name, value from sys_param");
+  while (rows.next()) {
+    const Definition* definition = find(rows.text("name"));
+    if (definition == nullptr) continue;
+    if (auto value = definition->kind->read(rows.text("value"))) {
+      values_[definition->name] = *value;
+    }
+  }
+}
+
+std::vector<ClsSysParam::Parameter> ClsSysParam::list() const {
+  std::vector<Parameter> parameters;
+  for (const Definition& definition : kDefinitions) {
+    parameters.push_back(
+        {definition.name, value(definition.name), values_.contains(definition.name)});
+  }
+  return parameters;
+}
+
+std::string ClsSysParam::set(std::string_view name, std::string_view value) {
+  ensure(connection_ != nullptr, "ClsSysParam is bound before it is used");
+  const Definition* definition = find(name);
+  if (definition == nullptr) return "没有这个参数：" + std::string(name);
+  const std::optional<std::string> kept = definition->kind->read(value);
+  if (!kept) return std::string(definition->name) + " " + definition->kind->refusal + "！";
+  connection_->run("insert or replace into sys_param (name, value) values (?, ?)", definition->name,
+                   *kept);
+  values_[definition->name] = *kept;
+  return {};
+}
+
+std::string ClsSysParam::value(std::string_view name) const {
+  const auto found = values_.find(name);
+  if (found != values_.end()) return found->second;
+  const Definition* definition = find(name);
+  ensure(definition != nullptr, "a parameter has a definition");
+  return definition->byDefault;
+}
+
+std::int16_t ClsSysParam::whole(std::string_view name) const {
+  return parseWhole16(value(name)).value();
+}
+
+bool ClsSysParam::isOn(std::string_view name) const {
+  return value(name) == "1";
+}
+
+Currency ClsSysParam::rate(std::string_view name) const {
+  return Currency::parse(value(name)).value();
+}
+
+std::string ClsSysParam::ShopName() const {
+  return value("ShopName");
+}
+std::string ClsSysParam::ReceiptText1() const {
+  return value("ReceiptText1");
+}
+std::string ClsSysParam::ReceiptText2() const {
+  return value("ReceiptText2");
+}
+std::string ClsSysParam::ReceiptText3() const {
+  return value("ReceiptText3");
+}
+std::string ClsSysParam::ReceiptText4() const {
+  return value("ReceiptText4");
+}
+std::string ClsSysParam::ReceiptText5() const {
+  return value("ReceiptText5");
+}
+std::string ClsSysParam::ReceiptText6() const {
+  return value("ReceiptText6");
+}
+std::int16_t ClsSysParam::StockRule() const {
+  return whole("StockRule");
+}
+bool ClsSysParam::RoundJiao() const {
+  return isOn("RoundJiao");
+}
+bool ClsSysParam::RoundYuan() const {
+  return isOn("RoundYuan");
+}
+std::int16_t ClsSysParam::PointUnit() const {
+  return whole("PointUnit");
+}
+double ClsSysParam::GeneralRate() const {
+  return parseNumber(value("GeneralRate")).value();
+}
+Currency ClsSysParam::VipRate() const {
+  return rate("VipRate");
+}
+Currency ClsSysParam::SilverRate() const {
+  return rate("SilverRate");
+}
+Currency ClsSysParam::GoldRate() const {
+  return rate("GoldRate");
+}
+bool ClsSysParam::BackupOnExit() const {
+  return isOn("BackupOnExit");
+}

@@ -1,0 +1,55 @@
+#include "Shop.h"
+#include "saleslib/ClsLogin.h"
+#include "saleslib/ClsOperator.h"
+
+using LoginTest = Shop;
+
+TEST_F(LoginTest, OnlyTheNumberAndPasswordOfAnOperatorLetIn) {
+  const std::string odd = std::string("a\0b'", 4) + std::string(10000, 'x');
+  ClsOperator cashier;
+  cashier.Init(connection, 1);
+  EXPECT_FALSE(cashier.Found());
+  cashier.setName("张三");
+  cashier.setCode("01");
+  cashier.setPassword(odd);
+  cashier.setRights(ClsRights({"sell"}));
+  cashier.Save();
+  EXPECT_THAT(stored("select password from operators"), testing::StartsWith("$argon2id$"));
+
+  const struct {
+    std::string number, password;
+    bool accepted;
+  } attempts[] = {
+      {"1", odd, true},
+      {"1", odd + "x", false},
+      {"1", odd.substr(0, 1), false},
+      {"1", "", false},
+      {"2", odd, false},
+      {" 1", odd, false},
+      {"65537", odd, false},
+      {"", odd, false},
+      {"1 or 1=1", odd, false},
+      {"１", odd, false},
+      {std::string(10000, '1'), odd, false},
+  };
+  ClsLogin login;
+  login.Conn(connection);
+  for (const auto& [number, password, accepted] : attempts) {
+    EXPECT_EQ(login.Check(number, password), accepted) << number.substr(0, 10);
+    EXPECT_EQ(login.ErrText(), accepted ? "" : "用户编号或密码不正确！");
+    EXPECT_EQ(login.Operator() != nullptr, accepted);
+  }
+  ASSERT_TRUE(login.Check("1", odd));
+  EXPECT_EQ(login.Operator()->Name(), "张三");
+  EXPECT_EQ(login.Operator()->Code(), "01");
+  EXPECT_TRUE(login.Operator()->Rights().HasRight(kRightSell));
+  EXPECT_FALSE(login.Operator()->Rights().HasRight("returns"));
+
+  login.Operator()->setPassword("");
+  login.Operator()->Save();
+  EXPECT_FALSE(login.Check("1", odd));
+  EXPECT_TRUE(login.Check("1", ""));
+  login.Operator()->setOnline(0);
+  login.Operator()->Save();
+  EXPECT_TRUE(login.Check("1", "")) << "a stored state leaves the password alone";
+}

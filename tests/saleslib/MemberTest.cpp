@@ -1,0 +1,114 @@
+#include "Shop.h"
+#include "saleslib/ClsMember.h"
+#include "saleslib/ClsMemberSvc.h"
+#include "store/Transaction.h"
+
+class MemberTest : public Shop {
+ protected:
+  MemberTest() { members.Conn(connection); }
+  ClsMember newMember(const std::string& number, const std::string& name = "王五") {
+    ClsMember member;
+    member.Init(connection, 0, clock);
+    member.setBh(number);
+    member.setName(name);
+    member.setBalance(yuan("50.5"));
+    return member;
+  }
+  ClsMemberSvc members;
+};
+
+TEST_F(MemberTest, AMemberIsStoredAndFoundWithItsCard) {
+  ClsMember member = newMember(" 88001234 ");
+  member.setPhone("13800001111");
+  member.setPassword("aB'");
+  member.setPoints(-5);
+  member.setBirthday({1990, 2, 3});
+  ASSERT_TRUE(member.Save()) << member.ErrText();
+  members.AddMember(member);
+  EXPECT_EQ(stored("select bh || '|' || card || '|' || password || '|' || birthday from member"),
+            "88001234|50.5|aB'|1990-02-03 00:00:00");
+
+  const auto found = members.GetMember("88001234");
+  ASSERT_NE(found, nullptr);
+  EXPECT_EQ(found->Id(), member.Id());
+  EXPECT_EQ(found->Discount(), 1.0) << "a record without a factor";
+  EXPECT_EQ(found->JoinDate(), now.date);
+  EXPECT_EQ(found->Points(), -5);
+  EXPECT_TRUE(found->Enabled());
+  connection.run("update member set card = 20");
+  found->setTotalSpent(yuan("120.5"));
+  found->setPoints(12);
+  ASSERT_TRUE(found->Save());
+  EXPECT_EQ(stored("select card || '|' || password || '|' || total_spent from member"),
+            "20|aB'|120.5")
+      << "a sale leaves the card alone";
+  ASSERT_TRUE(member.Save());
+  EXPECT_EQ(stored("select card from member"), "20") << "an opening balance is written once";
+  connection.run("delete from member");
+  EXPECT_FALSE(found->Update());
+  EXPECT_EQ(found->ErrText(), "会员 88001234 已被删除，没有保存！");
+}
+
+TEST_F(MemberTest, TheCardNumberWinsOverTheTelephone) {
+  for (const auto& [number, phone] :
+       {std::pair("1", "555"), {"2", "555"}, {"3", "666"}, {"666", "777"}}) {
+    ClsMember member = newMember(number);
+    member.setPhone(phone);
+    ASSERT_TRUE(member.Save());
+  }
+  const auto numberOf = [](const std::shared_ptr<ClsMember>& member) {
+    return member ? member->Bh() : "none";
+  };
+  EXPECT_EQ(numberOf(members.GetMember("666")), "666");
+  EXPECT_EQ(numberOf(members.GetMember("777")), "666");
+  EXPECT_EQ(numberOf(members.GetMember("555")), "none") << "two have it";
+  EXPECT_EQ(members.GetMembersByPhone("555").size(), 2u);
+  EXPECT_EQ(numberOf(members.GetMember("")), "none");
+  EXPECT_EQ(numberOf(members.GetMember("' or '1'='1")), "none");
+  EXPECT_EQ(numberOf(members.GetMemberById(3)), "3");
+  EXPECT_EQ(numberOf(members.GetMemberById(99)), "none");
+}
+
+TEST_F(MemberTest, FlawedRecordsAreRefusedWithAReason) {
+  ASSERT_TRUE(newMember("1").Save());
+  const struct {
+    const char* reason;
+    void (*spoil)(ClsMember&);
+  } flaws[] = {
+      {"请输入会员编号！", [](ClsMember& m) { m.setBh("  "); }},
+      {"请输入会员姓名！", [](ClsMember& m) { m.setName(""); }},
+      {"会员编号 1 已经存在！", [](ClsMember& m) { m.setBh("1"); }},
+      {"会员姓名不能超过100个字符！", [](ClsMember& m) { m.setName(std::string(10000, 'x')); }},
+      {"备注含有无法保存的字符！", [](ClsMember& m) { m.setOther(std::string("a\0b", 3)); }},
+      {"年龄不能是负数！", [](ClsMember& m) { m.setAge(-1); }},
+      {"折扣不能是负数！", [](ClsMember& m) { m.setDiscount(-0.1); }},
+      {"储值卡余额不能是负数！", [](ClsMember& m) { m.setBalance(yuan("-1")); }},
+  };
+  for (const auto& [reason, spoil] : flaws) {
+    ClsMember member = newMember("2");
+    spoil(member);
+    EXPECT_FALSE(member.Save());
+    EXPECT_EQ(member.ErrText(), reason);
+  }
+  EXPECT_EQ(stored("select count(*) from member"), "1");
+
+  connection.run("update member set name = ''");
+  const auto old = members.GetMember("1");
+  old->setPoints(3);
+  EXPECT_TRUE(old->Save()) << "an old record with flaws still earns its points";
+}
+
+TEST_F(MemberTest, AMemberTakenBackOrNotStoredIsStillNew) {
+  ClsMember member = newMember("1");
+  breakStore("insert on member");
+  EXPECT_FALSE(member.Save());
+  EXPECT_FALSE(member.ErrText().empty());
+  mendStore();
+  {
+    Transaction transaction(connection);
+    ASSERT_TRUE(member.Save());
+  }
+  EXPECT_EQ(member.Id(), 0);
+  ASSERT_TRUE(member.Save());
+  EXPECT_EQ(stored("select card from member"), "50.5");
+}
