@@ -34,8 +34,9 @@ bool ClsSell::Open(Connection& connection, std::int32_t billNo, std::int32_t ope
                    const Clock& clock) {
   *this = ClsSell();
   connection_ = &connection;
+  clock_ = clock;
   if (billNo == 0) {
-    start(operatorId, clock());
+    start(operatorId);
     return true;
   }
   return load(connection.query("select * from sell where id = ?", billNo));
@@ -55,10 +56,11 @@ std::shared_ptr<ClsSell> ClsSell::fromRow(Connection& connection, const Row& row
   return bill;
 }
 
-void ClsSell::start(std::int32_t operatorId, const DateTime& now) {
+void ClsSell::start(std::int32_t operatorId) {
   operatorId_ = operatorId;
-  sellTime_ = now;
-  connection_->run("insert into sell (sell_time, operator_id) values (?, ?)", now, operatorId);
+  sellTime_ = clock_();
+  connection_->run("insert into sell (sell_time, operator_id) values (?, ?)", sellTime_,
+                   operatorId);
   billNo_ = key32(connection_->lastRowId());
 }
 
@@ -103,11 +105,12 @@ bool ClsSell::Save() {
 
 void ClsSell::store() {
   const std::int64_t changed = connection_->run(
-      "update sell set state = ?, quantity = ?, goods_amount = ?, amount = ?, cash = ?,"
+      "update sell set sell_time = ?, state = ?, quantity = ?, goods_amount = ?, amount = ?, cash "
+      "= ?,"
       " favorable = ?, bank_card = ?, card_pay = ?, card_no = ?, salesman = ?, member_id = ?"
       " where id = ?",
-      state_, quantity_, goodsAmount_, amount_, cash_, favorable_, bankCard_, cardPay_, cardNo_,
-      salesman_, memberId_, billNo_);
+      sellTime_, state_, quantity_, goodsAmount_, amount_, cash_, favorable_, bankCard_, cardPay_,
+      cardNo_, salesman_, memberId_, billNo_);
   if (changed == 0) throw StoreError("单据 " + std::to_string(billNo_) + " 已不在数据文件中！");
 }
 
@@ -136,6 +139,7 @@ void ClsSell::LoadLines() {
 void ClsSell::AddItem(std::shared_ptr<ClsSellItem> line) {
   ensure(line != nullptr && line->BillNo() == billNo_, "a line joins its own bill");
   const Currency money = line->Money();
+  if (items_.empty() && state_ == kOpen) sellTime_ = clock_();
   quantity_ = roundedQuantity(quantity_ + line->Quantity());
   goodsAmount_ += money;
   amount_ += money;
@@ -146,83 +150,4 @@ void ClsSell::Recalculate() {
   const Totals totals = totalsOf(items_);
   quantity_ = totals.quantity;
   goodsAmount_ = amount_ = totals.amount;
-}
-
-std::int32_t ClsSell::BillNo() const {
-  return billNo_;
-}
-Currency ClsSell::Amount() const {
-  return amount_;
-}
-void ClsSell::setAmount(Currency amount) {
-  amount_ = amount;
-}
-Currency ClsSell::Cash() const {
-  return cash_;
-}
-void ClsSell::setCash(Currency cash) {
-  cash_ = cash;
-}
-DateTime ClsSell::SellTime() const {
-  return sellTime_;
-}
-const ClsSell::Items_t& ClsSell::Items() const {
-  return items_;
-}
-std::int32_t ClsSell::OperatorId() const {
-  return operatorId_;
-}
-double ClsSell::Quantity() const {
-  return quantity_;
-}
-std::int32_t ClsSell::MemberId() const {
-  return memberId_;
-}
-void ClsSell::setMemberId(std::int32_t memberId) {
-  memberId_ = memberId;
-}
-std::int16_t ClsSell::State() const {
-  return state_;
-}
-void ClsSell::setState(std::int16_t state) {
-  state_ = state;
-}
-Currency ClsSell::Favorable() const {
-  return favorable_;
-}
-void ClsSell::setFavorable(Currency favorable) {
-  favorable_ = favorable;
-}
-std::int16_t ClsSell::Salesman() const {
-  return salesman_;
-}
-void ClsSell::setSalesman(std::int16_t salesman) {
-  salesman_ = salesman;
-}
-Currency ClsSell::BankCard() const {
-  return bankCard_;
-}
-void ClsSell::setBankCard(Currency amount) {
-  bankCard_ = amount;
-}
-Currency ClsSell::CardPay() const {
-  return cardPay_;
-}
-void ClsSell::setCardPay(Currency amount) {
-  cardPay_ = amount;
-}
-const std::string& ClsSell::CardNo() const {
-  return cardNo_;
-}
-void ClsSell::setCardNo(std::string number) {
-  cardNo_ = std::move(number);
-}
-const std::string& ClsSell::ErrText() const {
-  return errText_;
-}
-Currency ClsSell::GoodsAmount() const {
-  return goodsAmount_;
-}
-Currency ClsSell::Change() const {
-  return cash_ + bankCard_ + cardPay_ + favorable_ - amount_;
 }
