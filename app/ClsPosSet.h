@@ -22,8 +22,8 @@ class ClsPosSet {
   int C5 = 0;               ///< title text
   int C6 = 0;               ///< second line text
 
-  /// Reads all fourteen. An absent key has its default; a key with an empty value leaves "" or 0; one
-  /// that should be a number and is none keeps its default.
+  /// Reads all fourteen. An absent key has its default; a key with an empty value leaves "" or 0;
+  /// one that should be a number and is none keeps its default.
   void LoadSet(const IniFile& file);
   /// Writes all fourteen, empty values too. A file that cannot be written is not reported.
   void SaveSet(const IniFile& file) const;

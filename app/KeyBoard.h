@@ -38,8 +38,8 @@ class KeyBoard {
   void LoadSet(const IniFile& file);
   /// Empties QK.
   void ReSetQk();
-  /// Writes keys and quick keys; a shorter list leaves empty keys behind its end. A file that cannot
-  /// be written is not reported.
+  /// Writes keys and quick keys; a shorter list leaves empty keys behind its end. A file that
+  /// cannot be written is not reported.
   void SaveSet(const IniFile& file) const;
 
   /// The eighteen keys with their names in the file, in the file's order.

@@ -8,8 +8,9 @@
 
 class IniFile;
 
-/// What the port names of the settings stand for on this machine: section Ports of the settings file,
-/// else the machine's usual device files. Makes the devices, so that nobody else knows device paths.
+/// What the port names of the settings stand for on this machine: section Ports of the settings
+/// file, else the machine's usual device files. Makes the devices, so that nobody else knows device
+/// paths.
 class Ports {
  public:
   explicit Ports(const IniFile& file);

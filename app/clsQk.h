@@ -4,6 +4,6 @@
 
 /// One quick key: a key that rings up one item.
 struct clsQk {
-  int QK_int = 0;      ///< virtual-key code
-  std::string QK_Bm;   ///< item code
+  int QK_int = 0;     ///< virtual-key code
+  std::string QK_Bm;  ///< item code
 };

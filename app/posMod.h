@@ -1,6 +1,6 @@
 #pragma once
 
-#include <functional>
+#include <filesystem>
 #include <memory>
 #include <string>
 
@@ -15,25 +15,33 @@
 #include "store/Connection.h"
 #include "store/DataFileLock.h"
 
-/// The process-wide objects of the till, made once at start and handed by reference to every window.
-/// Knows no window.
+/// The process-wide objects of the till, made once at start and handed by reference to every
+/// window. Knows no window.
 class posMod {
  public:
   /// `folder` is the program's folder, the one of the executable.
-  explicit posMod(std::filesystem::path folder, Clock clock = localTime);
+  explicit posMod(std::filesystem::path programFolder, Clock presentTime = localTime);
+  posMod(const posMod&) = delete;
+  posMod& operator=(const posMod&) = delete;
 
+ private:
+  std::unique_ptr<DataFileLock> lock_;  // outlives the connection that it guards
+
+ public:
   std::filesystem::path folder;
   Clock clock;
-  IniFile configIni;                         ///< folder/Config.ini
-  std::unique_ptr<Connection> gConn;         ///< the one connection; none until OpenDataStore
+  IniFile configIni;                  ///< folder/Config.ini
+  std::unique_ptr<Connection> gConn;  ///< the one connection; none until OpenDataStore
   ClsSysParam gSysParam;
   ClsMemberSvc gMemberSvc;
   KeyBoard gKeyBoard;
   ClsPosSet gPosSet;
-  std::shared_ptr<ClsOperator> gOperator;    ///< who is logged in; none when nobody is
+  std::shared_ptr<ClsOperator> gOperator;  ///< who is logged in; none when nobody is
   Ports ports;
 
-  /// Takes the till's lock on the data file and opens it. An empty text, or why it could not, for a
+  /// Takes the till's lock on the data file and opens it: Path of section Database as
+  /// DataSource::parse reads it (a relative one starts at the program's folder), else
+  /// folder/data/POS.mdb with the built-in password. An empty text, or why it could not, for a
   /// message box.
   [[nodiscard]] std::string OpenDataStore();
   /// Binds the services to the data file and loads keyboard map and terminal settings; hides the
@@ -43,10 +51,11 @@ class posMod {
   void ShowMouse(bool show);
   /// Logs the operator off, if one is logged in.
   void logOff();
-  /// Copies folder/data/pos.mdb over folder/data/pos3.mdb, whole and consistent although it is open.
-  /// Throws StoreError or Failure.
+  /// Copies folder/data/pos.mdb over folder/data/pos3.mdb, whole and consistent although it is
+  /// open; the copy is readable by its owner only. It is this file even when Path names another
+  /// one. Throws StoreError; an earlier copy is then as it was.
   void backUp();
 
  private:
-  std::unique_ptr<DataFileLock> lock_;
+  DataSource dataSource() const;
 };

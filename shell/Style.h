@@ -1,8 +1,5 @@
 #pragma once
 
-#include <QString>
-
-class ClsPosSet;
 class QApplication;
 class QColor;
 
@@ -12,3 +9,5 @@ class QColor;
 void applyStyle(QApplication& application);
 /// A setting's colour, 0x00BBGGRR.
 QColor settingColour(int bgr);
+/// Black or white, whichever reads better on that background.
+QColor legibleOn(const QColor& background);

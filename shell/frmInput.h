@@ -13,13 +13,16 @@ class frmInput : public QDialog {
  public:
   explicit frmInput(const KeyBoard& keys, QWidget* parent = nullptr);
   /// Shows the dialog modally. An empty title or message has the price question's text. Gives what
-  /// was typed, or an empty text after Esc.
+  /// was typed, or an empty text after Esc or when the window was closed.
   QString init(const QString& title, const QString& message);
 
  protected:
+  bool eventFilter(QObject* watched, QEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
 
  private:
+  bool handleKey(const QKeyEvent& event);
+
   const KeyBoard& keys_;
   QLabel* lblTitle_;
   QLabel* lblMsg_;

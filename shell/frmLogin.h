@@ -14,14 +14,17 @@ class frmLogin : public QDialog {
 
   /// Result codes of goLogin.
   enum Result { kAccepted = 0, kFailed = 2, kCancelled = 3 };
-  /// Shows the dialog modally and returns how it ended; closing the window keeps the last code.
-  /// The operator becomes pos.gOperator only when the right to sell was found.
+  /// Shows the dialog modally, its fields empty, and returns how it ended; closing the window keeps
+  /// the last code, also that of an earlier login. The operator becomes pos.gOperator only when the
+  /// right to sell was found.
   int goLogin();
 
  protected:
+  bool eventFilter(QObject* watched, QEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
 
  private:
+  bool handleKey(const QKeyEvent& event);
   void check();
   void cancel();
 

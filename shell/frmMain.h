@@ -3,15 +3,19 @@
 #include <QWidget>
 #include <functional>
 #include <map>
+#include <utility>
+#include <vector>
 
 #include "shell/MenuItem.h"
 
+class QLabel;
 class frmLogin;
 class frmMenu;
 class posMod;
 
 /// The main window: the main menu over a quiet background, and one help line. It opens screens
-/// through a table of openers given to it, and asks for a login before each protected one.
+/// through a table of openers given to it, and asks for a login before each protected one. The menu
+/// comes back after every action; closing the window, however it happens, ends the program.
 class frmMain : public QWidget {
   Q_OBJECT
 
@@ -32,4 +36,29 @@ class frmMain : public QWidget {
  protected:
   bool event(QEvent* event) override;
   void closeEvent(QCloseEvent* event) override;
+  void paintEvent(QPaintEvent* event) override;
+
+ private:
+  void fillMenus();
+  void addScreens(frmMenu& menu, const std::vector<std::pair<QString, QString>>& entries);
+  void queueMenu();
+  void showMenu();
+  void showFurtherMenu();
+  void applyColours();
+  void openScreen(const Screen& screen);
+  bool someoneLoggedIn();
+  void changeOperator();
+  void endProgram();
+
+  posMod& pos_;
+  std::map<QString, Screen> screens_;
+  frmLogin* login_;
+  frmMenu* theMenu_;
+  frmMenu* furtherMenu_;
+  QLabel* Label1_;        ///< the help line
+  bool showMenu_ = true;  ///< off while a chosen action runs
+  bool menuQueued_ = false;
+  bool menuShowing_ = false;
+  bool ended_ = false;
+  MenuItem furtherChoice_;  ///< chosen in the further menu, dispatched when the main menu has gone
 };

@@ -8,10 +8,13 @@
 #include "shell/MenuItem.h"
 
 class KeyBoard;
+class MenuEntries;
+class QLabel;
 
 /// The keyboard-driven popup menu: a vertical list of entries, one highlighted. It never leaves the
 /// screen: with more entries than fit it scrolls with the highlight, and it paints only what shows,
-/// so that ten thousand entries open at once. Lengths are in twips.
+/// so that ten thousand entries open at once; a caption wider than the screen is cut with "...". A
+/// window title set by the owner heads the list. Lengths are in twips.
 class frmMenu : public QDialog {
   Q_OBJECT
 
@@ -33,9 +36,10 @@ class frmMenu : public QDialog {
 
   enum Align { kLeft = 0, kRight = 1, kCentre = 2 };
   int Alignment() const;
-  void setAlignment(int alignment);   ///< of entries added afterwards
+  void setAlignment(int alignment);  ///< of entries added afterwards
   int Space() const;
-  void setSpace(int twips);           ///< for entries added afterwards
+  void setSpace(int twips);  ///< for entries added afterwards
+  /// Place of the menu's window on the screen; in the middle unless set.
   int BoxTop() const;
   void setBoxTop(int twips);
   int BoxLeft() const;
@@ -53,6 +57,21 @@ class frmMenu : public QDialog {
   int currentIndex() const;
 
  protected:
-  // Declared where the implementation needs them.
-  bool event(QEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
+  void mousePressEvent(QMouseEvent* event) override;
+  void closeEvent(QCloseEvent* event) override;
+
+ private:
+  void placeOnScreen();
+  void moveHighlight(int step);
+  void choose(int index);
+
+  const KeyBoard& keys_;
+  QLabel* heading_;
+  MenuEntries* entries_;
+  int mode_ = 0;
+  int chosen_ = -1;  ///< position of the chosen entry while the menu is being left
+  int alignment_ = kLeft;
+  int space_ = 50;
+  bool placed_ = false;  ///< by BoxTop or BoxLeft
 };

@@ -18,5 +18,5 @@ class frmMsg : public QDialog {
   void mousePressEvent(QMouseEvent* event) override;
 
  private:
-  QLabel* text_;
+  QLabel* Label1_;  ///< the text
 };

@@ -68,6 +68,7 @@ class Connection {
 
  private:
   friend class Transaction;
+  friend void copyDataFile(Connection& connection, const std::filesystem::path& target);
   std::int64_t runBound(const char* text, std::vector<Value> values);
   Rows queryBound(const char* text, std::vector<Value> values);
 

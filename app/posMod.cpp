@@ -1,0 +1,69 @@
+#include "app/posMod.h"
+
+#include <system_error>
+#include <utility>
+
+#include "base/Failure.h"
+#include "base/FileName.h"
+#include "platform/MousePointer.h"
+#include "store/DataFile.h"
+#include "store/DataFileCopy.h"
+
+posMod::posMod(std::filesystem::path programFolder, Clock presentTime)
+    : folder(std::move(programFolder)),
+      clock(std::move(presentTime)),
+      configIni(folder / "Config.ini"),
+      ports(configIni) {}
+
+DataSource posMod::dataSource() const {
+  const auto configured = configIni.read("Database", "Path");
+  DataSource source = configured && !configured->empty()
+                          ? DataSource::parse(*configured)
+                          : DataSource{"data/POS.mdb", kBuiltInPassword};
+  source.path = findIgnoringCase((folder / source.path).string());
+  return source;
+}
+
+std::string posMod::OpenDataStore() {
+  try {
+    const DataSource source = dataSource();
+    std::error_code ignored;
+    // Where there is no data file there is nothing to lock, and opening it says what is wrong.
+    if (std::filesystem::is_regular_file(source.path, ignored))
+      lock_ = std::make_unique<DataFileLock>(source.path);
+    gConn = openDataFile(source);
+    return {};
+  } catch (const Failure& failure) {
+    lock_.reset();
+    return failure.what();
+  }
+}
+
+void posMod::start() {
+  gSysParam.Conn(*gConn);
+  gMemberSvc.Conn(*gConn);
+  gKeyBoard.LoadSet(configIni);
+  gPosSet.LoadSet(configIni);
+  if (gPosSet.VMouse == 0) ShowMouse(false);
+}
+
+void posMod::ShowMouse(bool show) {
+  showMousePointer(show);
+}
+
+void posMod::logOff() {
+  if (!gOperator) return;
+  gOperator->setOnline(0);
+  gOperator->Save();
+  gOperator.reset();
+}
+
+void posMod::backUp() {
+  const auto source = findIgnoringCase((folder / "data/pos.mdb").string());
+  const auto target = findIgnoringCase((folder / "data/pos3.mdb").string());
+  std::error_code ignored;
+  if (gConn && std::filesystem::equivalent(source, gConn->source().path, ignored))
+    copyDataFile(*gConn, target);
+  else
+    copyClosedDataFile(source, target);
+}

@@ -1,0 +1,187 @@
+#include "shell/frmMain.h"
+
+#include <QCloseEvent>
+#include <QCoreApplication>
+#include <QDate>
+#include <QGuiApplication>
+#include <QLabel>
+#include <QLocale>
+#include <QPainter>
+#include <QScopedValueRollback>
+#include <QVBoxLayout>
+
+#include "app/posMod.h"
+#include "base/Failure.h"
+#include "shell/Modal.h"
+#include "shell/Style.h"
+#include "shell/frmLogin.h"
+#include "shell/frmMenu.h"
+
+namespace {
+
+const char* const kExit = "exit";
+const char* const kEnd = "end";
+
+QString longDate(const Date& date) {
+  const QDate day(date.year, date.month, date.day);
+  return QLocale(QLocale::Chinese, QLocale::China).toString(day, "yyyy年M月d日  dddd");
+}
+
+}  // namespace
+
+frmMain::frmMain(posMod& pos, std::map<QString, Screen> screens, QWidget* parent)
+    : QWidget(parent),
+      pos_(pos),
+      screens_(std::move(screens)),
+      login_(new frmLogin(pos, this)),
+      theMenu_(new frmMenu(pos.gKeyBoard, this)),
+      furtherMenu_(new frmMenu(pos.gKeyBoard, this)),
+      Label1_(new QLabel(tr("使用光标键选择菜单,回车键执行,Esc键返回,Tab键移动选择焦点"))) {
+  setObjectName("frmMain");
+  setWindowTitle(QGuiApplication::applicationDisplayName());
+  Label1_->setObjectName("Label1");
+  Label1_->setAlignment(Qt::AlignCenter);
+  auto* layout = new QVBoxLayout(this);
+  layout->setContentsMargins(24, 24, 24, 24);
+  layout->addStretch();
+  layout->addWidget(Label1_);
+  fillMenus();
+  applyColours();
+}
+
+void frmMain::fillMenus() {
+  theMenu_->setAlignment(frmMenu::kCentre);
+  addScreens(*theMenu_, {{tr("前 台 销 售"), "sell"},
+                         {tr("销 售 统 计"), "count"},
+                         {tr("收 银 设 置"), "posset"},
+                         {tr("修 改 密 码"), "editpwd"},
+                         {tr("退 出 系 统"), kEnd}});
+  theMenu_->MenuClick = [this](const MenuItem& Menu) { theMenu_MenuClick(Menu); };
+  theMenu_->closed = [this] { close(); };
+  theMenu_->furtherMenu = [this] { showFurtherMenu(); };
+
+  furtherMenu_->setWindowTitle(tr("更多功能"));
+  furtherMenu_->setAlignment(frmMenu::kCentre);
+  addScreens(*furtherMenu_, {{tr("销 售 查 询"), "search"},
+                             {tr("退    货"), "unsell"},
+                             {tr("增 加 会 员"), "addmen"},
+                             {tr("键 盘 设 置"), "keyset"},
+                             {tr("更 换 操 作 员"), kExit}});
+}
+
+void frmMain::addScreens(frmMenu& menu, const std::vector<std::pair<QString, QString>>& entries) {
+  for (const auto& [caption, key] : entries) {
+    const bool own = key == kExit || key == kEnd;
+    if (own || screens_.contains(key)) menu.AddMenu(caption, key);
+  }
+}
+
+bool frmMain::event(QEvent* event) {
+  if (event->type() == QEvent::WindowActivate) {
+    applyColours();
+    queueMenu();
+  }
+  return QWidget::event(event);
+}
+
+void frmMain::applyColours() {
+  QPalette colours = Label1_->palette();
+  colours.setColor(QPalette::WindowText, legibleOn(settingColour(pos_.gPosSet.C1)));
+  Label1_->setPalette(colours);
+  update();
+}
+
+// The menu is modal and so must not open from within the event that made the window active: that
+// event would not end before the menu does.
+void frmMain::queueMenu() {
+  if (menuQueued_) return;
+  menuQueued_ = true;
+  QMetaObject::invokeMethod(this, &frmMain::showMenu, Qt::QueuedConnection);
+}
+
+void frmMain::showMenu() {
+  menuQueued_ = false;
+  if (!showMenu_ || menuShowing_ || ended_) return;
+  {
+    const QScopedValueRollback showing(menuShowing_, true);
+    furtherChoice_ = {};
+    theMenu_->ShowMenu(1);
+    if (!furtherChoice_.Key.isEmpty()) theMenu_MenuClick(furtherChoice_);
+  }
+  // Not every window system reports the window as active again when a modal window over it closes.
+  if (!ended_) queueMenu();
+}
+
+void frmMain::showFurtherMenu() {
+  furtherMenu_->MenuClick = [this](const MenuItem& Menu) {
+    furtherChoice_ = Menu;
+    theMenu_->reject();
+  };
+  furtherMenu_->ShowMenu(0);
+}
+
+void frmMain::theMenu_MenuClick(const MenuItem& Menu) {
+  const QScopedValueRollback running(showMenu_, false);
+  if (Menu.Key == kExit) return changeOperator();
+  if (Menu.Key == kEnd) return endProgram();
+  const auto screen = screens_.find(Menu.Key);
+  if (screen != screens_.end()) openScreen(screen->second);
+}
+
+void frmMain::openScreen(const Screen& screen) {
+  if (!screen.needsLogin || someoneLoggedIn()) screen.open();
+}
+
+bool frmMain::someoneLoggedIn() {
+  if (pos_.gOperator) return true;
+  return login_->goLogin() == frmLogin::kAccepted && pos_.gOperator;
+}
+
+void frmMain::changeOperator() {
+  pos_.logOff();
+  login_->goLogin();
+}
+
+void frmMain::endProgram() {
+  pos_.logOff();
+  try {
+    if (pos_.gSysParam.BackupOnExit()) pos_.backUp();
+  } catch (const Failure& failure) {
+    messageBox(this, tr("数据没有备份。") + QString::fromUtf8(failure.what()), {},
+               BoxIcon::kExclamation);
+  }
+  close();
+}
+
+void frmMain::closeEvent(QCloseEvent* event) {
+  if (pos_.gPosSet.VMouse == 0) pos_.ShowMouse(true);
+  ended_ = true;
+  furtherMenu_->reject();
+  theMenu_->reject();
+  event->accept();
+  QCoreApplication::exit(0);  // ends every modal loop; quit() would ask the windows first
+}
+
+void frmMain::paintEvent(QPaintEvent*) {
+  QPainter painter(this);
+  const QColor back = settingColour(pos_.gPosSet.C1);
+  const QColor fore = legibleOn(back);
+  painter.fillRect(rect(), back);
+  painter.setPen(fore);
+
+  const QString shop = QString::fromStdString(pos_.gSysParam.ShopName());
+  QFont large = font();
+  large.setPixelSize(height() / 14);
+  painter.setFont(large);
+  const QRect heading(width() / 16, height() / 12, width() * 7 / 8, height() / 8);
+  painter.drawText(heading, Qt::AlignCenter | Qt::TextSingleLine,
+                   painter.fontMetrics().elidedText(shop.isEmpty() ? windowTitle() : shop,
+                                                    Qt::ElideRight, heading.width()));
+  const int line = heading.bottom() + height() / 60;
+  painter.fillRect(QRect(width() * 3 / 8, line, width() / 4, 2), fore);
+
+  large.setPixelSize(height() / 36);
+  painter.setFont(large);
+  painter.drawText(QRect(0, line, width(), height() / 15), Qt::AlignCenter,
+                   longDate(pos_.clock().date));
+}

@@ -1,0 +1,27 @@
+#pragma once
+
+#include <QString>
+#include <filesystem>
+#include <map>
+#include <memory>
+
+#include "app/posMod.h"
+#include "shell/frmMain.h"
+
+/// The whole program: the process-wide objects, the main window, and the table that says which
+/// screen each menu entry opens.
+class Till {
+ public:
+  /// `folder` is the folder of the executable.
+  explicit Till(std::filesystem::path folder);
+
+  /// Opens the data file, starts the services and shows the main window. False when the data file
+  /// could not be opened; the message has been shown then. Throws Failure.
+  [[nodiscard]] bool Main();
+
+ private:
+  std::map<QString, frmMain::Screen> screens();
+
+  posMod pos_;
+  std::unique_ptr<frmMain> frmMain_;
+};

@@ -1,0 +1,22 @@
+#include <QCoreApplication>
+
+#include "base/Failure.h"
+#include "shell/FocusReturn.h"
+#include "shell/Style.h"
+#include "till/Till.h"
+#include "till/TillApplication.h"
+
+int main(int argc, char** argv) {
+  TillApplication application(argc, argv);
+  application.setApplicationDisplayName(TillApplication::tr("前台收银"));
+  application.setQuitOnLastWindowClosed(false);  // dialogs come and go; the main window ends it
+  applyStyle(application);
+  new FocusReturn(&application);
+  try {
+    Till till(QCoreApplication::applicationDirPath().toStdString());
+    return till.Main() ? application.exec() : 1;
+  } catch (const Failure& failure) {
+    TillApplication::showFailure(failure);
+    return 1;
+  }
+}
