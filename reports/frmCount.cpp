@@ -1,6 +1,6 @@
 #include "reports/frmCount.h"
 
-#include <QHeaderView>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QPushButton>
 #include <QTableView>
@@ -88,6 +88,7 @@ void frmCount::build() {
   layout->addWidget(listSell_, 1);
   layout->addWidget(lblMsg_);
   layout->addLayout(buttons);
+  listSell_->setFocus();
 }
 
 void frmCount::init() {
@@ -95,6 +96,11 @@ void frmCount::init() {
   show(today());
   centreOnScreen(*this);
   exec();
+}
+
+// Only the mapped Esc key closes the form.
+void frmCount::keyPressEvent(QKeyEvent* event) {
+  event->ignore();
 }
 
 ClsDayStat frmCount::today() const {

@@ -19,6 +19,9 @@ class frmCount : public QDialog {
   /// Fills the form and shows it modally; returns when it has been closed.
   void init();
 
+ protected:
+  void keyPressEvent(QKeyEvent* event) override;
+
  private:
   void build();
   ClsDayStat today() const;

@@ -59,6 +59,7 @@ frmSearch::frmSearch(posMod& pos, QWidget* parent)
   connectQuery();
   load();
   new KeyPreview(this, [this](int key) { return keyTaken(key); });
+  Frame5_->DtBegin->setFocus();
   resize(pixels(kWidth), pixels(kHeight));
   centreOnScreen(*this);
 }
@@ -129,7 +130,7 @@ bool frmSearch::keyTaken(int key) {
     }
     return true;
   }
-  const bool inList = ListView1_->hasFocus();
+  const bool inList = focusWidget() == ListView1_;
   if ((key == keys.mEnter || key == vk::kEnter) && !inList) {
     if (auto* button = qobject_cast<QPushButton*>(focusWidget())) {
       button->click();
@@ -205,6 +206,7 @@ void frmSearch::addPage(const SoldPage& page) {
 
 void frmSearch::showAll() {
   model_->complete();
+  if (!ListView1_->currentIndex().isValid()) ListView1_->setCurrentIndex(model_->index(0, 0));
   placeBefore_.reset();
   found_ = asked_;
   ListView1_->horizontalHeader()->setSortIndicatorShown(false);
