@@ -16,6 +16,7 @@ QString tr(const char* text) {
 void dress(QFileDialog& dialog) {
   dialog.setObjectName("dlgExport");
   dialog.setAcceptMode(QFileDialog::AcceptSave);
+  dialog.setViewMode(QFileDialog::List);
   dialog.setOption(QFileDialog::DontConfirmOverwrite);  // asked here, in the till's words
   dialog.setNameFilters({tr("Excel 表格 (*.xlsx)"), tr("CSV 文件 (*.csv)")});
   dialog.setLabelText(QFileDialog::LookIn, tr("位置："));

@@ -12,6 +12,9 @@
 
 namespace {
 
+/// What the category box shows at least.
+constexpr int kCategoryCharacters = 5;
+
 template <class Control>
 Control* named(Control* control, const char* name) {
   control->setObjectName(name);
@@ -32,9 +35,15 @@ QTimeEdit* timePicker(const char* name, const QTime& time) {
   return picker;
 }
 
-QHBoxLayout* row(std::initializer_list<QWidget*> controls) {
+/// A control with its share of the room that is left over.
+struct Share {
+  QWidget* control;
+  int stretch = 0;
+};
+
+QHBoxLayout* row(std::initializer_list<Share> shares) {
   auto* layout = new QHBoxLayout;
-  for (QWidget* control : controls) layout->addWidget(control);
+  for (const Share& share : shares) layout->addWidget(share.control, share.stretch);
   return layout;
 }
 
@@ -48,16 +57,26 @@ SearchPanel::SearchPanel(QWidget* parent) : QFrame(parent) {
   makeControls();
   makeButtons();
 
+  QHBoxLayout* period = row({{label("Label1", tr("查询从"))},
+                             {DtBegin},
+                             {DTPBeginTime},
+                             {label("Label2", tr("到"))},
+                             {Dtfinish},
+                             {DtfinishTime}});
+  period->addStretch();
+  period->addWidget(Option1);
+  period->addWidget(Option2);
   auto* layout = new QVBoxLayout(this);
-  layout->addLayout(row({label("Label1", tr("查询从")), DtBegin, DTPBeginTime,
-                         label("Label2", tr("到")), Dtfinish, DtfinishTime, Option1, Option2}));
-  layout->addLayout(
-      row({label("Label3", tr("助记码/条码")), zjmtm, label("Label4", tr("销售数量<=")), xssl,
-           label("Label5", tr("按单号查询")), numberSerch, Combo1}));
-  QHBoxLayout* buttons = row({cmdSearch, Command1, Command2, Command3, Command4});
-  buttons->addWidget(lblState, 1);
-  buttons->addWidget(prgState);
-  layout->addLayout(buttons);
+  layout->addLayout(period);
+  layout->addLayout(row({{label("Label3", tr("助记码/条码"))},
+                         {zjmtm, 3},
+                         {label("Label4", tr("销售数量<="))},
+                         {xssl, 1},
+                         {label("Label5", tr("按单号查询"))},
+                         {numberSerch, 2},
+                         {Combo1, 3}}));
+  layout->addLayout(row(
+      {{cmdSearch}, {Command1}, {Command2}, {Command3}, {Command4}, {lblState, 1}, {prgState, 1}}));
 }
 
 void SearchPanel::makeControls() {
@@ -75,6 +94,8 @@ void SearchPanel::makeControls() {
   Combo1->setEditable(true);
   Combo1->setInsertPolicy(QComboBox::NoInsert);
   Combo1->setCompleter(nullptr);  // what is typed is what is looked for
+  Combo1->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+  Combo1->setMinimumContentsLength(kCategoryCharacters);
   Combo1->setEditText(tr("请选择类别"));
 }
 

@@ -9,12 +9,12 @@ void lookLikeReport(QTableView& list) {
   list.setEditTriggers(QAbstractItemView::NoEditTriggers);
   list.setTabKeyNavigation(false);
   list.setAlternatingRowColors(true);
-  list.setShowGrid(false);
+  list.setShowGrid(true);
   list.setWordWrap(false);
   list.setHorizontalScrollMode(QAbstractItemView::ScrollPerPixel);
   list.verticalHeader()->hide();
   list.verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
   list.verticalHeader()->setDefaultSectionSize(list.fontMetrics().height() + 6);
-  list.horizontalHeader()->setHighlightSections(true);
+  list.horizontalHeader()->setHighlightSections(false);
   list.horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
 }
