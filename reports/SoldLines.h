@@ -43,9 +43,9 @@ class SoldLineCollector {
   SoldPage page();
 
  private:
-  std::uint32_t goodsOf(const Row& row);
+  std::uint32_t indexOf(SoldGoods goods);
 
   SoldPage page_;
   std::unordered_map<std::string, std::uint32_t> goodsByTexts_;
-  std::string texts_;
+  std::string texts_;  ///< of the goods looked up, kept for its room
 };
