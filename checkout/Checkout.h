@@ -1,5 +1,9 @@
 #pragma once
 
+#include <QCoreApplication>
+
+#include "checkout/Outage.h"
+
 class CustomerDisplay;
 class LineReceipt;
 class posMod;
@@ -8,11 +12,15 @@ struct SaleState;
 
 /// From the settle key to the next empty bill.
 class Checkout {
+  Q_DECLARE_TR_FUNCTIONS(Checkout)
+
  public:
   Checkout(posMod& pos, SaleState& state, SaleScreen& screen, CustomerDisplay& display,
            LineReceipt& receipt);
 
-  /// Takes payment for the open bill, stores it, credits the member, prints, opens the next bill.
+  /// Takes payment for the open bill, stores it and credits the member in one transaction, prints,
+  /// opens the next bill. A bill that cannot be stored is dropped and its stock put back; nothing
+  /// is printed for it then, and a stored-value charge stays.
   void SettleBill();
   /// Empties the screen and opens the next bill. Ends the program when the clock is behind the
   /// previous bill.
@@ -23,9 +31,18 @@ class Checkout {
   void ShowMemberInfo();
 
  private:
+  void commitLine();
+  bool takePayment();
+  bool storeSale();
+  void creditMember();
+  void dropBill();
+  void printPageReceipts();
+  bool showLastBill();
+
   posMod& pos_;
   SaleState& state_;
   SaleScreen& screen_;
   CustomerDisplay& display_;
   LineReceipt& receipt_;
+  Outage pagePrinter_;
 };

@@ -1,12 +1,14 @@
 #pragma once
 
 #include <memory>
+#include <string_view>
 
 #include "base/Currency.h"
 #include "checkout/Outage.h"
 
 class ByteSink;
 class ClsPosSet;
+class PortError;
 class Ports;
 struct SaleState;
 
@@ -23,14 +25,17 @@ class CustomerDisplay {
   /// Opens the line when a display of a known model is configured; a failure is reported once and
   /// switches the display off (state.hasDisplay) until the sale screen opens again.
   void OpenDisplayPort();
-  /// Shows an amount. Never waits, never throws; a line that is gone is reported once.
+  /// Shows an amount. Never waits, never throws; a line that is gone is reported once and switches
+  /// the display off likewise. A mode that is none of the above leaves the figure's meaning as it
+  /// is.
   void clientView(Currency money, int mode);
   /// Opens a drawer that hangs on the display: STX M. False when there is no working display.
   [[nodiscard]] bool kickDrawer();
   void close();
 
  private:
-  void send(const std::string& bytes);
+  bool send(std::string_view bytes);
+  void switchOff(const PortError& reason);
 
   const Ports& ports_;
   const ClsPosSet& settings_;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <string>
 #include <vector>
 
@@ -9,9 +10,13 @@ class CashDrawer;
 class posMod;
 struct SaleState;
 
-/// The receipt on a line printer, printed while the sale goes on. Texts are GBK on the wire, each line
-/// followed by CR LF; the port is opened for each procedure and closed after it. Nothing throws: a
-/// printer that fails is reported once per outage and the sale goes on.
+/// The receipt on a line printer, printed while the sale goes on. Texts are GBK on the wire, each
+/// line followed by CR LF; the port is opened for each procedure and closed after it.
+///
+/// Nothing throws: a printer that fails is reported once per outage and the sale goes on. A failing
+/// port can cost two seconds, so after a failure the bill's lines are kept and tried again with its
+/// footer only, and a drawer on the same port is not tried then. When that fails too, the paper
+/// starts again with the next bill's heading.
 class LineReceipt {
  public:
   LineReceipt(posMod& pos, SaleState& state, CashDrawer& drawer, Outage::Report report);
@@ -20,22 +25,28 @@ class LineReceipt {
   void PrintHeader();
   /// The current line. Only when line printing is on.
   void PrintLine();
-  /// Totals and payment of the open bill, the drawer, and the heading of the next receipt. Without
-  /// line printing it only opens the drawer.
+  /// Totals and payment of the open bill, and the heading of the next receipt; the drawer opens
+  /// after the first two lines. Without line printing it only opens the drawer.
   void PrintFoot();
   /// Two empty lines, so that a bill put aside stands apart. Only when line printing is on.
   void FeedLines();
 
-  /// The texts of these procedures, without line ends, for paper of the state's widths.
+  /// The texts of these procedures, without line ends, for paper of the state's widths. The
+  /// footer's first text holds a line end of its own when a member is attached; its empty texts are
+  /// not printed.
   std::vector<std::string> headerLines() const;
   std::string lineText() const;
   std::vector<std::string> footLines() const;
 
  private:
-  void send(const std::vector<std::string>& lines);
+  std::string totalText() const;
+  /// Prints what is unsent and these lines, unless this bill's print has already failed.
+  void print(const std::vector<std::string>& lines);
 
   posMod& pos_;
   SaleState& state_;
   CashDrawer& drawer_;
   Outage outage_;
+  std::vector<std::string> unsent_;  ///< lines that a failing printer has not taken yet
+  std::int32_t failedBill_ = 0;      ///< number of the bill whose print failed, else 0
 };

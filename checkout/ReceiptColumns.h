@@ -2,10 +2,10 @@
 
 /// Widths of a receipt in columns of the printer (a Chinese character is two).
 struct ReceiptColumns {
-  int line = 32;       ///< W0: the whole line
-  int name = 22;       ///< W1: name and price
-  int quantity = 4;    ///< W2
-  int amount = 6;      ///< W3
+  int line = 32;     ///< W0: the whole line
+  int name = 22;     ///< W1: name and price
+  int quantity = 4;  ///< W2
+  int amount = 6;    ///< W3
 
   /// Paper model 1 is wide paper, any other narrow.
   static ReceiptColumns forModel(int paperModel);

@@ -5,16 +5,16 @@
 
 class Settlement;
 
-/// The few things that a procedure of the sale wants from the screen. The sale window implements it;
-/// a test can.
+/// The few things that a procedure of the sale wants from the screen. The sale window implements
+/// it; a test can.
 class SaleScreen {
  public:
   virtual ~SaleScreen() = default;
 
   /// Rows, their texts or the selection changed: draw the list again.
   virtual void rowsChanged() = 0;
-  /// Puts the input line over the selected row's cell of the edited column, with the cell's text, and
-  /// sets clearOnKey.
+  /// Puts the input line over the selected row's cell of the edited column, with the cell's text,
+  /// and sets clearOnKey.
   virtual void PlaceEditor() = 0;
   virtual QString input() const = 0;
   virtual void setInput(const QString& text) = 0;

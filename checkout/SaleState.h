@@ -31,25 +31,25 @@ struct BillRow {
   std::int32_t tag = 0;  ///< the line's row id once it is committed, else 0
 };
 
-/// What the sale screen is in the middle of: one set per open screen, shared by everything that works
-/// on it. Every row above the current line's row is a committed line of curBill; the current line's
-/// row, if any, holds curLine; the last row is the empty entry row.
+/// What the sale screen is in the middle of: one set per open screen, shared by everything that
+/// works on it. Every row above the current line's row is a committed line of curBill; the current
+/// line's row, if any, holds curLine; the last row is the empty entry row.
 struct SaleState {
-  std::shared_ptr<ClsSell> curBill;                  ///< the open bill with its committed lines
-  std::shared_ptr<ClsSell> lastBill;                 ///< the bill settled before, or none
-  std::shared_ptr<ClsSellItem> curLine;              ///< entered last, not yet committed, or none
-  std::shared_ptr<ClsMember> curMember;              ///< attached to the open bill, or none
-  std::vector<std::shared_ptr<ClsSell>> heldBills;   ///< suspended, in the order of suspension
+  std::shared_ptr<ClsSell> curBill;                 ///< the open bill with its committed lines
+  std::shared_ptr<ClsSell> lastBill;                ///< the bill settled before, or none
+  std::shared_ptr<ClsSellItem> curLine;             ///< entered last, not yet committed, or none
+  std::shared_ptr<ClsMember> curMember;             ///< attached to the open bill, or none
+  std::vector<std::shared_ptr<ClsSell>> heldBills;  ///< suspended, in the order of suspension
 
   std::vector<BillRow> rows;
-  int selected = -1;         ///< index of the selected row
-  int editCol = 1;           ///< what the editor is on: 1 code entry, 2 quantity, 3 discount
-  bool onEntryRow = true;    ///< the entry row is selected, not the current line's row
-  bool clearOnKey = false;   ///< the next key press first empties the input line
-  bool menuIdle = true;      ///< the function menu is not open
-  bool showBillOnly = false; ///< a recalled bill is being shown again
+  int selected = -1;          ///< index of the selected row
+  int editCol = 1;            ///< what the editor is on: 1 code entry, 2 quantity, 3 discount
+  bool onEntryRow = true;     ///< the entry row is selected, not the current line's row
+  bool clearOnKey = false;    ///< the next key press first empties the input line
+  bool menuIdle = true;       ///< the function menu is not open
+  bool showBillOnly = false;  ///< a recalled bill is being shown again
 
-  bool linePrint = false;    ///< print each committed line at once
+  bool linePrint = false;  ///< print each committed line at once
   ReceiptColumns receiptCols;
   bool hasDrawer = false;
   bool hasDisplay = false;

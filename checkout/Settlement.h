@@ -1,7 +1,9 @@
 #pragma once
 
+#include <QCoreApplication>
 #include <QString>
 #include <functional>
+#include <string>
 
 #include "base/Currency.h"
 
@@ -10,9 +12,12 @@ class CustomerDisplay;
 class LineReceipt;
 class posMod;
 
-/// Taking payment for one bill, without its window: what each figure typed means, the change, and the
-/// two ways to confirm. Figures typed go into the bill at once, also when the dialog is then left.
+/// Taking payment for one bill, without its window: what each figure typed means, the change, and
+/// the two ways to confirm. Figures typed go into the bill at once, also when the dialog is then
+/// left.
 class Settlement {
+  Q_DECLARE_TR_FUNCTIONS(Settlement)
+
  public:
   /// `say` shows a message box with an OK button.
   Settlement(posMod& pos, ClsSell& bill, CustomerDisplay& display, LineReceipt& receipt,
@@ -21,10 +26,13 @@ class Settlement {
   /// The dialog opens: shows the amount due on the customer display.
   void begin();
 
-  QString title() const;      ///< bill number, time, cashier
-  QString countText() const;  ///< number of goods
-  QString dueText() const;    ///< amount due, two decimals
-  QString cashText() const;   ///< amount due as plain number, the first text of the cash field
+  QString title() const;          ///< bill number, time, cashier
+  QString countText() const;      ///< number of goods
+  QString dueText() const;        ///< amount due, two decimals
+  QString cashText() const;       ///< amount due as plain number, the first text of the cash field
+  QString favorableText() const;  ///< the bill's figures as plain numbers, the first texts of the
+  QString bankCardText() const;   ///< other fields: not 0 when the bill's dialog was left before
+  QString salesmanText() const;
 
   /// The text of one of these fields changed. Gives the text that the field must show: "0" for an
   /// empty text or one that is no number, else the text itself.
@@ -36,23 +44,32 @@ class Settlement {
   [[nodiscard]] QString change(const QString& cash, const QString& favorable,
                                const QString& bankCard) const;
 
-  /// Confirms with the cash text; a text that is no number leaves the bill's cash figure.
+  /// Confirms with the cash text; a text that is no number leaves the bill's cash figure. Shows the
+  /// cash on the display and prints the footer. Once confirmed, does nothing more.
   void confirmCash(const QString& cash);
-  /// Whether a stored-value card of that number exists; says so when not.
+  /// Whether a usable stored-value card of that number exists; says why not. A query that fails
+  /// counts as an unknown card.
   [[nodiscard]] bool checkCard(const QString& number);
-  enum class CardResult { kPaid, kWrongPassword, kTooLittle };
-  /// Pays the amount due from the card: checks the password and the balance, takes the payment with
-  /// a statement that checks the balance once more, and says the outcome.
+  enum class CardResult { kPaid, kUnknownCard, kWrongPassword, kTooLittle, kFailed };
+  /// Takes the whole amount due from the card, whatever the other fields hold, durably and at once;
+  /// only then are the figures in the bill. Says every refusal; nothing is charged then.
   [[nodiscard]] CardResult payByCard(const QString& number, const QString& password);
+  /// After kPaid: says the new balance, then as confirmCash.
+  void confirmCard();
 
   /// Payment has been confirmed.
   bool settled() const { return settled_; }
 
  private:
+  std::string cardRefusal(const std::string& number) const;
+  CardResult charge(const std::string& number, const std::string& password);
+  void showAndPrint();
+
   posMod& pos_;
   ClsSell& bill_;
   CustomerDisplay& display_;
   LineReceipt& receipt_;
   std::function<void(const QString&)> say_;
+  Currency cardBalance_;  ///< left on the card after payByCard
   bool settled_ = false;
 };

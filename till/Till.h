@@ -8,12 +8,15 @@
 #include "app/posMod.h"
 #include "shell/frmMain.h"
 
+class frmSell;
+
 /// The whole program: the process-wide objects, the main window, and the table that says which
 /// screen each menu entry opens.
 class Till {
  public:
   /// `folder` is the folder of the executable.
   explicit Till(std::filesystem::path folder);
+  ~Till();
 
   /// Opens the data file, starts the services and shows the main window. False when the data file
   /// could not be opened; the message has been shown then. Throws Failure.
@@ -23,5 +26,6 @@ class Till {
   std::map<QString, frmMain::Screen> screens();
 
   posMod pos_;
+  std::unique_ptr<frmSell> frmSell_;  ///< one instance for every opening
   std::unique_ptr<frmMain> frmMain_;
 };

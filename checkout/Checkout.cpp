@@ -1,0 +1,186 @@
+#include "checkout/Checkout.h"
+
+#include "app/posMod.h"
+#include "base/NumberText.h"
+#include "checkout/AmountDue.h"
+#include "checkout/BillStock.h"
+#include "checkout/CurrentLine.h"
+#include "checkout/CustomerDisplay.h"
+#include "checkout/LineReceipt.h"
+#include "checkout/PageReceipt.h"
+#include "checkout/PrintMode.h"
+#include "checkout/SaleScreen.h"
+#include "checkout/SaleState.h"
+#include "checkout/Settlement.h"
+#include "store/StoreError.h"
+#include "store/Transaction.h"
+
+namespace {
+
+QString shown(const std::string& text) {
+  return QString::fromStdString(text);
+}
+
+std::string statusText(const ClsSell& bill) {
+  return "应收" + generalNumber(bill.Amount()) + " 现金" + generalNumber(bill.Cash()) + "银行卡" +
+         generalNumber(bill.BankCard()) + "储值卡" + generalNumber(bill.CardPay()) + "优惠" +
+         generalNumber(bill.Favorable()) + "找零" + generalNumber(bill.Change()) + "元";
+}
+
+std::string lastBillText(const ClsSell& bill) {
+  return "上一单：金额 " + oneDecimal(bill.Amount()) + "实收现金" + oneDecimal(bill.Cash()) +
+         "银行卡" + oneDecimal(bill.BankCard()) + "储值卡" + oneDecimal(bill.CardPay()) + "找零" +
+         oneDecimal(bill.Change()) + "  优惠" + generalNumber(bill.Favorable());
+}
+
+std::string memberText(const ClsMember& member) {
+  return "会员：" + member.Name() + "，办卡日期：" + dateText(member.JoinDate()) + "，累计消费：" +
+         twoDecimals(member.TotalSpent());
+}
+
+std::string purchaseText(const ClsSell& bill) {
+  std::string goods;
+  for (const auto& line : bill.Items()) goods += (goods.empty() ? "" : "、") + line->SpName();
+  return "\n最近消费时间：" + generalText(bill.SellTime()) + "，金额：" +
+         twoDecimals(bill.Amount()) + "\n最近购买商品：" + goods;
+}
+
+}  // namespace
+
+Checkout::Checkout(posMod& pos, SaleState& state, SaleScreen& screen, CustomerDisplay& display,
+                   LineReceipt& receipt)
+    : pos_(pos),
+      state_(state),
+      screen_(screen),
+      display_(display),
+      receipt_(receipt),
+      pagePrinter_([&screen](const QString& text) { screen.ShowMessage(text); }) {}
+
+void Checkout::SettleBill() {
+  if (!state_.curLine && state_.curBill->Items().empty()) {
+    screen_.ShowMessage(tr("没有商品，无需结账！"));
+    return;
+  }
+  if (state_.curLine) commitLine();
+  if (!takePayment()) return;
+  if (storeSale()) {
+    screen_.setStatus(shown(statusText(*state_.curBill)));
+    state_.lastBill = std::move(state_.curBill);
+    printPageReceipts();
+  } else {
+    screen_.ShowMessage(tr("保存单据出错，请重新录入本单！"));
+    dropBill();
+  }
+  PrepareNextBill();
+}
+
+void Checkout::commitLine() {
+  const bool editing = !state_.onEntryRow;
+  commitCurrentLine(state_, receipt_);
+  screen_.rowsChanged();
+  if (editing) screen_.PlaceEditor();
+}
+
+bool Checkout::takePayment() {
+  Currency amount = state_.curBill->Amount();
+  const auto due = Currency::parse(myCStr(amount, pos_.gSysParam));
+  ensure(due.has_value(), "the amount due reads back as money");
+  state_.curBill->setAmount(*due);
+  Settlement settlement(pos_, *state_.curBill, display_, receipt_,
+                        [this](const QString& text) { screen_.messageBox(text); });
+  return screen_.settle(settlement);
+}
+
+bool Checkout::storeSale() {
+  state_.curBill->setState(1);
+  try {
+    Transaction sale(*pos_.gConn);
+    if (!state_.curBill->Save()) return false;
+    if (state_.curMember) creditMember();
+    sale.commit();
+    return true;
+  } catch (const Failure&) {
+    return false;
+  }
+}
+
+// A member that cannot be credited costs points, not the sale: the bill is stored all the same.
+void Checkout::creditMember() {
+  ClsMember& member = *state_.curMember;
+  const Currency amount = state_.curBill->Amount();
+  member.setTotalSpent(member.TotalSpent() + amount);
+  const auto points = pointsAfter(amount, pos_.gSysParam.PointUnit(), member.Points());
+  if (points) member.setPoints(*points);
+  static_cast<void>(member.Save());
+}
+
+// What cannot be put back now is put back at the next opening of the screen, which voids every bill
+// that is still open in the data file.
+void Checkout::dropBill() {
+  try {
+    VoidBill(pos_, screen_, *state_.curBill);
+  } catch (const StoreError&) {
+    return;
+  }
+}
+
+void Checkout::printPageReceipts() {
+  if (pos_.gPosSet.PPort != "USB") return;
+  const PrintMode mode = PrintMode::of(pos_.gPosSet.printAmount);
+  int copies = mode.copies;
+  if (mode.asks && screen_.askYesNo(tr("确定要打印吗"), tr("提示"), mode.yesPreselected))
+    copies = 1;
+  for (int i = 0; i < copies; ++i) printOurP();
+}
+
+void Checkout::printOurP() {
+  if (!state_.lastBill) return;
+  try {
+    pos_.ports.pagePrinter()->print(pageReceipt(pos_, state_));
+    pagePrinter_.worked();
+  } catch (const Failure& error) {
+    pagePrinter_.failed(QString::fromUtf8(error.what()));
+  }
+}
+
+void Checkout::PrepareNextBill() {
+  state_.clearRows();
+  state_.AddEntryRow();
+  screen_.rowsChanged();
+  screen_.PlaceEditor();
+  state_.curBill = std::make_shared<ClsSell>();
+  const bool opened = state_.curBill->Open(*pos_.gConn, 0, pos_.gOperator->Id(), pos_.clock);
+  ensure(opened, "a new bill always opens");
+  state_.onEntryRow = true;
+  screen_.setTitle1(shown("流水号：" + std::to_string(state_.curBill->BillNo()) + "   收银员：" +
+                          pos_.gOperator->Name()));
+  if (state_.lastBill && !showLastBill()) return;
+  state_.curLine = nullptr;
+  state_.curMember = nullptr;
+  ShowMemberInfo();
+  state_.clearOnKey = false;
+}
+
+bool Checkout::showLastBill() {
+  const ClsSell& last = *state_.lastBill;
+  screen_.setTitle3(shown(lastBillText(last)));
+  display_.clientView(last.Cash() - last.Amount(), CustomerDisplay::kChange);
+  if (last.SellTime().date <= state_.curBill->SellTime().date) return true;
+  screen_.ShowMessage(tr("日期或时间错误！将退出销售，请与管理员联系"));
+  screen_.endProgram();
+  return false;
+}
+
+void Checkout::ShowMemberInfo() {
+  if (!state_.curMember) {
+    screen_.setMemberInfo({});
+    return;
+  }
+  std::string text = memberText(*state_.curMember);
+  ClsSell latest;
+  if (latest.OpenLastOfMember(*pos_.gConn, state_.curMember->Id())) {
+    latest.LoadLines();
+    text += purchaseText(latest);
+  }
+  screen_.setMemberInfo(shown(text));
+}

@@ -1,0 +1,20 @@
+#include "checkout/CurrentLine.h"
+
+#include "base/Failure.h"
+#include "checkout/LineReceipt.h"
+#include "checkout/SaleState.h"
+
+void commitCurrentLine(SaleState& state, LineReceipt& receipt) {
+  ensure(state.curLine != nullptr, "only a current line can be committed");
+  const int row = state.onEntryRow ? state.selected - 1 : state.selected;
+  ensure(row >= 0 && row + 1 < static_cast<int>(state.rows.size()),
+         "the current line's row stands above the entry row");
+  state.rows[static_cast<std::size_t>(row)].tag = state.curLine->Id();
+  state.selected = row + 1;
+  state.editCol = 1;
+  state.onEntryRow = true;
+
+  state.curBill->AddItem(state.curLine);
+  receipt.PrintLine();
+  state.curLine = nullptr;
+}

@@ -1,0 +1,177 @@
+#include "checkout/PageReceipt.h"
+
+#include <algorithm>
+#include <optional>
+
+#include "app/posMod.h"
+#include "base/Gbk.h"
+#include "base/NumberText.h"
+#include "base/Text.h"
+#include "checkout/SaleState.h"
+
+namespace {
+
+// Places on the paper, in twips.
+constexpr int kLeft = 1;
+constexpr int kPrice = 1200;
+constexpr int kQuantity = 1900;
+constexpr int kAmount = 2300;
+constexpr int kFigureGap = 40;  ///< at least, between quantity and amount
+constexpr int kTwipsPerPoint = 20;
+constexpr int kRowPitch = 400;
+constexpr int kFirstLine = 300;  ///< of a row's block
+constexpr int kSecondLine = 480;
+constexpr int kFooterGap = 50;  ///< between footer lines, beside their height
+
+/// The heading stands above the first row's block, which starts at 700.
+constexpr int kShopNameY = 0;
+constexpr int kTitlesY = 440;
+
+/// How a row of the bill is laid out, by the setting's text.
+struct RowLayout {
+  std::string firstText;
+  bool figuresBelow;
+};
+
+std::optional<RowLayout> rowLayout(const std::string& setting, const BillRow& row) {
+  const std::string& name = row.cells[BillRow::kName];
+  if (setting == "打印商品前7个字简称") return RowLayout{firstCharacters(name, 7) + " ", false};
+  if (setting == "打印编码+商品全称") {
+    return RowLayout{row.cells[BillRow::kSpCode] + "  " + name, true};
+  }
+  if (setting == "打印商品全称") return RowLayout{name + " ", true};
+  if (setting == "打印商品全称+折扣") {
+    return RowLayout{name + " 折扣:" + row.cells[BillRow::kDiscount], true};
+  }
+  return std::nullopt;
+}
+
+std::string oneDecimalOf(const std::string& cell) {
+  return oneDecimal(Currency::parse(cell).value_or(Currency()));
+}
+
+/// One receipt while it is being laid out from top to bottom.
+class Layout {
+ public:
+  Layout(posMod& pos, const SaleState& state)
+      : pos_(pos), state_(state), bill_(*state.lastBill), width_(columns(state.receiptCols.line)) {
+    page_.name = std::to_string(bill_.BillNo());
+    page_.paperWidthMm = pos.gPosSet.PModel == 1 ? 80 : 58;
+  }
+
+  PageDocument receipt() {
+    heading();
+    rows();
+    totals();
+    payment();
+    shopTexts();
+    return std::move(page_);
+  }
+
+ private:
+  static std::size_t columns(int width) { return static_cast<std::size_t>(width); }
+
+  void place(int x, int y, std::string text) {
+    bottom_ = std::max(bottom_, y + page_.lineHeight());
+    page_.texts.push_back({x, y, std::move(text)});
+  }
+
+  /// Quantity and amount. A long quantity (weighed goods) pushes the amount to the right, so that
+  /// the two never print over each other.
+  void placeSum(int y, const std::string& quantity, std::string amount) {
+    const int column = static_cast<int>(page_.fontPoints * kTwipsPerPoint) / 2;
+    const int quantityEnd = kQuantity + static_cast<int>(gbk::width(quantity)) * column;
+    place(kQuantity, y, quantity);
+    place(std::max(kAmount, quantityEnd + kFigureGap), y, std::move(amount));
+  }
+
+  void footer(std::string text) { place(kLeft, bottom_ + kFooterGap, std::move(text)); }
+
+  void heading() {
+    place(kLeft, kShopNameY, gbk::centred(pos_.gSysParam.ShopName(), width_));
+    place(kLeft, kTitlesY, titles());
+  }
+
+  /// Over the rows' columns, which are as wide as narrow paper on either paper.
+  std::string titles() const {
+    if (state_.receiptCols.name >= 26) return "商品名称          单价 数量 金额";
+    return gbk::centred("商品名称", columns(state_.receiptCols.name - 4)) + "单价 数量 金额";
+  }
+
+  void rows() {
+    for (std::size_t r = 1; r < state_.rows.size(); ++r) {
+      const BillRow& row = state_.rows[r - 1];
+      const auto layout = rowLayout(pos_.gPosSet.printOption, row);
+      if (!layout) return;
+      const int block = static_cast<int>(r) * kRowPitch;
+      const int figures = block + (layout->figuresBelow ? kSecondLine : kFirstLine);
+      place(kLeft, block + kFirstLine, layout->firstText);
+      place(kPrice, figures, " " + oneDecimalOf(row.cells[BillRow::kPrice]) + " ");
+      placeSum(figures, row.cells[BillRow::kQuantity],
+               oneDecimalOf(row.cells[BillRow::kMoney]) + " ");
+    }
+  }
+
+  void totals() {
+    footer("总金额合计");
+    const int y = page_.texts.back().y;
+    placeSum(y, generalNumber(bill_.Quantity()), oneDecimal(bill_.Amount()));
+    if (bill_.MemberId() > 0) memberLine();
+    footer("流水号:" + std::to_string(bill_.BillNo()) + " 收银员:" + pos_.gOperator->Code());
+    footer(gbk::centred(generalText(bill_.SellTime()), width_, '-'));
+  }
+
+  /// Continues the total's line: no gap in between.
+  void memberLine() {
+    const auto member = pos_.gMemberSvc.GetMemberById(bill_.MemberId());
+    if (!member) return;
+    place(
+        kLeft, bottom_,
+        "会员卡:" + member->Bh() + " 累计积分" + twoDecimals(Currency::fromYuan(member->Points())));
+  }
+
+  void payment() {
+    const Currency original = Currency::fromYuan(state_.origTotal);
+    footer("原价总计" + oneDecimal(original) + "   应收" + oneDecimal(bill_.Amount()));
+    if (bill_.Favorable() > Currency()) {
+      footer("优惠后实收" + oneDecimal(bill_.Amount() - bill_.Favorable()));
+    }
+    std::string paid;
+    if (!bill_.Cash().isZero()) paid = "现金" + oneDecimal(bill_.Cash());
+    if (!bill_.BankCard().isZero()) {
+      paid += (paid.empty() ? "银行卡" : " 银行卡") + oneDecimal(bill_.BankCard());
+    }
+    if (!paid.empty()) footer(paid);
+    footer(closingFigures(original - bill_.Amount() + bill_.Favorable()));
+  }
+
+  std::string closingFigures(Currency saved) const {
+    if (bill_.CardPay() > Currency()) {
+      return "储值卡号" + bill_.CardNo() + "刷卡金额" + oneDecimal(bill_.CardPay()) + "\"优惠" +
+             oneDecimal(saved);
+    }
+    return "总优惠" + oneDecimal(saved) + " 找零" + oneDecimal(bill_.Change());
+  }
+
+  void shopTexts() {
+    const ClsSysParam& shop = pos_.gSysParam;
+    for (const std::string& text :
+         {shop.ReceiptText2(), shop.ReceiptText1(), std::string(), shop.ReceiptText3(),
+          shop.ReceiptText4(), shop.ReceiptText5(), shop.ReceiptText6()}) {
+      footer(text);
+    }
+  }
+
+  posMod& pos_;
+  const SaleState& state_;
+  const ClsSell& bill_;
+  std::size_t width_;
+  PageDocument page_;
+  int bottom_ = 0;  ///< below everything placed so far
+};
+
+}  // namespace
+
+PageDocument pageReceipt(posMod& pos, const SaleState& state) {
+  return Layout(pos, state).receipt();
+}

@@ -1,0 +1,168 @@
+#include "checkout/Settlement.h"
+
+#include "app/posMod.h"
+#include "base/NumberText.h"
+#include "checkout/CustomerDisplay.h"
+#include "checkout/LineReceipt.h"
+#include "saleslib/ClsSell.h"
+#include "store/Literal.h"
+#include "store/StoreError.h"
+#include "store/Transaction.h"
+
+namespace {
+
+constexpr const char* kUnknownCardText = "储值卡号错误,请重输";
+
+QString shown(const std::string& text) {
+  return QString::fromStdString(text);
+}
+
+std::optional<Currency> money(const QString& text) {
+  return Currency::parse(text.toStdString());
+}
+
+}  // namespace
+
+Settlement::Settlement(posMod& pos, ClsSell& bill, CustomerDisplay& display, LineReceipt& receipt,
+                       std::function<void(const QString&)> say)
+    : pos_(pos), bill_(bill), display_(display), receipt_(receipt), say_(std::move(say)) {}
+
+void Settlement::begin() {
+  display_.clientView(bill_.Amount(), CustomerDisplay::kTotal);
+}
+
+QString Settlement::title() const {
+  return shown("单号：" + std::to_string(bill_.BillNo()) + "结账时间：" + shortTime(pos_.clock()) +
+               "收银员：" + pos_.gOperator->Name());
+}
+
+QString Settlement::countText() const {
+  return shown("共 " + generalNumber(bill_.Quantity()) + " 件商品");
+}
+
+QString Settlement::dueText() const {
+  return shown(twoDecimals(bill_.Amount()));
+}
+QString Settlement::cashText() const {
+  return shown(generalNumber(bill_.Amount()));
+}
+QString Settlement::favorableText() const {
+  return shown(generalNumber(bill_.Favorable()));
+}
+QString Settlement::bankCardText() const {
+  return shown(generalNumber(bill_.BankCard()));
+}
+QString Settlement::salesmanText() const {
+  return QString::number(bill_.Salesman());
+}
+
+QString Settlement::favorableChanged(const QString& text) {
+  const auto amount = money(text);
+  bill_.setFavorable(amount.value_or(Currency()));
+  return amount ? text : QStringLiteral("0");
+}
+
+QString Settlement::bankCardChanged(const QString& text) {
+  const auto amount = money(text);
+  bill_.setBankCard(amount.value_or(Currency()));
+  return amount ? text : QStringLiteral("0");
+}
+
+QString Settlement::salesmanChanged(const QString& text) {
+  const auto number = parseWhole16(text.toStdString());
+  bill_.setSalesman(number.value_or(std::int16_t{0}));
+  return number ? text : QStringLiteral("0");
+}
+
+QString Settlement::change(const QString& cash, const QString& favorable,
+                           const QString& bankCard) const {
+  const auto cashPaid = money(cash);
+  const auto given = money(favorable);
+  const auto cardPaid = money(bankCard);
+  if (!cashPaid || !given || !cardPaid) return {};
+  try {
+    return shown(oneDecimal(*cashPaid + *given + *cardPaid - bill_.Amount()));
+  } catch (const Overflow&) {
+    return {};
+  }
+}
+
+void Settlement::confirmCash(const QString& cash) {
+  if (settled_) return;
+  if (const auto amount = money(cash)) bill_.setCash(*amount);
+  settled_ = true;
+  showAndPrint();
+}
+
+bool Settlement::checkCard(const QString& number) {
+  const std::string refusal = cardRefusal(number.toStdString());
+  if (!refusal.empty()) say_(shown(refusal));
+  return refusal.empty();
+}
+
+// A disabled card (lost, say) pays as little as it can be attached to a bill.
+std::string Settlement::cardRefusal(const std::string& number) const {
+  try {
+    const Recordset found = pos_.gConn->Open(
+        "select card, bh, name, enabled from member where bh=" + quotedText(number));
+    if (found.count() == 0) return kUnknownCardText;
+    const Row& card = found.row(0);
+    if (card.whole("enabled").value_or(0) != 0) return {};
+    return "会员卡被禁用！卡号：" + card.text("bh") + "，持卡人：" + card.text("name");
+  } catch (const StoreError&) {
+    return kUnknownCardText;
+  }
+}
+
+Settlement::CardResult Settlement::payByCard(const QString& number, const QString& password) {
+  if (settled_) return CardResult::kPaid;
+  if (!checkCard(number)) return CardResult::kUnknownCard;
+  try {
+    const CardResult result = charge(number.toStdString(), password.toStdString());
+    if (result == CardResult::kWrongPassword) say_(tr("储值卡密码错误,请重输"));
+    if (result == CardResult::kTooLittle) say_(tr("储值卡余额不够,请先充值"));
+    return result;
+  } catch (const StoreError& error) {
+    say_(tr("储值卡没有扣款：%1").arg(QString::fromUtf8(error.what())));
+    return CardResult::kFailed;
+  }
+}
+
+// Reads and writes the balance in one transaction, and the statement itself refuses to overdraw:
+// two tills that charge one card at the same moment cannot both spend the same money.
+Settlement::CardResult Settlement::charge(const std::string& number, const std::string& password) {
+  const std::string where =
+      " where bh=" + quotedText(number) + " and password=" + quotedText(password);
+  const Currency due = roundedToFen(bill_.Amount());
+
+  Transaction charging(*pos_.gConn);
+  const Recordset found = pos_.gConn->Open("select card from member" + where);
+  if (found.count() == 0) return CardResult::kWrongPassword;
+  const Currency balance = found.row(0).currency("card").value_or(Currency());
+  if (balance < due) return CardResult::kTooLittle;
+  const Currency left = balance - due;
+  if (pos_.gConn->Execute("update member set card=" + literal(left) + where +
+                          " and card>=" + literal(due)) != 1) {
+    return CardResult::kTooLittle;
+  }
+  charging.commit();
+
+  bill_.setCardPay(due);
+  bill_.setCash(Currency());
+  bill_.setCardNo(number);
+  cardBalance_ = left;
+  return CardResult::kPaid;
+}
+
+void Settlement::confirmCard() {
+  if (settled_) return;
+  // Settled before the message, which waits for the cashier: from here on the card has paid.
+  settled_ = true;
+  say_(tr(" 储值卡消费成功！余额：%1 ").arg(shown(generalNumber(cardBalance_))));
+  showAndPrint();
+}
+
+void Settlement::showAndPrint() {
+  display_.clientView(bill_.Cash(), CustomerDisplay::kReceived);
+  receipt_.PrintFoot();
+}

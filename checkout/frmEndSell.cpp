@@ -1,0 +1,233 @@
+#include "checkout/frmEndSell.h"
+
+#include <QFrame>
+#include <QGridLayout>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QLineEdit>
+#include <QVBoxLayout>
+
+#include "app/KeyBoard.h"
+#include "checkout/Settlement.h"
+#include "platform/Twips.h"
+#include "platform/VirtualKey.h"
+#include "shell/Modal.h"
+
+namespace {
+
+/// Of the captions on the left, alike in both frames so that the fields stand in one line.
+constexpr int kCaptionWidth = pixels(1500);
+constexpr int kFieldWidth = pixels(3300);
+
+/// Shows what became of a text; a text that was replaced is selected, so that typing replaces it.
+void showAccepted(QLineEdit& field, const QString& accepted) {
+  if (field.text() == accepted) return;
+  field.setText(accepted);
+  field.selectAll();
+}
+
+}  // namespace
+
+frmEndSell::frmEndSell(const KeyBoard& keys, QWidget* parent)
+    : QDialog(parent),
+      keys_(keys),
+      title_(label("title")),
+      count_(label("PCount")),
+      money_(label("Money", tr("0000.00"))),
+      change_(label("lbl1", tr("0.00"))),
+      cash_(field("txtInMoney")),
+      favorable_(field("favorable")),
+      salesman_(field("salesman")),
+      bankCard_(field("yhk")),
+      cardNumber_(field("czk")),
+      password_(field("mima")) {
+  setObjectName("frmEndSell");
+  setWindowTitle(tr("收银结算"));
+  cash_->setToolTip(tr("为0表示实收金额与应收金额相同"));
+  password_->setEchoMode(QLineEdit::Password);
+  password_->setContextMenuPolicy(Qt::NoContextMenu);
+
+  auto* all = new QVBoxLayout(this);
+  all->addWidget(label("Label4", tr("收银结算")), 0, Qt::AlignHCenter);
+  all->addWidget(title_);
+  all->addWidget(count_);
+  all->addWidget(amountFrame());
+  all->addWidget(otherFrame());
+  all->setSizeConstraint(QLayout::SetFixedSize);
+  connectFields();
+}
+
+QLabel* frmEndSell::label(const char* name, const QString& text) {
+  auto* made = new QLabel(text, this);
+  made->setObjectName(name);
+  return made;
+}
+
+// Made in the order of the Tab key.
+QLineEdit* frmEndSell::field(const char* name) {
+  auto* made = new QLineEdit(this);
+  made->setObjectName(name);
+  made->installEventFilter(this);
+  return made;
+}
+
+QFrame* frmEndSell::amountFrame() {
+  auto* frame = new QFrame(this);
+  frame->setObjectName("Frame1");
+  auto* grid = new QGridLayout(frame);
+  money_->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+  cash_->setAlignment(Qt::AlignRight);
+  change_->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+  grid->addWidget(label("Label6", tr("应收")), 0, 0);
+  grid->addWidget(money_, 0, 1);
+  grid->addWidget(label("Label7", tr("元")), 0, 2);
+  grid->addWidget(label("Label1", tr("现金")), 1, 0);
+  grid->addWidget(cash_, 1, 1);
+  grid->addWidget(label("Label3", tr("找零")), 2, 0);
+  grid->addWidget(change_, 2, 1);
+  grid->setColumnMinimumWidth(0, kCaptionWidth);
+  grid->setColumnStretch(1, 1);
+  return frame;
+}
+
+QFrame* frmEndSell::otherFrame() {
+  auto* frame = new QFrame(this);
+  frame->setObjectName("Frame2");
+  auto* grid = new QGridLayout(frame);
+  grid->addWidget(label("Label8", tr("优惠")), 0, 0);
+  grid->addWidget(favorable_, 0, 1);
+  grid->addWidget(label("Label9", tr("业务员")), 0, 2);
+  grid->addWidget(salesman_, 0, 3);
+  grid->addWidget(label("Label2", tr("银行卡")), 1, 0);
+  grid->addWidget(bankCard_, 1, 1);
+  grid->addWidget(label("Label5", tr("卡号")), 2, 0);
+  grid->addWidget(cardNumber_, 2, 1);
+  grid->addWidget(label("passwordmc", tr("密码")), 2, 2);
+  grid->addWidget(password_, 2, 3);
+  for (const int caption : {0, 2}) grid->setColumnMinimumWidth(caption, kCaptionWidth);
+  for (const int field : {1, 3}) grid->setColumnMinimumWidth(field, kFieldWidth);
+  return frame;
+}
+
+void frmEndSell::connectFields() {
+  connect(cash_, &QLineEdit::textChanged, this, &frmEndSell::showChange);
+  connect(favorable_, &QLineEdit::textChanged, this, [this](const QString& text) {
+    showAccepted(*favorable_, settlement_->favorableChanged(text));
+  });
+  connect(salesman_, &QLineEdit::textChanged, this, [this](const QString& text) {
+    showAccepted(*salesman_, settlement_->salesmanChanged(text));
+  });
+  connect(bankCard_, &QLineEdit::textChanged, this, [this](const QString& text) {
+    showAccepted(*bankCard_, settlement_->bankCardChanged(text));
+  });
+}
+
+bool frmEndSell::init(Settlement& settlement) {
+  settlement_ = &settlement;
+  showSettlement();
+  settlement.begin();
+  exec();
+  password_->clear();
+  settlement_ = nullptr;
+  return settlement.settled();
+}
+
+void frmEndSell::showSettlement() {
+  title_->setText(settlement_->title());
+  count_->setText(settlement_->countText());
+  money_->setText(settlement_->dueText());
+  favorable_->setText(settlement_->favorableText());
+  salesman_->setText(settlement_->salesmanText());
+  bankCard_->setText(settlement_->bankCardText());
+  cash_->setText(settlement_->cashText());
+  cardNumber_->clear();
+  password_->clear();
+  showChange();
+}
+
+void frmEndSell::showChange() {
+  const QString change = settlement_->change(cash_->text(), favorable_->text(), bankCard_->text());
+  if (!change.isNull()) change_->setText(change);
+}
+
+void frmEndSell::showEvent(QShowEvent* event) {
+  QDialog::showEvent(event);
+  centreOnScreen(*this);
+  cash_->setFocus();
+  cash_->selectAll();
+}
+
+bool frmEndSell::eventFilter(QObject* watched, QEvent* event) {
+  if (event->type() == QEvent::FocusIn && watched == cash_) cash_->selectAll();
+  if (event->type() == QEvent::KeyPress) {
+    const auto& pressed = *static_cast<QKeyEvent*>(event);
+    const int key = virtualKey(pressed);
+    // The key that opened the dialog may still be held down; that confirms nothing.
+    const bool confirms = key == vk::kEnter || key == keys_.mEnter || key == keys_.mF1;
+    return (pressed.isAutoRepeat() && confirms) || keyPressed(watched, key);
+  }
+  return QDialog::eventFilter(watched, event);
+}
+
+// A dialog of its own accord closes on Escape; this one is only left from the cash field.
+void frmEndSell::keyPressEvent(QKeyEvent* event) {
+  event->accept();
+}
+
+bool frmEndSell::keyPressed(const QObject* watched, int key) {
+  if (watched == cardNumber_ || watched == password_) {
+    if (key != vk::kEnter) return false;
+    watched == cardNumber_ ? checkCard() : payByCard();
+    return true;
+  }
+  if (key == vk::kEnter) key = keys_.mEnter;
+  if (watched == cash_) return cashKey(key);
+  if (key != keys_.mEnter || key == 0) return false;
+  cash_->setFocus();
+  return true;
+}
+
+bool frmEndSell::cashKey(int key) {
+  if (key == 0) return false;
+  if (key == keys_.mEnter || key == keys_.mF1) {
+    confirmCash();
+  } else if (key == keys_.mEsc) {
+    close();
+  } else {
+    return false;
+  }
+  return true;
+}
+
+void frmEndSell::confirmCash() {
+  settlement_->confirmCash(cash_->text());
+  close();
+}
+
+void frmEndSell::checkCard() {
+  const bool known = settlement_->checkCard(cardNumber_->text());
+  (known ? password_ : cardNumber_)->setFocus();
+  if (!known) cardNumber_->selectAll();
+}
+
+void frmEndSell::payByCard() {
+  switch (settlement_->payByCard(cardNumber_->text(), password_->text())) {
+    case Settlement::CardResult::kPaid:
+      cash_->setText("0");
+      change_->setText("0.0");
+      settlement_->confirmCard();
+      close();
+      return;
+    case Settlement::CardResult::kUnknownCard:
+      cardNumber_->setFocus();
+      cardNumber_->selectAll();
+      return;
+    case Settlement::CardResult::kWrongPassword:
+      password_->setFocus();
+      password_->selectAll();
+      return;
+    case Settlement::CardResult::kTooLittle:
+    case Settlement::CardResult::kFailed:
+      return;
+  }
+}
