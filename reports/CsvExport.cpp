@@ -1,7 +1,6 @@
 #include "reports/CsvExport.h"
 
 #include <cerrno>
-#include <cstring>
 #include <fstream>
 
 #include "base/Text.h"
@@ -53,6 +52,6 @@ bool writeCsv(const UnfinishedFile& file, const ExportTable& table, const Export
     out << rowLine(table.list, row) << kLineEnd;
   }
   out.close();
-  if (!out) file.fail(std::strerror(errno));
+  if (!out) file.failWith(errno);
   return true;
 }

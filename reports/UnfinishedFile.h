@@ -18,8 +18,9 @@ class UnfinishedFile {
   /// Brings what was written to the disk and gives it its name, in place of a file that had it.
   /// Throws ExportError.
   void finish();
-  /// Throws the ExportError of a failed write; `why` is for people.
+  /// Throws the ExportError of a failed write; `why` is for people, `error` the system's errno.
   [[noreturn]] void fail(const std::string& why) const;
+  [[noreturn]] void failWith(int error) const;
 
  private:
   std::filesystem::path target_;

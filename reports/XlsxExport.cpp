@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cerrno>
 #include <cstdio>
 #include <memory>
 
@@ -79,8 +80,11 @@ class Sheet {
   void close() {
     // The library does not look whether the disk took its rows.
     FILE* rows = sheet_->optimize_tmpfile;
-    if (rows && (std::fflush(rows) != 0 || std::ferror(rows) != 0)) file_.fail("磁盘已满");
-    check(workbook_close(book_.release()));
+    if (rows && (std::fflush(rows) != 0 || std::ferror(rows) != 0)) file_.failWith(ENOSPC);
+    errno = 0;
+    const lxw_error error = workbook_close(book_.release());
+    if (error != LXW_NO_ERROR && errno != 0) file_.failWith(errno);
+    check(error);
   }
 
  private:

@@ -109,9 +109,11 @@ void frmSearch::resizeEvent(QResizeEvent* event) {
 }
 
 void frmSearch::closeEvent(QCloseEvent* event) {
+  query_->stop();
   export_.stop();
   // The export ends first: it still reads the list.
-  event->setAccepted(!export_.isRunning());
+  if (export_.isRunning()) return event->ignore();
+  QDialog::closeEvent(event);
 }
 
 // Neither Esc nor Enter has a meaning of its own here: the keyboard map says what they do.
@@ -210,7 +212,7 @@ void frmSearch::showAll() {
   placeBefore_.reset();
   found_ = asked_;
   ListView1_->horizontalHeader()->setSortIndicatorShown(false);
-  showIdle(tr("共 %L1 行").arg(model_->list()->lineCount()));
+  showIdle(tr("共 %L1 行，空格键排序").arg(model_->list()->lineCount()));
 }
 
 void frmSearch::stopQuery() {
