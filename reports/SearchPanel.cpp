@@ -106,6 +106,7 @@ void SearchPanel::makeButtons() {
   Command3 = named(new QPushButton(tr("补打小票")), "Command3");
   Command4 = named(new QPushButton(tr("退出")), "Command4");
   lblState = label("lblState", {});
+  lblState->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);  // pushes no button
   prgState = named(new QProgressBar, "prgState");
   prgState->setTextVisible(false);
   prgState->hide();
