@@ -50,7 +50,6 @@ frmMain::frmMain(posMod& pos, std::map<QString, Screen> screens, QWidget* parent
 }
 
 void frmMain::fillMenus() {
-  theMenu_->setObjectName("theMenu");
   theMenu_->setAlignment(frmMenu::kCentre);
   addScreens(*theMenu_, {{tr("前 台 销 售"), "sell"},
                          {tr("销 售 统 计"), "count"},
@@ -61,7 +60,6 @@ void frmMain::fillMenus() {
   theMenu_->closed = [this] { close(); };
   theMenu_->furtherMenu = [this] { showFurtherMenu(); };
 
-  furtherMenu_->setObjectName("furtherMenu");
   furtherMenu_->setWindowTitle(tr("更多功能"));
   furtherMenu_->setAlignment(frmMenu::kCentre);
   addScreens(*furtherMenu_, {{tr("销 售 查 询"), "search"},
