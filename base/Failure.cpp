@@ -3,8 +3,7 @@
 #include <cstdio>
 #include <cstdlib>
 
-void ensure(bool holds, const char* what, const char* file, int line) {
-  if (holds) return;
+void stopOnBrokenInvariant(const char* what, const char* file, int line) {
   std::fprintf(stderr, "%s:%d: broken invariant: %s\n", file, line, what);
   std::abort();
 }

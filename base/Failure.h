@@ -17,9 +17,13 @@ class Overflow : public Failure {
   using Failure::Failure;
 };
 
+[[noreturn]] void stopOnBrokenInvariant(const char* what, const char* file, int line);
+
 /// Stops the program when `holds` is false: a bug, never an input. Stays on in release builds,
 /// because a till that goes on with wrong books costs more than one that stops.
 /// `file` and `line` are the caller's; built-ins, because clang-tidy 14 cannot read
 /// <source_location>.
-void ensure(bool holds, const char* what, const char* file = __builtin_FILE(),
-            int line = __builtin_LINE());
+inline void ensure(bool holds, const char* what, const char* file = __builtin_FILE(),
+                   int line = __builtin_LINE()) {
+  if (!holds) stopOnBrokenInvariant(what, file, line);
+}

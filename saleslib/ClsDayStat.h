@@ -27,7 +27,7 @@ class ClsDayStat {
   /// lines loaded.
   void OpenQuery(Connection& connection, std::int32_t operatorId);
 
-  const Sells_t& Sells() const;
+  const Sells_t& Sells() const { return sells_; }
   double SumQuantity() const;
   Currency SumMoney() const;
 

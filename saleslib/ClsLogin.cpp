@@ -46,10 +46,3 @@ bool ClsLogin::Check(std::string_view number, std::string_view password) {
   operator_->Init(*connection_, *id);
   return true;
 }
-
-std::shared_ptr<ClsOperator> ClsLogin::Operator() const {
-  return operator_;
-}
-const std::string& ClsLogin::ErrText() const {
-  return errText_;
-}

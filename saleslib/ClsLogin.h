@@ -15,9 +15,9 @@ class ClsLogin {
   /// Both exactly as typed. True when they belong to an operator, who is then in Operator().
   [[nodiscard]] bool Check(std::string_view number, std::string_view password);
   /// The operator of the last successful check, else none.
-  std::shared_ptr<ClsOperator> Operator() const;
+  std::shared_ptr<ClsOperator> Operator() const { return operator_; }
   /// The reason of the last refusal, worded for the cashier.
-  const std::string& ErrText() const;
+  const std::string& ErrText() const { return errText_; }
 
  private:
   Connection* connection_ = nullptr;

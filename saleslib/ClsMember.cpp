@@ -5,7 +5,6 @@
 #include <utility>
 
 #include "base/Failure.h"
-#include "base/Text.h"
 #include "saleslib/Fields.h"
 #include "store/Connection.h"
 #include "store/StoreError.h"
@@ -67,8 +66,9 @@ bool ClsMember::Save() {
     errText_ = error.what();
     return false;
   }
-  const WriteMark mark = connection_->writeMark();
-  birthday_.written = balance_.written = password_.written = mark;
+  birthday_.markWritten(*connection_);
+  balance_.markWritten(*connection_);
+  password_.markWritten(*connection_);
   edited_ = false;
   return true;
 }
@@ -131,105 +131,17 @@ void ClsMember::update() {
 }
 
 template <class T>
-void ClsMember::WriteOnly<T>::set(T newValue) {
-  value = std::move(newValue);
-  written = kNotWritten;
-}
-
-template <class T>
 std::optional<T> ClsMember::WriteOnly<T>::unwritten(const Connection& connection) const {
   return connection.stands(written) ? std::nullopt : value;
 }
 
+// A mark that still stands is kept: were this Save taken back, the value must not be written again
+// over a balance that has moved on since.
 template <class T>
-void ClsMember::edit(T& member, T value) {
-  member = std::move(value);
-  edited_ = true;
+void ClsMember::WriteOnly<T>::markWritten(Connection& connection) {
+  if (!connection.stands(written)) written = connection.writeMark();
 }
 
 std::int32_t ClsMember::Id() const {
   return id_ != 0 && connection_->stands(inserted_) ? id_ : 0;
-}
-const std::string& ClsMember::Bh() const {
-  return bh_;
-}
-void ClsMember::setBh(std::string bh) {
-  edit(bh_, trimmed(bh));
-}
-const std::string& ClsMember::Name() const {
-  return name_;
-}
-void ClsMember::setName(std::string name) {
-  edit(name_, trimmed(name));
-}
-const std::string& ClsMember::Sex() const {
-  return sex_;
-}
-void ClsMember::setSex(std::string sex) {
-  edit(sex_, std::move(sex));
-}
-std::int16_t ClsMember::Age() const {
-  return age_;
-}
-void ClsMember::setAge(std::int16_t age) {
-  edit(age_, age);
-}
-const std::string& ClsMember::Phone() const {
-  return phone_;
-}
-void ClsMember::setPhone(std::string phone) {
-  edit(phone_, trimmed(phone));
-}
-const std::string& ClsMember::ErrText() const {
-  return errText_;
-}
-std::int16_t ClsMember::Points() const {
-  return points_;
-}
-void ClsMember::setPoints(std::int16_t points) {
-  points_ = points;
-}
-Date ClsMember::JoinDate() const {
-  return joined_.date;
-}
-const std::string& ClsMember::Other() const {
-  return other_;
-}
-void ClsMember::setOther(std::string other) {
-  edit(other_, std::move(other));
-}
-const std::string& ClsMember::Address() const {
-  return address_;
-}
-void ClsMember::setAddress(std::string address) {
-  edit(address_, std::move(address));
-}
-bool ClsMember::Enabled() const {
-  return enabled_;
-}
-void ClsMember::setEnabled(bool enabled) {
-  enabled_ = enabled;
-}
-Currency ClsMember::TotalSpent() const {
-  return totalSpent_;
-}
-void ClsMember::setTotalSpent(Currency total) {
-  totalSpent_ = total;
-}
-double ClsMember::Discount() const {
-  return discount_.value_or(1.0);
-}
-void ClsMember::setDiscount(double factor) {
-  edit(discount_, std::optional(factor));
-}
-void ClsMember::setBirthday(const Date& birthday) {
-  birthday_.set(DateTime{birthday});
-}
-void ClsMember::setBalance(Currency balance) {
-  balance_.set(balance);
-  edited_ = true;
-}
-void ClsMember::setPassword(std::string password) {
-  password_.set(std::move(password));
-  edited_ = true;
 }

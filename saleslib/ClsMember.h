@@ -3,9 +3,13 @@
 #include <cstdint>
 #include <optional>
 #include <string>
+#include <string_view>
+#include <type_traits>
+#include <utility>
 
 #include "base/Currency.h"
 #include "base/DateTime.h"
+#include "base/Text.h"
 #include "store/WriteMarks.h"
 
 class Connection;
@@ -31,33 +35,39 @@ class ClsMember {
   [[nodiscard]] bool Update();
 
   std::int32_t Id() const;
-  const std::string& Bh() const;  ///< member and card number
-  void setBh(std::string bh);     ///< kept without blanks around
-  const std::string& Name() const;
-  void setName(std::string name);  ///< kept without blanks around
-  const std::string& Sex() const;  ///< "男" or "女"
-  void setSex(std::string sex);
-  std::int16_t Age() const;
-  void setAge(std::int16_t age);
-  const std::string& Phone() const;
-  void setPhone(std::string phone);  ///< kept without blanks around
-  const std::string& ErrText() const;
-  std::int16_t Points() const;
-  void setPoints(std::int16_t points);
-  Date JoinDate() const;
-  const std::string& Other() const;  ///< remark
-  void setOther(std::string other);
-  const std::string& Address() const;
-  void setAddress(std::string address);
-  bool Enabled() const;  ///< card usable
-  void setEnabled(bool enabled);
-  Currency TotalSpent() const;
-  void setTotalSpent(Currency total);
-  double Discount() const;  ///< factor; 1 when the record has none
-  void setDiscount(double factor);
-  void setBirthday(const Date& birthday);
-  void setBalance(Currency balance);
-  void setPassword(std::string password);
+  const std::string& Bh() const { return bh_; }                ///< member and card number
+  void setBh(std::string_view bh) { edit(bh_, trimmed(bh)); }  ///< kept without blanks around
+  const std::string& Name() const { return name_; }
+  void setName(std::string_view name) {
+    edit(name_, trimmed(name));
+  }                                                ///< kept without blanks around
+  const std::string& Sex() const { return sex_; }  ///< "男" or "女"
+  void setSex(std::string sex) { edit(sex_, std::move(sex)); }
+  std::int16_t Age() const { return age_; }
+  void setAge(std::int16_t age) { edit(age_, age); }
+  const std::string& Phone() const { return phone_; }
+  void setPhone(std::string_view phone) {
+    edit(phone_, trimmed(phone));
+  }  ///< kept without blanks around
+  const std::string& ErrText() const { return errText_; }
+  std::int16_t Points() const { return points_; }
+  void setPoints(std::int16_t points) { points_ = points; }
+  Date JoinDate() const { return joined_.date; }
+  const std::string& Other() const { return other_; }  ///< remark
+  void setOther(std::string other) { edit(other_, std::move(other)); }
+  const std::string& Address() const { return address_; }
+  void setAddress(std::string address) { edit(address_, std::move(address)); }
+  bool Enabled() const { return enabled_; }  ///< card usable
+  void setEnabled(bool enabled) { enabled_ = enabled; }
+  Currency TotalSpent() const { return totalSpent_; }
+  void setTotalSpent(Currency total) { totalSpent_ = total; }
+  double Discount() const {
+    return discount_.value_or(1.0);
+  }  ///< factor; 1 when the record has none
+  void setDiscount(double factor) { edit(discount_, factor); }
+  void setBirthday(const Date& birthday) { edit(birthday_, {DateTime{birthday}}); }
+  void setBalance(Currency balance) { edit(balance_, {balance}); }
+  void setPassword(std::string password) { edit(password_, {std::move(password)}); }
 
  private:
   /// What the program sets but never reads: written once, again only when that write was taken
@@ -67,8 +77,8 @@ class ClsMember {
     std::optional<T> value;
     WriteMark written = kNotWritten;
 
-    void set(T newValue);
     std::optional<T> unwritten(const Connection& connection) const;
+    void markWritten(Connection& connection);
   };
 
   std::string refusal() const;
@@ -76,7 +86,10 @@ class ClsMember {
   void insert();
   void update();
   template <class T>
-  void edit(T& member, T value);
+  void edit(T& member, std::type_identity_t<T> value) {
+    member = std::move(value);
+    edited_ = true;
+  }
 
   Connection* connection_ = nullptr;
   Clock clock_ = localTime;

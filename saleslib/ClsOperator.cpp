@@ -1,7 +1,5 @@
 #include "saleslib/ClsOperator.h"
 
-#include <utility>
-
 #include "base/Failure.h"
 #include "saleslib/PasswordHash.h"
 #include "store/Connection.h"
@@ -30,10 +28,6 @@ void ClsOperator::Init(Connection& connection, std::int16_t id) {
   code_ = rows.text("code");
   online_ = static_cast<std::int16_t>(rows.whole("online").value_or(0));
   rights_ = storedRights(connection, id);
-}
-
-bool ClsOperator::Found() const {
-  return found_;
 }
 
 void ClsOperator::Save() {
@@ -72,31 +66,6 @@ void ClsOperator::storeRights() {
   }
 }
 
-const std::string& ClsOperator::Code() const {
-  return code_;
-}
-void ClsOperator::setCode(std::string code) {
-  code_ = std::move(code);
-}
 void ClsOperator::setPassword(std::string_view password) {
   newPasswordHash_ = passwordHash(password);
-}
-const std::string& ClsOperator::Name() const {
-  return name_;
-}
-void ClsOperator::setName(std::string name) {
-  name_ = std::move(name);
-}
-std::int16_t ClsOperator::Id() const {
-  return id_;
-}
-const ClsRights& ClsOperator::Rights() const {
-  return rights_;
-}
-void ClsOperator::setRights(ClsRights rights) {
-  rights_ = std::move(rights);
-  newRights_ = true;
-}
-void ClsOperator::setOnline(std::int16_t online) {
-  online_ = online;
 }

@@ -4,6 +4,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <utility>
 
 #include "saleslib/ClsRights.h"
 
@@ -15,7 +16,7 @@ class ClsOperator {
   /// Binds and loads the operator with that number. An unknown number leaves an operator with that
   /// Id, no name and no rights, whom Save adds; Found() tells.
   void Init(Connection& connection, std::int16_t id);
-  bool Found() const;
+  bool Found() const { return found_; }
 
   /// Stores the record in one transaction, a new password and new rights included. A new operator
   /// has been given a password (ensure). Throws StoreError, also when the operator was removed
@@ -23,16 +24,19 @@ class ClsOperator {
   void Save();
 
   /// The identifier printed on receipts after "收银员：".
-  const std::string& Code() const;
-  void setCode(std::string code);
+  const std::string& Code() const { return code_; }
+  void setCode(std::string code) { code_ = std::move(code); }
   /// The operator's new password; stored by Save. May be empty.
   void setPassword(std::string_view password);
-  const std::string& Name() const;
-  void setName(std::string name);
-  std::int16_t Id() const;
-  const ClsRights& Rights() const;
-  void setRights(ClsRights rights);
-  void setOnline(std::int16_t online);
+  const std::string& Name() const { return name_; }
+  void setName(std::string name) { name_ = std::move(name); }
+  std::int16_t Id() const { return id_; }
+  const ClsRights& Rights() const { return rights_; }
+  void setRights(ClsRights rights) {
+    rights_ = std::move(rights);
+    newRights_ = true;
+  }
+  void setOnline(std::int16_t online) { online_ = online; }
 
  private:
   void insert();

@@ -9,7 +9,3 @@ ClsRights::ClsRights(const std::set<std::string>& keys) {
 bool ClsRights::HasRight(std::string_view key) const {
   return keys_.contains(asciiLower(key));
 }
-
-const std::set<std::string>& ClsRights::Keys() const {
-  return keys_;
-}

@@ -14,7 +14,7 @@ class ClsRights {
   explicit ClsRights(const std::set<std::string>& keys);
   [[nodiscard]] bool HasRight(std::string_view key) const;
   /// All keys, in lower case.
-  const std::set<std::string>& Keys() const;
+  const std::set<std::string>& Keys() const { return keys_; }
 
  private:
   std::set<std::string> keys_;

@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <memory>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "base/Currency.h"
@@ -45,35 +46,35 @@ class ClsSell {
   /// that (see there).
   void Recalculate();
 
-  std::int32_t BillNo() const;
-  Currency Amount() const;  ///< amount due
-  void setAmount(Currency amount);
-  Currency Cash() const;
-  void setCash(Currency cash);
-  DateTime SellTime() const;
-  const Items_t& Items() const;
-  std::int32_t OperatorId() const;
-  double Quantity() const;
-  std::int32_t MemberId() const;  ///< 0 for none
-  void setMemberId(std::int32_t memberId);
-  std::int16_t State() const;  ///< 0 open, 1 settled
-  void setState(std::int16_t state);
-  Currency Favorable() const;  ///< discount amount given at settlement
-  void setFavorable(Currency favorable);
-  std::int16_t Salesman() const;
-  void setSalesman(std::int16_t salesman);
-  Currency BankCard() const;
-  void setBankCard(Currency amount);
-  Currency CardPay() const;
-  void setCardPay(Currency amount);
-  const std::string& CardNo() const;
-  void setCardNo(std::string number);
-  const std::string& ErrText() const;
+  std::int32_t BillNo() const { return billNo_; }
+  Currency Amount() const { return amount_; }  ///< amount due
+  void setAmount(Currency amount) { amount_ = amount; }
+  Currency Cash() const { return cash_; }
+  void setCash(Currency cash) { cash_ = cash; }
+  DateTime SellTime() const { return sellTime_; }
+  const Items_t& Items() const { return items_; }
+  std::int32_t OperatorId() const { return operatorId_; }
+  double Quantity() const { return quantity_; }
+  std::int32_t MemberId() const { return memberId_; }  ///< 0 for none
+  void setMemberId(std::int32_t memberId) { memberId_ = memberId; }
+  std::int16_t State() const { return state_; }  ///< 0 open, 1 settled
+  void setState(std::int16_t state) { state_ = state; }
+  Currency Favorable() const { return favorable_; }  ///< discount amount given at settlement
+  void setFavorable(Currency favorable) { favorable_ = favorable; }
+  std::int16_t Salesman() const { return salesman_; }
+  void setSalesman(std::int16_t salesman) { salesman_ = salesman; }
+  Currency BankCard() const { return bankCard_; }
+  void setBankCard(Currency amount) { bankCard_ = amount; }
+  Currency CardPay() const { return cardPay_; }
+  void setCardPay(Currency amount) { cardPay_ = amount; }
+  const std::string& CardNo() const { return cardNo_; }
+  void setCardNo(std::string number) { cardNo_ = std::move(number); }
+  const std::string& ErrText() const { return errText_; }
 
   /// Sum of the lines' amounts, before the shop's rounding.
-  Currency GoodsAmount() const;
+  Currency GoodsAmount() const { return goodsAmount_; }
   /// Cash + bank card + stored-value card + discount - amount due.
-  Currency Change() const;
+  Currency Change() const { return cash_ + bankCard_ + cardPay_ + favorable_ - amount_; }
 
  private:
   void start(std::int32_t operatorId, const DateTime& now);

@@ -80,83 +80,8 @@ std::int32_t ClsSellItem::Id() const {
   return id_ != 0 && connection_->stands(inserted_) ? id_ : 0;
 }
 
-template <class T>
-void ClsSellItem::change(T& member, T value) {
-  member = std::move(value);
-  saved_ = kNotWritten;
-}
-
-Currency ClsSellItem::Price() const {
-  return price_;
-}
-void ClsSellItem::setPrice(Currency price) {
-  change(price_, price);
-}
-double ClsSellItem::Quantity() const {
-  return quantity_;
-}
-void ClsSellItem::setQuantity(double quantity) {
-  change(quantity_, quantity);
-}
-Discount ClsSellItem::Discount() const {
-  return discount_;
-}
-void ClsSellItem::setDiscount(::Discount discount) {
-  change(discount_, discount);
-}
 Currency ClsSellItem::Money() const {
   return lineAmount(price_, quantity_, discount_);
-}
-const std::string& ClsSellItem::EntryCode() const {
-  return entryCode_;
-}
-void ClsSellItem::setEntryCode(std::string code) {
-  change(entryCode_, std::move(code));
-}
-const std::string& ClsSellItem::SpName() const {
-  return spName_;
-}
-void ClsSellItem::setSpName(std::string name) {
-  change(spName_, std::move(name));
-}
-const std::string& ClsSellItem::SpCode() const {
-  return spCode_;
-}
-void ClsSellItem::setSpCode(std::string code) {
-  change(spCode_, std::move(code));
-}
-const std::string& ClsSellItem::Origin() const {
-  return origin_;
-}
-void ClsSellItem::setOrigin(std::string origin) {
-  change(origin_, std::move(origin));
-}
-const std::string& ClsSellItem::Unit() const {
-  return unit_;
-}
-void ClsSellItem::setUnit(std::string unit) {
-  change(unit_, std::move(unit));
-}
-std::int16_t ClsSellItem::Ratio() const {
-  return ratio_;
-}
-void ClsSellItem::setRatio(std::int16_t ratio) {
-  change(ratio_, ratio);
-}
-Currency ClsSellItem::Cost() const {
-  return cost_;
-}
-void ClsSellItem::setCost(Currency cost) {
-  change(cost_, cost);
-}
-const std::string& ClsSellItem::Category() const {
-  return category_;
-}
-void ClsSellItem::setCategory(std::string category) {
-  change(category_, std::move(category));
-}
-std::int32_t ClsSellItem::BillNo() const {
-  return billNo_;
 }
 double ClsSellItem::StockQuantity() const {
   return roundedQuantity(quantity_ * ratio_);

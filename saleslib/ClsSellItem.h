@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <string>
+#include <utility>
 
 #include "base/Currency.h"
 #include "base/DateTime.h"
@@ -28,34 +29,34 @@ class ClsSellItem {
   /// Deletes the line's row, if it has one; the line is not saved again.
   void Delete();
 
-  Currency Price() const;
-  void setPrice(Currency price);
-  double Quantity() const;  ///< in units of sale
-  void setQuantity(double quantity);
-  ::Discount Discount() const;
-  void setDiscount(::Discount discount);
+  Currency Price() const { return price_; }
+  void setPrice(Currency price) { change(price_, price); }
+  double Quantity() const { return quantity_; }  ///< in units of sale
+  void setQuantity(double quantity) { change(quantity_, quantity); }
+  ::Discount Discount() const { return discount_; }
+  void setDiscount(::Discount discount) { change(discount_, discount); }
   /// Price x quantity x discount, rounded to 0.01, halves away from zero. Throws Overflow.
   Currency Money() const;
   /// The row's key in sellProducts; 0 until stored.
   std::int32_t Id() const;
-  const std::string& EntryCode() const;  ///< what the cashier entered
-  void setEntryCode(std::string code);
-  const std::string& SpName() const;
-  void setSpName(std::string name);
-  const std::string& SpCode() const;  ///< item code
-  void setSpCode(std::string code);
-  const std::string& Origin() const;
-  void setOrigin(std::string origin);
-  const std::string& Unit() const;
-  void setUnit(std::string unit);
-  std::int16_t Ratio() const;  ///< stock units per unit of sale
-  void setRatio(std::int16_t ratio);
-  Currency Cost() const;
-  void setCost(Currency cost);
-  const std::string& Category() const;
-  void setCategory(std::string category);
+  const std::string& EntryCode() const { return entryCode_; }  ///< what the cashier entered
+  void setEntryCode(std::string code) { change(entryCode_, std::move(code)); }
+  const std::string& SpName() const { return spName_; }
+  void setSpName(std::string name) { change(spName_, std::move(name)); }
+  const std::string& SpCode() const { return spCode_; }  ///< item code
+  void setSpCode(std::string code) { change(spCode_, std::move(code)); }
+  const std::string& Origin() const { return origin_; }
+  void setOrigin(std::string origin) { change(origin_, std::move(origin)); }
+  const std::string& Unit() const { return unit_; }
+  void setUnit(std::string unit) { change(unit_, std::move(unit)); }
+  std::int16_t Ratio() const { return ratio_; }  ///< stock units per unit of sale
+  void setRatio(std::int16_t ratio) { change(ratio_, ratio); }
+  Currency Cost() const { return cost_; }
+  void setCost(Currency cost) { change(cost_, cost); }
+  const std::string& Category() const { return category_; }
+  void setCategory(std::string category) { change(category_, std::move(category)); }
 
-  std::int32_t BillNo() const;
+  std::int32_t BillNo() const { return billNo_; }
   /// Quantity x ratio: what the line takes out of stock.
   double StockQuantity() const;
 
@@ -63,7 +64,10 @@ class ClsSellItem {
   void insert();
   void update();
   template <class T>
-  void change(T& member, T value);
+  void change(T& member, T value) {
+    member = std::move(value);
+    saved_ = kNotWritten;
+  }
 
   Connection* connection_ = nullptr;
   Clock clock_ = localTime;

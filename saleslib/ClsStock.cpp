@@ -75,7 +75,3 @@ std::string ClsStock::goodsName() const {
   }
   return itemCode_;
 }
-
-const std::string& ClsStock::ErrText() const {
-  return errText_;
-}

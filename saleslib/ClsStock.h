@@ -22,7 +22,7 @@ class ClsStock {
   /// The quantity in stock now; 0 for an item that has no stock record.
   double StockQty() const;
   /// The reason of the last refusal.
-  const std::string& ErrText() const;
+  const std::string& ErrText() const { return errText_; }
 
  private:
   [[nodiscard]] bool acceptable(double quantity);

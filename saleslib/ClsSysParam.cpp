@@ -101,6 +101,7 @@ void ClsSysParam::Conn(Connection& connection) {
 
 std::vector<ClsSysParam::Parameter> ClsSysParam::list() const {
   std::vector<Parameter> parameters;
+  parameters.reserve(kDefinitions.size());
   for (const Definition& definition : kDefinitions) {
     parameters.push_back(
         {definition.name, value(definition.name), values_.contains(definition.name)});

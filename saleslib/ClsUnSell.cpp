@@ -37,31 +37,3 @@ double ClsUnSell::heldByLine() const {
   ensure(rows.next() && whole32(rows, "sellId") == billNo_, "a returned line is one of its bill");
   return rows.number("amount").value_or(0);
 }
-
-double ClsUnSell::UnQty() const {
-  return quantity_;
-}
-void ClsUnSell::setUnQty(double quantity) {
-  quantity_ = quantity;
-}
-Currency ClsUnSell::UnMoney() const {
-  return money_;
-}
-void ClsUnSell::setUnMoney(Currency money) {
-  money_ = money;
-}
-void ClsUnSell::setItemId(std::int32_t id) {
-  itemId_ = id;
-}
-void ClsUnSell::setOperatorId(std::int16_t id) {
-  operatorId_ = id;
-}
-void ClsUnSell::setCost(Currency cost) {
-  cost_ = cost;
-}
-void ClsUnSell::setRatio(std::int16_t ratio) {
-  ratio_ = ratio;
-}
-void ClsUnSell::setDiscount(::Discount discount) {
-  discount_ = discount;
-}

@@ -17,15 +17,15 @@ class ClsUnSell {
   /// is the caller's. Throws StoreError; ensure() guards a line that is not of this bill.
   void Save();
 
-  double UnQty() const;
-  void setUnQty(double quantity);
-  Currency UnMoney() const;
-  void setUnMoney(Currency money);
-  void setItemId(std::int32_t id);
-  void setOperatorId(std::int16_t id);
-  void setCost(Currency cost);
-  void setRatio(std::int16_t ratio);
-  void setDiscount(::Discount discount);
+  double UnQty() const { return quantity_; }
+  void setUnQty(double quantity) { quantity_ = quantity; }
+  Currency UnMoney() const { return money_; }
+  void setUnMoney(Currency money) { money_ = money; }
+  void setItemId(std::int32_t id) { itemId_ = id; }
+  void setOperatorId(std::int16_t id) { operatorId_ = id; }
+  void setCost(Currency cost) { cost_ = cost; }
+  void setRatio(std::int16_t ratio) { ratio_ = ratio; }
+  void setDiscount(::Discount discount) { discount_ = discount; }
 
  private:
   double heldByLine() const;

@@ -111,4 +111,11 @@ TEST_F(MemberTest, AMemberTakenBackOrNotStoredIsStillNew) {
   EXPECT_EQ(member.Id(), 0);
   ASSERT_TRUE(member.Save());
   EXPECT_EQ(stored("select card from member"), "50.5");
+  connection.run("update member set card = 20");
+  {
+    Transaction transaction(connection);
+    ASSERT_TRUE(member.Save());
+  }
+  ASSERT_TRUE(member.Save());
+  EXPECT_EQ(stored("select card from member"), "20") << "the card has been used since";
 }

@@ -1,0 +1,119 @@
+#include <QLabel>
+#include <QLineEdit>
+#include <QTest>
+#include <QTimer>
+
+#include "CheckoutFixture.h"
+#include "checkout/frmEndSell.h"
+
+using testing::ElementsAre;
+
+/// The dialog with a bill of 88.5, driven by real key events while it is shown.
+class EndSell : public CheckoutFixture {
+ protected:
+  EndSell() {
+    enter("水", "88.50");
+    commitCurrentLine(state, receipt);
+  }
+  ~EndSell() override { EXPECT_TRUE(QApplication::topLevelWidgets().size() <= 1); }
+
+  /// Shows the dialog, lets the cashier act, and gives whether payment was confirmed.
+  bool show(const std::function<void()>& cashier) {
+    Settlement settlement(pos, *state.curBill, display, receipt, report);
+    QTimer::singleShot(0, &dialog, [&] {
+      ASSERT_TRUE(QTest::qWaitForWindowActive(&dialog));
+      ASSERT_EQ(focused(), "txtInMoney");
+      cashier();
+    });
+    return dialog.init(settlement);
+  }
+  void press(Qt::Key key) { QTest::keyClick(dialog.focusWidget(), key); }
+  void type(const char* text) { QTest::keyClicks(dialog.focusWidget(), text); }
+  QString focused() const { return dialog.focusWidget()->objectName(); }
+  QString fieldText(const char* name) const { return dialog.findChild<QLineEdit*>(name)->text(); }
+  QString labelText(const char* name) const { return dialog.findChild<QLabel*>(name)->text(); }
+
+  frmEndSell dialog{pos.gKeyBoard};
+};
+
+TEST_F(EndSell, cashFigureReplacesTheAmountDueAndShowsTheChange) {
+  EXPECT_TRUE(show([this] {
+    EXPECT_EQ(labelText("Money"), "88.50");
+    EXPECT_EQ(labelText("PCount"), "共 1 件商品");
+    EXPECT_EQ(labelText("lbl1"), "0.0");
+    type("100");
+    EXPECT_EQ(fieldText("txtInMoney"), "100");
+    EXPECT_EQ(labelText("lbl1"), "11.5");
+    type("x");
+    EXPECT_EQ(labelText("lbl1"), "11.5");
+    press(Qt::Key_Backspace);
+    press(Qt::Key_F1);
+  }));
+  EXPECT_EQ(state.curBill->Cash(), Currency::fromYuan(100));
+}
+
+TEST_F(EndSell, otherFieldsAreReachedByTabAndLeftByEnter) {
+  EXPECT_FALSE(show([this] {
+    for (const char* name : {"favorable", "salesman", "yhk", "czk", "mima", "txtInMoney"}) {
+      press(Qt::Key_Tab);
+      EXPECT_EQ(focused(), name);
+    }
+    press(Qt::Key_Tab);
+    type("5");
+    EXPECT_EQ(generalNumber(state.curBill->Favorable()), "5");
+    press(Qt::Key_Backspace);
+    EXPECT_EQ(fieldText("favorable"), "0");
+    type("3");
+    EXPECT_EQ(fieldText("favorable"), "3");
+    press(Qt::Key_Escape);
+    EXPECT_TRUE(dialog.isVisible());
+    press(Qt::Key_Enter);
+    EXPECT_EQ(focused(), "txtInMoney");
+    press(Qt::Key_Escape);
+  }));
+  EXPECT_EQ(generalNumber(state.curBill->Favorable()), "3");
+  // Opened again: what the bill holds, and nothing of the dialog before.
+  EXPECT_FALSE(show([this] {
+    EXPECT_EQ(fieldText("favorable"), "3");
+    EXPECT_EQ(fieldText("salesman"), "0");
+    dialog.close();
+  }));
+}
+
+TEST_F(EndSell, mappedKeysCountAndTheEnterKeyAlwaysDoes) {
+  pos.gKeyBoard.mEnter = 107;  // the "+" of the numeric pad
+  pos.gKeyBoard.mEsc = 120;    // F9
+  EXPECT_FALSE(show([this] {
+    press(Qt::Key_Escape);
+    EXPECT_TRUE(dialog.isVisible());
+    press(Qt::Key_F9);
+  }));
+  EXPECT_TRUE(
+      show([this] { QTest::keyClick(dialog.focusWidget(), Qt::Key_Plus, Qt::KeypadModifier); }));
+  EXPECT_TRUE(show([this] { press(Qt::Key_Return); }));
+}
+
+TEST_F(EndSell, storedValueCardPays) {
+  EXPECT_TRUE(show([this] {
+    auto* czk = dialog.findChild<QLineEdit*>("czk");
+    czk->setFocus();
+    type("9999");
+    press(Qt::Key_Return);
+    EXPECT_EQ(focused(), "czk");
+    type("8001");
+    press(Qt::Key_Return);
+    ASSERT_EQ(focused(), "mima");
+    type("wrong");
+    press(Qt::Key_Return);
+    ASSERT_EQ(focused(), "mima");
+    type("Pw1");
+    EXPECT_EQ(dialog.findChild<QLineEdit*>("mima")->echoMode(), QLineEdit::Password);
+    press(Qt::Key_Enter);
+  }));
+  EXPECT_THAT(screen.messages, ElementsAre("储值卡号错误,请重输", "储值卡密码错误,请重输",
+                                           " 储值卡消费成功！余额：0 "));
+  EXPECT_EQ(fieldText("txtInMoney"), "0");
+  EXPECT_EQ(labelText("lbl1"), "0.0");
+  EXPECT_EQ(fieldText("mima"), "");
+  EXPECT_EQ(stored("card as v from member"), "0");
+}

@@ -1,0 +1,80 @@
+#include "checkout/PageReceipt.h"
+
+#include "CheckoutFixture.h"
+
+using testing::Contains;
+using testing::ElementsAre;
+using testing::ElementsAreArray;
+
+class PageReceiptTest : public CheckoutFixture {
+ protected:
+  /// The bill is stored and its rows are still on the screen.
+  void settled(const char* cash, const char* bankCard) {
+    commitCurrentLine(state, receipt);
+    state.curBill->setCash(Currency::parse(cash).value());
+    state.curBill->setBankCard(Currency::parse(bankCard).value());
+    state.curBill->setState(1);
+    ASSERT_TRUE(state.curBill->Save());
+    state.lastBill = state.curBill;
+  }
+  /// The receipt's texts with their places: "x,y text".
+  std::vector<std::string> printed(int paperModel, const char* option) {
+    pos.gPosSet.PModel = paperModel;
+    pos.gPosSet.printOption = option;
+    state.receiptCols = ReceiptColumns::forModel(paperModel);
+    std::vector<std::string> placed;
+    for (const PlacedText& text : pageReceipt(pos, state).texts)
+      placed.push_back(std::to_string(text.x) + "," + std::to_string(text.y) + " " + text.text);
+    return placed;
+  }
+};
+
+TEST_F(PageReceiptTest, wholeReceiptOnWidePaper) {
+  attachMember();
+  state.origTotal = 89;
+  enter("矿泉水五百五十毫升", "4.00", 2);
+  enter("茶", "80.50");
+  state.curBill->setFavorable(Currency::fromYuan(1));
+  settled("80", "10");
+  EXPECT_THAT(printed(1, "打印商品前7个字简称"), ElementsAreArray({"x"}));
+}
+
+TEST_F(PageReceiptTest, rowsByLayout) {
+  enter("茶", "80.55", 1.5);
+  settled("200", "0");
+  const struct {
+    const char* option;
+    std::vector<std::string> block;
+  } cases[] = {
+      {"打印编码+商品全称",
+       {"1,700 1001  茶", "1200,880  80.6 ", "1900,880 1.5", "2300,880 120.8 "}},
+      {"打印商品全称", {"1,700 茶 ", "1200,880  80.6 ", "1900,880 1.5", "2300,880 120.8 "}},
+      {"打印商品全称+折扣",
+       {"1,700 茶 折扣:1", "1200,880  80.6 ", "1900,880 1.5", "2300,880 120.8 "}},
+      {"", {}}};
+  for (const auto& row : cases) {
+    const auto placed = printed(2, row.option);
+    ASSERT_EQ(placed.size(), row.block.size() + 15) << row.option;
+    EXPECT_THAT(std::vector(placed.begin() + 2, placed.begin() + 2 + std::ssize(row.block)),
+                ElementsAreArray(row.block));
+  }
+}
+
+TEST_F(PageReceiptTest, longBillContinuesOnTheSameRoll) {
+  for (int i = 0; i < 90; ++i) enter("糖", "1.00");
+  settled("90", "0");
+  const auto placed = printed(1, "打印商品全称");
+  EXPECT_THAT(placed, Contains("1,36300 糖 "));
+  EXPECT_THAT(placed, Contains("1,36746 总金额合计"));
+}
+
+TEST_F(PageReceiptTest, paymentByStoredValueCard) {
+  enter("茶", "80.50");
+  state.origTotal = 81;
+  state.curBill->setCardPay(Currency::parse("80.5").value());
+  state.curBill->setCardNo("8001");
+  settled("0", "0");
+  const auto placed = printed(2, "");
+  EXPECT_EQ(placed.at(7).substr(placed.at(7).find(' ') + 1), "原价总计81.0   应收80.5");
+  EXPECT_EQ(placed.at(8).substr(placed.at(8).find(' ') + 1), "储值卡号8001刷卡金额80.5\"优惠0.5");
+}
