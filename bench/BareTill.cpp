@@ -6,11 +6,6 @@
 
 #include "store/DataFile.h"
 
-#ifdef SQLITE_HAS_CODEC
-#else
-extern "C" int sqlite3_key(sqlite3* engine, const void* key, int size);
-#endif
-
 BareTill::BareTill(const std::filesystem::path& dataFile) {
   const std::string password = kBuiltInPassword;
   if (sqlite3_open(dataFile.c_str(), &engine_) != SQLITE_OK ||

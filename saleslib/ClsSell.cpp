@@ -34,8 +34,9 @@ bool ClsSell::Open(Connection& connection, std::int32_t billNo, std::int32_t ope
                    const Clock& clock) {
   *this = ClsSell();
   connection_ = &connection;
+  clock_ = clock;
   if (billNo == 0) {
-    start(operatorId, clock());
+    start(operatorId);
     return true;
   }
   return load(connection.query("select * from sell where id = ?", billNo));
@@ -55,10 +56,11 @@ std::shared_ptr<ClsSell> ClsSell::fromRow(Connection& connection, const Row& row
   return bill;
 }
 
-void ClsSell::start(std::int32_t operatorId, const DateTime& now) {
+void ClsSell::start(std::int32_t operatorId) {
   operatorId_ = operatorId;
-  sellTime_ = now;
-  connection_->run("insert into sell (sell_time, operator_id) values (?, ?)", now, operatorId);
+  sellTime_ = clock_();
+  connection_->run("insert into sell (sell_time, operator_id) values (?, ?)", sellTime_,
+                   operatorId);
   billNo_ = key32(connection_->lastRowId());
 }
 
@@ -103,11 +105,12 @@ bool ClsSell::Save() {
 
 void ClsSell::store() {
   const std::int64_t changed = connection_->run(
-      "update sell set state = ?, quantity = ?, goods_amount = ?, amount = ?, cash = ?,"
+      "update sell set sell_time = ?, state = ?, quantity = ?, goods_amount = ?, amount = ?, cash "
+      "= ?,"
       " favorable = ?, bank_card = ?, card_pay = ?, card_no = ?, salesman = ?, member_id = ?"
       " where id = ?",
-      state_, quantity_, goodsAmount_, amount_, cash_, favorable_, bankCard_, cardPay_, cardNo_,
-      salesman_, memberId_, billNo_);
+      sellTime_, state_, quantity_, goodsAmount_, amount_, cash_, favorable_, bankCard_, cardPay_,
+      cardNo_, salesman_, memberId_, billNo_);
   if (changed == 0) throw StoreError("单据 " + std::to_string(billNo_) + " 已不在数据文件中！");
 }
 
@@ -136,6 +139,7 @@ void ClsSell::LoadLines() {
 void ClsSell::AddItem(std::shared_ptr<ClsSellItem> line) {
   ensure(line != nullptr && line->BillNo() == billNo_, "a line joins its own bill");
   const Currency money = line->Money();
+  if (items_.empty() && state_ == kOpen) sellTime_ = clock_();
   quantity_ = roundedQuantity(quantity_ + line->Quantity());
   goodsAmount_ += money;
   amount_ += money;

@@ -51,6 +51,9 @@ class ClsSell {
   void setAmount(Currency amount) { amount_ = amount; }
   Currency Cash() const { return cash_; }
   void setCash(Currency cash) { cash_ = cash; }
+  /// When the bill was made: opened, and from its first line on the time that line was added, so
+  /// that the first sale of a morning is not dated back to the evening before, when its bill was
+  /// opened.
   DateTime SellTime() const { return sellTime_; }
   const Items_t& Items() const { return items_; }
   std::int32_t OperatorId() const { return operatorId_; }
@@ -77,12 +80,13 @@ class ClsSell {
   Currency Change() const { return cash_ + bankCard_ + cardPay_ + favorable_ - amount_; }
 
  private:
-  void start(std::int32_t operatorId, const DateTime& now);
+  void start(std::int32_t operatorId);
   bool load(Rows rows);
   void read(const Row& row);
   void store();
 
   Connection* connection_ = nullptr;
+  Clock clock_ = localTime;
   std::int32_t billNo_ = 0;
   std::int32_t operatorId_ = 0;
   DateTime sellTime_;

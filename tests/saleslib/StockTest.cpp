@@ -25,7 +25,7 @@ TEST_F(StockTest, TheRuleDecidesWhetherStockMayGoNegative) {
   EXPECT_EQ(stock.StockQty(), 0);
   EXPECT_FALSE(stock.TakeOut(1, 0, 1));
   ASSERT_TRUE(stock.PutBack(0.3));
-  for (int i = 0; i < 3; ++i) EXPECT_TRUE(stock.TakeOut(0.1, 0, 1)) << "down to nothing";
+  EXPECT_TRUE(stock.TakeOut(0.1 * 3, 0, 1)) << "down to nothing, though 0.1 * 3 is more than 0.3";
   EXPECT_EQ(stock.StockQty(), 0);
   EXPECT_TRUE(stock.TakeOut(5, 0, 0));
   EXPECT_EQ(stock.StockQty(), -5);
