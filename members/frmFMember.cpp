@@ -272,6 +272,8 @@ void frmFMember::addMember() {
 
 void frmFMember::store() {
   txtBh_->setText(shown(memberNumber(textOf(txtBh_))));
+  // Nothing of an attempt that was refused before.
+  member_->Init(*pos_.gConn, 0, pos_.clock);
   member_->setAddress(textOf(txtAddress_));
   member_->setBh(textOf(txtBh_));
   if (trimmed(textOf(txtName_)).empty()) {

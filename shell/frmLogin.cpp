@@ -108,10 +108,10 @@ bool frmLogin::handleKey(const QKeyEvent& event) {
   if (key == 0) return false;
   if (key == pos_.gKeyBoard.mEsc) {
     cancel();
-  } else if (key == pos_.gKeyBoard.mEnter && txtNumber_->hasFocus()) {
+  } else if (key == pos_.gKeyBoard.mEnter && focusWidget() == txtNumber_) {
     txtPassword_->setFocus();
     txtPassword_->selectAll();
-  } else if (key == pos_.gKeyBoard.mEnter && txtPassword_->hasFocus()) {
+  } else if (key == pos_.gKeyBoard.mEnter && focusWidget() == txtPassword_) {
     check();
   } else {
     return false;
@@ -134,10 +134,10 @@ void frmLogin::check() {
     return;
   }
   pos_.gOperator = checked;
-  hide();
+  accept();
 }
 
 void frmLogin::cancel() {
   result_ = kCancelled;
-  hide();
+  reject();
 }

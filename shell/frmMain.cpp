@@ -115,7 +115,7 @@ void frmMain::showMenu() {
 void frmMain::showFurtherMenu() {
   furtherMenu_->MenuClick = [this](const MenuItem& Menu) {
     furtherChoice_ = Menu;
-    theMenu_->hide();
+    theMenu_->reject();
   };
   furtherMenu_->ShowMenu(0);
 }
@@ -156,10 +156,10 @@ void frmMain::endProgram() {
 void frmMain::closeEvent(QCloseEvent* event) {
   if (pos_.gPosSet.VMouse == 0) pos_.ShowMouse(true);
   ended_ = true;
-  furtherMenu_->hide();
-  theMenu_->hide();
+  furtherMenu_->reject();
+  theMenu_->reject();
   event->accept();
-  QCoreApplication::quit();
+  QCoreApplication::exit(0);  // ends every modal loop; quit() would ask the windows first
 }
 
 void frmMain::paintEvent(QPaintEvent*) {

@@ -102,7 +102,7 @@ void frmMenu::keyPressEvent(QKeyEvent* event) {
     // A key held down since before the menu came up chooses nothing.
     if (!event->isAutoRepeat()) choose(currentIndex());
   } else if (key == keys_.mEsc) {
-    if (mode_ == 0) hide();
+    if (mode_ == 0) reject();
   } else if (key == vk::kMenu && furtherMenu) {
     furtherMenu();
   }
@@ -114,7 +114,7 @@ void frmMenu::mousePressEvent(QMouseEvent* event) {
 
 void frmMenu::closeEvent(QCloseEvent* event) {
   event->accept();
-  hide();
+  reject();
   if (closed) closed();
 }
 
@@ -125,7 +125,7 @@ void frmMenu::moveHighlight(int step) {
 void frmMenu::choose(int index) {
   entries_->setCurrent(index);
   chosen_ = index;
-  hide();
+  accept();
 }
 
 int frmMenu::entryCount() const {

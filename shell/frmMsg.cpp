@@ -51,9 +51,9 @@ void frmMsg::Message(const QString& msg) {
 
 // A key held down is one press: the Enter that brought the message up does not take it away again.
 void frmMsg::keyPressEvent(QKeyEvent* event) {
-  if (!event->isAutoRepeat()) hide();
+  if (!event->isAutoRepeat()) accept();
 }
 
 void frmMsg::mousePressEvent(QMouseEvent*) {
-  hide();
+  accept();
 }

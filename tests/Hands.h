@@ -53,7 +53,7 @@ class Hands : public QObject {
     lookSoon();
     QWidget* shown = QApplication::activeModalWidget();
     if (!shown || steps_.empty()) return waited_.invalidate();
-    if (shown->objectName() == steps_.front().first && shown->isActiveWindow()) {
+    if (shown->objectName() == steps_.front().first) {
       const Step step = std::move(steps_.front().second);
       steps_.pop_front();
       waited_.invalidate();
@@ -67,7 +67,7 @@ class Hands : public QObject {
                   << steps_.front().first.toStdString();
     steps_.clear();
     while (QWidget* front = QApplication::activeModalWidget()) front->hide();
-    QCoreApplication::exit(1);
+    QCoreApplication::quit();
   }
 
   std::deque<std::pair<QString, Step>> steps_;

@@ -1,6 +1,7 @@
 #include <QCoreApplication>
 
 #include "base/Failure.h"
+#include "shell/FocusReturn.h"
 #include "shell/Style.h"
 #include "till/Till.h"
 #include "till/TillApplication.h"
@@ -10,6 +11,7 @@ int main(int argc, char** argv) {
   application.setApplicationDisplayName(TillApplication::tr("前台收银"));
   application.setQuitOnLastWindowClosed(false);  // dialogs come and go; the main window ends it
   applyStyle(application);
+  new FocusReturn(&application);
   try {
     Till till(QCoreApplication::applicationDirPath().toStdString());
     return till.Main() ? application.exec() : 1;

@@ -1,0 +1,22 @@
+#include "shell/FocusReturn.h"
+
+#include <QEvent>
+#include <QGuiApplication>
+#include <QTimer>
+#include <QWindow>
+
+FocusReturn::FocusReturn(QObject* application) : QObject(application) {
+  application->installEventFilter(this);
+}
+
+// Only the window that was right under the closed one is unblocked. It asks when the closing is
+// complete, and only if nobody else has the keyboard by then.
+bool FocusReturn::eventFilter(QObject* watched, QEvent* event) {
+  if (event->type() == QEvent::WindowUnblocked && watched->isWindowType()) {
+    auto* window = static_cast<QWindow*>(watched);
+    QTimer::singleShot(0, window, [window] {
+      if (window->isVisible() && !QGuiApplication::focusWindow()) window->requestActivate();
+    });
+  }
+  return QObject::eventFilter(watched, event);
+}

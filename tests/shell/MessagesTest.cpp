@@ -1,0 +1,104 @@
+#include <gtest/gtest.h>
+
+#include <QDialog>
+#include <QLabel>
+#include <QMessageBox>
+#include <QScreen>
+
+#include "Hands.h"
+#include "app/KeyBoard.h"
+#include "shell/FocusReturn.h"
+#include "shell/Modal.h"
+#include "shell/frmInput.h"
+#include "shell/frmMsg.h"
+
+namespace {
+
+TEST(MessageBoxTest, AnswersToTheKeyboardAlone) {
+  struct Case {
+    bool yesPreselected;
+    Qt::Key key;
+    bool answer;
+  };
+  using enum Qt::Key;
+  const Case cases[] = {{true, Key_Return, true},  {true, Key_Enter, true},
+                        {true, Key_Escape, false}, {false, Key_Return, false},
+                        {false, Key_Y, true},      {true, Key_N, false}};
+  Hands hands;
+  for (const Case& c : cases) {
+    hands.press("messageBox", {c.key});
+    EXPECT_EQ(askYesNo(nullptr, "打印吗？", "", c.yesPreselected), c.answer) << c.key;
+  }
+}
+
+TEST(MessageBoxTest, WhateverWasTypedIsShownAsItIsAndFitsTheScreen) {
+  Hands hands;
+  for (const QString& text :
+       {QString("<b>x</b>"), QString(10'000, 'x'), QString(10'000, QChar(0x5546))}) {
+    const auto check = [&](QWidget& shown) {
+      const QLabel* label =
+          shown.findChild<QLabel*>(shown.objectName() == "frmMsg" ? "Label1" : "qt_msgbox_label");
+      EXPECT_EQ(label->text().left(8), text.left(8));
+      EXPECT_EQ(label->textFormat(), Qt::PlainText);
+      EXPECT_LT(shown.width(), shown.screen()->availableGeometry().width());
+      EXPECT_LT(shown.height(), shown.screen()->availableGeometry().height());
+      Hands::pressNow(Qt::Key_Return);
+    };
+    hands.at("messageBox", check).at("frmMsg", check);
+    messageBox(nullptr, text);
+    frmMsg message;
+    message.Message(text);
+  }
+}
+
+TEST(FocusReturnTest, TheWindowUnderAClosedOneHasTheKeyboardAgain) {
+  FocusReturn returns(qApp);
+  QDialog below;
+  below.setObjectName("below");
+  Hands hands;
+  hands.at("below", [](QWidget& window) { messageBox(&window, "错"); });
+  hands.press("messageBox", {Qt::Key_Return});
+  hands.at("below", [](QWidget& window) {
+    EXPECT_TRUE(QTest::qWaitForWindowActive(&window));
+    window.close();
+  });
+  below.exec();
+}
+
+TEST(frmMsgTest, AnyKeyOrClickClosesItButNotAKeyHeldDown) {
+  frmMsg message;
+  Hands hands;
+  for (const Qt::Key key : {Qt::Key_Escape, Qt::Key_Return, Qt::Key_X, Qt::Key_Tab, Qt::Key_F9}) {
+    hands.press("frmMsg", {key});
+    message.Message("请输入要退货的单据流水号！");
+    EXPECT_FALSE(message.isVisible());
+  }
+  hands.at("frmMsg", [](QWidget& shown) {
+    QKeyEvent held(QEvent::KeyPress, Qt::Key_Return, {}, "\r", true);
+    QApplication::sendEvent(&shown, &held);
+    EXPECT_TRUE(shown.isVisible());
+    QTest::mouseClick(shown.findChild<QWidget*>("Label2"), Qt::LeftButton);
+  });
+  message.Message("");
+}
+
+TEST(frmInputTest, GivesTheTextOrNothingAndAsksForThePriceUnlessToldOtherwise) {
+  const KeyBoard keys;
+  frmInput input(keys);
+  Hands hands;
+  const auto heads = [&](QWidget& shown) {
+    return shown.findChild<QLabel*>("lblTitle")->text() +
+           shown.findChild<QLabel*>("lblMsg")->text();
+  };
+  hands.at("frmInput",
+           [&](QWidget& shown) { EXPECT_EQ(heads(shown), "没有定价请输入价格(元)："); });
+  hands.type("frmInput", "12.5").press("frmInput", {Qt::Key_Enter});
+  EXPECT_EQ(input.init("", ""), "12.5");
+  hands.at("frmInput", [&](QWidget& shown) { EXPECT_EQ(heads(shown), "会员卡输入"); });
+  hands.type("frmInput", "9").press("frmInput", {Qt::Key_Escape});
+  EXPECT_EQ(input.init("会员卡", "输入"), "");
+  hands.press("frmInput", {Qt::Key_Tab, Qt::Key_Space});
+  EXPECT_EQ(input.init("", ""), "");
+}
+
+}  // namespace

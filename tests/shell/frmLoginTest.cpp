@@ -1,0 +1,98 @@
+#include "shell/frmLogin.h"
+
+#include <gtest/gtest.h>
+
+#include <QLabel>
+#include <QLineEdit>
+
+#include "Hands.h"
+#include "TestTill.h"
+
+namespace {
+
+class frmLoginTest : public testing::Test {
+ protected:
+  frmLoginTest() : login_(till_.pos) {}
+
+  static QString shownText(QWidget& box) {
+    return box.findChild<QLabel*>("qt_msgbox_label")->text();
+  }
+  /// Number, Enter, password, Enter.
+  Hands& enter(const QString& number, const QString& password) {
+    return hands_.type("frmLogin", number)
+        .press("frmLogin", {Qt::Key_Return})
+        .type("frmLogin", password)
+        .press("frmLogin", {Qt::Key_Return});
+  }
+  QString field(const char* name) { return login_.findChild<QLineEdit*>(name)->text(); }
+
+  TestTill till_;
+  frmLogin login_;
+  Hands hands_;
+};
+
+TEST_F(frmLoginTest, ANumberAndItsPasswordLogIn) {
+  enter("1", "111");
+  EXPECT_EQ(login_.goLogin(), frmLogin::kAccepted);
+  ASSERT_TRUE(till_.pos.gOperator);
+  EXPECT_EQ(till_.pos.gOperator->Id(), 1);
+  EXPECT_EQ(field("txtPassword"), "");
+}
+
+TEST_F(frmLoginTest, ARefusalKeepsTheTextsAndCancelKeepsWhoWasLoggedIn) {
+  QString refusals;
+  const auto readAndConfirm = [&](QWidget& box) {
+    refusals += shownText(box) + "|";
+    Hands::pressNow(Qt::Key_Return);
+  };
+  enter("1", "wrong").at("messageBox", readAndConfirm);
+  hands_.at("frmLogin", [&](QWidget&) {
+    EXPECT_EQ(field("txtNumber"), "1");
+    EXPECT_EQ(field("txtPassword"), "wrong");
+    Hands::pressNow(Qt::Key_Return);
+  });
+  hands_.at("messageBox", readAndConfirm).press("frmLogin", {Qt::Key_Escape});
+  EXPECT_EQ(login_.goLogin(), frmLogin::kCancelled);
+  EXPECT_FALSE(till_.pos.gOperator);
+  const QStringList texts = refusals.split("|");
+  ASSERT_EQ(texts.size(), 3);
+  EXPECT_FALSE(texts[0].isEmpty());
+  EXPECT_EQ(texts[0], texts[1]);
+}
+
+TEST_F(frmLoginTest, WithoutTheRightToSellNobodyIsLoggedIn) {
+  QString text;
+  enter("3", "333").at("messageBox", [&](QWidget& box) {
+    text = shownText(box);
+    Hands::pressNow(Qt::Key_Return);
+  });
+  hands_.at("frmLogin", [](QWidget& shown) { shown.close(); });
+  EXPECT_EQ(login_.goLogin(), frmLogin::kAccepted) << "closing the window keeps the last code";
+  EXPECT_EQ(text, "没有权限！");
+  EXPECT_FALSE(till_.pos.gOperator);
+}
+
+TEST_F(frmLoginTest, HostileTextsAreJustWrong) {
+  for (const QString& number : {QString("1' or '1'='1"), QString(10'000, '9'), QString("１"),
+                                QString("😀"), QString("-1"), QString()}) {
+    hands_.at("frmLogin", [&](QWidget&) {
+      login_.findChild<QLineEdit*>("txtNumber")->setText(number);
+      Hands::pressNow(Qt::Key_Return);
+      Hands::pressNow(Qt::Key_Return);
+    });
+    hands_.press("messageBox", {Qt::Key_Escape}).press("frmLogin", {Qt::Key_Escape});
+    EXPECT_EQ(login_.goLogin(), frmLogin::kCancelled) << number.left(20).toStdString();
+  }
+}
+
+TEST_F(frmLoginTest, KeysFollowTheMap) {
+  till_.pos.gKeyBoard.mEnter = 'E';
+  till_.pos.gKeyBoard.mEsc = 'Q';
+  hands_.type("frmLogin", "1").press("frmLogin", {Qt::Key_Return, Qt::Key_Escape, Qt::Key_E});
+  hands_.type("frmLogin", "111").press("frmLogin", {Qt::Key_E});
+  EXPECT_EQ(login_.goLogin(), frmLogin::kAccepted);
+  hands_.press("frmLogin", {Qt::Key_Q});
+  EXPECT_EQ(login_.goLogin(), frmLogin::kCancelled);
+}
+
+}  // namespace

@@ -1,0 +1,115 @@
+#include "shell/frmMain.h"
+
+#include <gtest/gtest.h>
+
+#include <QGuiApplication>
+#include <QLabel>
+
+#include "Hands.h"
+#include "TestTill.h"
+
+namespace {
+
+using enum Qt::Key;
+
+/// Runs the event loop until the main window ends the program, as the till does.
+class frmMainTest : public testing::Test {
+ protected:
+  void open() {
+    const auto note = [this](const char* name) { return [this, name] { opened_ += name; }; };
+    window_ = std::make_unique<frmMain>(
+        till_.pos, std::map<QString, frmMain::Screen>{{"sell", {true, note("sell ")}},
+                                                      {"editpwd", {false, note("editpwd ")}},
+                                                      {"keyset", {true, note("keyset ")}}});
+    window_->show();
+  }
+  void runUntilEnd() {
+    if (!window_) open();
+    EXPECT_EQ(QApplication::exec(), 0);
+    EXPECT_TRUE(hands_.idle());
+    EXPECT_FALSE(QApplication::activeModalWidget());
+  }
+  void logIn() {
+    hands_.type("frmLogin", "1").press("frmLogin", {Key_Return});
+    hands_.type("frmLogin", "111").press("frmLogin", {Key_Return});
+  }
+  void chooseEnd() { hands_.press("frmMenu", {Key_Up, Key_Return}); }
+
+  TestTill till_;
+  std::unique_ptr<frmMain> window_;
+  Hands hands_;
+  std::string opened_;
+};
+
+// The menu of the test: 前台销售, 修改密码, 退出系统.
+TEST_F(frmMainTest, AProtectedScreenAsksForALoginOnce) {
+  hands_.press("frmMenu", {Key_Escape, Key_Return}).press("frmLogin", {Key_Escape});
+  hands_.at("frmMenu", [this](QWidget&) {
+    EXPECT_EQ(opened_, "");
+    Hands::pressNow(Key_Return);
+  });
+  logIn();
+  hands_.press("frmMenu", {Key_Return}).press("frmMenu", {Key_Up, Key_Return});
+  runUntilEnd();
+  EXPECT_EQ(opened_, "sell sell ");
+  EXPECT_FALSE(till_.pos.gOperator);
+}
+
+TEST_F(frmMainTest, AnUnprotectedScreenOpensForAnybody) {
+  hands_.press("frmMenu", {Key_Down, Key_Return}).press("frmMenu", {Key_Down, Key_Return});
+  runUntilEnd();
+  EXPECT_EQ(opened_, "editpwd ");
+}
+
+TEST_F(frmMainTest, TheFurtherMenuOpensItsScreensAndChangesTheOperator) {
+  hands_.press("frmMenu", {Key_Return});
+  logIn();
+  hands_.press("frmMenu", {Key_Menu}).press("frmMenu", {Key_Return});  // keyset
+  hands_.press("frmMenu", {Key_Menu}).press("frmMenu", {Key_Escape});  // the main menu again
+  hands_.at("frmMenu", [](QWidget& menu) { QTest::mouseClick(&menu, Qt::RightButton); });
+  hands_.press("frmMenu", {Key_Down, Key_Return});  // another operator
+  hands_.at("frmLogin", [this](QWidget&) {
+    EXPECT_FALSE(till_.pos.gOperator);
+    Hands::pressNow(Key_Escape);
+  });
+  chooseEnd();
+  runUntilEnd();
+  EXPECT_EQ(opened_, "sell keyset ");
+}
+
+TEST_F(frmMainTest, KeysWithoutAScreenDoNothing) {
+  open();
+  window_->theMenu_MenuClick({"", "search", 0});
+  window_->theMenu_MenuClick({"", "Sell", 0});
+  chooseEnd();
+  runUntilEnd();
+  EXPECT_EQ(opened_, "");
+}
+
+TEST_F(frmMainTest, TheEndBacksUpWhenAskedToAndSaysWhenItCannot) {
+  ASSERT_EQ(till_.pos.gSysParam.set("BackupOnExit", "1"), "");
+  chooseEnd();
+  runUntilEnd();
+  EXPECT_TRUE(std::filesystem::exists(till_.folder.path() / "data/pos3.mdb"));
+
+  std::filesystem::remove(till_.folder.path() / "data/pos3.mdb");
+  std::filesystem::create_directory(till_.folder.path() / "data/pos3.mdb");
+  window_.reset();
+  QString text;
+  chooseEnd();
+  hands_.at("messageBox", [&](QWidget& box) {
+    text = box.findChild<QLabel*>("qt_msgbox_label")->text();
+    Hands::pressNow(Key_Return);
+  });
+  runUntilEnd();
+  EXPECT_TRUE(text.startsWith("数据没有备份。")) << text.toStdString();
+}
+
+TEST_F(frmMainTest, ClosingTheMenuWindowEndsTheProgramAndBringsThePointerBack) {
+  EXPECT_NE(QGuiApplication::overrideCursor(), nullptr);
+  hands_.at("frmMenu", [](QWidget& menu) { menu.close(); });
+  runUntilEnd();
+  EXPECT_EQ(QGuiApplication::overrideCursor(), nullptr);
+}
+
+}  // namespace
