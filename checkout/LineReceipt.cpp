@@ -33,29 +33,27 @@ LineReceipt::LineReceipt(posMod& pos, SaleState& state, CashDrawer& drawer, Outa
     : pos_(pos), state_(state), drawer_(drawer), outage_(std::move(report)) {}
 
 void LineReceipt::PrintHeader() {
-  if (state_.linePrint) headerMissing_ = !send(headerLines());
+  if (state_.linePrint) print(headerLines());
 }
 
 void LineReceipt::PrintLine() {
-  if (!state_.linePrint) return;
-  std::vector<std::string> lines;
-  if (headerMissing_) lines = headerLines();
-  lines.push_back(lineText());
-  if (send(lines)) headerMissing_ = false;
+  if (state_.linePrint) print({lineText()});
 }
 
 void LineReceipt::PrintFoot() {
   if (!state_.linePrint) {
+    unsent_.clear();
     drawer_.OpenDrawer();
     return;
   }
+  failedBill_ = 0;
   const std::vector<std::string> foot = footLines();
   // The drawer opens while the paper still moves, so that the cashier does not wait for the texts.
-  auto rest = foot.begin();
+  const auto rest = foot.begin() + (state_.hasDrawer ? 2 : 0);
   if (state_.hasDrawer) {
-    rest += 2;
-    send({foot.begin(), rest});
-    drawer_.OpenDrawer();
+    print({foot.begin(), rest});
+    const bool onThisPort = pos_.gPosSet.MBPort == pos_.gPosSet.PPort;
+    if (unsent_.empty() || !onThisPort) drawer_.OpenDrawer();
   }
   std::vector<std::string> lines;
   std::copy_if(rest, foot.end(), std::back_inserter(lines),
@@ -63,11 +61,12 @@ void LineReceipt::PrintFoot() {
   lines.resize(lines.size() + 4);
   const std::vector<std::string> nextHeader = headerLines();
   lines.insert(lines.end(), nextHeader.begin(), nextHeader.end());
-  headerMissing_ = !send(lines);
+  print(lines);
+  if (!unsent_.empty()) unsent_ = nextHeader;
 }
 
 void LineReceipt::FeedLines() {
-  if (state_.linePrint) send({"", ""});
+  if (state_.linePrint) print({"", ""});
 }
 
 std::vector<std::string> LineReceipt::headerLines() const {
@@ -122,18 +121,17 @@ std::string LineReceipt::totalText() const {
   return text;
 }
 
-bool LineReceipt::send(const std::vector<std::string>& lines) {
-  if (failedBill_ == state_.curBill->BillNo()) return false;
+void LineReceipt::print(const std::vector<std::string>& lines) {
+  unsent_.insert(unsent_.end(), lines.begin(), lines.end());
+  if (failedBill_ == state_.curBill->BillNo()) return;
   std::string bytes;
-  for (const std::string& line : lines) bytes += gbk::encode(line) + "\r\n";
+  for (const std::string& line : unsent_) bytes += gbk::encode(line) + "\r\n";
   try {
     pos_.ports.portFile(pos_.gPosSet.PPort)->send(bytes);
+    unsent_.clear();
     outage_.worked();
-    failedBill_ = 0;
-    return true;
   } catch (const PortError& error) {
     failedBill_ = state_.curBill->BillNo();
     outage_.failed(QString::fromUtf8(error.what()));
-    return false;
   }
 }

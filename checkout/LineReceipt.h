@@ -13,9 +13,10 @@ struct SaleState;
 /// The receipt on a line printer, printed while the sale goes on. Texts are GBK on the wire, each
 /// line followed by CR LF; the port is opened for each procedure and closed after it.
 ///
-/// Nothing throws: a printer that fails is reported once per outage and the sale goes on. A failed
-/// port can cost two seconds, so the rest of that bill is not sent at all; the next bill tries
-/// again, and prints the heading first when that was lost.
+/// Nothing throws: a printer that fails is reported once per outage and the sale goes on. A failing
+/// port can cost two seconds, so after a failure the bill's lines are kept and tried again with its
+/// footer only, and a drawer on the same port is not tried then. When that fails too, the paper
+/// starts again with the next bill's heading.
 class LineReceipt {
  public:
   LineReceipt(posMod& pos, SaleState& state, CashDrawer& drawer, Outage::Report report);
@@ -39,13 +40,13 @@ class LineReceipt {
 
  private:
   std::string totalText() const;
-  /// False when the lines are not on paper.
-  bool send(const std::vector<std::string>& lines);
+  /// Prints what is unsent and these lines, unless this bill's print has already failed.
+  void print(const std::vector<std::string>& lines);
 
   posMod& pos_;
   SaleState& state_;
   CashDrawer& drawer_;
   Outage outage_;
-  std::int32_t failedBill_ = 0;  ///< number of the bill whose print failed, else 0
-  bool headerMissing_ = false;   ///< the next receipt has no heading yet
+  std::vector<std::string> unsent_;  ///< lines that a failing printer has not taken yet
+  std::int32_t failedBill_ = 0;      ///< number of the bill whose print failed, else 0
 };

@@ -16,6 +16,8 @@ constexpr int kLeft = 1;
 constexpr int kPrice = 1200;
 constexpr int kQuantity = 1900;
 constexpr int kAmount = 2300;
+constexpr int kFigureGap = 40;  ///< at least, between quantity and amount
+constexpr int kTwipsPerPoint = 20;
 constexpr int kRowPitch = 400;
 constexpr int kFirstLine = 300;  ///< of a row's block
 constexpr int kSecondLine = 480;
@@ -74,6 +76,15 @@ class Layout {
     page_.texts.push_back({x, y, std::move(text)});
   }
 
+  /// Quantity and amount. A long quantity (weighed goods) pushes the amount to the right, so that
+  /// the two never print over each other.
+  void placeSum(int y, const std::string& quantity, std::string amount) {
+    const int column = static_cast<int>(page_.fontPoints * kTwipsPerPoint) / 2;
+    const int quantityEnd = kQuantity + static_cast<int>(gbk::width(quantity)) * column;
+    place(kQuantity, y, quantity);
+    place(std::max(kAmount, quantityEnd + kFigureGap), y, std::move(amount));
+  }
+
   void footer(std::string text) { place(kLeft, bottom_ + kFooterGap, std::move(text)); }
 
   void heading() {
@@ -96,16 +107,15 @@ class Layout {
       const int figures = block + (layout->figuresBelow ? kSecondLine : kFirstLine);
       place(kLeft, block + kFirstLine, layout->firstText);
       place(kPrice, figures, " " + oneDecimalOf(row.cells[BillRow::kPrice]) + " ");
-      place(kQuantity, figures, row.cells[BillRow::kQuantity]);
-      place(kAmount, figures, oneDecimalOf(row.cells[BillRow::kMoney]) + " ");
+      placeSum(figures, row.cells[BillRow::kQuantity],
+               oneDecimalOf(row.cells[BillRow::kMoney]) + " ");
     }
   }
 
   void totals() {
     footer("总金额合计");
     const int y = page_.texts.back().y;
-    place(kQuantity, y, generalNumber(bill_.Quantity()));
-    place(kAmount, y, oneDecimal(bill_.Amount()));
+    placeSum(y, generalNumber(bill_.Quantity()), oneDecimal(bill_.Amount()));
     if (bill_.MemberId() > 0) memberLine();
     footer("流水号:" + std::to_string(bill_.BillNo()) + " 收银员:" + pos_.gOperator->Code());
     footer(gbk::centred(generalText(bill_.SellTime()), width_, '-'));

@@ -9,10 +9,15 @@
 
 #include "app/KeyBoard.h"
 #include "checkout/Settlement.h"
+#include "platform/Twips.h"
 #include "platform/VirtualKey.h"
 #include "shell/Modal.h"
 
 namespace {
+
+/// Of the captions on the left, alike in both frames so that the fields stand in one line.
+constexpr int kCaptionWidth = pixels(1500);
+constexpr int kFieldWidth = pixels(3300);
 
 /// Shows what became of a text; a text that was replaced is selected, so that typing replaces it.
 void showAccepted(QLineEdit& field, const QString& accepted) {
@@ -80,6 +85,7 @@ QFrame* frmEndSell::amountFrame() {
   grid->addWidget(cash_, 1, 1);
   grid->addWidget(label("Label3", tr("找零")), 2, 0);
   grid->addWidget(change_, 2, 1);
+  grid->setColumnMinimumWidth(0, kCaptionWidth);
   grid->setColumnStretch(1, 1);
   return frame;
 }
@@ -98,6 +104,8 @@ QFrame* frmEndSell::otherFrame() {
   grid->addWidget(cardNumber_, 2, 1);
   grid->addWidget(label("passwordmc", tr("密码")), 2, 2);
   grid->addWidget(password_, 2, 3);
+  for (const int caption : {0, 2}) grid->setColumnMinimumWidth(caption, kCaptionWidth);
+  for (const int field : {1, 3}) grid->setColumnMinimumWidth(field, kFieldWidth);
   return frame;
 }
 

@@ -33,6 +33,18 @@ class CheckoutFixture : public SaleFixture {
     state.AddEntryRow();
   }
 
+  /// The settle key, and a cashier who types that cash figure.
+  void payCash(const char* cash) {
+    screen.pay = [cash](Settlement& s) { s.confirmCash(cash); };
+    checkout.SettleBill();
+  }
+
+  /// From now on no row of that table can be changed.
+  void breakStore(const char* table) {
+    pos.gConn->runScript(std::string("create trigger broken before update on ") + table +
+                         " begin select raise(abort, 'disk'); end");
+  }
+
   void attachMember() {
     state.curMember = pos.gMemberSvc.GetMember("8001");
     state.curBill->setMemberId(state.curMember->Id());
