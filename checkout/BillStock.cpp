@@ -8,20 +8,40 @@
 #include "saleslib/ClsStock.h"
 #include "store/Transaction.h"
 
-bool TakeStock(posMod& pos, SaleScreen& screen, const std::string& itemCode, double quantity) {
+namespace {
+
+// A message box must not keep a transaction open: the refusal is shown after its end.
+template <class Movement>
+bool moveStock(posMod& pos, SaleScreen& screen, const std::string& itemCode, Movement move,
+               const std::function<void()>& write) {
   ClsStock stock;
   stock.Init(*pos.gConn, itemCode);
-  const bool taken = stock.TakeOut(quantity, 0, pos.gSysParam.StockRule());
-  if (!taken) screen.ShowMessage(QString::fromStdString(stock.ErrText()));
-  return taken;
+  {
+    Transaction moving(*pos.gConn);
+    if (move(stock)) {
+      write();
+      moving.commit();
+      return true;
+    }
+  }
+  screen.ShowMessage(QString::fromStdString(stock.ErrText()));
+  return false;
 }
 
-bool ReturnStock(posMod& pos, SaleScreen& screen, const std::string& itemCode, double quantity) {
-  ClsStock stock;
-  stock.Init(*pos.gConn, itemCode);
-  const bool accepted = stock.PutBack(quantity);
-  if (!accepted) screen.ShowMessage(QString::fromStdString(stock.ErrText()));
-  return accepted;
+}  // namespace
+
+bool TakeStock(posMod& pos, SaleScreen& screen, const std::string& itemCode, double quantity,
+               const std::function<void()>& write) {
+  const auto take = [&](ClsStock& stock) {
+    return stock.TakeOut(quantity, 0, pos.gSysParam.StockRule());
+  };
+  return moveStock(pos, screen, itemCode, take, write);
+}
+
+bool ReturnStock(posMod& pos, SaleScreen& screen, const std::string& itemCode, double quantity,
+                 const std::function<void()>& write) {
+  const auto putBack = [&](ClsStock& stock) { return stock.PutBack(quantity); };
+  return moveStock(pos, screen, itemCode, putBack, write);
 }
 
 void VoidBill(posMod& pos, SaleScreen& screen, ClsSell& bill) {

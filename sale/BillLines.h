@@ -1,6 +1,9 @@
 #pragma once
 
+#include <QCoreApplication>
 #include <QString>
+#include <cstdint>
+#include <functional>
 
 class Checkout;
 class CustomerDisplay;
@@ -8,11 +11,16 @@ class ItemLookup;
 class LineReceipt;
 class posMod;
 class SaleScreen;
+struct BillRow;
 struct SaleState;
 
 /// Bill lines and totals: what Enter does, and how lines are shown, changed and removed while stock
-/// and stored rows follow. A line's stock and its row are one transaction.
+/// and stored rows follow. A line's stock and its row are one transaction, and everything that the
+/// screen shows of it is worked out before that transaction ends: a line that cannot be stored, or
+/// whose figures do not fit, is nowhere. A failure is shown to the cashier and the sale goes on.
 class BillLines {
+  Q_DECLARE_TR_FUNCTIONS(BillLines)
+
  public:
   BillLines(posMod& pos, SaleState& state, SaleScreen& screen, ItemLookup& lookup,
             Checkout& checkout, CustomerDisplay& display, LineReceipt& receipt);
@@ -20,10 +28,11 @@ class BillLines {
   /// The mapped Enter key on the input line.
   void Enter();
   /// Takes stock for the current line when asked, stores it, writes it into the selected row, shows
-  /// price and status line. False when the stock was refused; the line is then dropped.
+  /// price and status line. False when there is no current line, the stock was refused or the store
+  /// failed; a line whose stock was to be taken is then dropped.
   bool ShowLine(bool takeStock);
   /// The same without stock, after a change of the current line.
-  void RefreshLine();
+  bool RefreshLine();
   /// Moves the selection between the current line's row and the entry row.
   void MoveRow(bool up);
   /// Voids the open bill and the current line, and prepares the next bill.
@@ -31,6 +40,24 @@ class BillLines {
   void DeleteCurrentLine();
 
  private:
+  struct Shown;
+
+  void enterBarcode(const QString& typed);
+  void enterShortCode(const QString& typed);
+  void ringUp();
+  void notFound(const QString& text);
+  void changeQuantity(const QString& typed);
+  void changeDiscount(const QString& typed);
+  void returnToEntryRow();
+  void numberRows();
+
+  bool storeAndShow(double taken);
+  bool guarded(const std::function<bool()>& work);
+  bool moveStock(double taken, const std::function<void()>& write);
+  Shown shownLine() const;
+  BillRow rowTexts() const;
+  QString statusText(std::int64_t figure) const;
+
   posMod& pos_;
   SaleState& state_;
   SaleScreen& screen_;

@@ -1,8 +1,10 @@
 #pragma once
 
+#include <QCoreApplication>
 #include <QString>
 #include <functional>
 #include <map>
+#include <utility>
 #include <vector>
 
 #include "checkout/CashDrawer.h"
@@ -17,9 +19,12 @@
 class posMod;
 class SaleScreen;
 
-/// The sale screen without its window: the state, everything that works on it, and what each key and
-/// each entry of the function menu does.
+/// The sale screen without its window: the state, everything that works on it, and what each key
+/// and each entry of the function menu does. One session lasts from the screen's opening to its
+/// closing.
 class SaleSession {
+  Q_DECLARE_TR_FUNCTIONS(SaleSession)
+
  public:
   /// Screens that the sale screen opens modally, by name: "addmen", "search", "topup", "color",
   /// "unsell". A name that is missing has no key and no menu entry.
@@ -28,14 +33,26 @@ class SaleSession {
   SaleSession(posMod& pos, SaleScreen& screen, Openers openers);
 
   /// What the screen does when it opens, after its widgets stand: settings, devices, clearing up
-  /// after an earlier run, clock check, first bill. False when the program is to end.
+  /// after an earlier run, clock check, first bill. False when the program is to end. Needs an
+  /// operator. Throws StoreError.
   [[nodiscard]] bool open();
-  /// ExitSale: whether the screen may close; says why not. Closes devices and drops an empty bill.
-  [[nodiscard]] bool exit();
+  /// ExitSale: refused, with a message, while anything is pending. Else it closes the devices,
+  /// drops the empty bill, and left() is true from then on.
+  void exit();
+  bool left() const { return left_; }
 
-  /// A key on the input line, as virtual-key code. True when the key was used up; false leaves it to
-  /// the text box.
+  /// A key on the input line, as virtual-key code. True when the key was used up; false leaves it
+  /// to the text box. Shift, Ctrl and Alt alone are no key press: the shown value stays for the key
+  /// that follows.
   [[nodiscard]] bool key(int code);
+  /// Whether a key that is held down may repeat: typing and the arrows may, a command may not, or
+  /// a key held too long would settle a bill or cancel the next one.
+  [[nodiscard]] bool mayRepeat(int code) const;
+  /// A text that an input method commits comes instead of a key press.
+  void textComing();
+  /// A click on a row of the list: the selection returns to the entry row.
+  void listClicked();
+
   /// An entry of the function menu, by its key; an unknown key does nothing.
   void menu(const QString& entry);
   /// The function menu's entries that have an action: key and caption.
@@ -44,6 +61,22 @@ class SaleSession {
   SaleState state;
 
  private:
+  struct MenuCommand {
+    QString key;
+    QString caption;  ///< empty: not listed
+    std::function<void()> run;
+  };
+
+  void loadSettings();
+  void voidOpenBills();
+  bool clockIsBehind() const;
+  void fillCommands();
+  void fillMenu();
+  void addOpener(int KeyBoard::*key, const QString& screen);
+  bool moveEditor(int step);
+  bool quickKey(int code);
+  void toggleLinePrint();
+
   posMod& pos_;
   SaleScreen& screen_;
   Openers openers_;
@@ -53,5 +86,7 @@ class SaleSession {
   Checkout checkout_;
   ItemLookup lookup_;
   BillLines lines_;
-  std::vector<KeyCommand> commands_;
+  std::vector<KeyCommand> commands_;  ///< in the order that decides ties
+  std::vector<MenuCommand> menu_;
+  bool left_ = false;
 };

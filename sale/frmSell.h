@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QTimer>
 #include <QWidget>
 #include <functional>
 #include <memory>
@@ -8,6 +9,9 @@
 #include "sale/SaleSession.h"
 
 class BillModel;
+class FittedLabel;
+class QEventLoop;
+class QFrame;
 class QLabel;
 class QLineEdit;
 class QTableView;
@@ -16,8 +20,9 @@ class frmInput;
 class frmMenu;
 class posMod;
 
-/// The sale screen: a thin skin that draws a SaleSession and turns keys into its calls. It fills the
-/// screen and closes only through ExitSale.
+/// The sale screen: a thin skin that draws a SaleSession and turns keys into its calls. It fills
+/// the screen and closes only through ExitSale. One instance serves every opening; each opening is
+/// a session of its own.
 class frmSell : public QWidget, private SaleScreen {
   Q_OBJECT
 
@@ -27,6 +32,68 @@ class frmSell : public QWidget, private SaleScreen {
           QWidget* parent = nullptr);
   ~frmSell() override;
 
-  /// Shows the screen modally; returns when it has been left.
+  /// Shows the screen modally; returns when it has been left. Needs an operator. Throws StoreError.
   void openModal();
+  /// Opens the function menu: the menu key or a right click.
+  void ShowSaleMenu();
+
+ protected:
+  bool eventFilter(QObject* watched, QEvent* event) override;
+  void resizeEvent(QResizeEvent* event) override;
+  void closeEvent(QCloseEvent* event) override;
+  void contextMenuEvent(QContextMenuEvent* event) override;
+
+ private:
+  void rowsChanged() override;
+  void PlaceEditor() override;
+  QString input() const override;
+  void setInput(const QString& text) override;
+  void setTitle1(const QString& text) override;
+  void setTitle3(const QString& text) override;
+  void setStatus(const QString& text) override;
+  void setMemberInfo(const QString& text) override;
+  void ShowMessage(const QString& text) override;
+  void messageBox(const QString& text, const QString& title) override;
+  bool askYesNo(const QString& text, const QString& title, bool yesPreselected) override;
+  QString prompt(const QString& title, const QString& message) override;
+  int choose(const QStringList& entries) override;
+  bool settle(Settlement& settlement) override;
+  void endProgram() override;
+
+  void makeList();
+  void begin();
+  void finish();
+  void applyStyle();
+  void layOut();
+  void setColumnWidths();
+  void moveEditor();
+  void showTime();
+  bool keyPressed(QKeyEvent& event);
+  void afterCommand();
+  void checkpoint();
+
+  posMod& pos_;
+  SaleSession::Openers openers_;
+  std::function<void()> endProgram_;
+  std::unique_ptr<SaleSession> session_;  ///< while the screen is open
+  std::unique_ptr<BillModel> model_;
+  QEventLoop* loop_ = nullptr;
+  bool ended_ = false;                ///< the program is ending
+  const ClsSell* settled_ = nullptr;  ///< the previous bill as last seen, to notice a settlement
+
+  QLabel* title_;
+  FittedLabel* title1_;
+  QLabel* title2_;
+  FittedLabel* title3_;
+  QTableView* lv_;
+  QLineEdit* t_;
+  FittedLabel* txtmoney_;
+  QLabel* lblViewMember_;
+  QFrame* frmBot_;
+  QLabel* ViewF_;
+  std::unique_ptr<frmMenu> myMenu_;
+  frmEndSell* endSell_ = nullptr;  ///< made on first use, like the price question
+  frmInput* input_ = nullptr;
+  QTimer Timer1_;
+  QTimer idle_;
 };

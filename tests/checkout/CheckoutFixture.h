@@ -20,8 +20,7 @@ class CheckoutFixture : public SaleFixture {
     line.setSpName(name);
     line.setPrice(Currency::parse(price).value());
     line.setQuantity(quantity);
-    EXPECT_TRUE(TakeStock(pos, screen, line.SpCode(), line.StockQuantity()));
-    line.Save();
+    EXPECT_TRUE(TakeStock(pos, screen, line.SpCode(), line.StockQuantity(), [&] { line.Save(); }));
 
     auto& cells = state.rows.back().cells;
     cells[BillRow::kName] = name;

@@ -109,7 +109,7 @@ TEST_F(CheckoutTest, saleThatCannotBeStoredIsDroppedAndItsStockPutBack) {
 TEST_F(CheckoutTest, voidedBillPutsStockBackInSaleUnits) {
   enter("整箱水", "24.00", 2);
   state.curLine->setRatio(12);
-  ASSERT_TRUE(TakeStock(pos, screen, "1001", 22));
+  ASSERT_TRUE(TakeStock(pos, screen, "1001", 22, [] {}));
   commitCurrentLine(state, receipt);
   VoidBill(pos, screen, *state.curBill);
   EXPECT_EQ(stockLeft(), "100");

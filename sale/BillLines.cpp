@@ -1,0 +1,310 @@
+#include "sale/BillLines.h"
+
+#include <algorithm>
+
+#include "app/posMod.h"
+#include "base/Failure.h"
+#include "base/NumberText.h"
+#include "base/Text.h"
+#include "checkout/AmountDue.h"
+#include "checkout/BillStock.h"
+#include "checkout/Checkout.h"
+#include "checkout/CurrentLine.h"
+#include "checkout/CustomerDisplay.h"
+#include "checkout/LineReceipt.h"
+#include "checkout/SaleScreen.h"
+#include "checkout/SaleState.h"
+#include "sale/ItemLookup.h"
+#include "sale/OriginalPrice.h"
+#include "saleslib/ClsStock.h"
+#include "store/Transaction.h"
+
+namespace {
+
+constexpr std::size_t kLongestShortCode = 5;
+constexpr std::size_t kShortestCode = 2;
+
+// A code typed with the input method left on comes in full-width letters and digits. Texts with
+// Chinese characters stay as typed, since they are looked for in names as these are written.
+QString codeOf(const QString& typed) {
+  const std::string folded = halfWidth(typed.toStdString());
+  const bool plain = std::all_of(folded.begin(), folded.end(),
+                                 [](char c) { return static_cast<unsigned char>(c) < 0x80; });
+  return plain ? QString::fromStdString(folded) : typed;
+}
+
+QString text(const std::string& utf8) {
+  return QString::fromStdString(utf8);
+}
+
+}  // namespace
+
+/// What the screen shows of the current line once it is stored.
+struct BillLines::Shown {
+  BillRow row;
+  std::int64_t originalPrice;
+  QString status;
+};
+
+BillLines::BillLines(posMod& pos, SaleState& state, SaleScreen& screen, ItemLookup& lookup,
+                     Checkout& checkout, CustomerDisplay& display, LineReceipt& receipt)
+    : pos_(pos),
+      state_(state),
+      screen_(screen),
+      lookup_(lookup),
+      checkout_(checkout),
+      display_(display),
+      receipt_(receipt) {}
+
+void BillLines::Enter() {
+  const QString typed = screen_.input();
+  const std::size_t length = characters(typed.toStdString());
+  if (length > kLongestShortCode) {
+    enterBarcode(typed);
+  } else if (length >= kShortestCode && state_.onEntryRow) {
+    enterShortCode(typed);
+  } else if (length == 0) {
+    checkout_.SettleBill();
+  } else if (!state_.onEntryRow && state_.editCol == 2) {
+    changeQuantity(typed);
+  } else if (!state_.onEntryRow && state_.editCol == 3) {
+    changeDiscount(typed);
+  }
+}
+
+// A barcode scanned while a quantity or discount is being edited is dropped: it is neither.
+void BillLines::enterBarcode(const QString& typed) {
+  if (!state_.onEntryRow) {
+    screen_.setInput({});
+    ShowLine(false);
+    returnToEntryRow();
+    return;
+  }
+  if (state_.curLine) commitCurrentLine(state_, receipt_);
+  if (lookup_.LookupBarcode(codeOf(typed))) {
+    ringUp();
+  } else {
+    notFound(tr("没有找到条码为：") + typed + tr("的商品"));
+  }
+}
+
+void BillLines::enterShortCode(const QString& typed) {
+  if (state_.curLine) commitCurrentLine(state_, receipt_);
+  const QString code = codeOf(typed);
+  if (lookup_.LookupSpec(code) || lookup_.LookupItemNo(code)) {
+    ringUp();
+  } else {
+    notFound(tr("没有找到：") + typed + tr("的商品"));
+  }
+}
+
+// The input line is emptied too when the line was refused: the next scan must not be appended.
+void BillLines::ringUp() {
+  state_.curLine->setQuantity(1);
+  if (!ShowLine(true)) {
+    screen_.setInput({});
+    return;
+  }
+  state_.AddEntryRow();
+  screen_.rowsChanged();
+  screen_.PlaceEditor();
+}
+
+void BillLines::notFound(const QString& message) {
+  screen_.ShowMessage(message);
+  screen_.setInput({});
+}
+
+void BillLines::changeQuantity(const QString& typed) {
+  const auto quantity = parseNumber(typed.toStdString());
+  if (!quantity) {
+    screen_.setInput({});
+    return;
+  }
+  ClsSellItem& line = *state_.curLine;
+  const double before = line.Quantity();
+  if (*quantity != before) {
+    line.setQuantity(*quantity);
+    if (!storeAndShow(roundedQuantity((*quantity - before) * line.Ratio()))) {
+      line.setQuantity(before);
+      screen_.setInput(text(generalNumber(before)));
+      return;
+    }
+  }
+  returnToEntryRow();
+}
+
+void BillLines::changeDiscount(const QString& typed) {
+  const auto factor = parseNumber(typed.toStdString());
+  if (!factor || *factor < 0) {
+    screen_.setInput({});
+    return;
+  }
+  ClsSellItem& line = *state_.curLine;
+  const Discount before = line.Discount();
+  line.setDiscount(Discount(*factor));
+  if (!RefreshLine()) {
+    line.setDiscount(before);
+    screen_.setInput({});
+    return;
+  }
+  returnToEntryRow();
+}
+
+void BillLines::returnToEntryRow() {
+  state_.editCol = 1;
+  MoveRow(false);
+  screen_.PlaceEditor();
+  state_.onEntryRow = true;
+  numberRows();
+  screen_.rowsChanged();
+}
+
+void BillLines::numberRows() {
+  int position = 0;
+  for (BillRow& row : state_.rows) row.cells[BillRow::kNumber] = std::to_string(++position);
+}
+
+void BillLines::MoveRow(bool up) {
+  const int target = state_.selected + (up ? -1 : 1);
+  if (target < 0 || target >= static_cast<int>(state_.rows.size())) return;
+  if (state_.rows[static_cast<std::size_t>(target)].tag != 0) return;
+  state_.selected = target;
+  screen_.rowsChanged();
+  screen_.PlaceEditor();
+  state_.onEntryRow = !up;
+}
+
+bool BillLines::ShowLine(bool takeStock) {
+  if (!state_.curLine) return false;
+  const bool shown = storeAndShow(takeStock ? state_.curLine->StockQuantity() : 0);
+  if (!shown && takeStock) state_.curLine = nullptr;
+  return shown;
+}
+
+bool BillLines::RefreshLine() {
+  return ShowLine(false);
+}
+
+bool BillLines::storeAndShow(double taken) {
+  Shown shown;
+  const bool stored = guarded([&] {
+    return moveStock(taken, [&] {
+      state_.curLine->Save();
+      shown = shownLine();
+    });
+  });
+  if (!stored) return false;
+
+  state_.rows[static_cast<std::size_t>(state_.selected)].cells = std::move(shown.row.cells);
+  state_.origTotal = shown.originalPrice;
+  display_.clientView(state_.curLine->Price(), CustomerDisplay::kPrice);
+  screen_.setStatus(shown.status);
+  screen_.rowsChanged();
+  return true;
+}
+
+bool BillLines::guarded(const std::function<bool()>& work) {
+  try {
+    return work();
+  } catch (const Failure& failure) {
+    screen_.messageBox(text(failure.what()));
+    return false;
+  }
+}
+
+bool BillLines::moveStock(double taken, const std::function<void()>& write) {
+  const std::string& itemCode = state_.curLine->SpCode();
+  if (taken > 0) return TakeStock(pos_, screen_, itemCode, taken, write);
+  if (taken < 0) return ReturnStock(pos_, screen_, itemCode, -taken, write);
+  Transaction storing(*pos_.gConn);
+  write();
+  storing.commit();
+  return true;
+}
+
+BillLines::Shown BillLines::shownLine() const {
+  Shown shown{.row = rowTexts(), .originalPrice = 0, .status = {}};
+  shown.originalPrice = originalPrice(state_.rows, state_.selected, shown.row);
+  shown.status = statusText(shown.originalPrice);
+  return shown;
+}
+
+BillRow BillLines::rowTexts() const {
+  const ClsSellItem& line = *state_.curLine;
+  ClsStock stock;
+  stock.Init(*pos_.gConn, line.SpCode());
+  BillRow row;
+  row.cells = {std::to_string(state_.rows.size()),
+               line.EntryCode(),
+               line.SpName(),
+               twoDecimals(line.Price()),
+               generalNumber(line.Quantity()),
+               generalNumber(line.Discount()),
+               twoDecimals(line.Money()),
+               generalNumber(roundedQuantity(stock.StockQty() + 1)),
+               line.Origin(),
+               line.Unit(),
+               line.SpCode()};
+  return row;
+}
+
+QString BillLines::statusText(std::int64_t figure) const {
+  const ClsSell& bill = *state_.curBill;
+  if (state_.showBillOnly) {
+    return text(generalNumber(bill.Quantity())) + tr("件商品，合计") +
+           text(generalNumber(bill.Amount())) + tr("元");
+  }
+  const ClsSellItem& line = *state_.curLine;
+  Currency due = bill.Amount() + line.Money();
+  const std::string dueText = myCStr(due, pos_.gSysParam);
+  return text(generalNumber(roundedQuantity(bill.Quantity() + line.Quantity()))) +
+         tr("件商品，原价合计") + QString::number(figure) + tr("   合计") + text(dueText) +
+         tr("元");
+}
+
+void BillLines::CancelBill() {
+  receipt_.FeedLines();
+  if (state_.curBill->Items().empty() && !state_.curLine) {
+    screen_.ShowMessage(tr("没有商品，无需删除！"));
+    return;
+  }
+  const bool voided = guarded([this] {
+    Transaction cancelling(*pos_.gConn);
+    VoidBill(pos_, screen_, *state_.curBill);
+    if (state_.curLine) {
+      const double taken = state_.curLine->StockQuantity();
+      if (!moveStock(-taken, [this] { state_.curLine->Delete(); })) return false;
+    }
+    cancelling.commit();
+    return true;
+  });
+  if (!voided) return;
+  state_.curLine = nullptr;
+  state_.origTotal = 0;
+  screen_.setStatus({});
+  state_.clearRows();
+  checkout_.PrepareNextBill();
+}
+
+// The row that goes is the current line's, also when the entry row below it is the selected one.
+void BillLines::DeleteCurrentLine() {
+  if (!state_.curLine) return;
+  const bool deleted = guarded([this] {
+    return moveStock(-state_.curLine->StockQuantity(), [this] { state_.curLine->Delete(); });
+  });
+  if (!deleted) return;
+  const int row = state_.onEntryRow ? state_.selected - 1 : state_.selected;
+  state_.rows.erase(state_.rows.begin() + row);
+  state_.curLine = nullptr;
+  state_.selected = row;
+  state_.rows.back().cells[BillRow::kNumber].clear();
+  state_.editCol = 1;
+  state_.onEntryRow = true;
+  state_.origTotal = originalPrice(state_.rows);
+  screen_.setStatus(text(generalNumber(state_.curBill->Quantity())) + tr("件商品，原价总计") +
+                    QString::number(state_.origTotal) + tr("合计") +
+                    text(generalNumber(state_.curBill->Amount())) + tr("元"));
+  screen_.rowsChanged();
+  screen_.PlaceEditor();
+}

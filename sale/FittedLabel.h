@@ -1,0 +1,26 @@
+#pragma once
+
+#include <QLabel>
+
+/// A label for one line of text that must never be cut off: it is shown as large as set, smaller
+/// when it would not fit, and wrapped when it would become too small to read.
+class FittedLabel : public QLabel {
+  Q_OBJECT
+
+ public:
+  explicit FittedLabel(QWidget* parent = nullptr);
+  /// Sizes in pixels.
+  void setLargest(int size);
+  void setSmallest(int size);
+  void showText(const QString& text);
+
+ protected:
+  void resizeEvent(QResizeEvent* event) override;
+
+ private:
+  void fit();
+
+  int largest_ = 16;
+  int smallest_ = 12;
+  int shown_ = 0;
+};

@@ -1,0 +1,222 @@
+#include "sale/SaleSession.h"
+
+#include <algorithm>
+
+#include "app/posMod.h"
+#include "base/Failure.h"
+#include "checkout/BillStock.h"
+#include "checkout/SaleScreen.h"
+#include "platform/VirtualKey.h"
+#include "saleslib/ClsDayStat.h"
+#include "store/StoreError.h"
+
+namespace {
+
+constexpr int kModifiers[] = {16, 17, 18};  // Shift, Ctrl, Alt
+constexpr int kEditColumns = 3;
+
+Outage::Report reportTo(SaleScreen& screen) {
+  return [&screen](const QString& text) { screen.ShowMessage(text); };
+}
+
+}  // namespace
+
+SaleSession::SaleSession(posMod& pos, SaleScreen& screen, Openers openers)
+    : pos_(pos),
+      screen_(screen),
+      openers_(std::move(openers)),
+      display_(pos.ports, pos.gPosSet, state, reportTo(screen)),
+      drawer_(pos.ports, pos.gPosSet, state, display_, reportTo(screen)),
+      receipt_(pos, state, drawer_, reportTo(screen)),
+      checkout_(pos, state, screen, display_, receipt_),
+      lookup_(pos, state, screen),
+      lines_(pos, state, screen, lookup_, checkout_, display_, receipt_) {
+  fillCommands();
+  fillMenu();
+}
+
+bool SaleSession::open() {
+  ensure(pos_.gOperator != nullptr, "somebody is logged in before the sale screen opens");
+  loadSettings();
+  voidOpenBills();
+  if (clockIsBehind()) {
+    screen_.messageBox(tr("电脑系统时间错误！"), tr("致命错误"));
+    screen_.endProgram();
+    return false;
+  }
+  checkout_.PrepareNextBill();
+  return true;
+}
+
+void SaleSession::loadSettings() {
+  const ClsPosSet& settings = pos_.gPosSet;
+  state.linePrint = !settings.PPort.empty() && settings.PPort != "USB";
+  if (!settings.PPort.empty()) state.receiptCols = ReceiptColumns::forModel(settings.PModel);
+  state.hasDrawer = !settings.MBPort.empty();
+  state.hasDisplay = !settings.CVProt.empty();
+  if (state.hasDisplay) display_.OpenDisplayPort();
+  state.stockRule = pos_.gSysParam.StockRule();
+}
+
+void SaleSession::voidOpenBills() {
+  ClsDayStat bills;
+  bills.OpenQuery(*pos_.gConn, pos_.gOperator->Id());
+  for (const auto& bill : bills.Sells()) VoidBill(pos_, screen_, *bill);
+  state.lastBill = bills.LastSell(*pos_.gConn);
+}
+
+bool SaleSession::clockIsBehind() const {
+  return state.lastBill && state.lastBill->SellTime().date > pos_.clock().date;
+}
+
+// The order is the one in which a key mapped twice finds its command.
+void SaleSession::fillCommands() {
+  commands_ = {
+      {&KeyBoard::mLeft, [this] { return moveEditor(-1); }},
+      {&KeyBoard::mUp,
+       [this] {
+         state.editCol = 2;
+         lines_.MoveRow(true);
+         return true;
+       }},
+      {&KeyBoard::mRight, [this] { return moveEditor(1); }},
+      {&KeyBoard::mDown,
+       [this] {
+         state.editCol = 1;
+         lines_.MoveRow(false);
+         return true;
+       }},
+      {&KeyBoard::mEnter,
+       [this] {
+         lines_.Enter();
+         return false;
+       }},
+  };
+  const auto add = [this](int KeyBoard::*key, std::function<void()> action) {
+    commands_.push_back({key, [action = std::move(action)] {
+                           action();
+                           return true;
+                         }});
+  };
+  add(&KeyBoard::mF1, [this] { checkout_.SettleBill(); });
+  addOpener(&KeyBoard::mF3, "addmen");
+  add(&KeyBoard::mF4, [this] { lines_.DeleteCurrentLine(); });
+  addOpener(&KeyBoard::mF8, "search");
+  addOpener(&KeyBoard::mF9, "topup");
+  add(&KeyBoard::mF10, [this] { drawer_.OpenDrawer(); });
+  addOpener(&KeyBoard::mF11, "search");
+  add(&KeyBoard::mF12, [this] { lines_.CancelBill(); });
+  add(&KeyBoard::mEsc, [this] { exit(); });
+}
+
+void SaleSession::addOpener(int KeyBoard::*key, const QString& screen) {
+  const auto found = openers_.find(screen);
+  if (found == openers_.end()) return;
+  commands_.push_back({key, [open = found->second] {
+                         open();
+                         return true;
+                       }});
+}
+
+void SaleSession::fillMenu() {
+  menu_ = {{"sell", tr("结    账"), [this] { checkout_.SettleBill(); }},
+           {"isprint", tr("打印机开关"), [this] { toggleLinePrint(); }},
+           {"delsell", tr("本单撤消"), [this] { lines_.CancelBill(); }}};
+  const auto add = [this](const QString& entry, const QString& caption) {
+    const auto found = openers_.find(entry);
+    if (found != openers_.end()) menu_.push_back({entry, caption, found->second});
+  };
+  add("color", tr("颜色设置"));
+  menu_.push_back({"exit", tr("退    出"), [this] { exit(); }});
+  add("search", {});
+}
+
+bool SaleSession::key(int code) {
+  if (std::find(std::begin(kModifiers), std::end(kModifiers), code) != std::end(kModifiers))
+    return false;
+  textComing();
+  if (code == vk::kEnter) code = pos_.gKeyBoard.mEnter;
+  if (const KeyCommand* command = commandFor(commands_, pos_.gKeyBoard, code)) {
+    if (command->run()) state.clearOnKey = true;
+    return true;
+  }
+  return quickKey(code);
+}
+
+void SaleSession::textComing() {
+  if (!state.clearOnKey) return;
+  state.clearOnKey = false;
+  screen_.setInput({});
+}
+
+bool SaleSession::mayRepeat(int code) const {
+  const KeyBoard& keys = pos_.gKeyBoard;
+  if (code == vk::kEnter) return false;
+  if (commandFor(commands_, keys, code) == nullptr) return true;
+  return code == keys.mLeft || code == keys.mRight || code == keys.mUp || code == keys.mDown;
+}
+
+bool SaleSession::moveEditor(int step) {
+  const int column = state.editCol + step;
+  if (column < 1 || column > kEditColumns) return false;
+  state.editCol = column;
+  screen_.PlaceEditor();
+  return true;
+}
+
+// A quick key without an item code is none: with nothing on the input line, Enter would settle.
+bool SaleSession::quickKey(int code) {
+  if (code == 0 || !screen_.input().isEmpty()) return false;
+  const std::vector<clsQk>& quickKeys = pos_.gKeyBoard.QK;
+  const auto quick = std::find_if(quickKeys.begin(), quickKeys.end(), [code](const clsQk& each) {
+    return each.QK_int == code && !each.QK_Bm.empty();
+  });
+  if (quick == quickKeys.end()) return false;
+  screen_.setInput(QString::fromStdString(quick->QK_Bm));
+  static_cast<void>(key(pos_.gKeyBoard.mEnter));
+  state.clearOnKey = true;
+  return true;
+}
+
+void SaleSession::listClicked() {
+  if (state.rows.size() < 2) return;
+  state.selected = static_cast<int>(state.rows.size()) - 2;
+  state.editCol = 1;
+  lines_.MoveRow(false);
+}
+
+void SaleSession::menu(const QString& entry) {
+  const auto found = std::find_if(menu_.begin(), menu_.end(),
+                                  [&](const MenuCommand& command) { return command.key == entry; });
+  if (found != menu_.end()) found->run();
+}
+
+std::vector<std::pair<QString, QString>> SaleSession::menuEntries() const {
+  std::vector<std::pair<QString, QString>> listed;
+  for (const MenuCommand& command : menu_) {
+    if (!command.caption.isEmpty()) listed.emplace_back(command.key, command.caption);
+  }
+  return listed;
+}
+
+void SaleSession::toggleLinePrint() {
+  state.linePrint = !state.linePrint && pos_.gPosSet.PPort != "USB";
+}
+
+// A row that cannot be deleted now is voided when the screen opens next.
+void SaleSession::exit() {
+  if (!state.curBill->Items().empty() || state.curLine || !state.heldBills.empty()) {
+    screen_.ShowMessage(tr("还没结束销售或还有挂起单子，不能退出。"));
+    return;
+  }
+  try {
+    state.curBill->Void();
+  } catch (const StoreError& failure) {
+    screen_.messageBox(QString::fromStdString(failure.what()));
+  }
+  state.lastBill = nullptr;
+  state.curBill = nullptr;
+  state.curMember = nullptr;
+  display_.close();
+  left_ = true;
+}

@@ -1,0 +1,74 @@
+#include "TillFixture.h"
+
+using testing::ElementsAre;
+using testing::HasSubstr;
+
+class ItemLookupTest : public TillFixture {
+ protected:
+  ItemLookupTest() { open(); }
+  std::string line() const {
+    const auto& current = session.state.curLine;
+    return current ? current->SpCode() + "/" + current->SpName() + "/" + current->EntryCode()
+                   : "none";
+  }
+};
+
+TEST_F(ItemLookupTest, findsByBarcodeSpecificationAndItemNumber) {
+  const std::vector<std::pair<const char*, const char*>> cases = {
+      {kWater, "1001/矿泉水/6901234567892"},
+      {"６９０１２３４５６７８９２", "1001/矿泉水/6901234567892"},
+      {"80g", "1003/红茶/80g"},
+      {"８０ｇ", "1003/红茶/80g"},
+      {"QB-0", "2001/铅笔/QB-01"},
+      {"50g", "1002/绿茶/50g"},  // a specification before the item number X50g
+      {"大", "none"},            // one character starts no look-up
+  };
+  for (const auto& [typed, found] : cases) {
+    enter(typed);
+    EXPECT_EQ(line(), found) << typed;
+    press(112 + 3);
+  }
+  EXPECT_THAT(till.messages, ElementsAre());
+}
+
+TEST_F(ItemLookupTest, whatWasTypedStaysAValue) {
+  for (const char* typed : {"x' or '1'='1", "6901234567892'", "😀😀😀😀😀😀", "'; drop table tmda; --"}) {
+    enter(typed);
+    EXPECT_EQ(onlyMessage(), "没有找到条码为：" + std::string(typed) + "的商品");
+    EXPECT_EQ(till.text, "");
+  }
+  enter("o'b");
+  EXPECT_EQ(onlyMessage(), "没有找到：o'b的商品");
+  EXPECT_EQ(line(), "none");
+}
+
+TEST_F(ItemLookupTest, letsTheCashierChooseAmongSeveral) {
+  till.choice = 1;
+  enter(kDouble);
+  EXPECT_THAT(till.offered, ElementsAre("绿茶  杭州  库存：50", "红茶  安徽  库存：0"));
+  EXPECT_EQ(line(), "1003/红茶/6900000000029");
+
+  till.choice = -1;
+  enter(kDouble);
+  EXPECT_EQ(onlyMessage(), "没有找到条码为：6900000000029的商品");
+  EXPECT_EQ(line(), "none") << "the line before was committed";
+
+  till.choice = 1;
+  enter("-0");
+  EXPECT_THAT(till.offered,
+              ElementsAre("铅笔  货号: QB-01  库存：0", "橡皮  货号: XP-02  库存：0"));
+  EXPECT_EQ(line(), "2002/橡皮/XP-02");
+}
+
+TEST_F(ItemLookupTest, asksForAMissingPriceUntilItIsOne) {
+  till.answers = {"", "十元", "-3", QString(10'000, '9'), "３.5"};
+  enter(kNoPrice);
+  EXPECT_EQ(till.prompts, 5);
+  EXPECT_EQ(cell(0, BillRow::kPrice), "3.50");
+}
+
+TEST_F(ItemLookupTest, saysWhyAFieldCannotBeReadAndFindsNothing) {
+  enter("6900000000999");
+  EXPECT_THAT(till.messages, ElementsAre(HasSubstr("xsdj"), "没有找到条码为：6900000000999的商品"));
+  EXPECT_EQ(lines(), "0");
+}

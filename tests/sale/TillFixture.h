@@ -1,0 +1,96 @@
+#pragma once
+
+#include "SaleFixture.h"
+#include "sale/SaleSession.h"
+
+/// A screen that behaves like the sale window: the input line shows the edited cell.
+class TillScreen : public FakeScreen {
+ public:
+  TillScreen() : FakeScreen(unused_) {}
+
+  void PlaceEditor() override {
+    SaleState& state = session->state;
+    const BillRow& row = state.rows.at(static_cast<std::size_t>(state.selected));
+    text = QString::fromStdString(row.cells[state.editColumn()]);
+    state.clearOnKey = true;
+  }
+  int choose(const QStringList& entries) override {
+    offered = entries;
+    return choice;
+  }
+  /// The answers in their order; the last one is repeated.
+  QString prompt(const QString& title, const QString& message) override {
+    EXPECT_EQ(title + message, "");
+    ++prompts;
+    return answers.size() > 1 ? answers.takeFirst() : answers.value(0);
+  }
+
+  SaleSession* session = nullptr;
+  QStringList offered, answers;
+  int prompts = 0;
+
+ private:
+  SaleState unused_;
+};
+
+/// A till whose sale screen has just opened, in a shop with goods of every kind.
+class TillFixture : public SaleFixture {
+ protected:
+  static constexpr const char* kWater = "6901234567892";   // 1001, 2.50
+  static constexpr const char* kCrate = "6901234567885";   // 1001 by twelve, 28.00
+  static constexpr const char* kDouble = "6900000000029";  // 1002 and 1003
+  static constexpr const char* kNoPrice = "6900000000036";
+  static constexpr const char* kApples = "2000001";  // 1005, 5.98 a pound
+
+  TillFixture() {
+    pos.gConn->runScript(R"(
+      insert into tmda (sptm, ggxh, spbm, spmc, spcd, jldw, xsdj, pfj, zk, dwbl, zhjj, splbmc) values
+        ('6901234567892', '550ml', '1001', '矿泉水', '浙江', '瓶', 2.5, 2.2, 1, 1, 1.2, '饮料'),
+        ('6901234567885', '550ml*12', '1001', '矿泉水整箱', '浙江', '箱', 28, 0, 1, 12, 14, '饮料'),
+        ('6900000000029', '50g', '1002', '绿茶', '杭州', '盒', 12.5, Null, 0.9, 1, 8, '茶'),
+        ('6900000000029', '80g', '1003', '红茶', '安徽', '盒', 13.5, Null, 1, 1, 8, '茶'),
+        ('6900000000036', '大', '1004', '气球', '', '个', 0, Null, 1, 1, 0.1, '玩具'),
+        ('2000001', '散', '1005', '苹果', '烟台', '斤', 5.98, Null, 1, 1, 3, '水果');
+      insert into tmda (sptm, spbm, spmc, xsdj, dwbl) values ('6900000000999', '1006', '坏价', 'x', 1);
+      insert into spda (f_spbm, f_spmc, f_sphh, f_jldw, f_xsdj, f_pfj, f_zk, f_spcd) values
+        ('2001', '铅笔', 'QB-01', '支', 1.5, Null, 1, '上海'),
+        ('2002', '橡皮', 'XP-02', '块', Null, 0.5, 1, ''),
+        ('2003', '茶杯', 'X50g', '只', 9, Null, 1, '');
+    )");
+    till.session = &session;
+  }
+  void open() { ASSERT_TRUE(session.open()); }
+
+  void press(int code) { static_cast<void>(session.key(code)); }
+  /// Types a text as the window would: the first key empties a shown value.
+  void type(const QString& typed) {
+    for (const QChar each : typed) {
+      if (!session.key(each.toUpper().unicode())) till.text += each;
+    }
+  }
+  void enter(const QString& typed) {
+    session.textComing();
+    till.text = typed;
+    press(13);
+  }
+  std::string stock(const std::string& itemCode) {
+    return stored("quantity as v from stock where spbm = '" + itemCode + "'");
+  }
+  std::string lines() { return stored("count(*) as v from sellProducts"); }
+  std::string cell(int row, BillRow::Column column) const {
+    return session.state.rows.at(static_cast<std::size_t>(row)).cells[column];
+  }
+  std::string onlyMessage() {
+    EXPECT_EQ(till.messages.size(), 1U);
+    const std::string text = till.messages.empty() ? "" : till.messages.front();
+    till.messages.clear();
+    return text;
+  }
+  void setParameter(const char* name, const char* value) {
+    ASSERT_EQ(pos.gSysParam.set(name, value), "");
+  }
+
+  TillScreen till;
+  int searches = 0;
+  SaleSession session{pos, till, {{"search", [this] { ++searches; }}}};
+};
