@@ -63,9 +63,9 @@ class frmFMember : public QDialog {
   QLineEdit* txtOld_;
   QRadioButton* OptBoy_;
   QRadioButton* OptGirl_;
-  QLineEdit* txtPhone_;
   QLineEdit* txtAddress_;
   QLineEdit* txtPostcode_;
+  QLineEdit* txtPhone_;
   QLineEdit* txtOther_;
   QComboBox* zklb2_;
   QDateEdit* DTPicker1_;
