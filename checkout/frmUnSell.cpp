@@ -61,13 +61,11 @@ frmUnSell::frmUnSell(posMod& pos, QWidget* parent)
   lblStatus_->setWordWrap(true);
   setUpList();
   arrange();
-  showLine();
   showBill();
+  showLine();
   connect(lvlistSp_, &QTableView::clicked, this,
           [this](const QModelIndex& clicked) { chooseRow(clicked.row()); });
-  connect(txtAmount_, &QLineEdit::editingFinished, this, &frmUnSell::quantityLeft);
   connect(txtmoney_, &QLineEdit::textChanged, this, &frmUnSell::rewriteRefund);
-  connect(txtmoney_, &QLineEdit::editingFinished, this, &frmUnSell::rewriteRefund);
   connect(cmdUnSell_, &QPushButton::clicked, this, &frmUnSell::storeReturn);
   connect(cmdExit_, &QPushButton::clicked, this, &QDialog::reject);
 }
@@ -181,6 +179,8 @@ bool frmUnSell::eventFilter(QObject* watched, QEvent* event) {
   if (event->type() == QEvent::FocusIn && (watched == txtAmount_ || watched == txtmoney_)) {
     static_cast<QLineEdit*>(watched)->selectAll();
   }
+  if (event->type() == QEvent::FocusOut && watched == txtAmount_) quantityLeft();
+  if (event->type() == QEvent::FocusOut && watched == txtmoney_) rewriteRefund();
   if (event->type() == QEvent::KeyPress && handleKey(watched, *static_cast<QKeyEvent*>(event))) {
     return true;
   }
@@ -231,8 +231,8 @@ void frmUnSell::message(const QString& text) {
 
 bool frmUnSell::loadBill() {
   const QString refusal = returns_.load(txtNo_->text());
-  showLine();
   showBill();
+  showLine();
   if (refusal.isEmpty()) return true;
   message(refusal);
   focusWhole(txtNo_);
@@ -281,6 +281,9 @@ void frmUnSell::showLine() {
   txtAmount_->setText(Text2_->text());
   confirmedQuantity_ = txtAmount_->text();
   showRefund(line->Money());
+  for (int row = 0; row < lines_->rowCount(); ++row) {
+    if (lines_->lineId(row) == line->Id()) lvlistSp_->selectRow(row);
+  }
 }
 
 void frmUnSell::confirmQuantity() {
@@ -298,7 +301,7 @@ void frmUnSell::quantityLeft() {
 }
 
 void frmUnSell::showRefund(Currency refund) {
-  txtmoney_->setText(shown(twoDecimals(refund)));
+  txtmoney_->setText(shown(generalNumber(refund)));
 }
 
 // In plain number text at every change; while the figure is being typed, its end is waited for, so
@@ -308,7 +311,7 @@ void frmUnSell::rewriteRefund() {
   const auto refund = Currency::parse(text.toStdString());
   if (!refund) return;
   const QString plain = shown(generalNumber(*refund));
-  if (text == plain || (txtmoney_->hasFocus() && onItsWayTo(text, plain))) return;
+  if (text == plain || (focusWidget() == txtmoney_ && onItsWayTo(text, plain))) return;
   txtmoney_->setText(plain);
 }
 
@@ -325,8 +328,8 @@ void frmUnSell::storeReturn() {
     return;
   }
   const QString refusal = returns_.takeBack(returns_.quantityOf(txtAmount_->text()), *refund);
-  showLine();
   showBill();
+  showLine();
   if (!refusal.isEmpty()) message(refusal);
 }
 

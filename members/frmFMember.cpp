@@ -89,6 +89,9 @@ void frmFMember::setUpControls() {
   zklb2_->setEditable(true);
   zklb2_->setInsertPolicy(QComboBox::NoInsert);
   DTPicker1_->setDisplayFormat("yyyy-MM-dd");
+  DTPicker1_->setButtonSymbols(QAbstractSpinBox::NoButtons);
+  // Its earliest date shows as nothing: a member's birthday is written, but not read back.
+  DTPicker1_->setSpecialValueText(" ");
   const Date today = pos_.clock().date;
   DTPicker1_->setDate(QDate(today.year, today.month, today.day));
   password_->setEchoMode(QLineEdit::Password);
@@ -250,6 +253,7 @@ void frmFMember::showMember() {
   txtPhone_->setText(shown(member_->Phone()));
   txtOther_->setText(shown(member_->Other()));
   zklb2_->setEditText(shown(generalNumber(member_->Discount())));
+  DTPicker1_->setDate(DTPicker1_->minimumDate());
   for (QLineEdit* edit : {card_, password_}) edit->clear();
   cmdCancel_->setFocus();
   enableEntry(false);

@@ -22,7 +22,7 @@ QLabel* caption(const QString& name, const QString& text) {
   return label;
 }
 
-QPushButton* button(const QString& name, const QString& text) {
+QPushButton* pushButton(const QString& name, const QString& text) {
   auto* push = new QPushButton(text);
   push->setObjectName(name);
   return push;
@@ -64,8 +64,8 @@ frmEditPwd::frmEditPwd(posMod& pos, QWidget* parent)
   grid->addWidget(caption("Label4", tr("新密码：")), 2, 0, Qt::AlignRight);
   grid->addWidget(txtNewPwd_, 2, 1);
 
-  QPushButton* cmdOk = button("cmdOk", tr("确定(&Y)"));
-  QPushButton* cmdCancel = button("cmdCancel", tr("取消"));
+  QPushButton* cmdOk = pushButton("cmdOk", tr("确定(&Y)"));
+  QPushButton* cmdCancel = pushButton("cmdCancel", tr("取消"));
   connect(cmdOk, &QPushButton::clicked, this, &frmEditPwd::change);
   connect(cmdCancel, &QPushButton::clicked, this, &QDialog::reject);
   cmdOk->installEventFilter(this);
@@ -123,14 +123,15 @@ bool frmEditPwd::handleKey(const QKeyEvent& event) {
 }
 
 bool frmEditPwd::enter() {
-  if (txtNumber_->hasFocus()) {
+  QWidget* focused = focusWidget();
+  if (focused == txtNumber_) {
     focusWhole(txtPassword_);
-  } else if (txtPassword_->hasFocus()) {
+  } else if (focused == txtPassword_) {
     focusWhole(txtNewPwd_);
-  } else if (txtNewPwd_->hasFocus()) {
+  } else if (focused == txtNewPwd_) {
     change();
-  } else if (auto* focused = qobject_cast<QPushButton*>(focusWidget())) {
-    focused->click();
+  } else if (auto* button = qobject_cast<QPushButton*>(focused)) {
+    button->click();
   } else {
     return false;
   }

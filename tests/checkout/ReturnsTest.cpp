@@ -67,13 +67,9 @@ TEST_F(ReturnsTest, EverythingThatAReturnTouchesAgreesWithWhatCameBack) {
   }
   returns.chooseByCode("6901");
   EXPECT_FALSE(returns.line()) << "a line that holds nothing is not found by its code";
-  EXPECT_EQ(stored("sell_id || item_id || operator_id || ratio || discount || un_time as v"
-                   " from un_sell"),
-            "111"
-            "1"
-            "2"
-            "0.9"
-            "2026-11-22 09:05:03");
+  EXPECT_EQ(stored("sell_id || ' ' || item_id || ' ' || operator_id || ' ' || ratio || ' ' ||"
+                   " discount || ' ' || un_time as v from un_sell"),
+            "1 1 1 2 0.9 2026-11-22 09:05:03");
 }
 
 TEST_F(ReturnsTest, TheRoundingOfTheSettlementStaysUntilNothingIsLeft) {

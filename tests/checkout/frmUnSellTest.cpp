@@ -160,7 +160,7 @@ TEST_F(frmUnSellTest, ARefundIsRewrittenAsAPlainNumberWithoutEatingTheDecimalPoi
   enter("");
   const struct {
     const char *typed, *shown;
-  } cases[] = {{"12.05", "12.05"}, {"007", "7"}, {"12.", "12."}, {"３.50", "3.50"}, {"-x", "-x"}};
+  } cases[] = {{"12.05", "12.05"}, {"007", "7"}, {"12.", "12."}, {"3.50", "3.50"}, {"-x", "-x"}};
   for (const auto& c : cases) {
     hands.at(kWindow, [this](QWidget&) { dialog.findChild<QLineEdit*>("txtmoney")->selectAll(); });
     hands.type(kWindow, c.typed);

@@ -41,7 +41,8 @@ TEST_F(frmFMemberTest, ASwipedNewCardBecomesAMemberByKeyboardAlone) {
     field(shown, "card")->setText("88.5");
     shown.findChild<QComboBox*>("zklb2")->setCurrentText("银卡");
     shown.findChild<QDateEdit*>("DTPicker1")->setDate(QDate(1990, 2, 28));
-    QTest::keyClick(shown.findChild<QRadioButton*>("OptGirl"), Qt::Key_Space);
+    shown.findChild<QRadioButton*>("OptGirl")->setFocus();
+    Hands::pressNow(Qt::Key_Space);
     Hands::pressNow(Qt::Key_Return);
     EXPECT_EQ(focusName(shown), "txtAddress");
     okNow(shown);
