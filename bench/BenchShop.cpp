@@ -46,7 +46,8 @@ BenchShop::BenchShop(const std::filesystem::path& folder, int goods) {
   ClsOperator cashier;
   cashier.Init(*pos_->gConn, 1);
   pos_->gOperator = std::make_shared<ClsOperator>(cashier);
-  session_ = std::make_unique<SaleSession>(*pos_, *this, SaleSession::Openers());
+  SaleScreen& screen = *this;
+  session_ = std::make_unique<SaleSession>(*pos_, screen, SaleSession::Openers());
   if (!session_->open()) throw std::runtime_error("the session did not open");
 }
 

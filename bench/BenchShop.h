@@ -9,7 +9,7 @@
 
 /// A till without a window on a shop of its own: what the cashier's key presses cause, and nothing
 /// of what the screen draws.
-class BenchShop : private SaleScreen {
+class BenchShop : public SaleScreen {
  public:
   /// Makes a data file with `goods` items in that folder and opens the sale screen's session.
   BenchShop(const std::filesystem::path& folder, int goods);

@@ -160,7 +160,11 @@ void frmEndSell::showEvent(QShowEvent* event) {
 bool frmEndSell::eventFilter(QObject* watched, QEvent* event) {
   if (event->type() == QEvent::FocusIn && watched == cash_) cash_->selectAll();
   if (event->type() == QEvent::KeyPress) {
-    return keyPressed(watched, virtualKey(*static_cast<QKeyEvent*>(event)));
+    const auto& pressed = *static_cast<QKeyEvent*>(event);
+    const int key = virtualKey(pressed);
+    // The key that opened the dialog may still be held down; that confirms nothing.
+    const bool confirms = key == vk::kEnter || key == keys_.mEnter || key == keys_.mF1;
+    return (pressed.isAutoRepeat() && confirms) || keyPressed(watched, key);
   }
   return QDialog::eventFilter(watched, event);
 }

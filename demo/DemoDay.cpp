@@ -169,7 +169,7 @@ void DemoDay::afternoon() {
   till.key("Return");
   till.waitFor("frmSell");
   till.key("Menu");
-  till.waitFor("frmMenu");
+  till.waitFor("myMenu");
   shot(till, "function-menu");
   till.key("Esc");
   till.waitFor("frmSell");

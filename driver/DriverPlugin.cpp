@@ -80,26 +80,24 @@ class Driver : public QObject {
       return;
     }
     answer(QStringLiteral("ok"));
-    const QKeyCombination key = keys[0];
-    QTimer::singleShot(0, this, [key] {
-      if (QWindow* window = activeWindow()) {
-        QTest::keyClick(window, key.key(), key.keyboardModifiers());
-      }
-    });
+    queueKey(keys[0].key(), keys[0].keyboardModifiers(), {});
   }
 
   void type(const QString& text) {
     answer(QStringLiteral("ok"));
     for (const QChar character : text) {
-      QTimer::singleShot(0, this, [character] {
-        QWindow* window = activeWindow();
-        if (window == nullptr) return;
-        if (character.unicode() < 128) {
-          QTest::keyClick(window, character.toLatin1());
-        } else {
-          QTest::sendKeyEvent(QTest::Click, window, Qt::Key_unknown, QString(character),
-                              Qt::NoModifier);
-        }
+      const bool ascii = character.unicode() < 128;
+      queueKey(ascii ? QTest::asciiToKey(character.toLatin1()) : Qt::Key_unknown, Qt::NoModifier,
+               QString(character));
+    }
+  }
+
+  // Press and release are events of their own, each for the window that is active by then, and each
+  // from the event loop: a press that opens a modal window returns only when that window is closed.
+  void queueKey(Qt::Key key, Qt::KeyboardModifiers modifiers, const QString& text) {
+    for (const QEvent::Type type : {QEvent::KeyPress, QEvent::KeyRelease}) {
+      QTimer::singleShot(0, this, [=] {
+        if (QWindow* window = activeWindow()) qt_handleKeyEvent(window, type, key, modifiers, text);
       });
     }
   }

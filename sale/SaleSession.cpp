@@ -152,7 +152,7 @@ void SaleSession::textComing() {
 bool SaleSession::mayRepeat(int code) const {
   const KeyBoard& keys = pos_.gKeyBoard;
   if (code == vk::kEnter) return false;
-  if (commandFor(commands_, keys, code) == nullptr) return true;
+  if (commandFor(commands_, keys, code) == nullptr) return quickKeyFor(code) == nullptr;
   return code == keys.mLeft || code == keys.mRight || code == keys.mUp || code == keys.mDown;
 }
 
@@ -164,14 +164,20 @@ bool SaleSession::moveEditor(int step) {
   return true;
 }
 
-// A quick key without an item code is none: with nothing on the input line, Enter would settle.
-bool SaleSession::quickKey(int code) {
-  if (code == 0 || !screen_.input().isEmpty()) return false;
+// Quick keys work on an empty input line only. One without an item code is none: with nothing on
+// the input line, Enter would settle.
+const clsQk* SaleSession::quickKeyFor(int code) const {
+  if (code == 0 || !screen_.input().isEmpty()) return nullptr;
   const std::vector<clsQk>& quickKeys = pos_.gKeyBoard.QK;
   const auto quick = std::find_if(quickKeys.begin(), quickKeys.end(), [code](const clsQk& each) {
     return each.QK_int == code && !each.QK_Bm.empty();
   });
-  if (quick == quickKeys.end()) return false;
+  return quick == quickKeys.end() ? nullptr : &*quick;
+}
+
+bool SaleSession::quickKey(int code) {
+  const clsQk* quick = quickKeyFor(code);
+  if (quick == nullptr) return false;
   screen_.setInput(QString::fromStdString(quick->QK_Bm));
   static_cast<void>(key(pos_.gKeyBoard.mEnter));
   state.clearOnKey = true;

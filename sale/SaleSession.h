@@ -18,6 +18,7 @@
 
 class posMod;
 class SaleScreen;
+struct clsQk;
 
 /// The sale screen without its window: the state, everything that works on it, and what each key
 /// and each entry of the function menu does. One session lasts from the screen's opening to its
@@ -45,8 +46,8 @@ class SaleSession {
   /// to the text box. Shift, Ctrl and Alt alone are no key press: the shown value stays for the key
   /// that follows.
   [[nodiscard]] bool key(int code);
-  /// Whether a key that is held down may repeat: typing and the arrows may, a command may not, or
-  /// a key held too long would settle a bill or cancel the next one.
+  /// Whether a key that is held down may repeat: typing and the arrows may, a command or a quick
+  /// key may not, or a key held too long would settle a bill or ring an item ten times.
   [[nodiscard]] bool mayRepeat(int code) const;
   /// A text that an input method commits comes instead of a key press.
   void textComing();
@@ -74,6 +75,7 @@ class SaleSession {
   void fillMenu();
   void addOpener(int KeyBoard::*key, const QString& screen);
   bool moveEditor(int step);
+  const clsQk* quickKeyFor(int code) const;
   bool quickKey(int code);
   void toggleLinePrint();
 

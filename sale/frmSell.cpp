@@ -13,7 +13,6 @@
 #include <QScopedValueRollback>
 #include <QScrollBar>
 #include <QTableView>
-#include <algorithm>
 #include <array>
 
 #include "app/posMod.h"
@@ -22,8 +21,9 @@
 #include "platform/VirtualKey.h"
 #include "sale/BillModel.h"
 #include "sale/FittedLabel.h"
+#include "sale/KeyHelp.h"
+#include "sale/SellStyle.h"
 #include "shell/Modal.h"
-#include "shell/Style.h"
 #include "shell/frmInput.h"
 #include "shell/frmMenu.h"
 #include "shell/frmMsg.h"
@@ -35,14 +35,10 @@ constexpr int kGap = pixels(100);
 constexpr int kClockInterval = 1000;  // milliseconds
 // So long without a key press after a sale, and nobody waits for the log to be tidied.
 constexpr int kIdleInterval = 1500;
-// The list's type, from a 1024 x 768 screen to a large one.
-constexpr int kSmallestType = 16;
-constexpr int kLargestType = 28;
-constexpr int kTypesPerWidth = 62;
 
 // Column widths in tenths of the type size; the name takes the rest. The first one is where codes
 // are typed: it holds the thirteen digits of a barcode.
-constexpr std::array<int, BillRow::kColumns> kColumnTenths = {86, 82, 0,  46, 38, 34,
+constexpr std::array<int, BillRow::kColumns> kColumnTenths = {90, 88, 0,  46, 38, 34,
                                                               52, 48, 36, 30, 48};
 
 template <class Widget>
@@ -50,10 +46,6 @@ Widget* named(const char* name, QWidget* parent) {
   auto* widget = new Widget(parent);
   widget->setObjectName(name);
   return widget;
-}
-
-QString css(int bgr) {
-  return settingColour(bgr).name();
 }
 
 }  // namespace
@@ -73,7 +65,7 @@ frmSell::frmSell(posMod& pos, SaleSession::Openers openers, std::function<void()
       txtmoney_(named<FittedLabel>("txtmoney", this)),
       lblViewMember_(named<QLabel>("lblViewMember", this)),
       frmBot_(named<QFrame>("frmBot", this)),
-      ViewF_(named<QLabel>("ViewF", frmBot_)) {
+      ViewF_(named<KeyHelp>("ViewF", frmBot_)) {
   setObjectName("frmSell");
   setWindowTitle(QGuiApplication::applicationDisplayName());
   setWindowModality(Qt::ApplicationModal);
@@ -84,8 +76,6 @@ frmSell::frmSell(posMod& pos, SaleSession::Openers openers, std::function<void()
   lblViewMember_->setWordWrap(true);
   lblViewMember_->setTextFormat(Qt::PlainText);
   lblViewMember_->setAlignment(Qt::AlignLeft | Qt::AlignTop);
-  ViewF_->setWordWrap(true);
-  ViewF_->setAlignment(Qt::AlignCenter);
   ViewF_->setText(
       tr("ESC=退出 Enter=结账 F2=会员卡 F3=增加会员 F4删除最后一行 F5挂单 F6取单 "
          "F8补打小票查询销售 F9会员充值 F12=整单撤消 方向箭头改数量折扣"));
@@ -193,7 +183,11 @@ bool frmSell::eventFilter(QObject* watched, QEvent* event) {
   if (watched != t_ || !session_ || !session_->state.curBill)
     return QWidget::eventFilter(watched, event);
   if (event->type() == QEvent::KeyPress) return keyPressed(*static_cast<QKeyEvent*>(event));
-  if (event->type() == QEvent::InputMethod) session_->textComing();
+  if (event->type() == QEvent::InputMethod) {
+    const auto& composed = *static_cast<QInputMethodEvent*>(event);
+    if (!composed.preeditString().isEmpty() || !composed.commitString().isEmpty())
+      session_->textComing();
+  }
   return false;
 }
 
@@ -211,7 +205,9 @@ bool frmSell::keyPressed(QKeyEvent& event) {
   return true;
 }
 
+// Not every window system makes the window under a closed modal one active again.
 void frmSell::afterCommand() {
+  if (!isActiveWindow()) activateWindow();
   if (session_->left() && loop_ != nullptr) {
     loop_->quit();
     return;
@@ -265,6 +261,7 @@ void frmSell::moveEditor() {
   if (!session_ || session_->state.selected < 0) return;
   const QModelIndex cell = model_->index(session_->state.selected, session_->state.editColumn());
   lv_->scrollTo(cell);
+  t_->setAlignment(Qt::Alignment(cell.data(Qt::TextAlignmentRole).toInt()));
   t_->setGeometry(lv_->visualRect(cell).translated(lv_->viewport()->mapTo(this, QPoint())));
   t_->raise();
 }
@@ -333,21 +330,8 @@ void frmSell::endProgram() {
 }
 
 void frmSell::applyStyle() {
-  const ClsPosSet& settings = pos_.gPosSet;
-  const int type = std::clamp(width() / kTypesPerWidth, kSmallestType, kLargestType);
-  setStyleSheet(
-      QStringLiteral("#frmSell { background: %1; }"
-                     "#title { color: %5; font-size: %8px; font-weight: bold; }"
-                     "#title1, #title2, #title3 { color: %6; font-size: %7px; }"
-                     "#txtmoney { background: %2; color: %3; font-weight: bold; padding: 0 12px; }"
-                     "#lblViewMember { color: %4; font-size: %7px; }"
-                     "#lv, #lv QHeaderView { font-size: %7px; }"
-                     "#t { font-size: %7px; }"
-                     "#ViewF { font-size: %7px; }")
-          .arg(css(settings.C1), css(settings.C2), css(settings.C3), css(settings.C4),
-               css(settings.C5), css(settings.C6))
-          .arg(type)
-          .arg(type * 2));
+  const int type = sellTypeSize(width());
+  setStyleSheet(sellStyleSheet(pos_.gPosSet, type));
   title1_->setLargest(type);
   title3_->setLargest(type);
   txtmoney_->setLargest(type * 5 / 2);
@@ -358,7 +342,7 @@ void frmSell::applyStyle() {
 }
 
 void frmSell::layOut() {
-  const int type = std::clamp(width() / kTypesPerWidth, kSmallestType, kLargestType);
+  const int type = sellTypeSize(width());
   const int inner = width() - 2 * kGap;
   title_->adjustSize();
   title_->move((width() - title_->width()) / 2, kGap / 2);
@@ -369,7 +353,7 @@ void frmSell::layOut() {
   title1_->setGeometry(kGap, second, side, title2_->height());
   title3_->setGeometry(width() - kGap - side, second, side, title2_->height());
 
-  const int help = ViewF_->heightForWidth(inner - 2 * kGap) + kGap;
+  const int help = ViewF_->heightForWidth(inner) + kGap;
   const int money = type * 9 / 2;
   const int top = title1_->geometry().bottom() + kGap;
   lv_->setGeometry(kGap, top, inner, height() - top - help - money - 3 * kGap);
@@ -378,18 +362,18 @@ void frmSell::layOut() {
   const int member = lblViewMember_->text().isEmpty() ? 0 : inner * 2 / 5;
   txtmoney_->setContentsMargins(member, 0, 0, 0);
   txtmoney_->setGeometry(kGap, statusTop, inner, money);
-  lblViewMember_->setGeometry(kGap + pixels(120), statusTop + pixels(50), member,
-                              money - 2 * pixels(50));
+  const int memberHeight = 3 * lblViewMember_->fontMetrics().lineSpacing();
+  lblViewMember_->setGeometry(kGap + pixels(120), statusTop + pixels(50), member, memberHeight);
   lblViewMember_->raise();
   frmBot_->setGeometry(kGap, statusTop + money + kGap, inner, help);
-  ViewF_->setGeometry(kGap, 0, inner - 2 * kGap, help);
+  ViewF_->setGeometry(0, 0, inner, help);
   setColumnWidths();
   moveEditor();
 }
 
 void frmSell::setColumnWidths() {
   if (!model_) return;
-  const int type = std::clamp(width() / kTypesPerWidth, kSmallestType, kLargestType);
+  const int type = sellTypeSize(width());
   int rest = lv_->width() - lv_->verticalScrollBar()->sizeHint().width() - 2 * lv_->frameWidth();
   for (int column = 0; column < BillRow::kColumns; ++column) {
     const int size = kColumnTenths[static_cast<std::size_t>(column)] * type / 10;

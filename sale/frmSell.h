@@ -10,6 +10,7 @@
 
 class BillModel;
 class FittedLabel;
+class KeyHelp;
 class QEventLoop;
 class QFrame;
 class QLabel;
@@ -90,7 +91,7 @@ class frmSell : public QWidget, private SaleScreen {
   FittedLabel* txtmoney_;
   QLabel* lblViewMember_;
   QFrame* frmBot_;
-  QLabel* ViewF_;
+  KeyHelp* ViewF_;
   std::unique_ptr<frmMenu> myMenu_;
   frmEndSell* endSell_ = nullptr;  ///< made on first use, like the price question
   frmInput* input_ = nullptr;

@@ -12,6 +12,7 @@
 
 #include "app/posMod.h"
 #include "base/Failure.h"
+#include "platform/Twips.h"
 #include "shell/Modal.h"
 #include "shell/Style.h"
 #include "shell/frmLogin.h"
@@ -19,6 +20,7 @@
 
 namespace {
 
+constexpr int kMenuGap = 12;  // between the main menu and the further one beside it
 const char* const kExit = "exit";
 const char* const kEnd = "end";
 
@@ -85,9 +87,8 @@ bool frmMain::event(QEvent* event) {
 }
 
 void frmMain::applyColours() {
-  QPalette colours = Label1_->palette();
-  colours.setColor(QPalette::WindowText, legibleOn(settingColour(pos_.gPosSet.C1)));
-  Label1_->setPalette(colours);
+  const QColor fore = legibleOn(settingColour(pos_.gPosSet.C1));
+  Label1_->setStyleSheet("color: " + fore.name());  // stronger than the program's style sheet
   update();
 }
 
@@ -117,6 +118,8 @@ void frmMain::showFurtherMenu() {
     furtherChoice_ = Menu;
     theMenu_->reject();
   };
+  furtherMenu_->setBoxTop(theMenu_->BoxTop());
+  furtherMenu_->setBoxLeft(theMenu_->BoxLeft() + twips(theMenu_->width() + kMenuGap));
   furtherMenu_->ShowMenu(0);
 }
 

@@ -10,7 +10,7 @@
 
 namespace {
 
-constexpr int kTextWidth = 460;
+constexpr int kTextWidth = 560;
 
 QFrame* framed(QLabel* label, const QString& name, QWidget* parent) {
   auto* frame = new QFrame(parent);

@@ -51,6 +51,8 @@ class Connection {
   Rows query(const char* text, const Values&... values) {
     return queryBound(text, {toValue(values)...});
   }
+  /// As run, for a statement whose columns are known at run time only.
+  std::int64_t runBound(const char* text, std::vector<Value> values);
   /// The row key that the last insert gave.
   std::int64_t lastRowId() const;
 
@@ -69,7 +71,6 @@ class Connection {
  private:
   friend class Transaction;
   friend void copyDataFile(Connection& connection, const std::filesystem::path& target);
-  std::int64_t runBound(const char* text, std::vector<Value> values);
   Rows queryBound(const char* text, std::vector<Value> values);
 
   struct EngineCloser {

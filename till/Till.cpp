@@ -1,10 +1,16 @@
 #include "till/Till.h"
 
+#include <QApplication>
 #include <utility>
 
+#include "sale/frmSell.h"
+#include "settings/frmColor.h"
+#include "settings/frmKeyset.h"
+#include "settings/frmPosSet.h"
 #include "shell/Modal.h"
 
 Till::Till(std::filesystem::path folder) : pos_(std::move(folder)) {}
+Till::~Till() = default;
 
 bool Till::Main() {
   const std::string refusal = pos_.OpenDataStore();
@@ -13,11 +19,24 @@ bool Till::Main() {
     return false;
   }
   pos_.start();
+  frmSell_ = std::make_unique<frmSell>(pos_, saleScreens(), [this] { frmMain_->close(); });
   frmMain_ = std::make_unique<frmMain>(pos_, screens());
   frmMain_->showMaximized();
   return true;
 }
 
 std::map<QString, frmMain::Screen> Till::screens() {
-  return {};
+  return {{"sell", {true, [this] { frmSell_->openModal(); }}},
+          {"posset", {true, [this] { show<frmPosSet>(); }}},
+          {"keyset", {true, [this] { show<frmKeyset>(); }}}};
+}
+
+SaleSession::Openers Till::saleScreens() {
+  return {{"color", [this] { show<frmColor>(); }}};
+}
+
+template <class Form>
+void Till::show() {
+  Form form(pos_, QApplication::activeWindow());
+  form.exec();
 }

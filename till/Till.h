@@ -6,7 +6,10 @@
 #include <memory>
 
 #include "app/posMod.h"
+#include "sale/SaleSession.h"
 #include "shell/frmMain.h"
+
+class frmSell;
 
 /// The whole program: the process-wide objects, the main window, and the table that says which
 /// screen each menu entry opens.
@@ -14,14 +17,21 @@ class Till {
  public:
   /// `folder` is the folder of the executable.
   explicit Till(std::filesystem::path folder);
+  ~Till();
 
   /// Opens the data file, starts the services and shows the main window. False when the data file
   /// could not be opened; the message has been shown then. Throws Failure.
   [[nodiscard]] bool Main();
 
  private:
+  /// The screens of the main window's menus, and those that the sale screen opens.
   std::map<QString, frmMain::Screen> screens();
+  SaleSession::Openers saleScreens();
+  /// Shows a dialog made for the occasion, over whichever window is in front.
+  template <class Form>
+  void show();
 
   posMod pos_;
+  std::unique_ptr<frmSell> frmSell_;  ///< one instance for every opening
   std::unique_ptr<frmMain> frmMain_;
 };

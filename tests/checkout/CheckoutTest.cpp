@@ -153,6 +153,7 @@ TEST_F(CheckoutTest, pageReceiptsFollowTheMode) {
 
 TEST_F(CheckoutTest, clockBehindTheLastBillEndsTheProgram) {
   enter("水", "1.00");
+  commitCurrentLine(state, receipt);  // dates the bill
   now.date.day = 21;
   checkout.SettleBill();
   EXPECT_TRUE(screen.ended);

@@ -139,4 +139,8 @@ TEST_F(SettlementTest, brokenStoreWhileChargingLeavesEverythingAsItWas) {
   EXPECT_EQ(balance(), "88.5");
   EXPECT_EQ(state.curBill->CardPay(), Currency());
   EXPECT_FALSE(settlement->settled());
+
+  pos.gConn->runScript("alter table member rename to lost");
+  EXPECT_FALSE(settlement->checkCard("8001"));
+  EXPECT_EQ(screen.messages.back(), "储值卡号错误,请重输");
 }

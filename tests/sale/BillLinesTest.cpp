@@ -178,7 +178,7 @@ TEST_F(BillLinesTest, aFailedStoreTakesTheStockBack) {
 }
 
 TEST_F(BillLinesTest, figuresThatDoNotFitAreRefused) {
-  till.answers = {"900000000000000"};
+  till.answers = {"900000000000000", "900000000000000"};
   enter(kNoPrice);
   correct(0, "99999");
   EXPECT_EQ(till.messages.size(), 1U);

@@ -54,6 +54,7 @@ TEST_F(ItemLookupTest, letsTheCashierChooseAmongSeveral) {
   EXPECT_EQ(line(), "none") << "the line before was committed";
 
   till.choice = 1;
+  till.answers = {"2"};
   enter("-0");
   EXPECT_THAT(till.offered,
               ElementsAre("铅笔  货号: QB-01  库存：0", "橡皮  货号: XP-02  库存：0"));

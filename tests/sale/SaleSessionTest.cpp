@@ -60,6 +60,7 @@ TEST_F(SaleSessionTest, enterIsTheMappedKeyAndTiesGoToTheEarlierCommand) {
   pos.gKeyBoard.mF4 = 0;
   open();
   enter(kWater);
+  session.textComing();
   till.text = kWater;
   press(107);
   EXPECT_EQ(lines(), "2");
@@ -102,7 +103,9 @@ TEST_F(SaleSessionTest, quickKeysWorkOnAnEmptyLineOnly) {
   EXPECT_TRUE(session.key(81));
   EXPECT_EQ(cell(0, BillRow::kName), "矿泉水");
   EXPECT_TRUE(session.state.clearOnKey);
+  EXPECT_FALSE(session.mayRepeat(81));
   type("5");
+  EXPECT_TRUE(session.mayRepeat(81));
   EXPECT_FALSE(session.key(81));
   EXPECT_EQ(lines(), "1");
 }

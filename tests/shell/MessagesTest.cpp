@@ -9,6 +9,7 @@
 #include "app/KeyBoard.h"
 #include "shell/FocusReturn.h"
 #include "shell/Modal.h"
+#include "shell/Style.h"
 #include "shell/frmInput.h"
 #include "shell/frmMsg.h"
 
@@ -32,6 +33,7 @@ TEST(MessageBoxTest, AnswersToTheKeyboardAlone) {
 }
 
 TEST(MessageBoxTest, WhateverWasTypedIsShownAsItIsAndFitsTheScreen) {
+  applyStyle(*qApp);
   Hands hands;
   for (const QString& text :
        {QString("<b>x</b>"), QString(10'000, 'x'), QString(10'000, QChar(0x5546))}) {
@@ -42,6 +44,7 @@ TEST(MessageBoxTest, WhateverWasTypedIsShownAsItIsAndFitsTheScreen) {
       EXPECT_EQ(label->textFormat(), Qt::PlainText);
       EXPECT_LT(shown.width(), shown.screen()->availableGeometry().width());
       EXPECT_LT(shown.height(), shown.screen()->availableGeometry().height());
+      EXPECT_GE(label->height(), label->heightForWidth(label->width())) << "lines are cut off";
       Hands::pressNow(Qt::Key_Return);
     };
     hands.at("messageBox", check).at("frmMsg", check);

@@ -1,0 +1,25 @@
+#include "app/DeviceBytes.h"
+
+#include "base/NumberText.h"
+#include "platform/PortError.h"
+
+namespace device {
+
+std::string displayFigure(Currency money, int mode) {
+  std::string bytes;
+  if (mode >= 0 && mode <= 4) bytes = {'\x1B', 's', static_cast<char>('0' + mode)};
+  return bytes + "\x1BQA" + twoDecimals(money) + "\r";
+}
+
+bool isKnownDisplay(int model) {
+  return model == 1 || model == 2;
+}
+
+std::string displayPort(const std::string& setting) {
+  if (setting == "COM1" || setting == "COM2") return setting;
+  const auto number = parseWhole32(setting);
+  if (!number) throw PortError("客户显示屏的端口“" + setting + "”不是有效的端口号");
+  return "COM" + std::to_string(*number);
+}
+
+}  // namespace device

@@ -1,0 +1,27 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "base/Currency.h"
+
+/// The bytes that the customer display and the cash drawer understand. Both models of display take
+/// the same commands.
+namespace device {
+
+/// ESC/POS "generate pulse": ESC p, pin 0, on time 60, off time 255 (2 ms each), then a line end.
+inline constexpr std::string_view kDrawerPulse{"\x1B\x70\x00\x3C\xFF\r\n", 7};
+/// Opens a drawer that hangs on the display: STX M.
+inline constexpr std::string_view kDrawerThroughDisplay{"\x02M"};
+
+/// Shows a figure: ESC s n says what it means (n = 0 ... 4, left out for any other mode), ESC Q A
+/// figure CR shows it with two decimals.
+std::string displayFigure(Currency money, int mode);
+
+/// 1 and 2; a display of any other model is not driven.
+bool isKnownDisplay(int model);
+/// The port of a display's setting: "COM1" and "COM2" as they are, a number n as "COMn". Throws
+/// PortError for any other text.
+std::string displayPort(const std::string& setting);
+
+}  // namespace device

@@ -1,0 +1,59 @@
+#include "sale/SellStyle.h"
+
+#include <QColor>
+#include <algorithm>
+
+#include "app/ClsPosSet.h"
+#include "shell/Style.h"
+
+namespace {
+
+constexpr int kSmallest = 16;
+constexpr int kLargest = 28;
+constexpr int kTypesPerWidth = 62;
+
+QString css(int bgr) {
+  return settingColour(bgr).name();
+}
+
+// A style sheet reaches into the dialogs that the screen owns: what they have too is told apart by
+// its parent. The help line has no colour of its own among the settings: it reads on whatever C1
+// is.
+QString colours(const ClsPosSet& settings) {
+  return QStringLiteral(
+             "#frmSell { background: %1; }"
+             "#txtmoney { background: %2; color: %3; }"
+             "#lblViewMember { color: %4; }"
+             "#frmSell > #title { color: %5; }"
+             "#frmSell > #title1, #frmSell > #title2, #frmSell > #title3 { color: %6; }"
+             "#ViewF { color: %7; }"
+             "#lv { selection-background-color: #ffe08a; selection-color: black; }")
+      .arg(css(settings.C1), css(settings.C2), css(settings.C3), css(settings.C4), css(settings.C5),
+           css(settings.C6), legibleOn(settingColour(settings.C1)).name());
+}
+
+QString sizes(int type) {
+  return QStringLiteral(
+             "#frmSell > #title { font-size: %2px; font-weight: bold; }"
+             "#txtmoney { font-weight: bold; padding: 0 %3px; }"
+             "#title1, #title2, #title3, #lv, #lv QHeaderView, #t { font-size: %1px; }"
+             "#ViewF { font-size: %1px; }"
+             "#lblViewMember { font-size: %4px; }"
+             "#t { padding: 0 %3px; }"
+             "#lv::item { border: 0; padding: 0 %3px; }"
+             "#lv QHeaderView::section { padding: 0 %3px; }")
+      .arg(type)
+      .arg(type * 2)
+      .arg(type / 3)
+      .arg(type * 9 / 10);
+}
+
+}  // namespace
+
+int sellTypeSize(int screenWidth) {
+  return std::clamp(screenWidth / kTypesPerWidth, kSmallest, kLargest);
+}
+
+QString sellStyleSheet(const ClsPosSet& settings, int type) {
+  return colours(settings) + sizes(type);
+}

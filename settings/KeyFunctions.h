@@ -1,0 +1,29 @@
+#pragma once
+
+#include <QString>
+#include <array>
+#include <map>
+#include <vector>
+
+#include "app/KeyBoard.h"
+
+/// A function of the sale screen whose key can be chosen.
+struct KeyFunction {
+  const char* box;      ///< name of its box in the keyboard dialog
+  const char* caption;  ///< with the access key: "会员卡(&2)："
+  int KeyBoard::*field;
+  int row;  ///< its place in the dialog's grid, from 0
+  int column;
+
+  QString label() const;  ///< the caption for its label
+  QString name() const;   ///< for texts: "会员卡"
+};
+
+/// The fifteen functions, in the order in which they are shown and stored.
+const std::array<KeyFunction, 15>& keyFunctions();
+
+/// Which functions share a key: by key code, the names of its functions, only where there are two
+/// or more. 0 is no key and is never shared.
+std::map<int, std::vector<QString>> sharedKeys(const KeyBoard& keys);
+/// Every key that does something on the sale screen.
+std::vector<int> functionKeys(const KeyBoard& keys);

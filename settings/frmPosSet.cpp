@@ -1,0 +1,179 @@
+#include "settings/frmPosSet.h"
+
+#include <QComboBox>
+#include <QGridLayout>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QPushButton>
+#include <QVBoxLayout>
+#include <variant>
+
+#include "app/posMod.h"
+#include "settings/DeviceTest.h"
+#include "settings/DialogKeys.h"
+#include "shell/Modal.h"
+
+using Text = std::string ClsPosSet::*;
+using Number = int ClsPosSet::*;
+
+struct frmPosSet::Choice {
+  const char* caption;
+  const char* list;
+  std::vector<const char*> entries;  ///< stored as they are shown, so never translated
+  const char* hint;
+  std::variant<Text, Number> setting;  ///< the entry's text, or its position
+  int firstPosition = 0;               ///< what the first entry's position is stored as
+};
+
+namespace {
+
+/// Stored as an empty text.
+constexpr const char* kNone = "无";
+
+void showText(QComboBox& list, const std::string& setting) {
+  const QString text = QString::fromStdString(setting);
+  if (!text.isEmpty() && list.findText(text) < 0) list.addItem(text);
+  list.setCurrentIndex(text.isEmpty() ? 0 : list.findText(text));
+}
+
+std::string chosenText(const QComboBox& list) {
+  return list.currentText() == kNone ? std::string() : list.currentText().toStdString();
+}
+
+}  // namespace
+
+const std::vector<frmPosSet::Choice>& frmPosSet::choices() {
+  static const std::vector<Choice> all = {
+      {QT_TR_NOOP("小票打印机所在端口："),
+       "cobPPort",
+       {kNone, "LPT1", "LPT2", "USB"},
+       QT_TR_NOOP("“无”表示不印小票"),
+       &ClsPosSet::PPort},
+      {QT_TR_NOOP("小票打印机类型："), "cobPModel", {"宽行", "窄行"}, "", &ClsPosSet::PModel, 1},
+      {QT_TR_NOOP("小票打印动作："),
+       "printAmount",
+       {"不打印", "直接打印1联", "直接打印2联", "直接打印3联", "打印前提示默认'是'",
+        "打印前提示默认'否'"},
+       "",
+       &ClsPosSet::printAmount},
+      {QT_TR_NOOP("小票打印选项："),
+       "printOption",
+       {"打印商品前7个字简称", "打印编码+商品全称", "打印商品全称", "打印商品全称+折扣"},
+       "",
+       &ClsPosSet::printOption},
+      {QT_TR_NOOP("钱箱所在端口："),
+       "cobMBPort",
+       {kNone, "LPT1", "LPT2", "COM1", "COM2"},
+       QT_TR_NOOP("“无”表示不使用钱箱"),
+       &ClsPosSet::MBPort},
+      {QT_TR_NOOP("客显所在端口："),
+       "cobCVPort",
+       {kNone, "COM1", "COM2"},
+       QT_TR_NOOP("“无”表示不使用客显"),
+       &ClsPosSet::CVProt},
+      {QT_TR_NOOP("客显型号："),
+       "cobCVModel",
+       {"中崎ZQ-8DL", "川田PDLED8C"},
+       "",
+       &ClsPosSet::CVModel,
+       1},
+      {QT_TR_NOOP("是否启用鼠标："), "cobVMouse", {"否", "是"}, "", &ClsPosSet::VMouse},
+  };
+  return all;
+}
+
+frmPosSet::frmPosSet(posMod& pos, QWidget* parent) : QDialog(parent), pos_(pos) {
+  setObjectName("frmPosSet");
+  setWindowTitle(tr("收银设置"));
+  auto* heading = new QLabel(tr("POS机 设 置"));
+  heading->setObjectName("Label1");
+  auto* grid = new QGridLayout;
+  grid->setHorizontalSpacing(16);
+  grid->setVerticalSpacing(10);
+  for (const Choice& choice : choices()) addRow(*grid, choice);
+  auto* hint = new QLabel(tr("* 按向上下光标键行行选择"));
+  hint->setObjectName("lblHint");
+
+  auto* layout = new QVBoxLayout(this);
+  layout->setContentsMargins(32, 20, 32, 20);
+  layout->setSpacing(16);
+  layout->setSizeConstraint(QLayout::SetFixedSize);
+  layout->addWidget(heading, 0, Qt::AlignHCenter);
+  layout->addLayout(grid);
+  layout->addWidget(hint);
+  layout->addWidget(buttons());
+
+  std::vector<QWidget*> controls(lists_.begin(), lists_.end());
+  for (const char* name : {"cmdTest", "cmdOk", "cmdCancel"})
+    controls.push_back(findChild<QWidget*>(name));
+  new DialogKeys(pos_.gKeyBoard, this, controls);
+}
+
+void frmPosSet::addRow(QGridLayout& grid, const Choice& choice) {
+  auto* list = new QComboBox;
+  list->setObjectName(choice.list);
+  for (const char* entry : choice.entries) list->addItem(entry);
+  if (const Text* text = std::get_if<Text>(&choice.setting)) {
+    showText(*list, pos_.gPosSet.**text);
+  } else {
+    const int position = pos_.gPosSet.*std::get<Number>(choice.setting) - choice.firstPosition;
+    list->setCurrentIndex(position < list->count() ? position : -1);
+  }
+  const int row = static_cast<int>(lists_.size());
+  grid.addWidget(new QLabel(tr(choice.caption)), row, 0, Qt::AlignRight | Qt::AlignVCenter);
+  grid.addWidget(list, row, 1);
+  grid.addWidget(new QLabel(tr(choice.hint)), row, 2);
+  lists_.push_back(list);
+}
+
+QWidget* frmPosSet::buttons() {
+  const auto button = [this](const char* name, const QString& text, auto pressed) {
+    auto* push = new QPushButton(text);
+    push->setObjectName(name);
+    connect(push, &QPushButton::clicked, this, pressed);
+    return push;
+  };
+  auto* area = new QWidget;
+  auto* row = new QHBoxLayout(area);
+  row->setContentsMargins(0, 0, 0, 0);
+  row->setSpacing(16);
+  row->addWidget(button("cmdTest", tr("测试(&T)"), &frmPosSet::test));
+  row->addStretch();
+  row->addWidget(button("cmdOk", tr("确定(&O)"), &frmPosSet::save));
+  row->addWidget(button("cmdCancel", tr("取消(&E)"), &frmPosSet::reject));
+  return area;
+}
+
+ClsPosSet frmPosSet::chosen() const {
+  ClsPosSet settings = pos_.gPosSet;
+  for (std::size_t i = 0; i < lists_.size(); ++i) {
+    const QComboBox& list = *lists_[i];
+    const Choice& choice = choices()[i];
+    if (const Text* text = std::get_if<Text>(&choice.setting)) {
+      settings.** text = chosenText(list);
+    } else if (list.currentIndex() >= 0) {
+      settings.*std::get<Number>(choice.setting) = list.currentIndex() + choice.firstPosition;
+    }
+  }
+  return settings;
+}
+
+void frmPosSet::test() {
+  const ClsPosSet settings = chosen();
+  DeviceTest devices(pos_.ports, settings, pos_.clock);
+  QStringList lines;
+  bool failed = false;
+  for (const DeviceTest::Result& result : devices.run()) {
+    lines += tr("%1：%2").arg(result.device, result.text);
+    failed = failed || result.failed;
+  }
+  messageBox(this, lines.join("\n"), tr("测试"),
+             failed ? BoxIcon::kExclamation : BoxIcon::kInformation);
+}
+
+void frmPosSet::save() {
+  pos_.gPosSet = chosen();
+  pos_.gPosSet.SaveSet(pos_.configIni);
+  pos_.ShowMouse(pos_.gPosSet.VMouse != 0);
+  accept();
+}

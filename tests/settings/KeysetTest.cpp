@@ -1,0 +1,248 @@
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <QAbstractItemView>
+#include <QLabel>
+#include <QPushButton>
+
+#include "Hands.h"
+#include "SettingsTill.h"
+#include "settings/KeyBox.h"
+#include "settings/frmKeyset.h"
+
+namespace {
+
+using testing::ElementsAre;
+
+class frmKeysetTest : public testing::Test {
+ protected:
+  /// A new dialog over the map as it is now.
+  void open() {
+    dialog_ = std::make_unique<frmKeyset>(till_.pos);
+    dialog_->show();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(dialog_.get()));
+  }
+  template <typename Control>
+  Control& control(const char* name) {
+    return *dialog_->findChild<Control*>(name);
+  }
+  QString text(const char* name) { return control<QLineEdit>(name).text(); }
+  QString focus() { return dialog_->focusWidget()->objectName(); }
+  void focusOn(const char* name) {
+    control<QWidget>(name).setFocus();
+    ASSERT_EQ(focus(), name);
+  }
+  void press(Qt::Key key, Qt::KeyboardModifiers modifiers = {}) {
+    QTest::keyClick(dialog_->focusWidget(), key, modifiers);
+  }
+  /// A key in the quick key's box, then its item code and Enter, which goes on to "增加".
+  void typeQuickKey(Qt::Key key, const QString& item) {
+    focusOn("txtKeyInt");
+    press(key);
+    ASSERT_EQ(focus(), "txtKeyBm");
+    QTest::keyClicks(dialog_->focusWidget(), item);
+    press(Qt::Key_Return);
+    ASSERT_EQ(focus(), "cmdAdd");
+  }
+  void click(const char* name) {
+    focusOn(name);
+    press(Qt::Key_Return);
+  }
+  std::vector<std::string> rows() {
+    std::vector<std::string> all;
+    const QAbstractItemModel& list = *control<QAbstractItemView>("ListView1").model();
+    for (int row = 0; row < list.rowCount(); ++row)
+      all.push_back(
+          (list.index(row, 0).data().toString() + " " + list.index(row, 1).data().toString())
+              .toStdString());
+    return all;
+  }
+
+  SettingsTill till_{"[QK]\r\n0QK=65;1001\r\n1QK=66;1002\r\n2QK=67;1003\r\n"};
+  std::unique_ptr<frmKeyset> dialog_;
+};
+
+TEST_F(frmKeysetTest, ABoxTakesTheKeyThatIsPressedInIt) {
+  struct Case {
+    const char* box;
+    Qt::Key key;
+    const char* shown;
+    const char* file;
+    int KeyBoard::*field;
+  };
+  const Case cases[] = {
+      {"txtF2", Qt::Key_F7, "118", "F2", &KeyBoard::mF2},
+      {"txtEnter", Qt::Key_Space, "32", "Enter", &KeyBoard::mEnter},
+      {"txtEsc", Qt::Key_Return, "13", "Esc", &KeyBoard::mEsc},
+      {"txtF1", Qt::Key_Escape, "27", "F1", &KeyBoard::mF1},
+      {"txtF4", Qt::Key_Shift, "16", "F4", &KeyBoard::mF4},
+      {"txtUp", Qt::Key_W, "87", "Up", &KeyBoard::mUp},
+      {"txtRight", Qt::Key_Backspace, "8", "Right", &KeyBoard::mRight},
+  };
+  open();
+  for (const Case& each : cases) {
+    focusOn(each.box);
+    press(each.key);
+    EXPECT_EQ(text(each.box), each.shown);
+    EXPECT_EQ(focus(), each.box);
+  }
+  EXPECT_EQ(till_.pos.gKeyBoard.mF2, 113) << "before it is confirmed";
+  press(Qt::Key_O, Qt::AltModifier);
+  QTRY_VERIFY(!dialog_->isVisible());
+  KeyBoard saved;
+  saved.LoadSet(till_.pos.configIni);
+  for (const Case& each : cases) {
+    EXPECT_EQ(till_.pos.gKeyBoard.*each.field, QString(each.shown).toInt()) << each.box;
+    EXPECT_EQ(till_.stored("KeyBoard", each.file), each.shown);
+    EXPECT_EQ(saved.*each.field, till_.pos.gKeyBoard.*each.field);
+  }
+  EXPECT_EQ(till_.stored("KeyBoard", "F3"), "114") << "a key without a box stays";
+}
+
+TEST_F(frmKeysetTest, MovingBetweenTheBoxesSetsNoKey) {
+  open();
+  const auto texts = [this] {
+    std::string all;
+    for (const KeyBox* box : dialog_->findChildren<KeyBox*>())
+      all += box->text().toStdString() + " ";
+    return all;
+  };
+  const std::string before = texts();
+  EXPECT_EQ(focus(), "txtEnter");
+  for (const char* next : {"txtEsc", "txtF1", "txtF2"}) {
+    QTest::keyPress(dialog_->focusWidget(), Qt::Key_Tab);
+    QTest::keyRelease(dialog_->focusWidget(), Qt::Key_Tab);  // comes up in the next box
+    EXPECT_EQ(focus(), next);
+  }
+  QTest::keyPress(dialog_->focusWidget(), Qt::Key_Shift);
+  press(Qt::Key_Tab, Qt::ShiftModifier);
+  QTest::keyRelease(dialog_->focusWidget(), Qt::Key_Shift);
+  EXPECT_EQ(focus(), "txtF1");
+  for (const auto& [key, box] : {std::pair{Qt::Key_9, "txtF12"},
+                                 {Qt::Key_D, "txtDown"},
+                                 {Qt::Key_C, "txtEsc"},
+                                 {Qt::Key_Y, "txtEnter"}}) {
+    QTest::keyPress(dialog_->focusWidget(), key, Qt::AltModifier);
+    QTest::keyRelease(dialog_->focusWidget(), key, Qt::AltModifier);
+    QTest::keyRelease(dialog_->focusWidget(), Qt::Key_Alt);
+    EXPECT_EQ(focus(), box);
+  }
+  EXPECT_EQ(texts(), before);
+}
+
+TEST_F(frmKeysetTest, TwoFunctionsOnOneKeyAreRedWhileTheyAre) {
+  struct Case {
+    const char* box;
+    Qt::Key key;
+    const char* others;
+    const char* said;
+  };
+  const Case cases[] = {
+      {"txtF4", Qt::Key_F2, "txtF2", "一键多用　F2 (113)：会员卡、删除"},
+      {"txtF4", Qt::Key_F3, "", "一键多用　F3 (114)：删除、增加会员"},
+      {"txtF4", Qt::Key_F7, "", ""},
+  };
+  open();
+  for (const Case& each : cases) {
+    focusOn(each.box);
+    press(each.key);
+    const bool isShared = *each.said != '\0';
+    EXPECT_EQ(control<KeyBox>(each.box).isShared(), isShared);
+    EXPECT_EQ(control<KeyBox>("txtF2").isShared(), QString(each.others) == "txtF2");
+    EXPECT_EQ(control<QLabel>("lblShared").text(), each.said);
+  }
+  const auto colour = [this](int row) {
+    return control<QAbstractItemView>("ListView1").model()->index(row, 0).data(Qt::ForegroundRole);
+  };
+  EXPECT_FALSE(control<QLabel>("lblNote").property("shared").toBool());
+  press(Qt::Key_B);  // a quick key's
+  EXPECT_TRUE(control<QLabel>("lblNote").property("shared").toBool());
+  EXPECT_FALSE(colour(0).isValid());
+  EXPECT_TRUE(colour(1).isValid());
+}
+
+TEST_F(frmKeysetTest, QuickKeysAreAddedChangedAndDeleted) {
+  open();
+  typeQuickKey(Qt::Key_D, "1004");
+  press(Qt::Key_Return);
+  EXPECT_EQ(focus(), "txtKeyInt");
+  EXPECT_EQ(text("txtKeyInt") + text("txtKeyBm"), "");
+  EXPECT_THAT(rows(), ElementsAre("65 1001", "66 1002", "67 1003", "68 1004"));
+
+  QString said;
+  Hands hands;
+  hands.at("messageBox", [&](QWidget& box) {
+    said =
+        box.windowTitle().section(" - ", 0, 0) + box.findChild<QLabel*>("qt_msgbox_label")->text();
+    Hands::pressNow(Qt::Key_Return);
+  });
+  typeQuickKey(Qt::Key_D, "9");
+  press(Qt::Key_Return);
+  EXPECT_EQ(said, "注意该健已有快捷设置！");
+  click("cmdEdit");
+  EXPECT_THAT(rows(), ElementsAre("65 1001", "66 1002", "67 1003", "68 9"));
+
+  focusOn("txtKeyInt");
+  press(Qt::Key_A);
+  click("cmdDel");
+  EXPECT_THAT(rows(), ElementsAre("66 1002", "67 1003", "68 9"));
+  press(Qt::Key_A);
+  click("cmdDel");
+  EXPECT_EQ(rows().size(), 3U);
+
+  focusOn("ListView1");
+  press(Qt::Key_Down);
+  press(Qt::Key_Down);
+  press(Qt::Key_Return);
+  EXPECT_EQ(text("txtKeyInt") + ";" + text("txtKeyBm"), "67;1003");
+  EXPECT_EQ(focus(), "txtKeyBm");
+  click("cmdDel");
+  click("cmdOk");
+  EXPECT_EQ(till_.stored("QK", "0QK"), "66;1002");
+  EXPECT_EQ(till_.stored("QK", "1QK"), "68;9");
+  EXPECT_EQ(till_.stored("QK", "2QK"), "");
+  ASSERT_EQ(till_.pos.gKeyBoard.QK.size(), 2U);
+  EXPECT_EQ(till_.pos.gKeyBoard.QK[1].QK_Bm, "9");
+}
+
+TEST_F(frmKeysetTest, WhatIsMissingGetsTheFocus) {
+  open();
+  for (const char* button : {"cmdAdd", "cmdEdit"}) {
+    control<QLineEdit>("txtKeyInt").clear();
+    click(button);
+    EXPECT_EQ(focus(), "txtKeyInt");
+    control<QLineEdit>("txtKeyInt").setText("pasted");
+    click(button);
+    EXPECT_EQ(focus(), "txtKeyInt");
+    control<KeyBox>("txtKeyInt").setCode(70);
+    click(button);
+    EXPECT_EQ(focus(), "txtKeyBm");
+  }
+  EXPECT_EQ(rows().size(), 3U);
+}
+
+TEST_F(frmKeysetTest, APastedTextKeepsTheOldKeyAndCancelKeepsEverything) {
+  open();
+  control<QLineEdit>("txtF5").setText("pasted");
+  click("cmdOk");
+  EXPECT_EQ(till_.stored("KeyBoard", "F5"), "116");
+
+  till_.pos.gKeyBoard.mEsc = 'X';
+  const std::string before = till_.fileText();
+  for (const auto& leave : {std::pair{"cmdCancel", Qt::Key_Return}, {"cmdOk", Qt::Key_X}}) {
+    open();
+    focusOn("txtF5");
+    press(Qt::Key_K);
+    typeQuickKey(Qt::Key_D, "1X");
+    EXPECT_EQ(text("txtKeyBm"), "1X") << "a mapped letter is typed";
+    focusOn(leave.first);
+    press(Qt::Key_Escape);
+    EXPECT_TRUE(dialog_->isVisible()) << "Esc is not the mapped key";
+    press(leave.second);
+    EXPECT_FALSE(dialog_->isVisible());
+    EXPECT_EQ(till_.pos.gKeyBoard.mF5, 116);
+    EXPECT_EQ(till_.fileText(), before);
+  }
+}
+
+}  // namespace

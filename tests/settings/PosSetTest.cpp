@@ -1,0 +1,175 @@
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <QComboBox>
+#include <QGuiApplication>
+#include <QLabel>
+#include <filesystem>
+
+#include "Hands.h"
+#include "SettingsTill.h"
+#include "base/Gbk.h"
+#include "platform/PseudoTerminal.h"
+#include "settings/frmPosSet.h"
+
+namespace {
+
+using testing::HasSubstr;
+
+constexpr std::array kLists = {"cobPPort",  "cobPModel", "printAmount", "printOption",
+                               "cobMBPort", "cobCVPort", "cobCVModel",  "cobVMouse"};
+
+/// The dialog over a settings file, driven by keys.
+class Dialog {
+ public:
+  explicit Dialog(posMod& pos) : form_(pos) {
+    form_.show();
+    EXPECT_TRUE(QTest::qWaitForWindowActive(&form_));
+  }
+  QString shown() {
+    QStringList texts;
+    for (const char* list : kLists) texts += form_.findChild<QComboBox*>(list)->currentText();
+    return texts.join("|");
+  }
+  /// Each list `steps` entries down, from the first list on, Enter after each.
+  void stepDown(std::initializer_list<int> steps) {
+    for (const int count : steps) {
+      for (int i = 0; i < count; ++i) press(Qt::Key_Down);
+      press(Qt::Key_Return);
+    }
+  }
+  void press(Qt::Key key) { QTest::keyClick(form_.focusWidget(), key); }
+  void click(const char* button) {
+    form_.findChild<QWidget*>(button)->setFocus();
+    press(Qt::Key_Return);
+  }
+  bool isOpen() const { return form_.isVisible(); }
+  /// "测试", and what it says.
+  std::string test() {
+    std::string said;
+    Hands hands;
+    hands.at("messageBox", [&](QWidget& box) {
+      said = box.findChild<QLabel*>("qt_msgbox_label")->text().remove(QChar(0x200B)).toStdString();
+      Hands::pressNow(Qt::Key_Return);
+    });
+    click("cmdTest");
+    return said;
+  }
+
+ private:
+  frmPosSet form_;
+};
+
+TEST(frmPosSetTest, ShowsTheSettings) {
+  const std::pair<const char*, const char*> cases[] = {
+      {"", "无|宽行|不打印|打印商品前7个字简称|无|无|中崎ZQ-8DL|否"},
+      {"[POS]\r\nPPort=USB\r\nPModel=2\r\nprintAmount=直接打印2联\r\nprintOption=打印商品全称\r\n"
+       "MBPort=COM2\r\nCVProt=COM1\r\nCVModel=2\r\nVMouse=1\r\n",
+       "USB|窄行|直接打印2联|打印商品全称|COM2|COM1|川田PDLED8C|是"},
+      {"[POS]\r\nPPort=LPT3\r\nPModel=\r\nprintAmount=打印9联\r\nCVProt=3\r\nCVModel=7\r\n",
+       "LPT3||打印9联|打印商品前7个字简称|无|3||否"},
+  };
+  for (const auto& [file, shown] : cases) {
+    SettingsTill till(gbk::encode(file));
+    EXPECT_EQ(Dialog(till.pos).shown(), shown);
+  }
+}
+
+TEST(frmPosSetTest, StoresWhatIsChosenAndKeepsWhatIsNotOnTheLists) {
+  SettingsTill till(gbk::encode("[POS]\r\nPPort=LPT2\r\nCVProt=3\r\nCVModel=7\r\n"));
+  Dialog dialog(till.pos);
+  dialog.press(Qt::Key_Up);
+  dialog.press(Qt::Key_Up);
+  dialog.press(Qt::Key_Up);  // stays on the first one
+  dialog.stepDown({0, 1, 5, 3, 9, 0, 0, 1});
+  EXPECT_EQ(dialog.shown(), "无|窄行|打印前提示默认'否'|打印商品全称+折扣|COM2|3||是");
+  EXPECT_EQ(till.pos.gPosSet.PPort, "LPT2") << "before it is confirmed";
+  dialog.click("cmdOk");
+  EXPECT_FALSE(dialog.isOpen());
+  const std::pair<const char*, const char*> stored[] = {{"PPort", ""},
+                                                        {"PModel", "2"},
+                                                        {"printAmount", "打印前提示默认'否'"},
+                                                        {"printOption", "打印商品全称+折扣"},
+                                                        {"MBPort", "COM2"},
+                                                        {"CVProt", "3"},
+                                                        {"CVModel", "7"},
+                                                        {"VMouse", "1"}};
+  for (const auto& [key, value] : stored) EXPECT_EQ(till.stored("POS", key), value) << key;
+  EXPECT_EQ(till.pos.gPosSet.PModel, 2);
+}
+
+TEST(frmPosSetTest, TheMouseShowsAtOnceAndCancelChangesNothing) {
+  SettingsTill till;
+  till.pos.ShowMouse(false);
+  const auto pointerIsHidden = [] { return QGuiApplication::overrideCursor() != nullptr; };
+  ASSERT_TRUE(pointerIsHidden());
+  for (const bool confirmed : {false, true}) {
+    Dialog dialog(till.pos);
+    dialog.stepDown({2, 0, 0, 0, 0, 0, 0, 1});
+    if (confirmed)
+      dialog.click("cmdOk");
+    else
+      dialog.press(Qt::Key_Escape);
+    EXPECT_FALSE(dialog.isOpen());
+    EXPECT_EQ(pointerIsHidden(), !confirmed);
+    EXPECT_EQ(till.pos.gPosSet.PPort, confirmed ? "LPT2" : "");
+    EXPECT_EQ(till.fileText().empty(), !confirmed);
+  }
+}
+
+TEST(frmPosSetTest, TheTestTriesWhatIsChosenAndSavesNothing) {
+  PseudoTerminal display;
+  SettingsTill till;
+  const std::string file = "[Ports]\r\nLPT1=" + till.folder.file("printer") +
+                           "\r\nLPT2=" + till.folder.file("drawer") + "\r\nCOM1=" + display.path() +
+                           "\r\nCOM2=" + till.folder.file("missing/port") +
+                           "\r\nUSB=" + till.folder.file("paper") + "\r\n[POS]\r\nPModel=2\r\n";
+  std::ofstream(till.folder.file("Config.ini"), std::ios::binary) << file;
+  std::filesystem::create_directory(till.folder.path() / "paper");
+  till.pos.gPosSet.LoadSet(till.pos.configIni);
+  till.pos.clock = [] { return DateTime{{2026, 11, 22}, 9, 5, 3}; };
+
+  const std::string figure = "\x1Bs2\x1BQA8888.88\r";
+  const std::string pulse("\x1Bp\0\x3C\xFF\r\n", 7);
+  struct Case {
+    std::initializer_list<int> steps;  // in the lists, from the first one
+    std::string printed, kicked, displayed;
+    std::vector<const char*> said;
+  };
+  const Case cases[] = {
+      {{},
+       "",
+       "",
+       "",
+       {"小票打印机：没有设定端口，未测试", "钱箱：没有设定端口，未测试",
+        "客显：没有设定端口，未测试"}},
+      {{1, 0, 0, 0, 2, 1},
+       "-打印测试 2026-11-22 09:05:03--\r\n\r\n\r\n\r\n\r\n",
+       pulse,
+       figure,
+       {"小票打印机：测试行已送到 LPT1", "钱箱：开箱信号已送到 LPT2", "客显：8888.88 已送到 COM1"}},
+      {{0, 0, 0, 0, 3, 1}, "", "", figure + "\x02M", {"钱箱：开箱信号已通过客显送到 COM1"}},
+      {{1, 0, 0, 0, 2, 2}, "打印测试", pulse, "", {"LPT1", "客显：端口 COM2 打不开", "送到 LPT2"}},
+      {{0, 0, 0, 0, 4, 2}, "", "", "", {"钱箱：端口 COM2 打不开", "客显：端口 COM2 打不开"}},
+  };
+  for (const Case& each : cases) {
+    std::filesystem::remove(till.folder.path() / "printer");
+    std::filesystem::remove(till.folder.path() / "drawer");
+    Dialog dialog(till.pos);
+    dialog.stepDown(each.steps);
+    const std::string said = dialog.test();
+    for (const char* part : each.said) EXPECT_THAT(said, HasSubstr(part));
+    EXPECT_THAT(gbk::decode(till.content("printer")), HasSubstr(each.printed));
+    EXPECT_EQ(till.content("drawer"), each.kicked);
+    EXPECT_EQ(display.received(), each.displayed);
+    EXPECT_TRUE(dialog.isOpen());
+    EXPECT_EQ(till.fileText(), file);
+    EXPECT_EQ(till.pos.gPosSet.MBPort, "");
+  }
+  Dialog dialog(till.pos);
+  dialog.stepDown({3});
+  EXPECT_THAT(dialog.test(), HasSubstr("测试行已送到系统打印机"));
+  EXPECT_FALSE(std::filesystem::is_empty(till.folder.path() / "paper"));
+}
+
+}  // namespace

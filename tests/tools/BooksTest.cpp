@@ -1,0 +1,98 @@
+#include <gmock/gmock.h>
+
+#include <fstream>
+#include <string>
+
+#include "Owner.h"
+
+namespace {
+
+using testing::HasSubstr;
+
+struct Books : testing::Test {
+  Owner owner;
+  // A settled bill of two lines with a return, and an open bill that is being rung.
+  void SetUp() override {
+    ASSERT_EQ(owner.run({"create", owner.shop}), 0);
+    ASSERT_EQ(owner.run({"operator", "add", owner.shop, "--number", "1", "--name", "张三",
+                         "--password", "111", "--right", "sell"}),
+              0);
+    for (const char* statement : {
+             "insert into sell (id, sell_time, operator_id, state, quantity, goods_amount, amount) "
+             "values (1, '2026-11-22 09:00:00', 1, 1, 1.3, 4.8, 5), "
+             "(2, '2026-11-22 09:01:00', 1, 0, 0, 0, 0)",
+             "insert into sellProducts (id, sellId, insert_Date, bm, name, amount, price, "
+             "discount, "
+             "money) values (1, 1, '2026-11-22 09:00:00', 'A', '面', 1.1, 4.18, 1, 4.6), "
+             "(2, 1, '2026-11-22 09:00:01', 'B', '糖', 0.2, 1, 1, 0.2), "
+             "(3, 2, '2026-11-22 09:01:01', 'A', '面', 7, 4.5, 1, 31.5)",
+             "insert into un_sell (id, un_time, sell_id, item_id, quantity, money, cost, ratio, "
+             "discount, operator_id) values (1, '2026-11-22 10:00:00', 1, 2, 1, 1, 0, 1, 1, 1)",
+             "insert into stock (spbm, quantity) values ('A', -2.5)",
+         }) {
+      owner.execute(statement);
+    }
+  }
+};
+
+TEST_F(Books, AreRightWithWhatTheTillWrites) {
+  EXPECT_EQ(owner.run({"check", owner.shop}), 0) << owner.out;
+  EXPECT_THAT(owner.out,
+              HasSubstr("账目正确：单据 2 张（其中未结 1 张），商品行 3 行，退货 1 笔，库存 1 条"));
+}
+
+TEST_F(Books, NameEachFault) {
+  const struct {
+    const char* damage;
+    const char* repair;
+    const char* fault;
+  } cases[] = {
+      {"update sell set quantity = 1.4 where id = 1", "update sell set quantity = 1.3 where id = 1",
+       "单据 1 的数量是 1.4，商品行加起来是 1.3"},
+      {"update sellProducts set money = 4.61 where id = 1",
+       "update sellProducts set money = 4.6 where id = 1",
+       "单据 1 的商品金额是 4.80，商品行加起来是 4.81"},
+      {"update sellProducts set money = 'x' where id = 2",
+       "update sellProducts set money = 0.2 where id = 2", "单据 1 或它的商品行 2 的数量或金额"},
+      {"update sellProducts set sellId = 9 where id = 3",
+       "update sellProducts set sellId = 2 where id = 3", "商品行 3（面）的单据 9 不存在"},
+      {"insert into sell (id, sell_time, operator_id, state, quantity, goods_amount) "
+       "values (5, '2026-11-22 09:00:00', 1, 1, 1, 1)",
+       "delete from sell where id = 5", "单据 5 的数量是 1，商品行加起来是 0"},
+      {"update sell set operator_id = 8 where id = 2",
+       "update sell set operator_id = 1 where id = 2", "未结的单据 2 的操作员 8 不存在"},
+      {"update sell set state = 7 where id = 2", "update sell set state = 0 where id = 2",
+       "单据 2 的状态不是"},
+      {"update un_sell set item_id = 3", "update un_sell set item_id = 2",
+       "退货 1 所退的商品行 3 不在单据 1 里"},
+      {"update stock set quantity = 'many'", "update stock set quantity = 1",
+       "商品 A 的库存不是数字：“many”"},
+  };
+  for (const auto& [damage, repair, fault] : cases) {
+    owner.execute(damage);
+    EXPECT_EQ(owner.run({"check", owner.shop}), 1) << damage;
+    EXPECT_THAT(owner.out, HasSubstr(fault));
+    owner.execute(repair);
+    EXPECT_EQ(owner.run({"check", owner.shop}), 0) << repair << '\n' << owner.out;
+  }
+}
+
+TEST_F(Books, AreNotCalledRightWhenTheFileIsDamaged) {
+  std::fstream file(owner.shop, std::ios::in | std::ios::out | std::ios::binary);
+  file.seekp(4096 * 3);
+  file << "a scratch on the disk";
+  file.close();
+  EXPECT_EQ(owner.run({"check", owner.shop}), 1);
+  EXPECT_THAT(owner.out + owner.err, testing::Not(HasSubstr("账目正确")));
+}
+
+// The cashier goes on selling while the owner checks.
+TEST_F(Books, AreCheckedWhileTheTillWrites) {
+  const std::unique_ptr<Connection> till = owner.open();
+  till->run("begin immediate");
+  till->run("update sell set quantity = 99 where id = 1");
+  EXPECT_EQ(owner.run({"check", owner.shop}), 0) << owner.out << owner.err;
+  till->run("rollback");
+}
+
+}  // namespace

@@ -1,0 +1,105 @@
+#include <gmock/gmock.h>
+
+#include <string>
+
+#include "Owner.h"
+#include "saleslib/ClsLogin.h"
+
+namespace {
+
+using testing::HasSubstr;
+
+struct Command : testing::Test {
+  Owner owner;
+  void SetUp() override { ASSERT_EQ(owner.run({"create", owner.shop}), 0) << owner.err; }
+
+  int addOperator(const std::string& number, std::vector<std::string> more = {}) {
+    std::vector<std::string> words = {"operator", "add",    owner.shop, "--number",
+                                      number,     "--name", "张三"};
+    words.insert(words.end(), more.begin(), more.end());
+    return owner.run(words);
+  }
+  bool canLogIn(const char* number, const char* password) {
+    const std::unique_ptr<Connection> connection = owner.open();
+    ClsLogin login;
+    login.Conn(*connection);
+    return login.Check(number, password);
+  }
+};
+
+TEST_F(Command, CreateNeverOverwrites) {
+  ASSERT_EQ(addOperator("1", {"--password", "111"}), 0) << owner.err;
+  EXPECT_EQ(owner.run({"create", owner.shop, "--demo"}), 1);
+  EXPECT_THAT(owner.err, HasSubstr("不会覆盖"));
+  EXPECT_TRUE(canLogIn("1", "111"));
+}
+
+TEST_F(Command, TheFilePasswordIsBuiltInGivenOrNone) {
+  const std::string builtIn = owner.folder.file("built-in"), plain = owner.folder.file("plain"),
+                    own = owner.folder.file("own");
+  EXPECT_EQ(owner.run({"create", builtIn}), 0) << owner.err;
+  EXPECT_EQ(owner.run({"check", builtIn, "--file-password", "kvrnex"}), 0) << owner.err;
+  EXPECT_EQ(owner.run({"create", plain, "--file-password", ""}), 0) << owner.err;
+  EXPECT_EQ(owner.run({"check", plain, "--file-password="}), 0) << owner.err;
+  EXPECT_EQ(owner.run({"check", plain}), 1);
+  EXPECT_EQ(owner.run({"create", "--file-password", "p'w d", own}), 0) << owner.err;
+  EXPECT_EQ(owner.run({"check", own, "--file-password=p'w d"}), 0) << owner.err;
+  EXPECT_EQ(owner.run({"check", own}), 1);
+  EXPECT_EQ(owner.out, "");
+  EXPECT_EQ(owner.run({"check", owner.folder.file("none")}), 1);
+  EXPECT_FALSE(std::filesystem::exists(owner.folder.file("none")));
+}
+
+TEST_F(Command, OperatorsComeAndGo) {
+  ASSERT_EQ(addOperator("7", {"--password", "111", "--right", "sell"}), 0) << owner.err;
+  EXPECT_TRUE(canLogIn("7", "111"));
+  EXPECT_EQ(addOperator("7", {"--password", "222"}), 1);
+  EXPECT_THAT(owner.err, HasSubstr("已经有操作员 7"));
+  EXPECT_EQ(addOperator("8", {"--password", "1", "--right", "fly"}), 2);
+  EXPECT_EQ(addOperator("0", {"--password", "1"}), 2);
+  EXPECT_EQ(addOperator("32768", {"--password", "1"}), 2);
+  owner.typed = "秘密\r\n";
+  ASSERT_EQ(addOperator("8"), 0) << owner.err;
+  EXPECT_TRUE(canLogIn("8", "秘密"));
+  owner.typed = "";
+  EXPECT_EQ(addOperator("9"), 1) << "no password at all is not an empty one";
+
+  EXPECT_EQ(owner.run({"operator", "password", owner.shop, "--number", "7", "--password", "333"}),
+            0);
+  EXPECT_FALSE(canLogIn("7", "111"));
+  EXPECT_TRUE(canLogIn("7", "333"));
+  ASSERT_EQ(owner.run({"operator", "list", owner.shop}), 0);
+  EXPECT_EQ(owner.out, "7\t张三\tsell\n8\t张三\t-\n");
+
+  owner.execute("insert into sell (sell_time, operator_id) values ('2026-11-22 09:00:00', 7)");
+  EXPECT_EQ(owner.run({"operator", "remove", owner.shop, "--number", "7"}), 1);
+  EXPECT_THAT(owner.err, HasSubstr("没结的单据"));
+  EXPECT_EQ(owner.run({"operator", "remove", owner.shop, "--number", "8"}), 0);
+  EXPECT_FALSE(canLogIn("8", "秘密"));
+  EXPECT_EQ(owner.run({"operator", "remove", owner.shop, "--number", "8"}), 1);
+  EXPECT_EQ(owner.run({"operator", "password", owner.shop, "--number", "8", "--password", ""}), 1);
+}
+
+TEST_F(Command, ParametersAreSetAllOrNone) {
+  EXPECT_EQ(owner.run({"param", "set", owner.shop, "ShopName=惠邻=便利店", "PointUnit=5"}), 0)
+      << owner.err;
+  for (const char* bad : {"PointUnit=many", "Colour=1", "ShopName"}) {
+    EXPECT_EQ(owner.run({"param", "set", owner.shop, "ShopName=别的", bad}), 1) << bad;
+    EXPECT_THAT(owner.err, HasSubstr(bad));
+  }
+  ASSERT_EQ(owner.run({"param", "list", owner.shop}), 0);
+  EXPECT_THAT(owner.out, HasSubstr("ShopName=惠邻=便利店\n"));
+  EXPECT_THAT(owner.out, HasSubstr("PointUnit=5\n"));
+}
+
+TEST_F(Command, HelpIsAResultAndNonsenseAnError) {
+  for (const char* command : {"create", "operator", "param", "import", "export", "check"}) {
+    EXPECT_EQ(owner.run({command, "--help"}), 0);
+    EXPECT_THAT(owner.out, HasSubstr("用法")) << command;
+    EXPECT_EQ(owner.run({command}), 2) << command;
+    EXPECT_EQ(owner.out, "");
+    EXPECT_THAT(owner.err, HasSubstr("--help"));
+  }
+}
+
+}  // namespace

@@ -1,0 +1,119 @@
+#include <gmock/gmock.h>
+#include <sys/stat.h>
+
+#include <sstream>
+#include <string>
+
+#include "Owner.h"
+#include "base/Gbk.h"
+#include "tools/Table.h"
+
+namespace {
+
+using testing::HasSubstr;
+
+struct Import : testing::Test {
+  Owner owner;
+  void SetUp() override { ASSERT_EQ(owner.run({"create", owner.shop}), 0) << owner.err; }
+};
+
+TEST_F(Import, AddsNewRowsAndUpdatesKnownOnes) {
+  ASSERT_EQ(owner.import("tmda",
+                         "sptm,spbm,spmc,xsdj,kssj,dwbl\n"
+                         "6990000000001,A1,面,4.50,2026-11-5,\n"
+                         "6990000000001,A2,面 大碗,,,12\n"),
+            0)
+      << owner.err;
+  EXPECT_THAT(owner.out, HasSubstr("新增 2 行，更新 0 行"));
+  EXPECT_EQ(owner.value("select xsdj || ' ' || zk || ' ' || dwbl || ' ' || kssj as value "
+                        "from tmda where spbm = 'a1'"),
+            "4.5 1 1 2026-11-05 00:00:00");
+  EXPECT_EQ(owner.value("select xsdj || ' ' || dwbl || ' ' || (kssj is null) as value "
+                        "from tmda where spbm = 'A2'"),
+            "0 12 1");
+  // Columns without a place in the file stay as they are; names and keys regardless of case.
+  ASSERT_EQ(owner.import("TMDA", "XSDJ,spbm,sptm\n5,a1,6990000000001\n"), 0) << owner.err;
+  EXPECT_THAT(owner.out, HasSubstr("新增 0 行，更新 1 行"));
+  EXPECT_EQ(owner.value("select xsdj || spmc || kssj as value from tmda where spbm = 'A1'"),
+            "5面2026-11-05 00:00:00");
+}
+
+TEST_F(Import, ReadsGbkFilesOfOtherPrograms) {
+  ASSERT_EQ(owner.import("spda", gbk::encode("f_spbm,f_spmc\r\n1,老陈醋\r\n")), 0) << owner.err;
+  EXPECT_EQ(owner.value("select f_spmc as value from spda"), "老陈醋");
+}
+
+TEST_F(Import, RefusesAWholeFileForOneBadRowAndNamesIt) {
+  const std::string longText(256, 'x');
+  const struct {
+    std::string table, header, row;
+    const char* reason;
+  } cases[] = {
+      {"tmda", "sptm,spbm,spmc,xsdj", "1,1,面,abc", "“xsdj”应是不小于 0 的金额，写的是“abc”"},
+      {"tmda", "sptm,spbm,spmc,xsdj", "1,1,面,-1", "不小于 0"},
+      {"tmda", "sptm,spbm,spmc,xsdj", "1,1,面,99999999999999999999", "不小于 0"},
+      {"tmda", "sptm,spbm,spmc,zk", "1,1,面,9", "九折写 0.9"},
+      {"tmda", "sptm,spbm,spmc,zk", "1,1,面,0", "九折写 0.9"},
+      {"tmda", "sptm,spbm,spmc,dwbl", "1,1,面,1.5", "“dwbl”应是 1 到 32767 的整数"},
+      {"tmda", "sptm,spbm,spmc,kssj", "1,1,面,2026-02-30", "应是日期"},
+      {"tmda", "sptm,spbm,spmc", "1,1," + longText, "不超过 255 个字"},
+      {"tmda", "sptm,spbm,spmc", "6.99012E+12,1,面", "科学计数法"},
+      {"tmda", "sptm,spbm,spmc", ",1,面", "“sptm”"},
+      {"tmda", "sptm,spbm,spmc", "1,1", "有 2 列，标题行有 3 列"},
+      {"tmda", "sptm,spbm", "1,1", "是新的，但文件缺少“spmc”"},
+      {"SP_LB", "SPLB_ID,SPLBMC", "x,酒", "“SPLB_ID”应是大于 0 的整数"},
+      {"stock", "spbm,quantity", "1,", "“quantity”应是数量，空着"},
+      {"stock", "spbm,quantity", "1,1e400", "应是数量"},
+      {"member", "bh,name,enabled", "1,李,2", "应是 0 或 1"},
+      {"member", "bh,name,points", "1,李,40000", "-32768 到 32767"},
+  };
+  for (const auto& [table, header, row, reason] : cases) {
+    EXPECT_EQ(owner.import(table, header + "\n\n" + row + "\n"), 1) << row;
+    EXPECT_THAT(owner.err, testing::AllOf(HasSubstr("第 3 行"), HasSubstr(reason))) << row;
+  }
+  ASSERT_EQ(owner.import("stock", "spbm,quantity\n1,5\n"), 0);
+  EXPECT_EQ(owner.import("stock", "spbm,quantity\n1,9\n2,x\n3,4\n4,y\n"), 1);
+  EXPECT_THAT(owner.err, testing::AllOf(HasSubstr("第 3 行"), HasSubstr("第 5 行")));
+  EXPECT_EQ(owner.value("select group_concat(spbm || '=' || quantity) as value from stock"), "1=5");
+}
+
+TEST_F(Import, RefusesHeadersThatItCannotPlace) {
+  const struct {
+    const char* text;
+    const char* reason;
+  } cases[] = {
+      {"", "文件是空的"},
+      {"sptm,spbm,spmc,colour\n", "没有“colour”这一列"},
+      {"sptm,spbm,spmc,SPMC\n", "写了两次"},
+      {"sptm,spmc\n", "缺少“spbm”"},
+  };
+  for (const auto& [text, reason] : cases) {
+    EXPECT_EQ(owner.import("tmda", text), 1) << text;
+    EXPECT_THAT(owner.err, HasSubstr(reason));
+  }
+  EXPECT_EQ(owner.run({"import", owner.shop, "--table", "sell", owner.shop}), 2);
+  EXPECT_EQ(owner.run({"import", owner.shop, "--table", "tmda", owner.folder.file("none")}), 1);
+}
+
+TEST(Export, IsWhatImportNeedsToMakeTheSameShop) {
+  Owner from, to;
+  ASSERT_EQ(from.run({"create", from.shop, "--demo"}), 0) << from.err;
+  ASSERT_EQ(to.run({"create", to.shop}), 0);
+  from.execute("update tmda set spmc = 'a,\"b\"' || char(10) || 'c' where rowid = 1");
+  for (const std::string& table : tableNames()) {
+    const std::string csv = from.folder.file(table + ".csv");
+    ASSERT_EQ(from.run({"export", from.shop, "--table", table, csv}), 0) << from.err;
+    struct stat file {};
+    ASSERT_EQ(stat(csv.c_str(), &file), 0);
+    EXPECT_EQ(file.st_mode & 0777, 0600u) << "card passwords are in it";
+    ASSERT_EQ(to.run({"import", to.shop, "--table", table, csv}), 0) << to.err;
+    ASSERT_EQ(to.run({"export", to.shop, "--table", table, "-"}), 0);
+    std::stringstream exported;
+    exported << std::ifstream(csv, std::ios::binary).rdbuf();
+    EXPECT_EQ(to.out, exported.str());
+  }
+  EXPECT_EQ(from.run({"export", from.shop, "--table", "tmda", from.shop}), 1);
+  EXPECT_EQ(from.run({"check", from.shop}), 0) << "the data file is no place for an export";
+}
+
+}  // namespace

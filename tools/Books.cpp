@@ -1,0 +1,174 @@
+#include "tools/Books.h"
+
+#include <optional>
+#include <utility>
+
+#include "base/Currency.h"
+#include "base/NumberText.h"
+#include "store/Connection.h"
+#include "store/StoreError.h"
+
+namespace {
+
+std::string numbered(const char* what, std::int64_t number) {
+  return std::string(what) + " " + std::to_string(number);
+}
+
+/// One state of the file for all reads while this lives; unlike a Transaction it takes no lock, so
+/// that the till goes on selling.
+class ReadSnapshot {
+ public:
+  explicit ReadSnapshot(Connection& connection) : connection_(connection) {
+    connection_.run("begin");
+  }
+  ~ReadSnapshot() {
+    try {
+      connection_.run("rollback");
+    } catch (const StoreError&) {  // nothing was written, so nothing is left to take back
+    }
+  }
+  ReadSnapshot(const ReadSnapshot&) = delete;
+  ReadSnapshot& operator=(const ReadSnapshot&) = delete;
+
+ private:
+  Connection& connection_;
+};
+
+}  // namespace
+
+/// One settled bill, as it says and as its lines add up.
+struct Books::Sums {
+  std::int64_t bill = 0;
+  double quantity = 0, lineQuantity = 0;
+  Currency amount, lineAmount;
+  bool isReadable = true;
+
+  void setBill(const Rows& row) {
+    bill = row.whole("id").value();
+    quantity = row.number("quantity").value_or(0);
+    amount = row.currency("goods_amount").value_or(Currency());
+  }
+  void addLine(const Rows& row) {
+    lineQuantity = roundedQuantity(lineQuantity + row.number("line_amount").value_or(0));
+    lineAmount += row.currency("line_money").value_or(Currency());
+  }
+};
+
+Books::Books(Connection& connection, Report report)
+    : connection_(connection), report_(std::move(report)) {}
+
+BooksSummary Books::check() {
+  found_ = {};
+  const ReadSnapshot oneState(connection_);
+  checkEngine();
+  checkBills();
+  checkLines();
+  checkReturns();
+  checkStock();
+  count();
+  return found_;
+}
+
+void Books::checkEngine() {
+  Rows rows = connection_.query("pragma integrity_check");
+  while (rows.next()) {
+    const std::string answer = rows.text("integrity_check");
+    if (answer != "ok") fault("数据文件损坏：" + answer);
+  }
+}
+
+void Books::checkBills() {
+  Rows strange = connection_.query("select id, state from sell where state not in (0, 1)");
+  while (strange.next()) {
+    fault(numbered("单据", strange.whole("id").value()) + " 的状态不是未结也不是已结：" +
+          strange.text("state"));
+  }
+  Rows unowned = connection_.query(
+      "select id, operator_id from sell "
+      "where state = 0 and operator_id not in (select id from operators)");
+  while (unowned.next()) {
+    fault(numbered("未结的单据", unowned.whole("id").value()) + " 的操作员 " +
+          unowned.text("operator_id") + " 不存在");
+  }
+}
+
+void Books::checkSums(const Sums& bill) {
+  if (!bill.isReadable) return;
+  if (roundedQuantity(bill.quantity) != bill.lineQuantity) {
+    fault(numbered("单据", bill.bill) + " 的数量是 " + generalNumber(bill.quantity) +
+          "，商品行加起来是 " + generalNumber(bill.lineQuantity));
+  }
+  if (bill.amount != bill.lineAmount) {
+    fault(numbered("单据", bill.bill) + " 的商品金额是 " + twoDecimals(bill.amount) +
+          "，商品行加起来是 " + twoDecimals(bill.lineAmount));
+  }
+}
+
+// Walks the bills and their lines together, one bill at a time in hand.
+void Books::checkLines() {
+  Rows rows = connection_.query(
+      "select s.id as id, s.quantity as quantity, s.goods_amount as goods_amount, "
+      "l.id as line, l.amount as line_amount, l.money as line_money "
+      "from sell s left join sellProducts l on l.sellId = s.id where s.state = 1 order by s.id");
+  std::optional<Sums> bill;
+  while (rows.next()) {
+    const std::int64_t number = rows.whole("id").value();
+    if (!bill || bill->bill != number) {
+      if (bill) checkSums(*bill);
+      bill.emplace().bill = number;
+    }
+    try {
+      bill->setBill(rows);
+      bill->addLine(rows);
+    } catch (const StoreError&) {
+      bill->isReadable = false;
+      fault(numbered("单据", number) + " 或它的商品行 " + rows.text("line") +
+            " 的数量或金额不是数字");
+    }
+  }
+  if (bill) checkSums(*bill);
+  Rows orphans = connection_.query(
+      "select id, sellId, name from sellProducts where sellId not in (select id from sell)");
+  while (orphans.next()) {
+    fault(numbered("商品行", orphans.whole("id").value()) + "（" + orphans.text("name") +
+          "）的单据 " + orphans.text("sellId") + " 不存在");
+  }
+}
+
+void Books::checkReturns() {
+  Rows rows = connection_.query(
+      "select u.id as id, u.item_id as item_id, u.sell_id as sell_id from un_sell u "
+      "left join sellProducts l on l.id = u.item_id and l.sellId = u.sell_id where l.id is null");
+  while (rows.next()) {
+    fault(numbered("退货", rows.whole("id").value()) + " 所退的商品行 " + rows.text("item_id") +
+          " 不在单据 " + rows.text("sell_id") + " 里");
+  }
+}
+
+void Books::checkStock() {
+  Rows rows = connection_.query(
+      "select spbm, quantity from stock where typeof(quantity) not in ('integer', 'real')");
+  while (rows.next()) {
+    fault("商品 " + rows.text("spbm") + " 的库存不是数字：“" + rows.text("quantity") + "”");
+  }
+}
+
+void Books::count() {
+  Rows rows = connection_.query(
+      "select (select count(*) from sell) as bills, "
+      "(select count(*) from sell where state = 0) as open_bills, "
+      "(select count(*) from sellProducts) as lines, "
+      "(select count(*) from un_sell) as returns, "
+      "(select count(*) from stock) as stock_rows");
+  rows.next();
+  found_.bills = rows.whole("bills").value();
+  found_.openBills = rows.whole("open_bills").value();
+  found_.lines = rows.whole("lines").value();
+  found_.returns = rows.whole("returns").value();
+  found_.stockRows = rows.whole("stock_rows").value();
+}
+
+void Books::fault(const std::string& text) {
+  ++found_.faults;
+  report_(text);
+}

@@ -1,0 +1,20 @@
+#pragma once
+
+#include <istream>
+#include <ostream>
+#include <string>
+
+#include "base/DateTime.h"
+
+/// Where the tool reads and writes, and what time it is; given in, so that a test can look.
+struct Console {
+  std::istream& in;
+  std::ostream& out;  ///< results
+  std::ostream& err;  ///< errors and progress
+  Clock clock;
+  bool isTerminal = false;  ///< somebody sits at `in`: passwords are asked for and typed unseen
+};
+
+/// A password as typed at the terminal, twice and unseen, or else the next line of `in`. Throws
+/// Refusal when there is none or the two differ.
+std::string askPassword(Console& console);

@@ -1,0 +1,49 @@
+#pragma once
+
+#include <array>
+#include <cstddef>
+#include <cstdint>
+#include <istream>
+#include <string>
+#include <vector>
+
+/// Reads comma-separated values (RFC 4180) row by row, as UTF-8. Lines may end with CR LF or LF, a
+/// field in quotes may hold commas, line ends and doubled quotes, and empty lines are passed over.
+/// Memory does not grow with the text: a row has at most 1 MiB.
+///
+/// The text is UTF-8, with or without a byte order mark, or else GBK: which one, a first pass over
+/// all of it tells, so the stream must be one that can be read twice.
+class CsvReader {
+ public:
+  explicit CsvReader(std::istream& in);
+
+  /// The next row's fields; false at the end. Throws Refusal, naming the line, when the text is no
+  /// such row (an open quote, text around quotes, characters of neither code).
+  bool next(std::vector<std::string>& fields);
+  /// The line on which the last row began; the first line is 1.
+  std::int64_t line() const { return rowLine_; }
+  /// How much of the text was read, 0 ... 1.
+  double progress() const;
+
+ private:
+  static constexpr int kEnd = -1;
+  enum class Ended { kField, kRow };
+
+  int get();
+  int peek();
+  void fill();
+  Ended readField(std::string& field);
+  void readQuoted(std::string& field);
+  Ended endAfter(int character);
+  void append(std::string& field, int character);
+  void toUtf8(std::string& field) const;
+  [[noreturn]] void refuse(const char* reason) const;
+
+  std::istream& in_;
+  bool isUtf8_ = true;
+  std::int64_t size_ = 0, read_ = 0;
+  std::int64_t line_ = 1, rowLine_ = 1;
+  std::size_t rowBytes_ = 0;
+  std::array<char, 1 << 16> buffer_{};
+  std::size_t position_ = 0, filled_ = 0;
+};

@@ -1,0 +1,222 @@
+#include "tools/DemoShop.h"
+
+#include <optional>
+#include <set>
+#include <sstream>
+#include <string>
+#include <string_view>
+
+#include "base/Currency.h"
+#include "base/Failure.h"
+#include "base/NumberText.h"
+#include "saleslib/ClsMember.h"
+#include "saleslib/ClsSysParam.h"
+#include "store/Connection.h"
+#include "store/Transaction.h"
+#include "tools/DemoGoods.h"
+#include "tools/GoodsSheet.h"
+#include "tools/Operators.h"
+
+namespace {
+
+struct DemoParameter {
+  const char* name;
+  const char* value;
+};
+
+constexpr DemoParameter kParameters[] = {
+    {"ShopName", "惠邻便利店"},
+    {"ReceiptText1", "欢迎光临"},
+    {"ReceiptText2", "地址：光明路 18 号"},
+    {"ReceiptText3", "电话：010-55550118"},
+    {"ReceiptText4", "营业时间 7:00 至 23:00"},
+    {"ReceiptText5", "退换商品请带小票，七日内有效"},
+    {"ReceiptText6", "谢谢惠顾，欢迎再来！"},
+    {"StockRule", "0"},
+    {"PointUnit", "10"},
+    {"GeneralRate", "1"},
+    {"VipRate", "0.9"},
+    {"SilverRate", "0.98"},
+    {"GoldRate", "0.95"},
+};
+
+struct DemoMember {
+  const char* number;
+  const char* name;
+  const char* sex;
+  std::int16_t age;
+  const char* phone;
+  const char* address;
+  const char* cardClass;
+  double discount;
+  std::int64_t balance;  // yuan
+  const char* password;
+  std::int16_t points;
+  bool enabled;
+  Date birthday;
+};
+
+// The telephone numbers are of a range that is not given to anybody.
+constexpr DemoMember kMembers[] = {
+    {"880001",
+     "陈秀英",
+     "女",
+     46,
+     "10000000001",
+     "光明路 22 号 3 单元 501",
+     "贵宾卡",
+     0.9,
+     500,
+     "1111",
+     320,
+     true,
+     {1980, 3, 8}},
+    {"880002",
+     "刘建国",
+     "男",
+     58,
+     "10000000002",
+     "光明路 22 号 1 单元 102",
+     "金卡",
+     0.95,
+     260,
+     "2222",
+     158,
+     true,
+     {1968, 10, 1}},
+    {"880003",
+     "赵敏",
+     "女",
+     31,
+     "10000000003",
+     "和平里小区 7 号楼 1204",
+     "银卡",
+     0.98,
+     88,
+     "3333",
+     46,
+     true,
+     {1995, 6, 18}},
+    {"880004",
+     "孙志强",
+     "男",
+     27,
+     "10000000004",
+     "和平里小区 2 号楼 306",
+     "银卡",
+     0.98,
+     0,
+     "4444",
+     0,
+     true,
+     {1999, 12, 24}},
+    {"880005",
+     "周丽",
+     "女",
+     39,
+     "10000000005",
+     "中山街 5 号",
+     "金卡",
+     0.95,
+     35,
+     "5555",
+     72,
+     false,
+     {1987, 7, 7}},
+};
+
+void addParameters(Connection& connection) {
+  ClsSysParam parameters;
+  parameters.Conn(connection);
+  for (const DemoParameter& parameter : kParameters) {
+    ensure(parameters.set(parameter.name, parameter.value).empty(), "demo parameters are accepted");
+  }
+}
+
+void addOperators(Connection& connection) {
+  addOperator(connection, {1, "张三", "111", {kRightSell}});
+  addOperator(connection, {2, "李四", "222", {kRightSell}});
+  addOperator(connection, {3, "王五", "333", {}});
+}
+
+void addMembers(Connection& connection, const Clock& clock) {
+  for (const DemoMember& demo : kMembers) {
+    ClsMember member;
+    member.Init(connection, 0, clock);
+    member.setBh(demo.number);
+    member.setName(demo.name);
+    member.setSex(demo.sex);
+    member.setAge(demo.age);
+    member.setPhone(demo.phone);
+    member.setAddress(demo.address);
+    member.setDiscount(demo.discount);
+    member.setBalance(Currency::fromYuan(demo.balance));
+    member.setPassword(demo.password);
+    member.setPoints(demo.points);
+    member.setTotalSpent(Currency::fromYuan(std::int64_t{demo.points} * 10));
+    member.setEnabled(demo.enabled);
+    member.setBirthday(demo.birthday);
+    ensure(member.Save(), "demo members are accepted");
+    connection.run("update member set hyzklb = ? where bh = ?", demo.cardClass, demo.number);
+  }
+}
+
+void addPromotion(Connection& connection, const DemoGoodsRow& row, Date today) {
+  connection.run("update tmda set cxj = ?, kssj = ?, jssj = ? where sptm = ? and spbm = ?",
+                 *row.promotionPrice, DateTime{plusDays(today, row.promotionFrom.value())},
+                 DateTime{plusDays(today, row.promotionTo.value())}, row.barcode, row.itemCode);
+}
+
+void addBarcode(Connection& connection, const DemoGoodsRow& row, Date today) {
+  connection.run(
+      "insert into tmda (sptm, ggxh, spbm, spmc, spcd, jldw, xsdj, pfj, zk, dwbl, zhjj, splbmc) "
+      "values (?, ?, ?, ?, ?, ?, ?, ?, ?, 1, ?, ?)",
+      row.barcode, row.specification, row.itemCode, row.name, row.origin, row.unit, row.price,
+      row.memberPrice, row.discount, row.cost, row.category);
+  if (row.promotionPrice) addPromotion(connection, row, today);
+}
+
+// The case is sold under its own barcode and price, and takes that many units out of the same
+// stock.
+void addCaseBarcode(Connection& connection, const DemoGoodsRow& row) {
+  const Currency cost = lineAmount(row.cost, row.caseRatio, Discount());
+  connection.run(
+      "insert into tmda (sptm, ggxh, spbm, spmc, spcd, jldw, xsdj, pfj, zk, dwbl, zhjj, splbmc) "
+      "values (?, ?, ?, ?, ?, ?, ?, 0, 1, ?, ?, ?)",
+      row.caseBarcode, "1x" + std::to_string(row.caseRatio), row.itemCode, row.name + " 整箱",
+      row.origin, row.caseUnit, row.casePrice, row.caseRatio, cost, row.category);
+}
+
+void addToMaster(Connection& connection, const DemoGoodsRow& row) {
+  connection.run(
+      "insert into spda (f_spbm, f_spmc, f_sphh, f_sptm, f_Ggxh, f_jldw, f_xsdj, f_pfj, f_zk, "
+      "f_zhjj, f_spcd, f_splbmc) values (?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?)",
+      row.itemCode, row.name, row.itemNumber, row.barcode, row.specification, row.unit, row.price,
+      row.memberPrice, row.discount, row.cost, row.origin, row.category);
+  connection.run("insert into stock (spbm, quantity) values (?, ?)", row.itemCode, row.stock);
+}
+
+void addGoods(Connection& connection, Date today) {
+  std::istringstream text{std::string(kDemoGoods)};
+  GoodsSheet sheet(text);
+  std::set<std::string> categories;
+  while (const std::optional<DemoGoodsRow> row = sheet.next()) {
+    if (categories.insert(row->category).second) {
+      connection.run("insert into SP_LB (SPLBMC) values (?)", row->category);
+    }
+    addBarcode(connection, *row, today);
+    if (row->caseRatio > 0) addCaseBarcode(connection, *row);
+    addToMaster(connection, *row);
+  }
+}
+
+}  // namespace
+
+void fillDemoShop(Connection& connection, const Clock& clock) {
+  Transaction transaction(connection);
+  addParameters(connection);
+  addOperators(connection);
+  addMembers(connection, clock);
+  addGoods(connection, clock().date);
+  transaction.commit();
+}

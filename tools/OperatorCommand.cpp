@@ -1,0 +1,109 @@
+#include "tools/OperatorCommand.h"
+
+#include <CLI/CLI.hpp>
+#include <cstdint>
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "base/Text.h"
+#include "saleslib/ClsOperator.h"
+#include "saleslib/ClsRights.h"
+#include "store/Connection.h"
+#include "store/Transaction.h"
+#include "tools/DataFileOptions.h"
+#include "tools/Operators.h"
+#include "tools/Refusal.h"
+
+namespace {
+
+struct Options {
+  DataFileOptions file;
+  std::int16_t number = 0;
+  std::string name;
+  std::optional<std::string> password;
+  std::vector<std::string> rights;
+};
+
+using Shared = std::shared_ptr<Options>;
+
+std::string passwordOf(const Options& options, Console& console) {
+  return options.password ? *options.password : askPassword(console);
+}
+
+std::string shownName(const Options& options, const ClsOperator& person) {
+  return std::to_string(options.number) + " " + person.Name();
+}
+
+void add(const Options& options, Console& console) {
+  const std::unique_ptr<Connection> connection = openDataFile(options.file.source());
+  addOperator(*connection,
+              {options.number, options.name, passwordOf(options, console), options.rights});
+  console.out << "已增加操作员 " << options.number << ' ' << trimmed(options.name) << '\n';
+}
+
+void list(const Options& options, Console& console) {
+  const std::unique_ptr<Connection> connection = openDataFile(options.file.source());
+  Rows rows = connection->query("select id from operators order by id");
+  while (rows.next()) {
+    ClsOperator person;
+    person.Init(*connection, static_cast<std::int16_t>(rows.whole("id").value()));
+    const bool maySell = person.Rights().HasRight(kRightSell);
+    console.out << person.Id() << '\t' << person.Name() << '\t' << (maySell ? kRightSell : "-")
+                << '\n';
+  }
+}
+
+void changePassword(const Options& options, Console& console) {
+  const std::unique_ptr<Connection> connection = openDataFile(options.file.source());
+  ClsOperator person = existingOperator(*connection, options.number);
+  person.setPassword(passwordOf(options, console));
+  person.Save();
+  console.out << "已更改操作员 " << shownName(options, person) << " 的密码\n";
+}
+
+void remove(const Options& options, Console& console) {
+  const std::unique_ptr<Connection> connection = openDataFile(options.file.source());
+  const ClsOperator person = existingOperator(*connection, options.number);
+  removeOperator(*connection, options.number);
+  console.out << "已删除操作员 " << shownName(options, person) << '\n';
+}
+
+void addNumber(CLI::App& command, Options& options) {
+  command.add_option("--number", options.number, "操作员号，1 到 32767")
+      ->required()
+      ->check(CLI::Range(1, INT16_MAX));
+}
+
+void addPassword(CLI::App& command, Options& options) {
+  command.add_option("--password", options.password, "登录密码；不写就从终端或标准输入读");
+}
+
+CLI::App* addAction(CLI::App& parent, Console& console, const char* name, const char* help,
+                    const Shared& options, void (*action)(const Options&, Console&)) {
+  CLI::App* command = parent.add_subcommand(name, help);
+  options->file.addTo(*command);
+  command->callback([options, action, &console] { action(*options, console); });
+  return command;
+}
+
+}  // namespace
+
+void addOperatorCommand(CLI::App& app, Console& console) {
+  CLI::App* parent = app.add_subcommand("operator", "操作员：增加、列出、改密码、删除");
+  parent->require_subcommand(1);
+  const auto options = std::make_shared<Options>();
+  CLI::App* adding = addAction(*parent, console, "add", "增加操作员", options, add);
+  addNumber(*adding, *options);
+  addPassword(*adding, *options);
+  adding->add_option("--name", options->name, "姓名")->required();
+  adding->add_option("--right", options->rights, "权限：sell（收银）；可以写几次")
+      ->check(CLI::IsMember(operatorRights()))
+      ->allow_extra_args(false);
+  addAction(*parent, console, "list", "列出操作员：号、姓名、权限", options, list);
+  CLI::App* changing = addAction(*parent, console, "password", "更改密码", options, changePassword);
+  addNumber(*changing, *options);
+  addPassword(*changing, *options);
+  addNumber(*addAction(*parent, console, "remove", "删除操作员", options, remove), *options);
+}

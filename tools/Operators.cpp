@@ -1,0 +1,59 @@
+#include "tools/Operators.h"
+
+#include "base/Text.h"
+#include "saleslib/ClsRights.h"
+#include "store/Connection.h"
+#include "store/Transaction.h"
+#include "tools/Refusal.h"
+
+namespace {
+
+constexpr std::size_t kLongestName = 255;
+
+std::string labelled(std::int16_t number) {
+  return "操作员 " + std::to_string(number);
+}
+
+}  // namespace
+
+const std::vector<std::string>& operatorRights() {
+  static const std::vector<std::string> rights = {kRightSell};
+  return rights;
+}
+
+void addOperator(Connection& connection, const NewOperator& wanted) {
+  const std::string name = trimmed(wanted.name);
+  if (name.empty() || characters(name) > kLongestName) {
+    throw Refusal("操作员的姓名不能空着，也不能超过 255 个字。");
+  }
+  Transaction transaction(connection);
+  ClsOperator person;
+  person.Init(connection, wanted.number);
+  if (person.Found()) throw Refusal("已经有" + labelled(wanted.number) + "：" + person.Name());
+  person.setName(name);
+  person.setCode(std::to_string(wanted.number));
+  person.setPassword(wanted.password);
+  person.Save();
+  for (const std::string& right : wanted.rights) {
+    connection.run("insert or ignore into operator_rights (operator_id, right_key) values (?, ?)",
+                   wanted.number, right);
+  }
+  transaction.commit();
+}
+
+ClsOperator existingOperator(Connection& connection, std::int16_t number) {
+  ClsOperator person;
+  person.Init(connection, number);
+  if (!person.Found()) throw Refusal("没有" + labelled(number) + "。");
+  return person;
+}
+
+void removeOperator(Connection& connection, std::int16_t number) {
+  Transaction transaction(connection);
+  if (connection.query("select id from sell where operator_id = ? and state = 0", number).next()) {
+    throw Refusal(labelled(number) + "还有没结的单据，先让本人在收银台处理完，再删除。");
+  }
+  connection.run("delete from operator_rights where operator_id = ?", number);
+  connection.run("delete from operators where id = ?", number);
+  transaction.commit();
+}

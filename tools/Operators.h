@@ -1,0 +1,28 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <vector>
+
+#include "saleslib/ClsOperator.h"
+
+class Connection;
+
+/// A new operator as the owner names one.
+struct NewOperator {
+  std::int16_t number = 0;
+  std::string name;
+  std::string password;
+  std::vector<std::string> rights;  ///< of operatorRights()
+};
+
+/// The rights that the till asks for.
+const std::vector<std::string>& operatorRights();
+
+/// Stores the operator with the rights, in one transaction; the code on receipts is the number.
+/// Throws Refusal when the number is taken or the name is empty or longer than 255 characters.
+void addOperator(Connection& connection, const NewOperator& wanted);
+/// Throws Refusal when there is none of that number.
+ClsOperator existingOperator(Connection& connection, std::int16_t number);
+/// Throws Refusal while the operator has an open bill: nobody else could settle or void it.
+void removeOperator(Connection& connection, std::int16_t number);

@@ -1,0 +1,63 @@
+#include "tools/ParamCommand.h"
+
+#include <CLI/CLI.hpp>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "saleslib/ClsSysParam.h"
+#include "store/Connection.h"
+#include "store/Transaction.h"
+#include "tools/DataFileOptions.h"
+#include "tools/Refusal.h"
+
+namespace {
+
+struct Options {
+  DataFileOptions file;
+  std::vector<std::string> settings;
+};
+
+void list(const Options& options, Console& console) {
+  const std::unique_ptr<Connection> connection = openDataFile(options.file.source());
+  ClsSysParam parameters;
+  parameters.Conn(*connection);
+  for (const ClsSysParam::Parameter& parameter : parameters.list()) {
+    console.out << parameter.name << '=' << parameter.value
+                << (parameter.isSet ? "" : "\t（没有设置，这是默认值）") << '\n';
+  }
+}
+
+void setOne(ClsSysParam& parameters, const std::string& setting) {
+  const std::size_t equals = setting.find('=');
+  if (equals == std::string::npos) {
+    throw Refusal("要写成 名称=值，写的是“" + setting + "”，什么也没有设置。");
+  }
+  const std::string reason = parameters.set(setting.substr(0, equals), setting.substr(equals + 1));
+  if (!reason.empty()) throw Refusal(setting + "：" + reason);
+}
+
+void set(const Options& options, Console& console) {
+  const std::unique_ptr<Connection> connection = openDataFile(options.file.source());
+  Transaction transaction(*connection);
+  ClsSysParam parameters;
+  parameters.Conn(*connection);
+  for (const std::string& setting : options.settings) setOne(parameters, setting);
+  transaction.commit();
+  console.out << "已设置 " << options.settings.size() << " 个参数\n";
+}
+
+}  // namespace
+
+void addParamCommand(CLI::App& app, Console& console) {
+  CLI::App* parent = app.add_subcommand("param", "店铺参数：列出、设置");
+  parent->require_subcommand(1);
+  const auto options = std::make_shared<Options>();
+  CLI::App* listing = parent->add_subcommand("list", "列出全部参数");
+  options->file.addTo(*listing);
+  listing->callback([options, &console] { list(*options, console); });
+  CLI::App* setting = parent->add_subcommand("set", "设置参数（全部成功才算数）");
+  options->file.addTo(*setting);
+  setting->add_option("NAME=VALUE", options->settings, "参数名=值，可以写几个")->required();
+  setting->callback([options, &console] { set(*options, console); });
+}

@@ -1,0 +1,8 @@
+#pragma once
+
+#include "tools/Console.h"
+
+/// Runs one command line of tilladmin. Gives the exit code: 0 when the command did its work, 1 when
+/// it refused or failed (with the reason on `console.err`, and nothing done) or `check` found
+/// faults, 2 when the command line is none.
+int runTool(int count, const char* const* arguments, Console& console);
