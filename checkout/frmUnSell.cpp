@@ -95,6 +95,8 @@ QLineEdit* frmUnSell::figure(const char* name) {
 QPushButton* frmUnSell::button(const char* name, const QString& text) {
   auto* made = new QPushButton(text, this);
   made->setObjectName(name);
+  // Enter belongs to the fields.
+  made->setAutoDefault(false);
   made->installEventFilter(this);
   return made;
 }
@@ -187,8 +189,7 @@ bool frmUnSell::eventFilter(QObject* watched, QEvent* event) {
   return QDialog::eventFilter(watched, event);
 }
 
-// Only the keys named act; the dialog's own handling would close it on the plain Esc and press the
-// default button on Enter.
+// Only the keys named act; the dialog's own handling would close it on the plain Esc.
 void frmUnSell::keyPressEvent(QKeyEvent* event) {
   handleKey(nullptr, *event);
 }

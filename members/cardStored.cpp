@@ -82,6 +82,8 @@ QLineEdit* cardStored::figure(const char* name) {
 QPushButton* cardStored::button(const char* name, const QString& text) {
   auto* made = new QPushButton(text, this);
   made->setObjectName(name);
+  // Enter belongs to the fields.
+  made->setAutoDefault(false);
   made->installEventFilter(this);
   return made;
 }
@@ -139,7 +141,7 @@ bool cardStored::eventFilter(QObject* watched, QEvent* event) {
   return QDialog::eventFilter(watched, event);
 }
 
-// Only the keys named act; the dialog's own handling would press the default button on Enter.
+// Only the keys named act; the dialog's own handling would close it on the plain Esc.
 void cardStored::keyPressEvent(QKeyEvent* event) {
   handleKey(nullptr, *event);
 }

@@ -99,6 +99,8 @@ void frmFMember::setUpControls() {
   lblStatus_->setTextFormat(Qt::PlainText);
   lblStatus_->hide();
   OptBoy_->setChecked(true);
+  // Enter belongs to the fields.
+  for (QPushButton* button : {cmdOk_, cmdCancel_}) button->setAutoDefault(false);
 }
 
 void frmFMember::arrange() {
@@ -173,7 +175,7 @@ bool frmFMember::eventFilter(QObject* watched, QEvent* event) {
   return QDialog::eventFilter(watched, event);
 }
 
-// Only the keys named act; the dialog's own handling would press the default button on Enter.
+// Only the keys named act; the dialog's own handling would close it on the plain Esc.
 void frmFMember::keyPressEvent(QKeyEvent* event) {
   handleKey(nullptr, *event);
 }
