@@ -83,6 +83,16 @@ TEST_F(ReturnsTest, TheRoundingOfTheSettlementStaysUntilNothingIsLeft) {
   EXPECT_EQ(returns.bill()->Amount(), Currency());
 }
 
+TEST_F(ReturnsTest, AReturnInTheMiddleOfTheMembersNextBillIsNotForgotten) {
+  attachMember();
+  enter("茶", "5");
+  ASSERT_EQ(load("1"), "");
+  returns.chooseByCode("6901");
+  EXPECT_EQ(takeBack(3, "27"), "");
+  payCash("5");
+  EXPECT_EQ(stored("total_spent as v from member"), "10");
+}
+
 TEST_F(ReturnsTest, AReturnThatCannotBeStoredLeavesFileAndScreenAsTheyWere) {
   for (const char* table : {"stock", "sellProducts", "sell", "member"}) {
     ASSERT_EQ(load("1"), "");

@@ -173,4 +173,12 @@ TEST_F(frmUnSellTest, ARefundIsRewrittenAsAPlainNumberWithoutEatingTheDecimalPoi
   dialog.exec();
 }
 
+TEST_F(frmUnSellTest, TheWindowMayGoWhileAFieldIsBeingTypedIn) {
+  frmUnSell other(pos);
+  other.show();
+  auto* quantity = other.findChild<QLineEdit*>("txtAmount");
+  quantity->setFocus();
+  QTest::keyClicks(quantity, "2");
+}
+
 }  // namespace
