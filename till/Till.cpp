@@ -3,6 +3,8 @@
 #include <QApplication>
 #include <utility>
 
+#include "reports/frmCount.h"
+#include "reports/frmSearch.h"
 #include "sale/frmSell.h"
 #include "settings/frmColor.h"
 #include "settings/frmKeyset.h"
@@ -27,12 +29,14 @@ bool Till::Main() {
 
 std::map<QString, frmMain::Screen> Till::screens() {
   return {{"sell", {true, [this] { frmSell_->openModal(); }}},
+          {"count", {true, [this] { frmCount(pos_, QApplication::activeWindow()).init(); }}},
+          {"search", {true, [this] { show<frmSearch>(); }}},
           {"posset", {true, [this] { show<frmPosSet>(); }}},
           {"keyset", {true, [this] { show<frmKeyset>(); }}}};
 }
 
 SaleSession::Openers Till::saleScreens() {
-  return {{"color", [this] { show<frmColor>(); }}};
+  return {{"search", [this] { show<frmSearch>(); }}, {"color", [this] { show<frmColor>(); }}};
 }
 
 template <class Form>
