@@ -107,6 +107,8 @@ bool Checkout::storeSale() {
 // A member that cannot be credited costs points, not the sale: the bill is stored all the same.
 void Checkout::creditMember() {
   ClsMember& member = *state_.curMember;
+  // Goods taken back while the member was attached have lowered the purchases since.
+  if (const auto now = pos_.gMemberSvc.GetMemberById(member.Id())) member = *now;
   const Currency amount = state_.curBill->Amount();
   member.setTotalSpent(member.TotalSpent() + amount);
   const auto points = pointsAfter(amount, pos_.gSysParam.PointUnit(), member.Points());
