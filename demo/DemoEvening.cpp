@@ -173,7 +173,7 @@ void DemoDay::query(TillDriver& till) {
   const auto run = [&](const char* name) {
     till.tabTo("cmdSearch");
     till.key("Space");
-    till.waitForIdle();
+    till.waitForText("lblState", "行");
     shot(till, name);
   };
   run("query-of-the-day");
@@ -206,7 +206,6 @@ void DemoDay::exportList(TillDriver& till, const char* file) {
   till.type((out_ / file).string());
   shot(till, "export");
   till.key("Return");
-  till.waitFor("messageBox");
-  till.key("Return");
   till.waitFor("frmSearch");
+  till.waitForText("lblState", "已导出");
 }
