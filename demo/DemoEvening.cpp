@@ -56,7 +56,8 @@ void DemoDay::evening() {
   query(till);
   furtherScreen(kKeySet, "frmKeyset");
   shot(till, "keyboard-settings");
-  till.key("Esc");
+  till.tabTo("cmdCancel");
+  till.key("Space");
   screen(kPosSet);
   till.waitFor("frmPosSet");
   shot(till, "terminal-settings");
