@@ -6,7 +6,6 @@
 #include "base/Currency.h"
 #include "base/NumberText.h"
 #include "store/Connection.h"
-#include "store/FragmentIndex.h"
 #include "store/StoreError.h"
 
 namespace {
@@ -74,7 +73,6 @@ BooksSummary Books::check() {
   checkMembers();
   checkPurchases();
   checkStock();
-  checkIndex();
   count();
   return found_;
 }
@@ -257,11 +255,6 @@ void Books::checkStock() {
   while (rows.next()) {
     fault("商品 " + rows.text("spbm") + " 的库存不是数字：“" + rows.text("quantity") + "”");
   }
-}
-
-void Books::checkIndex() {
-  if (!fragmentIndexIsRight(connection_))
-    fault("商品查找索引与商品资料不符，请用 tilladmin check --repair 重建");
 }
 
 void Books::count() {

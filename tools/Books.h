@@ -26,8 +26,7 @@ struct BooksSummary {
 ///   - no card balance is below zero, and a member who never took goods back has bought for at
 ///   least
 ///     the sum of the stored bills;
-///   - what is in stock is a number;
-///   - the index of goods texts holds what the goods say.
+///   - what is in stock is a number.
 /// Not what a start is needed for: how much must be in stock or on a card.
 /// Sees one state of the file, however much the till writes meanwhile. Memory does not grow with
 /// it.
@@ -55,7 +54,6 @@ class Books {
   void checkMembers();
   void checkPurchases();
   void checkStock();
-  void checkIndex();
   void count();
   void fault(const std::string& text);
 
