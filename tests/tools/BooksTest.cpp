@@ -125,10 +125,10 @@ TEST_F(Books, SayThatAPaidBillWaitsToBeStored) {
 }
 
 TEST_F(Books, RepairMakesTheGoodsIndexNew) {
-  owner.execute("insert into spda (f_spbm, f_spmc) values ('A', '阳春面')");
+  owner.execute("insert into spda (f_spbm, f_Ggxh) values ('A', '500ml')");
   owner.execute("delete from spda_written");
   const auto finds = [this] {
-    return owner.open()->Open("select f_spbm from spda where f_spmc like '%春面%'").count();
+    return owner.open()->Open("select f_spbm from spda where f_Ggxh like '%00ml%'").count();
   };
   ASSERT_EQ(finds(), 0U);
   EXPECT_EQ(owner.run({"check", owner.shop, "--repair"}), 0) << owner.out << owner.err;

@@ -103,7 +103,8 @@ TEST_F(Command, ABackupThatDoesNotReadIsNotTaken) {
   EXPECT_EQ(owner.run({"backup", owner.shop, copy}), 1);
   EXPECT_THAT(owner.err, HasSubstr("没有采用"));
   EXPECT_EQ(std::filesystem::file_size(copy), 15U);
-  EXPECT_FALSE(std::filesystem::exists(copy + ".part"));
+  for (const char* rest : {".part", ".part-wal", ".part-shm"})
+    EXPECT_FALSE(std::filesystem::exists(copy + rest)) << rest;
 }
 
 TEST_F(Command, OperatorsComeAndGo) {
