@@ -48,7 +48,7 @@ QString Returns::load(const QString& number) {
   unload();
   // Number 0 would start a new bill.
   const auto billNo = billNumber(typed);
-  const QString refusal = billNo ? open(*billNo) : tr("没有找到“%1”单据！").arg(number);
+  QString refusal = billNo ? open(*billNo) : tr("没有找到“%1”单据！").arg(number);
   if (!refusal.isEmpty()) unload();
   return refusal;
 }
@@ -143,7 +143,7 @@ std::string Returns::store(double quantity, Currency refund) {
   stock.Init(*pos_.gConn, line_->SpCode());
   if (!stock.PutBack(roundedQuantity(record.UnQty() * line_->Ratio()))) return stock.ErrText();
   lowerLine(record.UnQty());
-  if (const std::string refusal = debitMember(record.UnMoney()); !refusal.empty()) return refusal;
+  if (std::string refusal = debitMember(record.UnMoney()); !refusal.empty()) return refusal;
   if (!bill_->Save()) return bill_->ErrText();
   all.commit();
   return {};

@@ -191,7 +191,7 @@ bool frmUnSell::eventFilter(QObject* watched, QEvent* event) {
 
 // Only the keys named act; the dialog's own handling would close it on the plain Esc.
 void frmUnSell::keyPressEvent(QKeyEvent* event) {
-  handleKey(nullptr, *event);
+  handleKey(this, *event);
 }
 
 bool frmUnSell::handleKey(const QObject* watched, const QKeyEvent& event) {

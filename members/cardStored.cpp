@@ -143,7 +143,7 @@ bool cardStored::eventFilter(QObject* watched, QEvent* event) {
 
 // Only the keys named act; the dialog's own handling would close it on the plain Esc.
 void cardStored::keyPressEvent(QKeyEvent* event) {
-  handleKey(nullptr, *event);
+  handleKey(this, *event);
 }
 
 bool cardStored::handleKey(const QObject* watched, const QKeyEvent& event) {

@@ -177,7 +177,7 @@ bool frmFMember::eventFilter(QObject* watched, QEvent* event) {
 
 // Only the keys named act; the dialog's own handling would close it on the plain Esc.
 void frmFMember::keyPressEvent(QKeyEvent* event) {
-  handleKey(nullptr, *event);
+  handleKey(this, *event);
 }
 
 bool frmFMember::handleKey(QObject* watched, const QKeyEvent& event) {

@@ -5,7 +5,7 @@
 namespace {
 
 constexpr std::string_view kSentinels = ";?";
-constexpr std::string_view kReaderLetters = "abcdefgijklmnopqrstuvwxyz";
+constexpr std::string_view kSentinelsAndLetters = ";?abcdefgijklmnopqrstuvwxyz";
 
 std::string without(std::string_view typed, std::string_view dropped) {
   std::string number;
@@ -22,5 +22,5 @@ std::string memberNumber(std::string_view typed) {
 }
 
 std::string storedCardNumber(std::string_view typed) {
-  return without(typed, std::string(kSentinels) + std::string(kReaderLetters));
+  return without(typed, kSentinelsAndLetters);
 }
