@@ -61,7 +61,8 @@ class NewFile {
   void takeItsName() {
     if (rename(path_.c_str(), target_.c_str()) != 0) fail();
     isNamed_ = true;
-    const int folder = open(target_.parent_path().c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    const std::filesystem::path parent = std::filesystem::absolute(target_).parent_path();
+    const int folder = open(parent.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
     if (folder < 0) return;
     fsync(folder);
     close(folder);

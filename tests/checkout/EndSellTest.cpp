@@ -118,7 +118,7 @@ TEST_F(EndSell, storedValueCardPays) {
       QTest::keySequence(password, copying);
     EXPECT_EQ(QGuiApplication::clipboard()->text(), "before");
     EXPECT_EQ(password->contextMenuPolicy(), Qt::NoContextMenu);
-    EXPECT_EQ(password->text(), "Pw1");
+    type("Pw1");
     press(Qt::Key_Enter);
   }));
   EXPECT_THAT(screen.messages, ElementsAre("储值卡号错误,请重输", "储值卡密码错误,请重输",
