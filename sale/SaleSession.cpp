@@ -19,13 +19,18 @@ Outage::Report reportTo(SaleScreen& screen) {
   return [&screen](const QString& text) { screen.ShowMessage(text); };
 }
 
+// The display's reason is the system's own, and comes in the system's box.
+Outage::Report boxOf(SaleScreen& screen) {
+  return [&screen](const QString& text) { screen.messageBox(text); };
+}
+
 }  // namespace
 
 SaleSession::SaleSession(posMod& pos, SaleScreen& screen, Openers openers)
     : pos_(pos),
       screen_(screen),
       openers_(std::move(openers)),
-      display_(pos.ports, pos.gPosSet, state, reportTo(screen)),
+      display_(pos.ports, pos.gPosSet, state, boxOf(screen)),
       drawer_(pos.ports, pos.gPosSet, state, display_, reportTo(screen)),
       receipt_(pos, state, drawer_, reportTo(screen)),
       checkout_(pos, state, screen, display_, receipt_),
