@@ -62,7 +62,6 @@ void SaleSession::loadSettings() {
   state.hasDrawer = !settings.MBPort.empty();
   state.hasDisplay = !settings.CVProt.empty();
   if (state.hasDisplay) display_.OpenDisplayPort();
-  state.stockRule = pos_.gSysParam.StockRule();
 }
 
 void SaleSession::voidOpenBills() {

@@ -156,7 +156,7 @@ void frmSell::begin() {
   // At its full size before the first message of the opening is placed over it, with no input line
   // yet.
   t_->resize(0, 0);
-  setGeometry(screen()->geometry());
+  setGeometry(this->screen()->geometry());
   showFullScreen();
   activateWindow();
   t_->setFocus();
