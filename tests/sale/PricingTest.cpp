@@ -22,10 +22,17 @@ std::string shown(const Price& price) {
   return figure + " " + generalNumber(price.discount) + " " + price.name;
 }
 
-ClsMember memberAt95() {
+template <class PriceOf>
+void expectPrices(const std::vector<std::string>& columns, const std::vector<Case>& cases,
+                  PriceOf priceOf) {
   ClsMember member;
   member.setDiscount(0.95);
-  return member;
+  for (const Case& each : cases) {
+    std::vector<Value> values{"水"};
+    values.insert(values.end(), each.prices.begin(), each.prices.end());
+    const Recordset::Record row(columns, values);
+    EXPECT_EQ(shown(priceOf(row, each.member ? &member : nullptr)), each.expected) << each.what;
+  }
 }
 
 }  // namespace
@@ -48,33 +55,22 @@ TEST(Pricing, barcodeRowsTakeMemberPriceThenPromotionThenRetail) {
       {"empty price", {kNull, kNull, 1.0, kNull, kNull, kNull}, true, "? 0.98 水"},
       {"negative price", {-1.0, kNull, 1.0, kNull, kNull, kNull}, false, "? 0.98 水"},
   };
-  const std::vector<std::string> columns = {"spmc", "xsdj", "pfj", "zk", "cxj", "kssj", "jssj"};
-  const ClsMember member = memberAt95();
-  for (const Case& each : cases) {
-    std::vector<Value> values{"水"};
-    values.insert(values.end(), each.prices.begin(), each.prices.end());
-    const Recordset::Record row(columns, values);
-    const Price price = priceOfBarcodeRow(row, each.member ? &member : nullptr, kToday, 0.98);
-    EXPECT_EQ(shown(price), each.expected) << each.what;
-  }
+  expectPrices({"spmc", "xsdj", "pfj", "zk", "cxj", "kssj", "jssj"}, cases,
+               [](const Row& row, const ClsMember* member) {
+                 return priceOfBarcodeRow(row, member, kToday, 0.98);
+               });
 }
 
 TEST(Pricing, masterRowsAskBeforeTheyLookAtTheMemberPrice) {
   const std::vector<Case> cases = {
-      {"retail", {1.5, kNull, 1.0}, false, "1.50 0.98 笔"},
-      {"own discount", {1.5, 1.2, 0.8}, false, "1.50 0.8 笔"},
-      {"member price", {1.5, 1.2, 0.8}, true, "1.20 0.95 笔"},
-      {"member price 0", {1.5, 0.0, 0.8}, true, "1.50 0.8 笔"},
-      {"no retail price", {kNull, 1.2, 0.8}, true, "? 1 笔"},
-      {"retail price 0", {0.0, 1.2, 0.8}, false, "? 1 笔"},
+      {"retail", {1.5, kNull, 1.0}, false, "1.50 0.98 水"},
+      {"own discount", {1.5, 1.2, 0.8}, false, "1.50 0.8 水"},
+      {"member price", {1.5, 1.2, 0.8}, true, "1.20 0.95 水"},
+      {"member price 0", {1.5, 0.0, 0.8}, true, "1.50 0.8 水"},
+      {"no retail price", {kNull, 1.2, 0.8}, true, "? 1 水"},
+      {"retail price 0", {0.0, 1.2, 0.8}, false, "? 1 水"},
   };
-  const ClsMember member = memberAt95();
-  for (const Case& each : cases) {
-    std::vector<Value> values{"笔"};
-    values.insert(values.end(), each.prices.begin(), each.prices.end());
-    const std::vector<std::string> columns = {"f_spmc", "f_xsdj", "f_pfj", "f_zk"};
-    const Recordset::Record row(columns, values);
-    EXPECT_EQ(shown(priceOfMasterRow(row, each.member ? &member : nullptr, 0.98)), each.expected)
-        << each.what;
-  }
+  expectPrices(
+      {"f_spmc", "f_xsdj", "f_pfj", "f_zk"}, cases,
+      [](const Row& row, const ClsMember* member) { return priceOfMasterRow(row, member, 0.98); });
 }

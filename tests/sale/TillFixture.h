@@ -88,6 +88,12 @@ class TillFixture : public SaleFixture {
     till.messages.clear();
     return text;
   }
+  /// From now on every statement of that kind ("update on sell") fails.
+  void breakStore(const std::string& kind) {
+    pos.gConn->run(
+        ("create temp trigger broken before " + kind + " begin select raise(abort, 'broken'); end")
+            .c_str());
+  }
   void setParameter(const char* name, const char* value) {
     ASSERT_EQ(pos.gSysParam.set(name, value), "");
   }
