@@ -1,0 +1,34 @@
+// Config.ini: a file that people edit by hand, in any editor.
+#include <string>
+
+#include "Target.h"
+#include "base/Failure.h"
+#include "base/Gbk.h"
+#include "platform/IniText.h"
+
+namespace {
+
+constexpr const char* kSection = "Ports";
+constexpr const char* kKey = "LPT1";
+
+}  // namespace
+
+// The first line of the input is a value to be set, the rest is the file.
+int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+  const std::string_view input = textOf(data, size);
+  const std::string_view value = input.substr(0, input.find('\n'));
+  const std::string_view bytes = input.substr(std::min(input.size(), value.size() + 1));
+
+  IniText text(bytes);
+  ensure(text.bytes() == bytes, "reading changes nothing");
+  const auto other = text.value("Database", "Path");
+  text.setValue(kSection, kKey, value);
+  const auto stored = text.value(kSection, kKey);
+  ensure(stored.has_value(), "what was set is there");
+  ensure(text.value("Database", "Path") == other, "setting one key leaves the others");
+  IniText again(text.bytes());
+  ensure(again.value(kSection, kKey) == stored, "the file holds what was set");
+  again.setValue(kSection, kKey, *stored);
+  ensure(again.bytes() == text.bytes(), "setting what is there changes nothing");
+  return 0;
+}
