@@ -1,9 +1,11 @@
 #pragma once
 
 #include <QCoreApplication>
+#include <memory>
 
 #include "checkout/Outage.h"
 
+class ClsSell;
 class CustomerDisplay;
 class LineReceipt;
 class posMod;
@@ -20,10 +22,11 @@ class Checkout {
 
   /// Takes payment for the open bill, stores it and credits the member in one transaction, prints,
   /// opens the next bill. A bill that cannot be stored is dropped and its stock put back; nothing
-  /// is printed for it then, and a stored-value charge stays.
+  /// is printed for it then, and a stored-value charge stays, which is told with the card's number.
   void SettleBill();
-  /// Empties the screen and opens the next bill. Ends the program when the clock is behind the
-  /// previous bill.
+  /// Empties the screen and opens the next bill. While the data file takes no bill it asks whether
+  /// to try again; after a No the program ends, and there is no curBill. Ends the program when the
+  /// clock is behind the previous bill.
   void PrepareNextBill();
   /// Prints the receipt of lastBill on the page printer. A printer that fails is reported once.
   void printOurP();
@@ -33,9 +36,9 @@ class Checkout {
  private:
   void commitLine();
   bool takePayment();
-  bool storeSale();
-  void creditMember();
-  void dropBill();
+  void dropUnstored();
+  void withdrawDropped();
+  bool openNextBill();
   void printPageReceipts();
   bool showLastBill();
 
@@ -45,4 +48,8 @@ class Checkout {
   CustomerDisplay& display_;
   LineReceipt& receipt_;
   Outage pagePrinter_;
+  /// Paid, but could not be stored; still in the data file until it can be voided there. Nothing is
+  /// stored before that, so that the bill is not both completed at the next opening and entered
+  /// again.
+  std::shared_ptr<ClsSell> dropped_;
 };

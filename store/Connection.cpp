@@ -12,6 +12,7 @@
 #include "store/DataFilePath.h"
 #include "store/Dialect.h"
 #include "store/Engine.h"
+#include "store/FragmentPieces.h"
 #include "store/Statement.h"
 #include "store/StatementCache.h"
 #include "store/StoreError.h"
@@ -56,8 +57,10 @@ void unlock(sqlite3* engine, const DataSource& source) {
 }
 
 // What the cashier was shown as done survives a power cut: every commit is synced. The page cache
-// (in KiB) holds the indexes of a large shop. The log is copied into the data file by the engine
-// when it has grown to a thousand pages, or earlier by checkpoint().
+// (in KiB) holds the upper levels of a large shop's indexes: among a million goods a random barcode
+// costs 15 µs with 8 MiB, as with 32, and 12 µs with 64, which is not worth half of the memory that
+// the whole till may take. The log is copied into the data file by the engine when it has grown to
+// a thousand pages, or earlier by checkpoint().
 void configure(sqlite3* engine) {
   execute(engine,
           "pragma synchronous = full; pragma cache_size = -8192;"
@@ -102,6 +105,7 @@ void Connection::openEngine() {
   check(opened, code);
   sqlite3_extended_result_codes(opened, 1);
   sqlite3_busy_timeout(opened, kBusyMilliseconds);
+  addFragmentPieces(opened);
   unlock(opened, source_);
   requireWritable(opened);
   configure(opened);
@@ -160,6 +164,15 @@ void Connection::checkpoint() {
                                              nullptr, nullptr);
   if ((code & 0xff) == SQLITE_BUSY || (code & 0xff) == SQLITE_LOCKED) return;  // the next one will
   check(engine_.get(), code);
+}
+
+void Connection::stopWhen(std::function<bool()> asked) {
+  constexpr int kEngineSteps = 10000;
+  stopAsked_ = std::move(asked);
+  const auto ask = [](void* stopAsked) {
+    return (*static_cast<std::function<bool()>*>(stopAsked))() ? 1 : 0;
+  };
+  sqlite3_progress_handler(engine_.get(), kEngineSteps, ask, &stopAsked_);
 }
 
 // On a full or failing disk the engine may take the whole transaction back by itself. What follows

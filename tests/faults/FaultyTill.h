@@ -45,7 +45,7 @@ class FaultyTill : public WithDisk, public TillFixture {
     till.pay = [tender, asked](Settlement& payment) {
       asked();
       if (tender == Tender::kCash) return payment.confirmCash("20");
-      if (payment.payByCard("8001", "Pw1") == Settlement::CardResult::kPaid) payment.confirmCard();
+      if (payment.payByCard("8001", "Pw1") == Settlement::CardResult::kPaid) payment.sayCardPaid();
     };
     enter("");
   }
