@@ -1,0 +1,327 @@
+#include <sqlcipher/sqlite3.h>
+
+#include <iostream>
+#include <random>
+#include <set>
+
+#include "Disk.h"
+#include "LongRun.h"
+#include "TillFixture.h"
+#include "reports/SearchCriteria.h"
+#include "saleslib/ClsLogin.h"
+#include "store/StoreError.h"
+#include "tools/Importer.h"
+#include "tools/Refusal.h"
+
+namespace {
+
+/// Hears the text of every statement that the engine begins, on every connection opened while it
+/// lives. Bound values are no part of it.
+class StatementSpy {
+ public:
+  StatementSpy() {
+    heard_.clear();
+    sqlite3_auto_extension(reinterpret_cast<void (*)()>(&listen));
+  }
+  ~StatementSpy() { sqlite3_reset_auto_extension(); }
+
+  static std::set<std::string> take() { return std::exchange(heard_, {}); }
+
+ private:
+  static int listen(sqlite3* engine, char**, const void*) {
+    return sqlite3_trace_v2(engine, SQLITE_TRACE_STMT, &hear, nullptr);
+  }
+  static int hear(unsigned, void*, void* statement, void*) {
+    const char* text = sqlite3_sql(static_cast<sqlite3_stmt*>(statement));
+    if (text != nullptr) heard_.insert(text);
+    return 0;
+  }
+  static inline std::set<std::string> heard_;
+};
+
+/// Both must be there before the fixture opens its data file. The disk spares the waiting.
+struct WithSpy {
+  Disk disk;
+  StatementSpy spy;
+};
+
+const std::vector<std::string> kHarmless = {std::string(300, 'a'),
+                                            "%%",
+                                            "a%",
+                                            "",
+                                            "5",
+                                            "ab",
+                                            "abc",
+                                            "茶",
+                                            "矿泉水",
+                                            "QB-01",
+                                            "8001",
+                                            "abcdefgh",
+                                            "550ml",
+                                            "00",
+                                            "6901234567892",
+                                            "6900000000029",
+                                            "999999",
+                                            "中文中文中文",
+                                            "a b c",
+                                            "x y",
+                                            "1.5",
+                                            "-3",
+                                            "2026-11-22"};
+
+const std::string kNul("a\0b' or 1=1", 11);
+
+const std::vector<std::string> kHostile = {"'",
+                                           "''",
+                                           "'''",
+                                           "' or '1'='1",
+                                           "' or 1=1 --",
+                                           "8001' --",
+                                           "x'; drop table sell; --",
+                                           "x') or ('1'='1",
+                                           "\"",
+                                           "\"\"",
+                                           "\" or \"\"=\"",
+                                           "\\",
+                                           "\\'",
+                                           "\\' or 1=1 -- ",
+                                           "`",
+                                           "[",
+                                           "]",
+                                           "[bh]",
+                                           "%",
+                                           "_",
+                                           "%%",
+                                           "%' or '%'='",
+                                           "_____",
+                                           "*",
+                                           "?",
+                                           "??",
+                                           "?1",
+                                           ":bh",
+                                           "@bh",
+                                           "$bh",
+                                           "#",
+                                           "#2026-11-22#",
+                                           "#1#' or 1=1",
+                                           "--",
+                                           "-- x",
+                                           "/*",
+                                           "*/",
+                                           "/* x */",
+                                           ";",
+                                           "; select 1",
+                                           "null",
+                                           "NULL",
+                                           "or 1=1",
+                                           "1 or 1=1",
+                                           "0x27",
+                                           "char(39)",
+                                           "'||(select card from member)||'",
+                                           "'+''+'",
+                                           "＇",
+                                           "＇ or ＇1＇=＇1",
+                                           "‘",
+                                           "’ or ’1’=’1",
+                                           "ʼ",
+                                           "′",
+                                           "％",
+                                           "＿",
+                                           "；",
+                                           "－－",
+                                           "＂",
+                                           "＼",
+                                           "\xBF\x27 or 1=1 --",
+                                           "\xBF\x5C\x27",
+                                           "\xD5\x27",
+                                           "\x81\x5C",
+                                           "\xA1\x27\xA1\x5C",
+                                           "\xC0\xA7 or 1=1",
+                                           "\xE0\x80\xA7",
+                                           "\xF0\x80\x80\xA7",
+                                           "\xFF\xFE",
+                                           "\xE4\xB8",
+                                           "\r\n' or 1=1",
+                                           "a\tb",
+                                           "\x1A",
+                                           "\b'",
+                                           "😀'",
+                                           "NEAR",
+                                           "a NEAR b",
+                                           "a AND b",
+                                           "NOT a",
+                                           "a* OR b*",
+                                           "\"a",
+                                           "(a",
+                                           "a)",
+                                           "ggxh:a",
+                                           "-a",
+                                           "^a",
+                                           "{a}",
+                                           kNul,
+                                           std::string(1, '\0'),
+                                           std::string(3, '\''),
+                                           std::string(300, '\''),
+                                           std::string(2000, '%'),
+                                           "1e999",
+                                           "9223372036854775808",
+                                           "1;1",
+                                           "１' or 1"};
+
+}  // namespace
+
+class TypedTextTest : public WithSpy, public TillFixture {
+ protected:
+  TypedTextTest() {
+    till.choice = 0;
+    till.answers = QStringList(10000, "1");
+    spy.take();
+  }
+
+  /// A place where a typed text enters statements.
+  struct Place {
+    const char* name;
+    std::function<void(const std::string&)> type;
+  };
+
+  std::vector<Place> places() {
+    return {
+        {"input line", [this](const std::string& text) { ring(text); }},
+        {"settlement: card number", [this](const std::string& text) { pay(text, "Pw1"); }},
+        {"settlement: card password", [this](const std::string& text) { pay("8001", text); }},
+        {"sales query: code", [this](const std::string& text) { search(text, "", "饮料"); }},
+        {"sales query: bill number", [this](const std::string& text) { search("", text, ""); }},
+        {"sales query: category",
+         [this](const std::string& text) {
+           search("", "", text);
+           search("550ml", "", text);
+         }},
+        {"member's number or telephone",
+         [this](const std::string& text) { static_cast<void>(pos.gMemberSvc.GetMember(text)); }},
+        {"new member", [this](const std::string& text) { join(text); }},
+        {"login",
+         [this](const std::string& text) {
+           ClsLogin login;
+           login.Conn(*pos.gConn);
+           static_cast<void>(login.Check(text, "x"));
+           static_cast<void>(login.Check("01", text));
+         }},
+        {"shop parameter",
+         [this](const std::string& text) {
+           static_cast<void>(pos.gSysParam.set("ShopName", text));
+         }},
+        {"imported goods", [this](const std::string& text) { import(text); }}};
+  }
+
+  void ring(const std::string& text) {
+    enter(QString::fromStdString(text));
+    if (session.state.curLine) press(115);
+  }
+  // With goods on the bill, so that the card is asked for and charged.
+  void pay(const std::string& number, const std::string& password) {
+    till.pay = [&](Settlement& payment) {
+      const auto card = QString::fromStdString(number), word = QString::fromStdString(password);
+      if (payment.payByCard(card, word) == Settlement::CardResult::kPaid) payment.sayCardPaid();
+    };
+    ring("6901234567885");
+    enter("6901234567892");
+    enter("");
+    press(123);
+  }
+  void search(const std::string& code, const std::string& bill, const std::string& category) {
+    SearchCriteria wanted;
+    wanted.end = {{2027, 1, 1}, 0, 0, 0};
+    wanted.byCategory = !category.empty();
+    wanted.code = code;
+    wanted.billNo = bill;
+    wanted.category = category;
+    if (const auto statement = searchStatement(wanted)) pos.gConn->Open(*statement);
+  }
+  void join(const std::string& text) {
+    ClsMember member;
+    member.Init(*pos.gConn, 0, pos.clock);
+    member.setBh("n" + text);
+    member.setName("n" + text);
+    for (const auto& set : {&ClsMember::setSex, &ClsMember::setAddress, &ClsMember::setOther,
+                            &ClsMember::setPassword}) {
+      (member.*set)(text);
+    }
+    member.setPhone(text);
+    if (!member.Save()) return;
+    ++joined;
+    const Recordset row =
+        pos.gConn->Open("select other as v from member where id=" + std::to_string(member.Id()));
+    EXPECT_EQ(row.row(0).text("v"), text) << "stored as typed";
+  }
+  void import(const std::string& text) {
+    std::string quoted;
+    for (const char each : text) quoted += each == '"' ? "\"\"" : std::string(1, each);
+    std::istringstream csv("f_spbm,f_spmc,f_Ggxh\n9001,\"n" + quoted + "\",\"" + quoted + "\"\n");
+    try {
+      Importer importer(*pos.gConn, tableNamed("spda", now), {});
+      static_cast<void>(importer.run(csv));
+    } catch (const Refusal&) {
+      return;
+    }
+  }
+
+  /// The tables' rows, all of which only the till's own steps may change.
+  std::string counts() {
+    return stored(
+        "(select count(*) from sqlite_master) || ' ' || (select count(*) from tmda)"
+        " || ' ' || (select count(*) from sell where state = 1) || ' ' ||"
+        " (select card from member where bh = '8001') || ' ' ||"
+        " (select count(*) from operators) as v");
+  }
+
+  std::set<std::string> heardFrom(const Place& place, const std::string& text) {
+    spy.take();
+    try {
+      place.type(text);
+    } catch (const Failure& refused) {
+      ADD_FAILURE() << place.name << " with " << testing::PrintToString(text) << ": "
+                    << refused.what();
+    }
+    return spy.take();
+  }
+
+  /// Pieces of hostile texts put together anew.
+  std::string mixture(std::mt19937& random) {
+    std::string text;
+    for (auto pieces = random() % 4 + 1; pieces > 0; --pieces) {
+      text += kHostile[random() % kHostile.size()].substr(0, random() % 12);
+    }
+    return text;
+  }
+
+  int joined = 0;
+};
+
+TEST_F(TypedTextTest, aTypedTextStaysAValueEverywhere) {
+  open();
+  std::vector<std::string> texts = kHostile;
+  std::mt19937 random(20261122);
+  const int mixtures = longRun ? 20000 : 100;
+  for (int i = 0; i < mixtures; ++i) texts.push_back(mixture(random));
+
+  std::int64_t typed = 0;
+  for (const Place& place : places()) {
+    SCOPED_TRACE(place.name);
+    std::set<std::string> known;
+    for (const std::string& text : kHarmless) known.merge(heardFrom(place, text));
+    const std::string before = counts();
+    spy.take();
+    for (const std::string& text : texts) {
+      for (const std::string& statement : heardFrom(place, text)) {
+        ASSERT_TRUE(known.contains(statement))
+            << testing::PrintToString(text) << " made another statement:\n"
+            << statement;
+      }
+      ++typed;
+    }
+    ASSERT_EQ(counts(), before) << "a text changed the books";
+    till.messages.clear();
+  }
+  std::cout << "typed texts: " << typed << " at " << places().size()
+            << " places, statements changed: 0; members with such names: " << joined << "\n";
+}
