@@ -1,4 +1,5 @@
 #include <iostream>
+#include <memory>
 
 #include "FaultyTill.h"
 #include "base/NumberText.h"
@@ -80,12 +81,14 @@ class DiskFaultTest : public FaultyTill, public testing::WithParamInterface<Faul
     };
     EXPECT_EQ(counted.stock[0], sold("1001"));
     EXPECT_EQ(counted.stock[1], sold("2001"));
-    EXPECT_EQ(counted.totalSpent,
-              value(books, "(select coalesce(sum(amount), 0) from sell where member_id = 1)"));
+    EXPECT_EQ(
+        counted.totalSpent,
+        value(books, "(select round(coalesce(sum(amount), 0), 4) from sell where member_id = 1)"));
     EXPECT_EQ(
         counted.card,
         generalNumber(
-            Currency::parse(value(books, "(select 900000 - coalesce(sum(card_pay), 0) from sell)"))
+            Currency::parse(
+                value(books, "(select round(900000 - coalesce(sum(card_pay), 0), 4) from sell)"))
                 .value() -
             chargedInVain));
     Books check(books, [](const std::string& fault) { ADD_FAILURE() << fault; });
@@ -103,6 +106,8 @@ class DiskFaultTest : public FaultyTill, public testing::WithParamInterface<Faul
 
   /// The same bill with a fault at the n-th call; false when the bill needed fewer calls.
   bool sellWithFault(Tender tender, bool member, std::int64_t call) {
+    till.answersYes = call % 2 == 0;
+    chargedBefore = chargedInVain;
     disk.breakAt(GetParam().kind, call, GetParam().lasting);
     EXPECT_NO_THROW(sellOne(tender, member)) << "the program goes on";
     idle();
@@ -112,8 +117,26 @@ class DiskFaultTest : public FaultyTill, public testing::WithParamInterface<Faul
       EXPECT_FALSE(text.empty());
       EXPECT_EQ(text.find("数据语句有误"), std::string::npos) << text;
     }
+    if (till.ended) startAgain();
     till.messages.clear();
     return true;
+  }
+
+  /// The next bill did not open, and the cashier gave up instead of trying again: the program
+  /// ended. A bill that was to be entered again has not been, so that its completion is told and
+  /// counts.
+  void startAgain() {
+    till.ended = false;
+    till.messages.clear();
+    std::destroy_at(&session);
+    std::construct_at(&session, pos, till, SaleSession::Openers());
+    open();
+    if (till.messages.empty()) return;
+    ASSERT_NE(till.messages.front().find("现在已补存"), std::string::npos) << till.messages.front();
+    settledBills.push_back(session.state.curBill->BillNo() - 1);
+    --reentered;
+    ++completed;
+    chargedInVain = chargedBefore;
   }
 
   /// The cause is gone: the cashier cancels what is left, and the next bill is as any other.
@@ -133,7 +156,8 @@ class DiskFaultTest : public FaultyTill, public testing::WithParamInterface<Faul
   }
 
   static constexpr Currency kDue = Currency::fromScaled(70000);  ///< of the bill that is rung
-  int reentered = 0;
+  int reentered = 0, completed = 0;
+  Currency chargedBefore;
   Currency chargedInVain;  ///< of bills that could not be stored; the cashier was told
   std::vector<std::int32_t> settledBills;
 };
@@ -157,7 +181,8 @@ TEST_P(DiskFaultTest, aFaultAtAnyCallLosesNothing) {
     }
   }
   std::cout << "faults (" << GetParam().name << "): " << faults
-            << ", bills to be entered again: " << reentered << ", lost: 0\n";
+            << ", bills to be entered again: " << reentered
+            << ", completed at the next start: " << completed << ", lost: 0\n";
 }
 
 INSTANTIATE_TEST_SUITE_P(Every, DiskFaultTest, testing::ValuesIn(kFaults));

@@ -182,6 +182,7 @@ class TypedTextTest : public WithSpy, public TillFixture {
   struct Place {
     const char* name;
     std::function<void(const std::string&)> type;
+    bool isSlow = false;  ///< on purpose: the hash of a password
   };
 
   std::vector<Place> places() {
@@ -199,13 +200,7 @@ class TypedTextTest : public WithSpy, public TillFixture {
         {"member's number or telephone",
          [this](const std::string& text) { static_cast<void>(pos.gMemberSvc.GetMember(text)); }},
         {"new member", [this](const std::string& text) { join(text); }},
-        {"login",
-         [this](const std::string& text) {
-           ClsLogin login;
-           login.Conn(*pos.gConn);
-           static_cast<void>(login.Check(text, "x"));
-           static_cast<void>(login.Check("01", text));
-         }},
+        {"login", [this](const std::string& text) { logIn(text); }, true},
         {"shop parameter",
          [this](const std::string& text) {
            static_cast<void>(pos.gSysParam.set("ShopName", text));
@@ -213,6 +208,12 @@ class TypedTextTest : public WithSpy, public TillFixture {
         {"imported goods", [this](const std::string& text) { import(text); }}};
   }
 
+  void logIn(const std::string& text) {
+    ClsLogin login;
+    login.Conn(*pos.gConn);
+    EXPECT_FALSE(login.Check(text, text));
+    EXPECT_FALSE(login.Check("01", text));
+  }
   void ring(const std::string& text) {
     enter(QString::fromStdString(text));
     if (session.state.curLine) press(115);
@@ -311,7 +312,8 @@ TEST_F(TypedTextTest, aTypedTextStaysAValueEverywhere) {
     for (const std::string& text : kHarmless) known.merge(heardFrom(place, text));
     const std::string before = counts();
     spy.take();
-    for (const std::string& text : texts) {
+    for (std::size_t i = 0; i < texts.size(); i += place.isSlow && !longRun ? 10 : 1) {
+      const std::string& text = texts[i];
       for (const std::string& statement : heardFrom(place, text)) {
         ASSERT_TRUE(known.contains(statement))
             << testing::PrintToString(text) << " made another statement:\n"
