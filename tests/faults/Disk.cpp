@@ -90,11 +90,8 @@ struct DiskCalls {
     sqlite3_vfs* below = disk(vfs).layer_->real;
     return below->xDelete(below, name, syncFolder);
   }
-  // Nobody waits here: what the engine would have slept is added up.
-  static int sleep(sqlite3_vfs* vfs, int microseconds) {
-    disk(vfs).slept_ += microseconds / 1e6;
-    return microseconds;
-  }
+  // Nobody waits here for a lock: the engine believes that it has slept.
+  static int sleep(sqlite3_vfs*, int microseconds) { return microseconds; }
 };
 
 namespace {
@@ -149,13 +146,13 @@ Disk::~Disk() {
   sqlite3_vfs_register(layer_->real, 1);
 }
 
-void Disk::breakAt(Fault fault, std::int64_t call, bool lasting) {
+void Disk::breakAt(Fault fault, std::int64_t call, std::int64_t failing) {
   armed_ = true;
+  failed_ = false;
   fault_ = fault;
-  lasting_ = lasting;
-  call_ = call;
-  calls_ = failures_ = 0;
-  slept_ = 0;
+  first_ = call;
+  last_ = call + failing - 1;
+  calls_ = 0;
 }
 
 void Disk::mend() {
@@ -165,8 +162,8 @@ void Disk::mend() {
 bool Disk::fails(Fault fault) {
   if (!armed_ || fault != fault_) return false;
   ++calls_;
-  if (calls_ < call_ || (calls_ > call_ && !lasting_)) return false;
-  ++failures_;
+  if (calls_ < first_ || calls_ > last_) return false;
+  failed_ = true;
   return true;
 }
 

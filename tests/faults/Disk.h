@@ -40,14 +40,13 @@ class Disk {
   /// What the world outside has seen, as a figure that grows; asked before every event.
   std::function<std::int64_t()> outside = [] { return 0; };
 
-  /// The n-th call of that kind from now on fails (the first is 1), and all after it if `lasting`.
-  void breakAt(Fault fault, std::int64_t call, bool lasting);
+  static constexpr std::int64_t kUntilMended = 1'000'000'000;
+  /// The n-th call of that kind from now on (the first is 1) and those after it fail, as many as
+  /// said.
+  void breakAt(Fault fault, std::int64_t call, std::int64_t failing);
   void mend();
   /// Whether the call that was to fail came.
-  bool failed() const { return failures_ > 0; }
-  std::int64_t failures() const { return failures_; }
-  /// How long the engine would have slept, in seconds, waiting for a lock.
-  double slept() const { return slept_; }
+  bool failed() const { return failed_; }
 
  private:
   friend struct DiskCalls;
@@ -57,8 +56,7 @@ class Disk {
   struct Layer;
   std::unique_ptr<Layer> layer_;
   bool recording_ = false;
-  bool armed_ = false, lasting_ = false;
+  bool armed_ = false, failed_ = false;
   Fault fault_ = Fault::kFull;
-  std::int64_t call_ = 0, calls_ = 0, failures_ = 0;
-  double slept_ = 0;
+  std::int64_t first_ = 0, last_ = 0, calls_ = 0;
 };

@@ -2,6 +2,7 @@
 #include <memory>
 
 #include "FaultyTill.h"
+#include "LongRun.h"
 #include "base/NumberText.h"
 #include "store/StoreError.h"
 #include "tools/Books.h"
@@ -11,19 +12,12 @@ namespace {
 struct Fault {
   const char* name;
   Disk::Fault kind;
-  bool lasting;
-  const char* text;  ///< part of what the cashier is told
 };
 
-constexpr Fault kFaults[] = {
-    {"full", Disk::Fault::kFull, true, "磁盘已满"},
-    {"full once", Disk::Fault::kFull, false, "磁盘已满"},
-    {"broken", Disk::Fault::kBroken, true, "读写数据文件时出错"},
-    {"broken once", Disk::Fault::kBroken, false, "读写数据文件时出错"},
-    {"read-only", Disk::Fault::kReadOnly, true, "不能写入"},
-    {"read-only once", Disk::Fault::kReadOnly, false, "不能写入"},
-    {"locked", Disk::Fault::kLocked, true, "占用"},
-};
+constexpr Fault kFaults[] = {{"full", Disk::Fault::kFull},
+                             {"broken", Disk::Fault::kBroken},
+                             {"read-only", Disk::Fault::kReadOnly},
+                             {"locked", Disk::Fault::kLocked}};
 
 }  // namespace
 
@@ -105,10 +99,10 @@ class DiskFaultTest : public FaultyTill, public testing::WithParamInterface<Faul
   }
 
   /// The same bill with a fault at the n-th call; false when the bill needed fewer calls.
-  bool sellWithFault(Tender tender, bool member, std::int64_t call) {
+  bool sellWithFault(Tender tender, bool member, std::int64_t call, std::int64_t failing) {
     till.answersYes = call % 2 == 0;
     chargedBefore = chargedInVain;
-    disk.breakAt(GetParam().kind, call, GetParam().lasting);
+    disk.breakAt(GetParam().kind, call, failing);
     EXPECT_NO_THROW(sellOne(tender, member)) << "the program goes on";
     idle();
     disk.mend();
@@ -155,6 +149,18 @@ class DiskFaultTest : public FaultyTill, public testing::WithParamInterface<Faul
     compare(*pos.gConn);
   }
 
+  /// The same bill again and again, the fault one call later each time; how many faults there were.
+  std::int64_t faultAtEveryCall(Tender tender, bool member, std::int64_t failing) {
+    for (std::int64_t call = 1;; ++call) {
+      SCOPED_TRACE("call " + std::to_string(call) + ", failing " + std::to_string(failing) +
+                   (tender == Tender::kCard ? ", card" : ", cash") + (member ? ", member" : ""));
+      const bool hit = sellWithFault(tender, member, call, failing);
+      goOn(tender, member);
+      reopenAndCompare();
+      if (!hit || HasFailure()) return call - 1;
+    }
+  }
+
   static constexpr Currency kDue = Currency::fromScaled(70000);  ///< of the bill that is rung
   int reentered = 0, completed = 0;
   Currency chargedBefore;
@@ -164,20 +170,16 @@ class DiskFaultTest : public FaultyTill, public testing::WithParamInterface<Faul
 
 TEST_P(DiskFaultTest, aFaultAtAnyCallLosesNothing) {
   open();
+  // A fault that passes after a few calls meets the engine in the midst of repairing what it broke.
+  std::vector<std::int64_t> durations = {1, Disk::kUntilMended};
+  if (longRun) durations.insert(durations.end(), {2, 3, 4, 5, 6, 8, 10, 15, 20, 30});
   std::int64_t faults = 0;
-  for (const auto& [tender, member] : {std::pair(Tender::kCash, false),
-                                       {Tender::kCard, false},
-                                       {Tender::kCash, true},
-                                       {Tender::kCard, true}}) {
-    for (std::int64_t call = 1;; ++call) {
-      SCOPED_TRACE(std::string(GetParam().name) + ", call " + std::to_string(call) +
-                   (tender == Tender::kCard ? ", card" : ", cash") + (member ? ", member" : ""));
-      const bool hit = sellWithFault(tender, member, call);
-      goOn(tender, member);
-      reopenAndCompare();
-      if (HasFailure()) return;
-      if (!hit) break;
-      ++faults;
+  for (const std::int64_t failing : durations) {
+    for (const Tender tender : {Tender::kCash, Tender::kCard}) {
+      for (const bool member : {false, true}) {
+        faults += faultAtEveryCall(tender, member, failing);
+        if (HasFailure()) return;
+      }
     }
   }
   std::cout << "faults (" << GetParam().name << "): " << faults
@@ -185,4 +187,8 @@ TEST_P(DiskFaultTest, aFaultAtAnyCallLosesNothing) {
             << ", completed at the next start: " << completed << ", lost: 0\n";
 }
 
-INSTANTIATE_TEST_SUITE_P(Every, DiskFaultTest, testing::ValuesIn(kFaults));
+INSTANTIATE_TEST_SUITE_P(Disk, DiskFaultTest, testing::ValuesIn(kFaults), [](const auto& fault) {
+  std::string name = fault.param.name;
+  std::erase(name, '-');
+  return name;
+});
