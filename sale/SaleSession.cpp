@@ -5,6 +5,7 @@
 #include "app/posMod.h"
 #include "base/Failure.h"
 #include "checkout/BillStock.h"
+#include "checkout/PaidBill.h"
 #include "checkout/SaleScreen.h"
 #include "platform/VirtualKey.h"
 #include "saleslib/ClsDayStat.h"
@@ -40,6 +41,7 @@ SaleSession::SaleSession(posMod& pos, SaleScreen& screen, Openers openers)
 bool SaleSession::open() {
   ensure(pos_.gOperator != nullptr, "somebody is logged in before the sale screen opens");
   loadSettings();
+  completePaidBills(pos_, screen_);
   voidOpenBills();
   if (clockIsBehind()) {
     screen_.messageBox(tr("电脑系统时间错误！"), tr("致命错误"));
@@ -47,7 +49,7 @@ bool SaleSession::open() {
     return false;
   }
   checkout_.PrepareNextBill();
-  return true;
+  return state.curBill != nullptr;
 }
 
 void SaleSession::loadSettings() {
