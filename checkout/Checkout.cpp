@@ -134,17 +134,49 @@ void Checkout::printOurP() {
 }
 
 void Checkout::PrepareNextBill() {
+  state_.curBill = nullptr;
+  auto next = openNextBill();
+  if (next) {
+    ShowNextBill(std::move(next));
+  } else {
+    screen_.endProgram();
+  }
+}
+
+// A bill that was to be withdrawn when the program ends here has not been entered again, because
+// nothing could be stored since: completing it at the next opening is right.
+std::shared_ptr<ClsSell> Checkout::openNextBill() {
+  while (true) {
+    try {
+      withdrawDropped();
+      return openBill();
+    } catch (const StoreError& failure) {
+      emptyList();
+      const QString question = tr("不能开始下一单：%1\n排除原因后再试一次吗？选“否”将退出程序。");
+      if (!screen_.askYesNo(question.arg(QString::fromUtf8(failure.what())), {}, true)) return {};
+    }
+  }
+}
+
+std::shared_ptr<ClsSell> Checkout::openBill() {
+  auto bill = std::make_shared<ClsSell>();
+  const bool opened = bill->Open(*pos_.gConn, 0, pos_.gOperator->Id(), pos_.clock);
+  ensure(opened, "a new bill always opens");
+  return bill;
+}
+
+void Checkout::emptyList() {
   state_.clearRows();
   state_.AddEntryRow();
   screen_.rowsChanged();
   screen_.PlaceEditor();
-  if (!openNextBill()) {
-    screen_.endProgram();
-    return;
-  }
+}
+
+void Checkout::ShowNextBill(std::shared_ptr<ClsSell> next) {
+  state_.curBill = std::move(next);
+  emptyList();
   state_.onEntryRow = true;
-  screen_.setTitle1(shown("流水号：" + std::to_string(state_.curBill->BillNo()) + "   收银员：" +
-                          pos_.gOperator->Name()));
+  ShowBillNo();
   if (state_.lastBill && !showLastBill()) return;
   state_.curLine = nullptr;
   state_.curMember = nullptr;
@@ -152,23 +184,9 @@ void Checkout::PrepareNextBill() {
   state_.clearOnKey = false;
 }
 
-// A bill that was to be withdrawn when the program ends here has not been entered again, because
-// nothing could be stored since: completing it at the next opening is right.
-bool Checkout::openNextBill() {
-  state_.curBill = nullptr;
-  while (!state_.curBill) {
-    try {
-      withdrawDropped();
-      const auto bill = std::make_shared<ClsSell>();
-      const bool opened = bill->Open(*pos_.gConn, 0, pos_.gOperator->Id(), pos_.clock);
-      ensure(opened, "a new bill always opens");
-      state_.curBill = bill;
-    } catch (const StoreError& failure) {
-      const QString question = tr("不能开始下一单：%1\n排除原因后再试一次吗？选“否”将退出程序。");
-      if (!screen_.askYesNo(question.arg(QString::fromUtf8(failure.what())), {}, true)) break;
-    }
-  }
-  return state_.curBill != nullptr;
+void Checkout::ShowBillNo() {
+  screen_.setTitle1(shown("流水号：" + std::to_string(state_.curBill->BillNo()) + "   收银员：" +
+                          pos_.gOperator->Name()));
 }
 
 bool Checkout::showLastBill() {

@@ -28,6 +28,12 @@ class Checkout {
   /// to try again; after a No the program ends, and there is no curBill. Ends the program when the
   /// clock is behind the previous bill.
   void PrepareNextBill();
+  /// The same in two steps, for a caller that opens the next bill in a transaction of its own: a
+  /// new bill of the operator, stored at once; and the screen with it.
+  [[nodiscard]] std::shared_ptr<ClsSell> openBill();
+  void ShowNextBill(std::shared_ptr<ClsSell> next);
+  /// Writes number and cashier of the open bill into the second line.
+  void ShowBillNo();
   /// Prints the receipt of lastBill on the page printer. A printer that fails is reported once.
   void printOurP();
   /// Shows the member attached to the bill, or nobody.
@@ -38,7 +44,8 @@ class Checkout {
   bool takePayment();
   void dropUnstored();
   void withdrawDropped();
-  bool openNextBill();
+  std::shared_ptr<ClsSell> openNextBill();
+  void emptyList();
   void printPageReceipts();
   bool showLastBill();
 

@@ -17,6 +17,7 @@ int main(int argc, char** argv) {
     const DaySummary summary(day.dataFile());
     day.morning();
     day.afternoon();
+    day.evening();
     day.writeTranscripts();
     if (!summary.write(out / "summary.txt", day.settledBills())) {
       std::fprintf(stderr, "the books of the demo day do not agree: see %s\n",
