@@ -3,11 +3,14 @@
 #include <iostream>
 #include <random>
 #include <set>
+#include <sstream>
 
 #include "Disk.h"
 #include "LongRun.h"
 #include "TillFixture.h"
+#include "members/TopUp.h"
 #include "reports/SearchCriteria.h"
+#include "saleslib/CardNumber.h"
 #include "saleslib/ClsLogin.h"
 #include "store/StoreError.h"
 #include "tools/Importer.h"
@@ -45,128 +48,131 @@ struct WithSpy {
   StatementSpy spy;
 };
 
-const std::vector<std::string> kHarmless = {std::string(300, 'a'),
-                                            "%%",
-                                            "a%",
-                                            "",
-                                            "5",
-                                            "ab",
-                                            "abc",
-                                            "茶",
-                                            "矿泉水",
-                                            "QB-01",
-                                            "8001",
-                                            "abcdefgh",
-                                            "550ml",
-                                            "00",
-                                            "6901234567892",
-                                            "6900000000029",
-                                            "999999",
-                                            "中文中文中文",
-                                            "a b c",
-                                            "x y",
-                                            "1.5",
-                                            "-3",
-                                            "2026-11-22"};
+/// A text on each line, blanks counted.
+std::vector<std::string> lines(const std::string& all) {
+  std::vector<std::string> each;
+  std::istringstream in(all);
+  for (std::string line; std::getline(in, line);) each.push_back(line);
+  return each;
+}
 
-const std::string kNul("a\0b' or 1=1", 11);
+// Every kind of text that the places tell apart: barcodes and short codes, known and unknown, short
+// and long, numbers and dates, wildcards, nothing.
+std::vector<std::string> harmlessTexts() {
+  std::vector<std::string> texts = lines(R"(
+5
+-3
+1.5
+00
+ab
+a b c
+茶
+矿泉水
+QB-01
+8001
+550ml
+abcdefgh
+中文中文中文
+6901234567892
+6900000000029
+2026-11-22
+%%
+a%)");
+  texts.push_back(std::string(300, 'a'));
+  return texts;
+}
 
-const std::vector<std::string> kHostile = {"'",
-                                           "''",
-                                           "'''",
-                                           "' or '1'='1",
-                                           "' or 1=1 --",
-                                           "8001' --",
-                                           "x'; drop table sell; --",
-                                           "x') or ('1'='1",
-                                           "\"",
-                                           "\"\"",
-                                           "\" or \"\"=\"",
-                                           "\\",
-                                           "\\'",
-                                           "\\' or 1=1 -- ",
-                                           "`",
-                                           "[",
-                                           "]",
-                                           "[bh]",
-                                           "%",
-                                           "_",
-                                           "%%",
-                                           "%' or '%'='",
-                                           "_____",
-                                           "*",
-                                           "?",
-                                           "??",
-                                           "?1",
-                                           ":bh",
-                                           "@bh",
-                                           "$bh",
-                                           "#",
-                                           "#2026-11-22#",
-                                           "#1#' or 1=1",
-                                           "--",
-                                           "-- x",
-                                           "/*",
-                                           "*/",
-                                           "/* x */",
-                                           ";",
-                                           "; select 1",
-                                           "null",
-                                           "NULL",
-                                           "or 1=1",
-                                           "1 or 1=1",
-                                           "0x27",
-                                           "char(39)",
-                                           "'||(select card from member)||'",
-                                           "'+''+'",
-                                           "＇",
-                                           "＇ or ＇1＇=＇1",
-                                           "‘",
-                                           "’ or ’1’=’1",
-                                           "ʼ",
-                                           "′",
-                                           "％",
-                                           "＿",
-                                           "；",
-                                           "－－",
-                                           "＂",
-                                           "＼",
-                                           "\xBF\x27 or 1=1 --",
-                                           "\xBF\x5C\x27",
-                                           "\xD5\x27",
-                                           "\x81\x5C",
-                                           "\xA1\x27\xA1\x5C",
-                                           "\xC0\xA7 or 1=1",
-                                           "\xE0\x80\xA7",
-                                           "\xF0\x80\x80\xA7",
-                                           "\xFF\xFE",
-                                           "\xE4\xB8",
-                                           "\r\n' or 1=1",
-                                           "a\tb",
-                                           "\x1A",
-                                           "\b'",
-                                           "😀'",
-                                           "NEAR",
-                                           "a NEAR b",
-                                           "a AND b",
-                                           "NOT a",
-                                           "a* OR b*",
-                                           "\"a",
-                                           "(a",
-                                           "a)",
-                                           "ggxh:a",
-                                           "-a",
-                                           "^a",
-                                           "{a}",
-                                           kNul,
-                                           std::string(1, '\0'),
-                                           std::string(3, '\''),
-                                           std::string(300, '\''),
-                                           std::string(2000, '%'),
-                                           "1e999",
-                                           "9223372036854775808",
-                                           "1;1",
-                                           "１' or 1"};
+// Quotes, wildcards, comment marks, statement ends, names and parameters of statements, operators
+// of the text search, look-alikes of all these; then bytes: NUL, control characters, broken UTF-8,
+// GBK characters with a quote or a backslash as their second byte, and lengths.
+std::vector<std::string> hostileTexts() {
+  std::vector<std::string> texts = lines(R"sql('
+''
+'''
+' or '1'='1
+' or 1=1 --
+8001' --
+x'; drop table sell; --
+x') or ('1'='1
+'||(select card from member)||'
+'+''+'
+"
+""
+" or ""="
+\
+\'
+\' or 1=1 --
+`
+[
+]
+[bh]
+%
+_
+%' or '%'='
+_____
+*
+?
+??
+?1
+:bh
+@bh
+$bh
+#
+#2026-11-22#
+#1#' or 1=1
+--
+-- x
+/*
+*/
+/* x */
+;
+; select 1
+1;1
+null
+or 1=1
+1 or 1=1
+0x27
+char(39)
+1e999
+9223372036854775808
+NEAR
+a NEAR b
+a AND b
+NOT a
+a* OR b*
+"a
+(a
+a)
+ggxh:a
+-a
+^a
+{a}
+＇
+＇ or ＇1＇=＇1
+‘
+’ or ’1’=’1
+ʼ
+′
+％
+＿
+；
+－－
+＂
+＼
+１' or 1
+😀')sql");
+  for (const char* bytes :
+       {"\xBF\x27 or 1=1 --", "\xBF\x5C\x27", "\xD5\x27", "\x81\x5C", "\xA1\x27\xA1\x5C",
+        "\xC0\xA7 or 1=1", "\xE0\x80\xA7", "\xF0\x80\x80\xA7", "\xFF\xFE", "\xE4\xB8",
+        "\r\n' or 1=1", "a\tb", "\x1A", "\b'"}) {
+    texts.emplace_back(bytes);
+  }
+  texts.emplace_back("a\0b' or 1=1", 11);
+  texts.emplace_back(1, '\0');
+  texts.emplace_back(300, '\'');
+  texts.emplace_back(2000, '%');
+  return texts;
+}
 
 }  // namespace
 
@@ -199,6 +205,8 @@ class TypedTextTest : public WithSpy, public TillFixture {
          }},
         {"member's number or telephone",
          [this](const std::string& text) { static_cast<void>(pos.gMemberSvc.GetMember(text)); }},
+        {"top-up: card number and remark",
+         [this](const std::string& text) { topUp(storedCardNumber(text), text); }},
         {"new member", [this](const std::string& text) { join(text); }},
         {"login", [this](const std::string& text) { logIn(text); }, true},
         {"shop parameter",
@@ -254,6 +262,16 @@ class TypedTextTest : public WithSpy, public TillFixture {
         pos.gConn->Open("select other as v from member where id=" + std::to_string(member.Id()));
     EXPECT_EQ(row.row(0).text("v"), text) << "stored as typed";
   }
+  void topUp(const std::string& number, const std::string& remark) {
+    static_cast<void>(findStoredCard(*pos.gConn, number));
+    try {
+      storeTopUp(*pos.gConn, {number, {}, {}, {}, remark});
+    } catch (const StoreError& error) {
+      EXPECT_NE(std::string(error.what()).find("已不在数据文件中"), std::string::npos)
+          << error.what();
+    }
+    EXPECT_EQ(stored("bz as v from cardStored order by id desc limit 1"), remark);
+  }
   void import(const std::string& text) {
     std::string quoted;
     for (const char each : text) quoted += each == '"' ? "\"\"" : std::string(1, each);
@@ -287,10 +305,10 @@ class TypedTextTest : public WithSpy, public TillFixture {
   }
 
   /// Pieces of hostile texts put together anew.
-  std::string mixture(std::mt19937& random) {
+  static std::string mixture(const std::vector<std::string>& hostile, std::mt19937& random) {
     std::string text;
     for (auto pieces = random() % 4 + 1; pieces > 0; --pieces) {
-      text += kHostile[random() % kHostile.size()].substr(0, random() % 12);
+      text += hostile[random() % hostile.size()].substr(0, random() % 12);
     }
     return text;
   }
@@ -300,16 +318,17 @@ class TypedTextTest : public WithSpy, public TillFixture {
 
 TEST_F(TypedTextTest, aTypedTextStaysAValueEverywhere) {
   open();
-  std::vector<std::string> texts = kHostile;
+  const std::vector<std::string> hostile = hostileTexts();
+  std::vector<std::string> texts = hostile;
   std::mt19937 random(20261122);
   const int mixtures = longRun ? 20000 : 100;
-  for (int i = 0; i < mixtures; ++i) texts.push_back(mixture(random));
+  for (int i = 0; i < mixtures; ++i) texts.push_back(mixture(hostile, random));
 
   std::int64_t typed = 0;
   for (const Place& place : places()) {
     SCOPED_TRACE(place.name);
     std::set<std::string> known;
-    for (const std::string& text : kHarmless) known.merge(heardFrom(place, text));
+    for (const std::string& text : harmlessTexts()) known.merge(heardFrom(place, text));
     const std::string before = counts();
     spy.take();
     for (std::size_t i = 0; i < texts.size(); i += place.isSlow && !longRun ? 10 : 1) {
