@@ -41,6 +41,9 @@ class Shop {
 
 using Row = std::vector<std::string>;
 
+// What is written is marked as UTF-8, as the exports for spreadsheets are.
+const std::string kByteOrderMark = "\xEF\xBB\xBF";
+
 std::vector<Row> rowsOf(const std::string& text) {
   std::istringstream in(text);
   CsvReader reader(in);
@@ -57,7 +60,7 @@ void readAndWriteBack(const std::string& text) {
       for (const std::string& field : row) written.add(field);
       written.end();
     }
-    ensure(rowsOf(written.text()) == rows, "rows written are rows read");
+    ensure(rowsOf(kByteOrderMark + written.text()) == rows, "rows written are rows read");
   } catch (const Refusal&) {
     return;
   }
