@@ -53,17 +53,18 @@ std::vector<Row> rowsOf(const std::string& text) {
 }
 
 void readAndWriteBack(const std::string& text) {
+  std::vector<Row> rows;
   try {
-    const std::vector<Row> rows = rowsOf(text);
-    CsvRow written;
-    for (const Row& row : rows) {
-      for (const std::string& field : row) written.add(field);
-      written.end();
-    }
-    ensure(rowsOf(kByteOrderMark + written.text()) == rows, "rows written are rows read");
+    rows = rowsOf(text);
   } catch (const Refusal&) {
     return;
   }
+  CsvRow written;
+  for (const Row& row : rows) {
+    for (const std::string& field : row) written.add(field);
+    written.end();
+  }
+  ensure(rowsOf(kByteOrderMark + written.text()) == rows, "rows written are rows read");
 }
 
 void import(const std::string& text) {

@@ -13,11 +13,12 @@ constexpr const char* kKey = "LPT1";
 
 }  // namespace
 
-// The first line of the input is a value to be set, the rest is the file.
+// The first byte of the input is the length of a value to be set; the value and the file follow.
 int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-  const std::string_view input = textOf(data, size);
-  const std::string_view value = input.substr(0, input.find('\n'));
-  const std::string_view bytes = input.substr(std::min(input.size(), value.size() + 1));
+  if (size == 0) return 0;
+  const std::string_view input = textOf(data + 1, size - 1);
+  const std::string_view value = input.substr(0, data[0] % 64);
+  const std::string_view bytes = input.substr(value.size());
 
   IniText text(bytes);
   ensure(text.bytes() == bytes, "reading changes nothing");
