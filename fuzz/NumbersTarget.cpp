@@ -17,7 +17,10 @@ void money(std::string_view text) {
   ensure(Currency::parse(generalNumber(*amount)) == amount, "money reads back");
   try {
     const Currency fen = roundedToFen(*amount);
-    ensure(Currency::parse(twoDecimals(*amount)) == fen, "two decimals are the rounded money");
+    const std::string shown = twoDecimals(*amount);
+    ensure(Currency::parse(shown) == fen, "two decimals are the rounded money");
+    ensure(shown.find('.') == shown.size() - 3 && shown.find_first_of("0123456789") < 2,
+           "people see yuan and fen");
     static_cast<void>(oneDecimal(*amount));
     static_cast<void>(wholeHalfEven(*amount));
     static_cast<void>(pointsAfter(*amount, 1, 0));
