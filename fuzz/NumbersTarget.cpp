@@ -19,7 +19,9 @@ void money(std::string_view text) {
     const Currency fen = roundedToFen(*amount);
     const std::string shown = twoDecimals(*amount);
     ensure(Currency::parse(shown) == fen, "two decimals are the rounded money");
-    ensure(shown.find('.') == shown.size() - 3 && shown.find_first_of("0123456789") < 2,
+    const std::size_t point = shown.size() - 3;
+    ensure(shown.find_last_not_of("0123456789") == point && shown[point] == '.' && point > 0 &&
+               shown[point - 1] >= '0',
            "people see yuan and fen");
     static_cast<void>(oneDecimal(*amount));
     static_cast<void>(wholeHalfEven(*amount));
