@@ -2,9 +2,7 @@
 
 #include <gmock/gmock.h>
 
-#include <QLabel>
 #include <QLineEdit>
-#include <QMessageBox>
 #include <fstream>
 
 #include "Hands.h"
@@ -32,14 +30,6 @@ class MembersTill : public testing::Test {
   }
   static std::string focusName(QWidget& window) {
     return window.focusWidget()->objectName().toStdString();
-  }
-  /// The next message box is read (its title first when that says an error) and confirmed.
-  void confirmMessage() {
-    hands.at("messageBox", [this](QWidget& box) {
-      const QString said = static_cast<QMessageBox&>(box).text().remove(QChar(0x200b));
-      messages.push_back(((box.windowTitle() == "出错" ? "出错:" : "") + said).toStdString());
-      Hands::pressNow(Qt::Key_Return);
-    });
   }
 
   TestTill till;

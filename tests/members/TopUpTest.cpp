@@ -1,25 +1,11 @@
 #include "members/TopUp.h"
 
 #include "MembersTill.h"
-#include "saleslib/CardNumber.h"
 #include "store/StoreError.h"
 
 namespace {
 
 using TopUpTest = MembersTill;
-
-TEST(CardNumberTest, WhatTheReaderTypesAroundANumberGoes) {
-  const struct {
-    const char *typed, *member, *storedCard;
-  } cases[] = {{" ；８８０１？ ", "8801", "8801"},
-               {"vip88h01", "vip88h01", "88h01"},
-               {"' or ''='", "' or ''='", "'  ''='"},
-               {";?", "", ""}};
-  for (const auto& c : cases) {
-    EXPECT_EQ(memberNumber(c.typed), c.member);
-    EXPECT_EQ(storedCardNumber(c.typed), c.storedCard);
-  }
-}
 
 TEST_F(TopUpTest, ARecordThatWasWrittenStaysWhenTheBalanceCannotBe) {
   const TopUp topUp{"88001234", Currency::fromYuan(90), Currency::fromYuan(100),
