@@ -1,7 +1,6 @@
 #include <gtest/gtest.h>
 
 #include <QColorDialog>
-#include <QLabel>
 #include <QLineEdit>
 
 #include "Hands.h"
@@ -35,11 +34,6 @@ class frmColorTest : public testing::Test {
     form_.findChild<QWidget*>(button)->setFocus();
     press(Qt::Key_Return);
   }
-  QColor swatch(int index) {
-    const QPixmap shown =
-        form_.findChild<QLabel*>("lblColor" + QString::number(index))->pixmap(Qt::ReturnByValue);
-    return shown.toImage().pixelColor(shown.rect().center());
-  }
   Colours settings() const {
     Colours all{};
     for (std::size_t i = 0; i < all.size(); ++i) all[i] = till_.pos.gPosSet.*kFields[i];
@@ -51,16 +45,6 @@ class frmColorTest : public testing::Test {
   frmColor form_{till_.pos};
   Hands hands_;
 };
-
-TEST_F(frmColorTest, EachColourIsShownBesideItsNumberAsItIsTyped) {
-  const std::pair<const char*, QColor> cases[] = {
-      {"16711680", Qt::blue}, {"255", Qt::red}, {"", QColor(0, 64, 128)}};
-  EXPECT_EQ(swatch(0), QColor(Qt::blue));
-  for (const auto& [typed, shown] : cases) {
-    type(0, typed);
-    EXPECT_EQ(swatch(0), shown) << typed;
-  }
-}
 
 TEST_F(frmColorTest, EmptyBoxesGiveTheDefaultsAndAreSaved) {
   for (int i = 0; i < 6; ++i) type(i, "");
