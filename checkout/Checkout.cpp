@@ -8,12 +8,12 @@
 #include "checkout/CustomerDisplay.h"
 #include "checkout/LineReceipt.h"
 #include "checkout/PageReceipt.h"
+#include "checkout/PaidBill.h"
 #include "checkout/PrintMode.h"
 #include "checkout/SaleScreen.h"
 #include "checkout/SaleState.h"
 #include "checkout/Settlement.h"
 #include "store/StoreError.h"
-#include "store/Transaction.h"
 
 namespace {
 
@@ -63,13 +63,12 @@ void Checkout::SettleBill() {
   }
   if (state_.curLine) commitLine();
   if (!takePayment()) return;
-  if (storeSale()) {
+  if (storeSettled(pos_, *state_.curBill)) {
     screen_.setStatus(shown(statusText(*state_.curBill)));
     state_.lastBill = std::move(state_.curBill);
     printPageReceipts();
   } else {
-    screen_.ShowMessage(tr("保存单据出错，请重新录入本单！"));
-    dropBill();
+    dropUnstored();
   }
   PrepareNextBill();
 }
@@ -91,39 +90,28 @@ bool Checkout::takePayment() {
   return screen_.settle(settlement);
 }
 
-bool Checkout::storeSale() {
-  state_.curBill->setState(1);
-  try {
-    Transaction sale(*pos_.gConn);
-    if (!state_.curBill->Save()) return false;
-    if (state_.curMember) creditMember();
-    sale.commit();
-    return true;
-  } catch (const Failure&) {
-    return false;
+// Withdrawn before the cashier is told to enter it again: a message waits, and a power cut
+// meanwhile must not leave a paid bill behind that the next opening completes beside the new one.
+void Checkout::dropUnstored() {
+  QString text = tr("保存单据出错，请重新录入本单！");
+  const ClsSell& bill = *state_.curBill;
+  if (bill.CardPay() != Currency()) {
+    text += tr("\n储值卡 %1 已扣款 %2 元。")
+                .arg(shown(bill.CardNo()), shown(generalNumber(bill.CardPay())));
   }
-}
-
-// A member that cannot be credited costs points, not the sale: the bill is stored all the same.
-void Checkout::creditMember() {
-  ClsMember& member = *state_.curMember;
-  // Goods taken back while the member was attached have lowered the purchases since.
-  if (const auto now = pos_.gMemberSvc.GetMemberById(member.Id())) member = *now;
-  const Currency amount = state_.curBill->Amount();
-  member.setTotalSpent(member.TotalSpent() + amount);
-  const auto points = pointsAfter(amount, pos_.gSysParam.PointUnit(), member.Points());
-  if (points) member.setPoints(*points);
-  static_cast<void>(member.Save());
-}
-
-// What cannot be put back now is put back at the next opening of the screen, which voids every bill
-// that is still open in the data file.
-void Checkout::dropBill() {
+  dropped_ = std::move(state_.curBill);
   try {
-    VoidBill(pos_, screen_, *state_.curBill);
+    withdrawDropped();
   } catch (const StoreError&) {
-    return;
+    // the next bill does not open before this one is withdrawn
   }
+  screen_.ShowMessage(text);
+}
+
+void Checkout::withdrawDropped() {
+  if (!dropped_) return;
+  VoidBill(pos_, screen_, *dropped_);
+  dropped_ = nullptr;
 }
 
 void Checkout::printPageReceipts() {
@@ -146,7 +134,26 @@ void Checkout::printOurP() {
 }
 
 void Checkout::PrepareNextBill() {
-  ShowNextBill(openBill());
+  state_.curBill = nullptr;
+  if (auto next = nextBill()) {
+    ShowNextBill(std::move(next));
+  } else {
+    screen_.endProgram();
+  }
+}
+
+// A bill that was to be withdrawn when the program ends here has not been entered again, because
+// nothing could be stored since: completing it at the next opening is right.
+std::shared_ptr<ClsSell> Checkout::nextBill() {
+  for (;;) {
+    try {
+      withdrawDropped();
+      return openBill();
+    } catch (const StoreError& failure) {
+      const QString question = tr("不能开始下一单：%1\n排除原因后再试一次吗？选“否”将退出程序。");
+      if (!screen_.askYesNo(question.arg(QString::fromUtf8(failure.what())), {}, true)) return {};
+    }
+  }
 }
 
 std::shared_ptr<ClsSell> Checkout::openBill() {

@@ -22,10 +22,11 @@ class Checkout {
 
   /// Takes payment for the open bill, stores it and credits the member in one transaction, prints,
   /// opens the next bill. A bill that cannot be stored is dropped and its stock put back; nothing
-  /// is printed for it then, and a stored-value charge stays.
+  /// is printed for it then, and a stored-value charge stays, which is told with the card's number.
   void SettleBill();
-  /// Empties the screen and opens the next bill. Ends the program when the clock is behind the
-  /// previous bill.
+  /// Empties the screen and opens the next bill. While the data file takes no bill it asks whether
+  /// to try again; after a No the program ends, and there is no curBill. Ends the program when the
+  /// clock is behind the previous bill.
   void PrepareNextBill();
   /// The same in two steps, for a caller that opens the next bill in a transaction of its own: a
   /// new bill of the operator, stored at once; and the screen with it.
@@ -41,9 +42,9 @@ class Checkout {
  private:
   void commitLine();
   bool takePayment();
-  bool storeSale();
-  void creditMember();
-  void dropBill();
+  void dropUnstored();
+  void withdrawDropped();
+  std::shared_ptr<ClsSell> nextBill();
   void printPageReceipts();
   bool showLastBill();
 
@@ -53,4 +54,8 @@ class Checkout {
   CustomerDisplay& display_;
   LineReceipt& receipt_;
   Outage pagePrinter_;
+  /// Paid, but could not be stored; still in the data file until it can be voided there. Nothing is
+  /// stored before that, so that the bill is not both completed at the next opening and entered
+  /// again.
+  std::shared_ptr<ClsSell> dropped_;
 };

@@ -90,7 +90,11 @@ QString Settlement::change(const QString& cash, const QString& favorable,
 void Settlement::confirmCash(const QString& cash) {
   if (settled_) return;
   if (const auto amount = money(cash)) bill_.setCash(*amount);
-  settled_ = true;
+  settled_ = bill_.SavePaid();
+  if (!settled_) {
+    say_(tr("没有收款，请再确认一次：%1").arg(shown(bill_.ErrText())));
+    return;
+  }
   showAndPrint();
 }
 
@@ -117,12 +121,15 @@ std::string Settlement::cardRefusal(const std::string& number) const {
 Settlement::CardResult Settlement::payByCard(const QString& number, const QString& password) {
   if (settled_) return CardResult::kPaid;
   if (!checkCard(number)) return CardResult::kUnknownCard;
+  const ClsSell unpaid = bill_;
   try {
     const CardResult result = charge(number.toStdString(), password.toStdString());
+    settled_ = result == CardResult::kPaid;
     if (result == CardResult::kWrongPassword) say_(tr("储值卡密码错误,请重输"));
     if (result == CardResult::kTooLittle) say_(tr("储值卡余额不够,请先充值"));
     return result;
   } catch (const StoreError& error) {
+    bill_ = unpaid;
     say_(tr("储值卡没有扣款：%1").arg(QString::fromUtf8(error.what())));
     return CardResult::kFailed;
   }
@@ -145,19 +152,18 @@ Settlement::CardResult Settlement::charge(const std::string& number, const std::
                           " and card>=" + literal(due)) != 1) {
     return CardResult::kTooLittle;
   }
-  charging.commit();
-
   bill_.setCardPay(due);
   bill_.setCash(Currency());
   bill_.setCardNo(number);
+  if (!bill_.SavePaid()) throw StoreError(bill_.ErrText());
+  charging.commit();
+
   cardBalance_ = left;
   return CardResult::kPaid;
 }
 
-void Settlement::confirmCard() {
-  if (settled_) return;
-  // Settled before the message, which waits for the cashier: from here on the card has paid.
-  settled_ = true;
+void Settlement::sayCardPaid() {
+  ensure(settled_, "the card has paid before it is said");
   say_(tr(" 储值卡消费成功！余额：%1 ").arg(shown(generalNumber(cardBalance_))));
   showAndPrint();
 }

@@ -44,20 +44,23 @@ class Settlement {
   [[nodiscard]] QString change(const QString& cash, const QString& favorable,
                                const QString& bankCard) const;
 
-  /// Confirms with the cash text; a text that is no number leaves the bill's cash figure. Shows the
-  /// cash on the display and prints the footer. Once confirmed, does nothing more.
+  /// Confirms with the cash text; a text that is no number leaves the bill's cash figure. The
+  /// figures become durable with the mark of a paid bill (see ClsSell::SavePaid); then the cash is
+  /// shown on the display and the footer printed. What cannot be made durable is said, and payment
+  /// is not confirmed (see settled). Once confirmed, does nothing more.
   void confirmCash(const QString& cash);
   /// Whether a usable stored-value card of that number exists; says why not. A query that fails
   /// counts as an unknown card.
   [[nodiscard]] bool checkCard(const QString& number);
   enum class CardResult { kPaid, kUnknownCard, kWrongPassword, kTooLittle, kFailed };
-  /// Takes the whole amount due from the card, whatever the other fields hold, durably and at once;
-  /// only then are the figures in the bill. Says every refusal; nothing is charged then.
+  /// Takes the whole amount due from the card, whatever the other fields hold: the balance and the
+  /// paid bill in one transaction, which confirms payment. Says every refusal; nothing is charged
+  /// and the bill is as it was then.
   [[nodiscard]] CardResult payByCard(const QString& number, const QString& password);
-  /// After kPaid: says the new balance, then as confirmCash.
-  void confirmCard();
+  /// After kPaid: says the new balance, shows and prints.
+  void sayCardPaid();
 
-  /// Payment has been confirmed.
+  /// Payment has been confirmed and is durable.
   bool settled() const { return settled_; }
 
  private:

@@ -201,7 +201,7 @@ bool frmEndSell::cashKey(int key) {
 
 void frmEndSell::confirmCash() {
   settlement_->confirmCash(cash_->text());
-  close();
+  if (settlement_->settled()) close();
 }
 
 void frmEndSell::checkCard() {
@@ -215,7 +215,7 @@ void frmEndSell::payByCard() {
     case Settlement::CardResult::kPaid:
       cash_->setText("0");
       change_->setText("0.0");
-      settlement_->confirmCard();
+      settlement_->sayCardPaid();
       close();
       return;
     case Settlement::CardResult::kUnknownCard:

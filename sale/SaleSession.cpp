@@ -5,6 +5,7 @@
 #include "app/posMod.h"
 #include "base/Failure.h"
 #include "checkout/BillStock.h"
+#include "checkout/PaidBill.h"
 #include "checkout/SaleScreen.h"
 #include "platform/VirtualKey.h"
 #include "saleslib/ClsDayStat.h"
@@ -19,13 +20,18 @@ Outage::Report reportTo(SaleScreen& screen) {
   return [&screen](const QString& text) { screen.ShowMessage(text); };
 }
 
+// The display's reason is the system's own, and comes in the system's box.
+Outage::Report boxOf(SaleScreen& screen) {
+  return [&screen](const QString& text) { screen.messageBox(text); };
+}
+
 }  // namespace
 
 SaleSession::SaleSession(posMod& pos, SaleScreen& screen, Openers openers)
     : pos_(pos),
       screen_(screen),
       openers_(std::move(openers)),
-      display_(pos.ports, pos.gPosSet, state, reportTo(screen)),
+      display_(pos.ports, pos.gPosSet, state, boxOf(screen)),
       drawer_(pos.ports, pos.gPosSet, state, display_, reportTo(screen)),
       receipt_(pos, state, drawer_, reportTo(screen)),
       checkout_(pos, state, screen, display_, receipt_),
@@ -40,6 +46,7 @@ SaleSession::SaleSession(posMod& pos, SaleScreen& screen, Openers openers)
 bool SaleSession::open() {
   ensure(pos_.gOperator != nullptr, "somebody is logged in before the sale screen opens");
   loadSettings();
+  completePaidBills(pos_, screen_);
   voidOpenBills();
   if (clockIsBehind()) {
     screen_.messageBox(tr("电脑系统时间错误！"), tr("致命错误"));
@@ -47,7 +54,7 @@ bool SaleSession::open() {
     return false;
   }
   checkout_.PrepareNextBill();
-  return true;
+  return state.curBill != nullptr;
 }
 
 void SaleSession::loadSettings() {
@@ -57,7 +64,6 @@ void SaleSession::loadSettings() {
   state.hasDrawer = !settings.MBPort.empty();
   state.hasDisplay = !settings.CVProt.empty();
   if (state.hasDisplay) display_.OpenDisplayPort();
-  state.stockRule = pos_.gSysParam.StockRule();
 }
 
 void SaleSession::voidOpenBills() {

@@ -21,9 +21,15 @@ std::shared_ptr<ClsSell> ClsDayStat::LastSell(Connection& connection) const {
 
 void ClsDayStat::OpenQuery(Connection& connection, std::int32_t operatorId) {
   select(connection,
-         connection.query("select * from sell where operator_id = ? and state = 0 order by id",
+         connection.query("select * from sell where operator_id = ? and state = 0 and paid = 0"
+                          " order by id",
                           operatorId));
   for (const auto& bill : sells_) bill->LoadLines();
+}
+
+void ClsDayStat::PaidQuery(Connection& connection) {
+  select(connection,
+         connection.query("select * from sell where paid = 1 and state = 0 order by id"));
 }
 
 void ClsDayStat::select(Connection& connection, Rows rows) {

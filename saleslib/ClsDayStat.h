@@ -23,9 +23,12 @@ class ClsDayStat {
   /// The settled bill of the shop with the latest time (the highest number among equals), whoever
   /// made it, without lines; none when there is none.
   std::shared_ptr<ClsSell> LastSell(Connection& connection) const;
-  /// Selects the operator's bills that are still open, in the order of their numbers, with their
-  /// lines loaded.
+  /// Selects the operator's bills that are still open and not paid, in the order of their numbers,
+  /// with their lines loaded.
   void OpenQuery(Connection& connection, std::int32_t operatorId);
+  /// Selects the bills of all operators that are open although payment was taken (see
+  /// ClsSell::SavePaid), in the order of their numbers, without lines.
+  void PaidQuery(Connection& connection);
 
   const Sells_t& Sells() const { return sells_; }
   double SumQuantity() const;

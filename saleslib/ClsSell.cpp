@@ -12,8 +12,6 @@
 
 namespace {
 
-constexpr std::int16_t kOpen = 0;
-
 struct Totals {
   double quantity = 0;
   Currency amount;
@@ -76,6 +74,7 @@ void ClsSell::read(const Row& row) {
   operatorId_ = whole32(row, "operator_id");
   sellTime_ = row.dateTime("sell_time").value_or(DateTime());
   state_ = whole16(row, "state");
+  paid_ = whole16(row, "paid") != 0;
   quantity_ = row.number("quantity").value_or(0);
   goodsAmount_ = money(row, "goods_amount");
   amount_ = money(row, "amount");
@@ -104,14 +103,22 @@ bool ClsSell::Save() {
   return errText_.empty();
 }
 
+bool ClsSell::SavePaid() {
+  ensure(state_ == kOpen, "payment is taken for an open bill");
+  paid_ = true;
+  paid_ = Save();
+  return paid_;
+}
+
+// The mark goes with the state that settles the bill, in one statement.
 void ClsSell::store() {
   const std::int64_t changed = connection_->run(
       "update sell set sell_time = ?, state = ?, quantity = ?, goods_amount = ?, amount = ?, cash "
       "= ?,"
-      " favorable = ?, bank_card = ?, card_pay = ?, card_no = ?, salesman = ?, member_id = ?"
-      " where id = ?",
+      " favorable = ?, bank_card = ?, card_pay = ?, card_no = ?, salesman = ?, member_id = ?,"
+      " paid = ? where id = ?",
       sellTime_, state_, quantity_, goodsAmount_, amount_, cash_, favorable_, bankCard_, cardPay_,
-      cardNo_, salesman_, memberId_, billNo_);
+      cardNo_, salesman_, memberId_, Paid(), billNo_);
   if (changed == 0) throw StoreError("单据 " + std::to_string(billNo_) + " 已不在数据文件中！");
 }
 
@@ -129,7 +136,7 @@ void ClsSell::LoadLines() {
   while (rows.next()) {
     items_.push_back(std::make_shared<ClsSellItem>(ClsSellItem::fromRow(*connection_, rows)));
   }
-  if (state_ == kOpen) {
+  if (state_ == kOpen && !Paid()) {
     Recalculate();
   } else if (totalsOf(items_) != Totals{quantity_, goodsAmount_}) {
     throw StoreError("单据 " + std::to_string(billNo_) +

@@ -34,10 +34,14 @@ class ClsSell {
   /// amount (ensure; a bill that was opened by its number needs LoadLines first). False when the
   /// store failed; ErrText has the reason, nothing was written, and a second Save writes it all.
   [[nodiscard]] bool Save();
+  /// Payment is taken for this open bill (ensure): as Save, with a mark in the row that lasts until
+  /// Save stores the bill as settled or Void deletes it. A bill found with the mark was paid for
+  /// and is to be settled, never voided. When false, the bill is not marked.
+  [[nodiscard]] bool SavePaid();
   /// Deletes the bill with its lines, in one transaction; the caller has put the stock back.
   void Void();
   /// Loads the lines of a stored bill into Items, in entry order. An open bill's quantity and
-  /// amount are worked out from them; a settled bill whose lines do not add up to it throws
+  /// amount are worked out from them; a settled or paid bill whose lines do not add up to it throws
   /// StoreError, naming the bill: the data file is damaged.
   void LoadLines();
   /// Adds a committed line of this bill (ensure): amount and quantity grow by the line's.
@@ -64,7 +68,8 @@ class ClsSell {
   void setMemberId(std::int32_t memberId) { memberId_ = memberId; }
   std::int16_t State() const { return state_; }  ///< 0 open, 1 settled
   void setState(std::int16_t state) { state_ = state; }
-  Currency Favorable() const { return favorable_; }  ///< discount amount given at settlement
+  bool Paid() const { return paid_ && state_ == kOpen; }  ///< has the mark of SavePaid
+  Currency Favorable() const { return favorable_; }       ///< discount amount given at settlement
   void setFavorable(Currency favorable) { favorable_ = favorable; }
   std::int16_t Salesman() const { return salesman_; }
   void setSalesman(std::int16_t salesman) { salesman_ = salesman; }
@@ -82,6 +87,8 @@ class ClsSell {
   Currency Change() const { return cash_ + bankCard_ + cardPay_ + favorable_ - amount_; }
 
  private:
+  static constexpr std::int16_t kOpen = 0;
+
   void start(std::int32_t operatorId);
   bool load(Rows rows);
   void read(const Row& row);
@@ -93,6 +100,7 @@ class ClsSell {
   std::int32_t operatorId_ = 0;
   DateTime sellTime_;
   std::int16_t state_ = 0, salesman_ = 0;
+  bool paid_ = false;
   std::int32_t memberId_ = 0;
   double quantity_ = 0;
   Currency goodsAmount_, amount_, cash_, favorable_, bankCard_, cardPay_;

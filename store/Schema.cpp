@@ -120,7 +120,8 @@ create table SP_LB (
 );
 
 -- Bills. state: 0 open, 1 settled. goods_amount is the sum of the lines before the shop's rounding,
--- amount what was due. Numbers of bills are never used twice.
+-- amount what was due. paid marks an open bill whose payment was taken but which is not stored as
+-- settled yet. Numbers of bills are never used twice.
 create table sell (
   id           integer primary key autoincrement,
   sell_time    datetime not null,
@@ -135,12 +136,14 @@ create table sell (
   card_pay     currency not null default 0,
   card_no      text not null default '' collate nocase,
   salesman     integer not null default 0,
-  member_id    integer not null default 0
+  member_id    integer not null default 0,
+  paid         integer not null default 0
 );
 -- ClsDayStat: an operator's bills of a day, and the open ones
 create index sell_operator on sell (operator_id, state, sell_time);
 create index sell_time on sell (sell_time);             -- ClsDayStat: the latest bill
 create index sell_member on sell (member_id, id);       -- ClsSell: a member's latest bill
+create index sell_paid on sell (id) where paid = 1;     -- ClsDayStat: paid, not yet settled
 
 -- Bill lines. The columns from entry_code on are the library's own.
 create table sellProducts (

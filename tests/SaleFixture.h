@@ -68,6 +68,7 @@ class FakeScreen : public SaleScreen {
   }
   bool askYesNo(const QString& value, const QString& title, bool yesPreselected) override {
     messages.push_back((title + ":" + value + (yesPreselected ? " 是" : " 否")).toStdString());
+    asked();
     return answersYes.value_or(yesPreselected);
   }
   QString prompt(const QString&, const QString&) override { return promptAnswer; }
@@ -85,8 +86,9 @@ class FakeScreen : public SaleScreen {
 
   QString text, promptAnswer;
   std::string title1, title3, status, memberInfo;
-  std::vector<std::string> messages;  ///< of the message window, message boxes and questions
-  std::optional<bool> answersYes;     ///< to a question; else the preselected answer
+  std::vector<std::string> messages;    ///< of the message window, message boxes and questions
+  std::optional<bool> answersYes;       ///< to a question; else the preselected answer
+  std::function<void()> asked = [] {};  ///< what happens while the question is shown
   int choice = -1;
   /// What the cashier does in the settlement dialog.
   std::function<void(Settlement&)> pay = [](Settlement& s) { s.confirmCash(s.cashText()); };

@@ -87,6 +87,25 @@ TEST_F(posModTest, BackUpIsTheWholeFileAndAFailingOneLeavesTheEarlierCopy) {
   EXPECT_FALSE(fs::exists(copy + ".part"));
 }
 
+TEST_F(posModTest, WhatHoldsSecretsIsItsOwnersAlone) {
+  makeShop("data/POS.mdb");
+  makeShop("data/plain.mdb", "");
+  const std::pair<const char*, unsigned> cases[] = {
+      {"data/POS.mdb;Jet OLEDB:Database password=kvrnex", 0600}, {"data/plain.mdb", 0644}};
+  for (const auto& [path, configAfterwards] : cases) {
+    configure(path);
+    std::ofstream(folder_.file("data/pos3.mdb")) << "a backup";
+    for (const char* name : {"config.ini", "data/pos3.mdb"})
+      fs::permissions(folder_.file(name), fs::perms(0644));
+    posMod pos(folder_.path());
+    ASSERT_EQ(pos.OpenDataStore(), "");
+    EXPECT_EQ(pos.protectFiles(), "");
+    EXPECT_EQ(fs::status(folder_.file("data/pos3.mdb")).permissions(), fs::perms(0600));
+    EXPECT_EQ(fs::status(folder_.file("config.ini")).permissions(), fs::perms(configAfterwards))
+        << path;
+  }
+}
+
 TEST_F(posModTest, BackUpTakesTheDefaultFileWhenAnotherOneIsConfigured) {
   makeShop("two.mdb");
   configure("two.mdb;Jet OLEDB:Database password=kvrnex");

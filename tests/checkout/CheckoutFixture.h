@@ -38,7 +38,7 @@ class CheckoutFixture : public SaleFixture {
     checkout.SettleBill();
   }
 
-  /// From now on no row of that table can be changed.
+  /// From now on no row of that table ("sell", "sell when new.state = 1") can be changed.
   void breakStore(const char* table) {
     pos.gConn->runScript(std::string("create trigger broken before update on ") + table +
                          " begin select raise(abort, 'disk'); end");

@@ -93,7 +93,7 @@ TEST_F(CheckoutTest, saleThatCannotBeStoredIsDroppedAndItsStockPutBack) {
   payCash("1");
   EXPECT_EQ(pagesPrinted(), 2U);
 
-  breakStore("sell");
+  breakStore("sell when new.state = 1");
   attachMember();
   enter("水", "12.00", 3);
   payCash("12");
@@ -104,6 +104,42 @@ TEST_F(CheckoutTest, saleThatCannotBeStoredIsDroppedAndItsStockPutBack) {
   EXPECT_EQ(stored("total_spent as v from member"), "0");
   EXPECT_EQ(state.lastBill->BillNo(), 1);
   EXPECT_EQ(state.curBill->BillNo(), 3);
+}
+
+TEST_F(CheckoutTest, aPaidBillThatCannotBeStoredIsWithdrawnBeforeAnythingElseIsStored) {
+  breakStore("sell when new.state = 1");
+  pos.gConn->runScript(
+      "create trigger stuck before delete on sell begin select raise(abort, 'disk'); end");
+  enter("水", "12.00", 3);
+  screen.pay = [](Settlement& s) {
+    EXPECT_EQ(s.payByCard("8001", "Pw1"), Settlement::CardResult::kPaid);
+  };
+  bool billOpened = false;
+  screen.asked = [&] {
+    billOpened = stored("count(*) as v from sell") != "1";
+    if (screen.messages.size() == 3) pos.gConn->runScript("drop trigger stuck");
+  };
+  checkout.SettleBill();
+  EXPECT_FALSE(billOpened);
+  ASSERT_THAT(screen.messages, SizeIs(3));
+  EXPECT_EQ(screen.messages[0], "保存单据出错，请重新录入本单！\n储值卡 8001 已扣款 36 元。");
+  EXPECT_THAT(screen.messages[1], testing::HasSubstr("不能开始下一单"));
+  EXPECT_EQ(stored("group_concat(id || ':' || paid) as v from sell"), "2:0");
+  EXPECT_EQ(stockLeft(), "100");
+  EXPECT_EQ(stored("card as v from member"), "52.5");
+  EXPECT_FALSE(screen.ended);
+}
+
+TEST_F(CheckoutTest, aProgramThatEndsBeforeTheWithdrawalLeavesTheBillToBeCompleted) {
+  breakStore("sell when new.state = 1");
+  pos.gConn->runScript(
+      "create trigger stuck before delete on sell begin select raise(abort, 'disk'); end");
+  enter("水", "12.00");
+  screen.answersYes = false;
+  payCash("12");
+  EXPECT_TRUE(screen.ended);
+  EXPECT_EQ(state.curBill, nullptr);
+  EXPECT_EQ(stored("group_concat(id || ':' || paid) as v from sell"), "1:1");
 }
 
 TEST_F(CheckoutTest, voidedBillPutsStockBackInSaleUnits) {

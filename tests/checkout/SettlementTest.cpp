@@ -119,7 +119,7 @@ TEST_F(SettlementTest, cardPaysTheWholeAmountDueOnce) {
   state.curBill->setFavorable(Currency::fromYuan(5));
   state.curBill->setCash(Currency::fromYuan(100));
   EXPECT_EQ(payByCard("8001", "Pw1"), Settlement::CardResult::kPaid);
-  settlement->confirmCard();
+  settlement->sayCardPaid();
   EXPECT_EQ(balance(), "0");
   EXPECT_EQ(generalNumber(state.curBill->CardPay()), "88.5");
   EXPECT_EQ(state.curBill->Cash(), Currency());
@@ -137,8 +137,24 @@ TEST_F(SettlementTest, brokenStoreWhileChargingLeavesEverythingAsItWas) {
   EXPECT_EQ(payByCard("8001", "Pw1"), Settlement::CardResult::kFailed);
   EXPECT_THAT(screen.messages, ElementsAre(testing::StartsWith("储值卡没有扣款：")));
   EXPECT_EQ(balance(), "88.5");
+
+  // The balance could be written, the mark of the paid bill not; then cash, whose mark cannot.
+  pos.gConn->runScript("drop trigger broken");
+  breakStore("sell");
+  EXPECT_EQ(payByCard("8001", "Pw1"), Settlement::CardResult::kFailed);
+  EXPECT_EQ(balance(), "88.5");
   EXPECT_EQ(state.curBill->CardPay(), Currency());
+  EXPECT_EQ(state.curBill->CardNo(), "");
+  settlement->confirmCash("100");
+  EXPECT_THAT(screen.messages.back(), testing::StartsWith("没有收款，请再确认一次："));
   EXPECT_FALSE(settlement->settled());
+  EXPECT_EQ(ports.shown, "") << "shown before it was durable";
+
+  pos.gConn->runScript("drop trigger broken");
+  settlement->confirmCash("100");
+  EXPECT_TRUE(settlement->settled());
+  EXPECT_EQ(ports.shown, "\x1Bs3\x1BQA100.00\r");
+  EXPECT_EQ(stored("state || ':' || paid || ':' || cash as v from sell"), "0:1:100");
 
   pos.gConn->runScript("alter table member rename to lost");
   EXPECT_FALSE(settlement->checkCard("8001"));

@@ -22,6 +22,16 @@ class BooksTest : public TillFixture {
                                      {kApples, "1005", 1, 598, 0, 100},
                                      {"6900000000043", "1002", 1, 1250, 1195, 90}};
 
+  // Ten thousand durable writes can wait for the disk most of a minute: the till's folder lies in
+  // memory where the machine has a place for that.
+  static void SetUpTestSuite() {
+    temporary_ = qgetenv("TMPDIR");
+    if (std::filesystem::is_directory("/dev/shm")) qputenv("TMPDIR", "/dev/shm");
+  }
+  static void TearDownTestSuite() {
+    temporary_.isNull() ? qunsetenv("TMPDIR") : qputenv("TMPDIR", temporary_);
+  }
+
   BooksTest() {
     pos.gConn->runScript(R"(
       insert into tmda (sptm, spbm, spmc, xsdj, pfj, zk, dwbl) values
@@ -90,9 +100,8 @@ class BooksTest : public TillFixture {
   void attach() {
     const auto member = static_cast<int>(any(-1, 1));
     steps_ << " attach " << member;
-    till.answers.clear();
-    if (member >= 0) till.answers << (any(0, 1) ? "800%1" : "1380000000%1");
-    till.answers = {member < 0 ? "" : till.answers.first().arg(member + 1)};
+    const QString number = any(0, 1) ? "800%1" : "1380000000%1";
+    till.answers = {member < 0 ? QString() : number.arg(member + 1)};
     till.question = "会员卡输入会员卡号或电话：";
     key(kF2);
     till.question.clear();
@@ -131,7 +140,7 @@ class BooksTest : public TillFixture {
       if (payment.payByCard(QString::fromStdString(payer.card),
                             QString::fromStdString(payer.password)) ==
           Settlement::CardResult::kPaid) {
-        payment.confirmCard();
+        payment.sayCardPaid();
       }
     };
     key(kF1);
@@ -266,6 +275,7 @@ class BooksTest : public TillFixture {
     (this->*anyOf(kSteps))();
   }
 
+  inline static QByteArray temporary_;
   ShopModel shop;
   std::mt19937 random_;
   std::ostringstream steps_;  ///< of the sequence at hand
@@ -274,7 +284,7 @@ class BooksTest : public TillFixture {
 
 TEST_F(BooksTest, stockCardAndMemberBooksBalanceWhateverTheCashierDoes) {
   constexpr std::uint32_t kSequences = 1000;
-  constexpr int kStepsEach = 10;
+  constexpr int kStepsEach = 12;
   for (std::uint32_t seed = 1; seed <= kSequences && !HasFailure(); ++seed) {
     random_.seed(seed);
     steps_.str("sequence " + std::to_string(seed) + ":");
@@ -291,7 +301,7 @@ TEST_F(BooksTest, stockCardAndMemberBooksBalanceWhateverTheCashierDoes) {
     }
     ASSERT_EQ(fileTotals(), modelTotals()) << steps_.str();
   }
-  EXPECT_GT(shop.settled.size(), 400U);
-  EXPECT_GT(shop.returns, 200);
-  EXPECT_GT(shop.refusedAtRecall, 5);
+  EXPECT_GT(shop.settled.size(), 500U);
+  EXPECT_GT(shop.returns, 300);
+  EXPECT_GT(shop.refusedAtRecall, 10);
 }

@@ -24,6 +24,22 @@ TEST_F(SaleSessionTest, openingVoidsWhatAnEarlierRunLeftBehind) {
   EXPECT_EQ(lines(), "0");
   EXPECT_EQ(stored("group_concat(id) as v from sell"), "2,3");
   EXPECT_EQ(till.title1, "流水号：3   收银员：张三");
+
+  // A sale that was paid when the program ended is completed instead.
+  struct PowerCut {};
+  till.pay = [](Settlement& s) {
+    s.confirmCash("50");
+    throw PowerCut();
+  };
+  enter(kWater);
+  EXPECT_THROW(enter(""), PowerCut);
+  SaleSession next(pos, till, {});
+  till.session = &next;
+  ASSERT_TRUE(next.open());
+  EXPECT_EQ(stored("group_concat(id || ':' || state) as v from (select * from sell order by id)"),
+            "2:0,3:1,4:0");
+  EXPECT_THAT(onlyMessage(), testing::HasSubstr("流水号 3，金额 2.50"));
+  EXPECT_THAT(till.title3, testing::StartsWith("上一单：金额 2.5实收现金50.0"));
 }
 
 TEST_F(SaleSessionTest, aClockBehindTheLastBillEndsTheProgram) {

@@ -1,0 +1,72 @@
+#include "checkout/PaidBill.h"
+
+#include <QCoreApplication>
+#include <string>
+
+#include "app/posMod.h"
+#include "base/NumberText.h"
+#include "checkout/AmountDue.h"
+#include "checkout/SaleScreen.h"
+#include "saleslib/ClsDayStat.h"
+#include "store/StoreError.h"
+#include "store/Transaction.h"
+
+namespace {
+
+constexpr std::int16_t kSettled = 1;
+
+// Read again here, not taken from the screen: what another sale has credited since the card was
+// attached is kept.
+void creditMember(posMod& pos, const ClsSell& bill) {
+  if (bill.MemberId() == 0) return;
+  const auto member = pos.gMemberSvc.GetMemberById(bill.MemberId());
+  if (!member) return;
+  member->setTotalSpent(member->TotalSpent() + bill.Amount());
+  const auto points = pointsAfter(bill.Amount(), pos.gSysParam.PointUnit(), member->Points());
+  if (points) member->setPoints(*points);
+  static_cast<void>(member->Save());
+}
+
+QString billText(const ClsSell& bill) {
+  return QCoreApplication::translate("PaidBill", "流水号 %1，金额 %2")
+      .arg(bill.BillNo())
+      .arg(QString::fromStdString(twoDecimals(bill.Amount())));
+}
+
+void tell(SaleScreen& screen, const char* what, const QStringList& bills) {
+  if (bills.isEmpty()) return;
+  screen.ShowMessage(QCoreApplication::translate("PaidBill", what) + "\n" + bills.join("\n"));
+}
+
+}  // namespace
+
+bool storeSettled(posMod& pos, ClsSell& bill) {
+  bill.setState(kSettled);
+  try {
+    Transaction sale(*pos.gConn);
+    if (!bill.Save()) return false;
+    creditMember(pos, bill);
+    sale.commit();
+    return true;
+  } catch (const Failure&) {
+    return false;
+  }
+}
+
+void completePaidBills(posMod& pos, SaleScreen& screen) {
+  ClsDayStat paid;
+  paid.PaidQuery(*pos.gConn);
+  QStringList stored, waiting;
+  for (const auto& bill : paid.Sells()) {
+    try {
+      bill->LoadLines();
+      (storeSettled(pos, *bill) ? stored : waiting).append(billText(*bill));
+    } catch (const StoreError& error) {
+      waiting.append(billText(*bill) + "：" + QString::fromUtf8(error.what()));
+    }
+  }
+  tell(screen,
+       QT_TRANSLATE_NOOP("PaidBill", "上次程序中断前已收款的单据，现在已补存，请勿重新录入："),
+       stored);
+  tell(screen, QT_TRANSLATE_NOOP("PaidBill", "已收款的单据还不能补存，请与管理员联系："), waiting);
+}
