@@ -23,8 +23,10 @@ constexpr int kPollMs = 2;
 ///   key NAME       a key click in the active window (names as QKeySequence knows them)
 ///   type TEXT      key clicks that type a text
 ///   wait NAME      until the active window's objectName is NAME
-///   text NAME      the text of a label or input field of a visible window
+///   text NAME      the text of a label or input field, of the active window if it has that name,
+///                  else of another visible one
 ///   focus          the name of the control that has the keyboard
+///   window         the name of the active window
 ///   settle         once the keys sent before have been delivered
 ///   shot FILE      a picture of the screen
 /// Each is answered by one line, "ok ..." or "error ...". A click is answered before it is
@@ -65,6 +67,9 @@ class Driver : public QObject {
     } else if (command == QLatin1String("focus")) {
       const QWidget* focus = QApplication::focusWidget();
       answer(QStringLiteral("ok ") + (focus != nullptr ? focus->objectName() : QString()));
+    } else if (command == QLatin1String("window")) {
+      const QWidget* window = QApplication::activeWindow();
+      answer(QStringLiteral("ok ") + (window != nullptr ? window->objectName() : QString()));
     } else if (command == QLatin1String("settle")) {
       QTimer::singleShot(0, this, [this] { answer(QStringLiteral("ok")); });
     } else if (command == QLatin1String("shot")) {
@@ -122,7 +127,9 @@ class Driver : public QObject {
   }
 
   void answerText(const QString& name) {
-    for (const QWidget* window : QApplication::topLevelWidgets()) {
+    QWidgetList windows = QApplication::topLevelWidgets();
+    if (QWidget* active = QApplication::activeWindow()) windows.prepend(active);
+    for (const QWidget* window : windows) {
       if (!window->isVisible()) continue;
       const QWidget* found = window->findChild<QWidget*>(name);
       QString text;

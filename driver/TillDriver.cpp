@@ -111,6 +111,10 @@ void TillDriver::waitForText(std::string_view control, std::string_view part) {
                            std::string(part) + "\"");
 }
 
+std::string TillDriver::activeWindow() {
+  return ask("window");
+}
+
 std::string TillDriver::text(std::string_view control) {
   return ask("text " + std::string(control));
 }

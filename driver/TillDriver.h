@@ -30,6 +30,8 @@ class TillDriver {
   void waitFor(std::string_view window);
   /// Waits until a control shows a text that contains `part`.
   void waitForText(std::string_view control, std::string_view part);
+  /// The name of the active window, empty when there is none.
+  std::string activeWindow();
   /// The text that a label or an input field shows.
   std::string text(std::string_view control);
   /// Saves a picture of the screen as PNG.
@@ -39,6 +41,9 @@ class TillDriver {
   int waitForEnd();
   /// Kills the till at once, as a power cut would.
   void kill();
+  /// The process that runs the till, for one who kills it from another thread; it is this object's
+  /// until waitForEnd or kill.
+  int process() const { return process_; }
 
  private:
   std::string ask(const std::string& command);
