@@ -1,5 +1,6 @@
 #include <QApplication>
 #include <QElapsedTimer>
+#include <QFile>
 #include <QGenericPlugin>
 #include <QKeySequence>
 #include <QLabel>
@@ -12,6 +13,9 @@
 
 #include <unistd.h>
 
+#include <memory>
+
+#include "Monkey.h"
 #include "Screenshot.h"
 
 namespace {
@@ -29,6 +33,8 @@ constexpr int kPollMs = 2;
 ///   window         the name of the active window
 ///   settle         once the keys sent before have been delivered
 ///   shot FILE      a picture of the screen
+///   monkey S N W   N random events from seed S, with the words of file W (see Monkey); answered by
+///                  several lines
 /// Each is answered by one line, "ok ..." or "error ...". A click is answered before it is
 /// delivered, because a window that it opens only returns when that window is closed.
 class Driver : public QObject {
@@ -75,9 +81,22 @@ class Driver : public QObject {
     } else if (command == QLatin1String("shot")) {
       answer(screenshot().save(argument) ? QStringLiteral("ok")
                                          : QStringLiteral("error cannot save"));
+    } else if (command == QLatin1String("monkey")) {
+      letMonkeyLoose(argument);
     } else {
       answer(QStringLiteral("error unknown command"));
     }
+  }
+
+  void letMonkeyLoose(const QString& argument) {
+    QFile file(argument.section(QLatin1Char(' '), 2));
+    file.open(QIODevice::ReadOnly);
+    const QStringList words =
+        QString::fromUtf8(file.readAll()).split(QLatin1Char('\n'), Qt::SkipEmptyParts);
+    monkey_ = std::make_unique<Monkey>(argument.section(QLatin1Char(' '), 0, 0).toUInt(),
+                                       argument.section(QLatin1Char(' '), 1, 1).toInt(), words,
+                                       [this](const QString& line) { answer(line); });
+    monkey_->start();
   }
 
   static QWindow* activeWindow() {
@@ -155,6 +174,7 @@ class Driver : public QObject {
   int socket_;
   QSocketNotifier notifier_;
   QByteArray pending_;
+  std::unique_ptr<Monkey> monkey_;
 };
 
 }  // namespace

@@ -2,6 +2,7 @@
 
 #include <chrono>
 #include <filesystem>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -37,6 +38,11 @@ class TillDriver {
   /// Saves a picture of the screen as PNG.
   void shot(const std::filesystem::path& file);
 
+  /// Works the till with that many random events (see driver/Monkey.h), typing also the lines of
+  /// the file `words`. Gives how many it came to, in steps of a hundred: fewer when one of them
+  /// ended the till. Throws when a window cannot be left or the till stands still.
+  int monkey(unsigned seed, int events, const std::filesystem::path& words);
+
   /// Waits for the till to end by itself and gives its exit code.
   int waitForEnd();
   /// Kills the till at once, as a power cut would.
@@ -47,6 +53,8 @@ class TillDriver {
 
  private:
   std::string ask(const std::string& command);
+  void send(const std::string& command);
+  std::optional<std::string> receiveLine();
 
   int socket_ = -1;
   int process_ = -1;

@@ -197,6 +197,7 @@ void Day::settle(TillDriver& till) {
   till.waitFor("frmEndSell");
   till.waitForText("Money", twoDecimals(figures().amount));
   const Currency most = journal_.confirmed().members.at(anyCard()).balance;
+  settledBill_ = bill_.number;
   chance(35) && most > figures().amount ? payCard(till) : payCash(till);
   till.waitFor("frmSell");
   newBill(till);

@@ -26,6 +26,8 @@ class Day {
   void step(TillDriver& till);
   /// Leaves the till by its menus.
   void close(TillDriver& till);
+  /// The bill that was settled last, or was being settled; 0 before the first.
+  int settledBill() const { return settledBill_; }
 
  private:
   struct OpenBill {
@@ -68,5 +70,6 @@ class Day {
   OpenBill bill_;
   std::vector<OpenBill> held_;
   int highestNumber_ = 0;
+  int settledBill_ = 0;
   int mainEntry_ = 0, furtherEntry_ = 0;  ///< where the menus' highlights are
 };
