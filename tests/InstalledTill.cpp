@@ -36,7 +36,7 @@ void InstalledTill::writeSettings(const std::string& display) {
 
 std::uintmax_t InstalledTill::drawerBytes() const {
   std::error_code none;
-  const std::uintmax_t size = fs::file_size(folder() / "LPT2", none);
+  const std::uintmax_t size = fs::file_size(drawer(), none);
   return none ? 0 : size;
 }
 

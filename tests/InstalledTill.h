@@ -21,7 +21,8 @@ class InstalledTill {
   const std::filesystem::path& folder() const { return folder_.path(); }
   std::filesystem::path program() const { return folder() / "program"; }
   std::filesystem::path dataFile() const { return program() / "data" / "POS.mdb"; }
-  /// How many bytes the drawer's port has been sent.
+  /// The drawer's port, and how many bytes it has been sent.
+  std::filesystem::path drawer() const { return folder() / "LPT2"; }
   std::uintmax_t drawerBytes() const;
   /// The data file as an owner's tool opens it.
   std::unique_ptr<Connection> open() const;

@@ -188,8 +188,8 @@ Journal::Step Day::settling(const Ledger::Bill& bill) const {
 void Day::confirming(const std::string& what, Journal::Step step, Journal::Step halfway,
                      TillDriver& till) {
   journal_.begin(what, std::move(step), std::move(halfway));
-  till.key("Return");
   aboutToConfirm_();
+  till.key("Return");
 }
 
 void Day::settle(TillDriver& till) {

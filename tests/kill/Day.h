@@ -16,7 +16,7 @@ class TillDriver;
 /// expects throws std::runtime_error, as does a till that is gone.
 class Day {
  public:
-  /// `aboutToConfirm` is called when a key that changes the books has just been sent.
+  /// `aboutToConfirm` is called before a key is sent that changes the books.
   Day(Journal& journal, Goods goods, unsigned seed, std::function<void()> aboutToConfirm);
 
   /// From the main menu to an empty bill; gives the message about bills that were completed, if
