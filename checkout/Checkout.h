@@ -44,8 +44,7 @@ class Checkout {
   bool takePayment();
   void dropUnstored();
   void withdrawDropped();
-  std::shared_ptr<ClsSell> openNextBill();
-  void emptyList();
+  std::shared_ptr<ClsSell> nextBill();
   void printPageReceipts();
   bool showLastBill();
 

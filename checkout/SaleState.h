@@ -52,7 +52,6 @@ struct SaleState {
   ReceiptColumns receiptCols;
   bool hasDrawer = false;
   bool hasDisplay = false;
-  std::int16_t stockRule = 0;
   std::int64_t origTotal = 0;  ///< original-price figure of the status line
 
   /// The column that the editor is on.

@@ -8,7 +8,8 @@
 class TillDriver;
 
 /// A day at the till of the demo shop, worked by keyboard: the morning with a line printer, the
-/// afternoon and the evening with the page printer. Leaves pictures, receipts and display texts in the out folder.
+/// afternoon and the evening with the page printer. Leaves pictures, receipts and display texts in
+/// the out folder.
 class DemoDay {
  public:
   /// `program` is an installed program folder with a demo shop's data file; a copy of it in `out`
@@ -32,6 +33,7 @@ class DemoDay {
   void topUp(TillDriver& till);
   void memberBill(TillDriver& till);
   void suspendedBill(TillDriver& till);
+  void colours(TillDriver& till);
   void takeBack(TillDriver& till);
   void handOver(TillDriver& till);
   void query(TillDriver& till);

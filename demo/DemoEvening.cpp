@@ -45,6 +45,7 @@ void DemoDay::evening() {
   topUp(till);
   memberBill(till);
   suspendedBill(till);
+  colours(till);
   till.key("Esc");
   mainEntry = kSell;
 
@@ -147,6 +148,18 @@ void DemoDay::suspendedBill(TillDriver& till) {
   till.enter("50");
   till.waitFor("frmSell");
   ++settledBills_;
+}
+
+void DemoDay::colours(TillDriver& till) {
+  constexpr int kColours = 5;  // position in the function menu
+  till.key("Menu");
+  till.waitFor("myMenu");
+  for (int entry = 0; entry < kColours; ++entry) till.key("Down");
+  till.key("Return");
+  till.waitFor("frmColor");
+  shot(till, "colours");
+  till.key("Esc");
+  till.waitFor("frmSell");
 }
 
 void DemoDay::takeBack(TillDriver& till) {

@@ -179,7 +179,7 @@ class Driver : public QObject {
 
 }  // namespace
 
-/// What Qt loads; the specification is the socket's file descriptor.
+/// What Qt loads; the argument is the socket's file descriptor.
 class DriverPlugin : public QGenericPlugin {
   Q_OBJECT
   Q_PLUGIN_METADATA(IID QGenericPluginFactoryInterface_iid FILE "DriverPlugin.json")

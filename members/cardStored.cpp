@@ -12,8 +12,8 @@
 #include "base/Failure.h"
 #include "base/NumberText.h"
 #include "base/Text.h"
-#include "members/CardNumber.h"
 #include "platform/VirtualKey.h"
+#include "saleslib/CardNumber.h"
 #include "shell/Modal.h"
 
 namespace {

@@ -15,8 +15,8 @@
 #include "base/Failure.h"
 #include "base/NumberText.h"
 #include "base/Text.h"
-#include "members/CardNumber.h"
 #include "platform/VirtualKey.h"
+#include "saleslib/CardNumber.h"
 #include "saleslib/ClsMember.h"
 #include "shell/Modal.h"
 

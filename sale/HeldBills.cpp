@@ -140,7 +140,6 @@ void HeldBills::show(Recalled recalled) {
   state_.curBill = std::move(recalled.bill);
   const ClsSell& bill = *state_.curBill;
   checkout_.ShowBillNo();
-  printAgain();
   state_.rows = std::move(recalled.rows);
   state_.origTotal = recalled.origTotal;
   state_.AddEntryRow();
@@ -153,6 +152,7 @@ void HeldBills::show(Recalled recalled) {
   memberCard_.show(std::move(recalled.member));
   screen_.rowsChanged();
   screen_.PlaceEditor();
+  printAgain();
   for (const QString& refusal : recalled.refusals) {
     screen_.ShowMessage(refusal + tr("，已从本单中去掉。"));
   }

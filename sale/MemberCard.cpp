@@ -1,26 +1,11 @@
 #include "sale/MemberCard.h"
 
-#include <algorithm>
-
 #include "app/posMod.h"
 #include "base/Failure.h"
-#include "base/Text.h"
 #include "checkout/Checkout.h"
 #include "checkout/SaleScreen.h"
 #include "checkout/SaleState.h"
-
-namespace {
-
-// A card reader types a track between ";" and "?".
-std::string numberOf(const QString& typed) {
-  std::string number = halfWidth(typed.toStdString());
-  number.erase(
-      std::remove_if(number.begin(), number.end(), [](char c) { return c == ';' || c == '?'; }),
-      number.end());
-  return trimmed(number);
-}
-
-}  // namespace
+#include "saleslib/CardNumber.h"
 
 MemberCard::MemberCard(posMod& pos, SaleState& state, SaleScreen& screen, Checkout& checkout)
     : pos_(pos), state_(state), screen_(screen), checkout_(checkout) {}
@@ -30,7 +15,8 @@ void MemberCard::AttachMember() {
     screen_.ShowMessage(tr("会员卡只能在还没有开始销售时加入！"));
     return;
   }
-  const std::string number = numberOf(screen_.prompt(tr("会员卡"), tr("输入会员卡号或电话：")));
+  const QString typed = screen_.prompt(tr("会员卡"), tr("输入会员卡号或电话："));
+  const std::string number = memberNumber(typed.toStdString());
   std::shared_ptr<ClsMember> member;
   try {
     if (!number.empty()) member = find(number);

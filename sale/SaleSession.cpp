@@ -20,13 +20,18 @@ Outage::Report reportTo(SaleScreen& screen) {
   return [&screen](const QString& text) { screen.ShowMessage(text); };
 }
 
+// The display's reason is the system's own, and comes in the system's box.
+Outage::Report boxOf(SaleScreen& screen) {
+  return [&screen](const QString& text) { screen.messageBox(text); };
+}
+
 }  // namespace
 
 SaleSession::SaleSession(posMod& pos, SaleScreen& screen, Openers openers)
     : pos_(pos),
       screen_(screen),
       openers_(std::move(openers)),
-      display_(pos.ports, pos.gPosSet, state, reportTo(screen)),
+      display_(pos.ports, pos.gPosSet, state, boxOf(screen)),
       drawer_(pos.ports, pos.gPosSet, state, display_, reportTo(screen)),
       receipt_(pos, state, drawer_, reportTo(screen)),
       checkout_(pos, state, screen, display_, receipt_),
@@ -59,7 +64,6 @@ void SaleSession::loadSettings() {
   state.hasDrawer = !settings.MBPort.empty();
   state.hasDisplay = !settings.CVProt.empty();
   if (state.hasDisplay) display_.OpenDisplayPort();
-  state.stockRule = pos_.gSysParam.StockRule();
 }
 
 void SaleSession::voidOpenBills() {

@@ -16,6 +16,12 @@ QString css(int bgr) {
   return settingColour(bgr).name();
 }
 
+// A text in the colour of its background would hide the bill: all six colours are 0 until they are
+// set.
+QString textCss(int fore, int back) {
+  return fore == back ? legibleOn(settingColour(back)).name() : css(fore);
+}
+
 // A style sheet reaches into the dialogs that the screen owns: what they have too is told apart by
 // its parent. The help line has no colour of its own among the settings: it reads on whatever C1
 // is.
@@ -28,8 +34,9 @@ QString colours(const ClsPosSet& settings) {
              "#frmSell > #title1, #frmSell > #title2, #frmSell > #title3 { color: %6; }"
              "#ViewF { color: %7; }"
              "#lv { selection-background-color: #ffe08a; selection-color: black; }")
-      .arg(css(settings.C1), css(settings.C2), css(settings.C3), css(settings.C4), css(settings.C5),
-           css(settings.C6), legibleOn(settingColour(settings.C1)).name());
+      .arg(css(settings.C1), css(settings.C2), textCss(settings.C3, settings.C2),
+           textCss(settings.C4, settings.C2), textCss(settings.C5, settings.C1),
+           textCss(settings.C6, settings.C1), legibleOn(settingColour(settings.C1)).name());
 }
 
 QString sizes(int type) {

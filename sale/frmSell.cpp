@@ -153,6 +153,10 @@ void frmSell::begin() {
   setMemberInfo({});
   showTime();
   applyStyle();
+  // At its full size before the first message of the opening is placed over it, with no input line
+  // yet.
+  t_->resize(0, 0);
+  setGeometry(this->screen()->geometry());
   showFullScreen();
   activateWindow();
   t_->setFocus();

@@ -105,6 +105,29 @@ TEST_F(posModTest, BackUpIsTheWholeDataFileForItsOwnerOnly) {
   EXPECT_EQ(pos.gSysParam.set("ShopName", "大店"), "");
 }
 
+TEST_F(posModTest, WhatHoldsSecretsIsItsOwnersAlone) {
+  makeShop("data/POS.mdb");
+  makeShop("data/plain.mdb", "");
+  struct Case {
+    const char* path;
+    unsigned configAfterwards;
+  };
+  for (const Case& each : {Case{"data/POS.mdb;Jet OLEDB:Database password=kvrnex", 0600},
+                           Case{"data/plain.mdb", 0644}}) {
+    configure("[Database]\nPath=" + std::string(each.path) + "\n");
+    std::ofstream(folder_.file("data/pos3.mdb")) << "a backup";
+    for (const char* name : {"config.ini", "data/pos3.mdb"})
+      fs::permissions(folder_.file(name), fs::perms(0644));
+    posMod pos(folder_.path());
+    ASSERT_EQ(pos.OpenDataStore(), "");
+    EXPECT_EQ(pos.protectFiles(), "");
+    EXPECT_EQ(fs::status(folder_.file("data/pos3.mdb")).permissions(), fs::perms(0600));
+    EXPECT_EQ(fs::status(folder_.file("config.ini")).permissions(),
+              fs::perms(each.configAfterwards))
+        << each.path;
+  }
+}
+
 TEST_F(posModTest, AFailingBackUpLeavesTheEarlierCopy) {
   makeShop("data/POS.mdb");
   std::ofstream(folder_.file("data/pos3.mdb")) << "an older copy";

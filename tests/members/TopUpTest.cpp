@@ -1,7 +1,7 @@
 #include "members/TopUp.h"
 
 #include "MembersTill.h"
-#include "members/CardNumber.h"
+#include "saleslib/CardNumber.h"
 #include "saleslib/ClsSysParam.h"
 #include "store/StoreError.h"
 

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <QClipboard>
+#include <QGuiApplication>
 #include <QLabel>
 #include <QLineEdit>
 
@@ -83,6 +85,16 @@ TEST_F(frmLoginTest, HostileTextsAreJustWrong) {
     hands_.press("messageBox", {Qt::Key_Escape}).press("frmLogin", {Qt::Key_Escape});
     EXPECT_EQ(login_.goLogin(), frmLogin::kCancelled) << number.left(20).toStdString();
   }
+}
+
+TEST_F(frmLoginTest, ThePasswordIsNotCopied) {
+  auto& password = *login_.findChild<QLineEdit*>("txtPassword");
+  password.setText("111");
+  QGuiApplication::clipboard()->setText("before");
+  for (const auto copying : {QKeySequence::SelectAll, QKeySequence::Copy, QKeySequence::Cut})
+    QTest::keySequence(&password, copying);
+  EXPECT_EQ(QGuiApplication::clipboard()->text(), "before");
+  EXPECT_EQ(password.contextMenuPolicy(), Qt::NoContextMenu);
 }
 
 TEST_F(frmLoginTest, KeysFollowTheMap) {

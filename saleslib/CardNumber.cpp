@@ -1,4 +1,4 @@
-#include "members/CardNumber.h"
+#include "saleslib/CardNumber.h"
 
 #include "base/Text.h"
 
