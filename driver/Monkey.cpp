@@ -7,6 +7,8 @@
 #include <QTest>
 #include <QTimer>
 #include <QWindow>
+#include <string_view>
+#include <vector>
 
 namespace {
 
@@ -14,6 +16,7 @@ constexpr int kReportEvery = 100;
 /// How long the monkey plays before it goes home, and how long that may take.
 constexpr int kSpell = 1500;
 constexpr int kLongestWayHome = 20000;
+constexpr int kLowNumbers = 60;
 constexpr int kDoubleClickGap = 1000;  // milliseconds that keep two clicks from being a double one
 
 constexpr Qt::Key kKeys[] = {
@@ -40,6 +43,24 @@ const char* const kTexts[] = {"0",    "1",           "2",
                               "é",    "a b",         ";880001?",
                               ".",    "-",           "1.2.3",
                               "NaN",  "&amp;<b>",    "x=1;drop table sell"};
+
+/// What makes sense in a window: "\n" is Enter, "\t" Tab, "#" a low number, "*" one of the words.
+struct Phrase {
+  const char* window;
+  const char* keys;
+};
+constexpr Phrase kPhrases[] = {{"frmSell", "*\n"},
+                               {"frmSell", "*\n*\n"},
+                               {"frmSell", "*\n*\n*\n\n"},
+                               {"frmEndSell", "1000\n"},
+                               {"frmEndSell", "\t0.5\t3\t2\n50\n"},
+                               {"frmEndSell", "\t\t\t\t880001\n1111\n"},
+                               {"frmInput", "880001\n"},
+                               {"frmInput", "3.5\n"},
+                               {"frmUnSell", "#\n"},
+                               {"frmUnSell", "#\n*\n1\n\n"},
+                               {"cardStored", "880002\n50\n60\n\t\n\n"},
+                               {"cardStored", "880003\n#\n#\n\t\n\n"}};
 
 QWidget* front() {
   if (QWidget* popup = QApplication::activePopupWidget()) return popup;
@@ -103,6 +124,7 @@ void Monkey::playAround() {
   window_ = name;
   if (name == QLatin1String("frmLogin") && isNew && chance(85)) return logIn();
   if (atHome() && chance(90)) return chooseFromMainMenu();
+  if (chance(12) && speak(name)) return;
   const int dice = below(1000);
   if (dice < 550) return randomKey();
   if (dice < 800) return randomText();
@@ -167,6 +189,25 @@ void Monkey::randomText() {
   if (chance(75)) key(Qt::Key_Return);
 }
 
+/// False when nothing makes sense in that window.
+bool Monkey::speak(const QString& window) {
+  std::vector<const char*> known;
+  for (const Phrase& phrase : kPhrases) {
+    if (window == QLatin1String(phrase.window)) known.push_back(phrase.keys);
+  }
+  if (known.empty()) return false;
+  for (const char each : std::string_view(one(known))) {
+    if (each == '#') {
+      type(QString::number(1 + below(kLowNumbers)));
+    } else if (each == '*') {
+      type(one(words_));
+    } else {
+      type(QString(QLatin1Char(each)));
+    }
+  }
+  return true;
+}
+
 // At a control more often than anywhere.
 void Monkey::randomMouse() {
   QWidget* window = front();
@@ -212,6 +253,10 @@ void Monkey::key(int key, Qt::KeyboardModifiers modifiers, const QString& text) 
 
 void Monkey::type(const QString& text) {
   for (const QChar character : text) {
+    if (character == QLatin1Char('\n') || character == QLatin1Char('\t')) {
+      key(character == QLatin1Char('\n') ? Qt::Key_Return : Qt::Key_Tab);
+      continue;
+    }
     const bool ascii = character.unicode() < 128;
     key(ascii ? QTest::asciiToKey(character.toLatin1()) : Qt::Key_unknown, {}, QString(character));
   }

@@ -11,8 +11,8 @@
 class QWidget;
 class QWindow;
 
-/// Works the till without sense: random keys, clicks and texts in whatever window is in front, at
-/// times with the wish to get home to the main menu. The same seed does the same, as long as the
+/// Works the till without much sense: random keys, clicks and texts in whatever window is in front,
+/// at times with the wish to get home to the main menu. The same seed does the same, as long as the
 /// till does. File dialogs are kept in the current folder.
 class Monkey : public QObject {
  public:
@@ -33,6 +33,7 @@ class Monkey : public QObject {
   bool atHome() const;
   void logIn();
   void chooseFromMainMenu();
+  bool speak(const QString& window);
   void randomKey();
   void randomText();
   void randomMouse();
