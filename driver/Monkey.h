@@ -19,7 +19,7 @@ class Monkey : public QObject {
   using Tell = std::function<void(const QString&)>;
 
   /// `words` are texts worth typing, barcodes for example. Tells "at N" every hundred events and
-  /// in the end "ok N"; or "error" with the name of a window that cannot be left.
+  /// in the end, back home, "ok N"; or "error" with the name of a window that cannot be left.
   Monkey(unsigned seed, int events, QStringList words, Tell tell);
 
   void start();
