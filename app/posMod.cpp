@@ -1,10 +1,14 @@
 #include "app/posMod.h"
 
+#include <algorithm>
+#include <iterator>
 #include <system_error>
 #include <utility>
+#include <vector>
 
 #include "base/Failure.h"
 #include "base/FileName.h"
+#include "base/OwnerOnly.h"
 #include "platform/MousePointer.h"
 #include "store/DataFile.h"
 #include "store/DataFileCopy.h"
@@ -39,6 +43,20 @@ std::string posMod::OpenDataStore() {
   }
 }
 
+std::string posMod::protectFiles() const {
+  std::vector<std::filesystem::path> exposed = protectDataFile(gConn->source().path);
+  std::vector<std::filesystem::path> others = {backupPath()};
+  const auto configured = configIni.read("Database", "Path");
+  if (configured && !DataSource::parse(*configured).password.empty())
+    others.emplace_back(findIgnoringCase((folder / "Config.ini").string()));
+  std::copy_if(others.begin(), others.end(), std::back_inserter(exposed),
+               [](const auto& file) { return !makeOwnerOnly(file); });
+  if (exposed.empty()) return {};
+  std::string text = "下列文件别人也能读写，本程序无权更改，请让管理员收回权限：";
+  for (const auto& file : exposed) text += "\n" + file.string();
+  return text;
+}
+
 void posMod::start() {
   gSysParam.Conn(*gConn);
   gMemberSvc.Conn(*gConn);
@@ -60,10 +78,14 @@ void posMod::logOff() {
 
 void posMod::backUp() {
   const auto source = findIgnoringCase((folder / "data/pos.mdb").string());
-  const auto target = findIgnoringCase((folder / "data/pos3.mdb").string());
+  const auto target = backupPath();
   std::error_code ignored;
   if (gConn && std::filesystem::equivalent(source, gConn->source().path, ignored))
     copyDataFile(*gConn, target);
   else
     copyClosedDataFile(source, target);
+}
+
+std::filesystem::path posMod::backupPath() const {
+  return findIgnoringCase((folder / "data/pos3.mdb").string());
 }

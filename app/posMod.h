@@ -44,6 +44,10 @@ class posMod {
   /// folder/data/POS.mdb with the built-in password. An empty text, or why it could not, for a
   /// message box.
   [[nodiscard]] std::string OpenDataStore();
+  /// Makes what holds secrets readable by its owner only: the data file with its logs, its lock and
+  /// its backup, and Config.ini when the data file's password is in it. An empty text, or which
+  /// files others keep rights on, for a message. Needs the data file open.
+  [[nodiscard]] std::string protectFiles() const;
   /// Binds the services to the data file and loads keyboard map and terminal settings; hides the
   /// pointer unless the settings show it. Needs the data file open. Throws StoreError.
   void start();
@@ -58,4 +62,5 @@ class posMod {
 
  private:
   DataSource dataSource() const;
+  std::filesystem::path backupPath() const;
 };

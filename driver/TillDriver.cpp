@@ -1,6 +1,7 @@
 #include "driver/TillDriver.h"
 
 #include <fcntl.h>
+#include <poll.h>
 #include <signal.h>
 #include <sys/socket.h>
 #include <sys/wait.h>
@@ -13,6 +14,7 @@
 namespace {
 
 constexpr int kMostTabs = 60;
+constexpr int kStandstillMs = 120000;
 constexpr auto kTextLimit = std::chrono::seconds(20);
 
 /// The screen of the off-screen platform, as its configuration file wants it.
@@ -53,22 +55,46 @@ TillDriver::~TillDriver() {
   ::close(socket_);
 }
 
-std::string TillDriver::ask(const std::string& command) {
+void TillDriver::send(const std::string& command) {
   const std::string line = command + "\n";
   if (::send(socket_, line.data(), line.size(), MSG_NOSIGNAL) != ssize_t(line.size())) {
     throw std::runtime_error("the till is gone at: " + command);
   }
+}
+
+/// Nothing when the till has gone. Throws when it stands still.
+std::optional<std::string> TillDriver::receiveLine() {
   for (std::size_t end; (end = received_.find('\n')) == std::string::npos;) {
+    pollfd ready{socket_, POLLIN, 0};
+    if (poll(&ready, 1, kStandstillMs) == 0) throw std::runtime_error("the till stands still");
     char bytes[4096];
     const ssize_t got = ::recv(socket_, bytes, sizeof bytes, 0);
-    if (got <= 0) throw std::runtime_error("the till went away at: " + command);
+    if (got <= 0) return std::nullopt;
     received_.append(bytes, std::size_t(got));
   }
   const std::size_t end = received_.find('\n');
-  const std::string answer = received_.substr(0, end);
+  const std::string line = received_.substr(0, end);
   received_.erase(0, end + 1);
-  if (!answer.starts_with("ok")) throw std::runtime_error(command + ": " + answer);
-  return answer.size() > 3 ? answer.substr(3) : std::string();
+  return line;
+}
+
+std::string TillDriver::ask(const std::string& command) {
+  send(command);
+  const std::optional<std::string> answer = receiveLine();
+  if (!answer) throw std::runtime_error("the till went away at: " + command);
+  if (!answer->starts_with("ok")) throw std::runtime_error(command + ": " + *answer);
+  return answer->size() > 3 ? answer->substr(3) : std::string();
+}
+
+int TillDriver::monkey(unsigned seed, int events, const std::filesystem::path& words) {
+  send("monkey " + std::to_string(seed) + " " + std::to_string(events) + " " + words.string());
+  int done = 0;
+  while (const std::optional<std::string> line = receiveLine()) {
+    if (line->starts_with("error")) throw std::runtime_error("the monkey: " + *line);
+    done = std::stoi(line->substr(3));
+    if (line->starts_with("ok")) break;
+  }
+  return done;
 }
 
 void TillDriver::key(std::string_view name) {
@@ -109,6 +135,10 @@ void TillDriver::waitForText(std::string_view control, std::string_view part) {
   } while (std::chrono::steady_clock::now() < giveUp);
   throw std::runtime_error(std::string(control) + " shows \"" + shown + "\", not \"" +
                            std::string(part) + "\"");
+}
+
+std::string TillDriver::activeWindow() {
+  return ask("window");
 }
 
 std::string TillDriver::text(std::string_view control) {

@@ -75,6 +75,7 @@ class Connection {
  private:
   friend class Transaction;
   friend void copyDataFile(Connection& connection, const std::filesystem::path& target);
+  friend void backUpDataFile(Connection& connection, const std::filesystem::path& target);
   Rows queryBound(const char* text, std::vector<Value> values);
 
   struct EngineCloser {

@@ -2,6 +2,7 @@
 
 #include <string>
 
+#include "base/OwnerOnly.h"
 #include "base/Text.h"
 #include "store/Connection.h"
 #include "store/FragmentIndex.h"
@@ -41,7 +42,7 @@ void removeFiles(const std::filesystem::path& path) {
 // The password is the whole rest: it may hold ";", "=" and blanks.
 DataSource DataSource::parse(std::string_view text) {
   const std::size_t mark = asciiLower(text).find(kPasswordMark);
-  DataSource source{trimmed(text.substr(0, mark)), {}};
+  DataSource source{trimmed(text.substr(0, text.find(';'))), {}};
   if (mark != std::string_view::npos) source.password = text.substr(mark + kPasswordMark.size());
   return source;
 }
@@ -51,7 +52,17 @@ std::unique_ptr<Connection> openDataFile(const DataSource& source) {
   upgradeSchema(*connection, false);
   useWriteAheadLog(*connection);
   quickenLookUps(*connection);
+  static_cast<void>(protectDataFile(connection->source().path));  // the till says what stays open
   return connection;
+}
+
+std::vector<std::filesystem::path> protectDataFile(const std::filesystem::path& path) {
+  std::vector<std::filesystem::path> exposed;
+  for (const char* part : {"", "-wal", "-shm", "-journal", ".lock"}) {
+    const std::filesystem::path file = path.string() + part;
+    if (!makeOwnerOnly(file)) exposed.push_back(file);
+  }
+  return exposed;
 }
 
 std::unique_ptr<Connection> createDataFile(const DataSource& source) {

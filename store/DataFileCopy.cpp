@@ -8,6 +8,7 @@
 #include <cerrno>
 #include <cstdio>
 #include <fstream>
+#include <iterator>
 #include <string>
 #include <system_error>
 
@@ -31,9 +32,8 @@ class NewFile {
     if (file_ < 0) fail();
   }
   ~NewFile() {
-    if (file_ < 0) return;
-    close(file_);
-    unlink(path_.c_str());
+    if (file_ >= 0) close(file_);
+    if (!isNamed_) unlink(path_.c_str());
   }
   NewFile(const NewFile&) = delete;
   NewFile& operator=(const NewFile&) = delete;
@@ -48,11 +48,21 @@ class NewFile {
     }
   }
 
-  void takeItsName() {
-    if (fsync(file_) != 0 || rename(path_.c_str(), target_.c_str()) != 0) fail();
+  const std::string& path() const { return path_; }  ///< until it takes its name
+
+  /// Everything is on the disk.
+  void finish() {
+    if (fsync(file_) != 0) fail();
     close(file_);
     file_ = -1;
-    const int folder = open(target_.parent_path().c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+  }
+
+  /// After finish.
+  void takeItsName() {
+    if (rename(path_.c_str(), target_.c_str()) != 0) fail();
+    isNamed_ = true;
+    const std::filesystem::path parent = std::filesystem::absolute(target_).parent_path();
+    const int folder = open(parent.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
     if (folder < 0) return;
     fsync(folder);
     close(folder);
@@ -66,7 +76,29 @@ class NewFile {
   std::filesystem::path target_;
   std::string path_;
   int file_ = -1;
+  bool isNamed_ = false;
 };
+
+// Reads every page, so that each is deciphered and the tables' structure walked. The engine names
+// the answer like that of its longer check.
+void verifyByOpening(const DataSource& original, const NewFile& copy) {
+  constexpr const char* kWrong = "备份文件写出来不对，没有采用：";
+  try {
+    Connection opened({copy.path(), original.password}, Connection::Mode::kExisting);
+    Rows rows = opened.query("pragma quick_check(1)");
+    if (!rows.next() || rows.text("integrity_check") != "ok")
+      throw StoreError(rows.text("integrity_check"));
+  } catch (const StoreError& error) {
+    throw StoreError(kWrong + std::string(error.what()));
+  }
+}
+
+void verifyByComparing(const std::filesystem::path& original, const NewFile& copy) {
+  std::ifstream left(original, std::ios::binary), right(copy.path(), std::ios::binary);
+  using Bytes = std::istreambuf_iterator<char>;
+  if (!std::equal(Bytes(left), Bytes(), Bytes(right), Bytes()))
+    throw StoreError("备份的时候数据文件变了，没有采用这个备份：" + original.string());
+}
 
 bool logIsEmpty(const std::filesystem::path& dataFile) {
   std::error_code missing;
@@ -104,10 +136,29 @@ void copyDataFile(Connection& connection, const std::filesystem::path& target) {
     if (!logIsEmpty(connection.source().path)) continue;
     NewFile copy(target);
     copyThroughEngine(engine, copy);
+    copy.finish();
+    verifyByOpening(connection.source(), copy);
     copy.takeItsName();
     return;
   }
   throw StoreError("另一个程序一直在写数据文件，没有备份。");
+}
+
+// All pages in one step, which is one reading transaction: the write-ahead log lets others write
+// meanwhile. In several steps each write of another program would start the copy again.
+void backUpDataFile(Connection& connection, const std::filesystem::path& target) {
+  NewFile copy(target);
+  {
+    Connection written({copy.path(), connection.source().password}, Connection::Mode::kExisting);
+    sqlite3* to = written.engine_.get();
+    sqlite3_backup* backup = sqlite3_backup_init(to, "main", connection.engine_.get(), "main");
+    if (backup == nullptr) check(to, sqlite3_errcode(to));
+    sqlite3_backup_step(backup, -1);
+    check(to, sqlite3_backup_finish(backup));
+  }
+  copy.finish();
+  verifyByOpening(connection.source(), copy);
+  copy.takeItsName();
 }
 
 void copyClosedDataFile(const std::filesystem::path& source, const std::filesystem::path& target) {
@@ -122,5 +173,7 @@ void copyClosedDataFile(const std::filesystem::path& source, const std::filesyst
     copy.append(block.data(), static_cast<std::size_t>(file.gcount()));
   }
   if (file.bad()) throw StoreError("不能读数据文件：" + found.string());
+  copy.finish();
+  verifyByComparing(found, copy);
   copy.takeItsName();
 }

@@ -24,6 +24,9 @@ bool Till::Main() {
     messageBox(nullptr, QString::fromStdString(refusal));
     return false;
   }
+  const std::string exposed = pos_.protectFiles();
+  if (!exposed.empty())
+    messageBox(nullptr, QString::fromStdString(exposed), {}, BoxIcon::kExclamation);
   pos_.start();
   frmSell_ = std::make_unique<frmSell>(pos_, saleScreens(), [this] { frmMain_->close(); });
   frmMain_ = std::make_unique<frmMain>(pos_, screens());

@@ -1,12 +1,14 @@
 #include <QCoreApplication>
 
 #include "base/Failure.h"
+#include "platform/CoreDumps.h"
 #include "shell/FocusReturn.h"
 #include "shell/Style.h"
 #include "till/Till.h"
 #include "till/TillApplication.h"
 
 int main(int argc, char** argv) {
+  turnCoreDumpsOff();
   TillApplication application(argc, argv);
   application.setApplicationDisplayName(TillApplication::tr("前台收银"));
   application.setQuitOnLastWindowClosed(false);  // dialogs come and go; the main window ends it

@@ -4,6 +4,7 @@
 #include <memory>
 
 #include "store/Connection.h"
+#include "store/FragmentIndex.h"
 #include "tools/Books.h"
 #include "tools/DataFileOptions.h"
 
@@ -11,10 +12,26 @@ namespace {
 
 constexpr int kFaultsFound = 1;
 
-void check(const DataFileOptions& file, Console& console, int& exitCode) {
-  const std::unique_ptr<Connection> connection = openDataFile(file.source());
+struct Options {
+  DataFileOptions file;
+  bool repair = false;
+};
+
+void repairIndex(Connection& connection, Console& console) {
+  if (fragmentIndexIsRight(connection)) return;
+  rebuildFragmentIndex(connection);
+  console.out << "商品查找索引不对，已重建。\n";
+}
+
+void check(const Options& options, Console& console, int& exitCode) {
+  const std::unique_ptr<Connection> connection = openDataFile(options.file.source(console));
+  if (options.repair) repairIndex(*connection, console);
   Books books(*connection, [&console](const std::string& fault) { console.out << fault << '\n'; });
   const BooksSummary found = books.check();
+  if (found.paidBills > 0) {
+    console.out << "有 " << found.paidBills
+                << " 张单据已收款、还没存完：正在结账，或者下次打开收银窗口时补存。\n";
+  }
   if (found.faults > 0) {
     console.out << "发现 " << found.faults << " 处问题。\n";
     exitCode = kFaultsFound;
@@ -30,7 +47,9 @@ void check(const DataFileOptions& file, Console& console, int& exitCode) {
 void addCheckCommand(CLI::App& app, Console& console, int& exitCode) {
   CLI::App* command = app.add_subcommand(
       "check", "检查数据文件是否完好、账目是否相符；有问题时逐条列出，退出码不为 0");
-  const auto file = std::make_shared<DataFileOptions>();
-  file->addTo(*command);
-  command->callback([file, &console, &exitCode] { check(*file, console, exitCode); });
+  const auto options = std::make_shared<Options>();
+  options->file.addTo(*command);
+  command->add_flag("--repair", options->repair,
+                    "商品查找索引与商品资料不符时先重建它（账目不会改动；收款程序最好先关掉）");
+  command->callback([options, &console, &exitCode] { check(*options, console, exitCode); });
 }

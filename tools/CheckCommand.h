@@ -6,6 +6,7 @@ namespace CLI {
 class App;
 }
 
-/// check FILE: examines the data file and the books (see Books), prints each fault, and makes
-/// `exitCode` non-zero when there is one.
+/// check FILE [--repair]: examines the data file and the books (see Books), prints each fault, and
+/// makes `exitCode` non-zero when there is one. --repair first makes a wrong goods index new; it
+/// changes no book.
 void addCheckCommand(CLI::App& app, Console& console, int& exitCode);

@@ -44,9 +44,13 @@ std::string readUnseen(Console& console, const char* prompt) {
 
 }  // namespace
 
-std::string askPassword(Console& console) {
-  if (!console.isTerminal) return readLine(console);
-  std::string password = readUnseen(console, "密码：");
-  if (readUnseen(console, "再输一次：") != password) throw Refusal("两次输入的密码不一样。");
+std::string askPassword(Console& console, const char* prompt) {
+  return console.isTerminal ? readUnseen(console, prompt) : readLine(console);
+}
+
+std::string askNewPassword(Console& console, const char* prompt) {
+  std::string password = askPassword(console, prompt);
+  if (console.isTerminal && readUnseen(console, "再输一次：") != password)
+    throw Refusal("两次输入的密码不一样。");
   return password;
 }

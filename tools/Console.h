@@ -15,6 +15,9 @@ struct Console {
   bool isTerminal = false;  ///< somebody sits at `in`: passwords are asked for and typed unseen
 };
 
-/// A password as typed at the terminal, twice and unseen, or else the next line of `in`. Throws
-/// Refusal when there is none or the two differ.
-std::string askPassword(Console& console);
+/// A password as typed unseen at the terminal, or else the next line of `in`. Throws Refusal when
+/// there is none.
+std::string askPassword(Console& console, const char* prompt = "密码：");
+/// The same for a new password: typed twice at the terminal. Throws Refusal too when the two
+/// differ.
+std::string askNewPassword(Console& console, const char* prompt = "密码：");

@@ -16,7 +16,7 @@ struct Options {
 
 // A file that could not be filled is taken away again: the next attempt finds nothing in its way.
 void fillOrRemove(const Options& options, Console& console) {
-  std::unique_ptr<Connection> connection = createDataFile(options.file.source());
+  std::unique_ptr<Connection> connection = createDataFile(options.file.newSource(console));
   const std::filesystem::path path = connection->source().path;
   try {
     fillDemoShop(*connection, console.clock);
@@ -32,7 +32,7 @@ void create(const Options& options, Console& console) {
   if (options.demo) {
     fillOrRemove(options, console);
   } else {
-    createDataFile(options.file.source());
+    createDataFile(options.file.newSource(console));
   }
   console.out << "已建立" << (options.demo ? "演示店铺的" : "") << "数据文件 " << options.file.path
               << '\n';

@@ -3,6 +3,7 @@
 #include <string>
 
 #include "store/DataFile.h"
+#include "tools/Console.h"
 
 namespace CLI {
 class App;
@@ -12,7 +13,11 @@ class App;
 struct DataFileOptions {
   std::string path;
   std::string password = kBuiltInPassword;
+  bool asks = false;
 
   void addTo(CLI::App& command);
-  DataSource source() const { return {path, password}; }
+  /// Asks for the password when it is to be asked for; before any other of the command's passwords.
+  DataSource source(Console& console) const;
+  /// The same for a file that is to be made: typed twice at a terminal.
+  DataSource newSource(Console& console) const;
 };

@@ -34,7 +34,7 @@ void makePrivate(const std::string& path) {
 }
 
 void exportTo(const Options& options, Console& console) {
-  const std::unique_ptr<Connection> connection = openDataFile(options.file.source());
+  const std::unique_ptr<Connection> connection = openDataFile(options.file.source(console));
   const Table table = tableNamed(options.table, console.clock());
   if (options.csv == "-") {
     exportTable(*connection, table, console.out);

@@ -24,7 +24,7 @@ void import(const Options& options, Console& console) {
   }
   std::ifstream text(options.csv, std::ios::binary);
   if (!text) throw Refusal("文件读不出来：" + options.csv);
-  const std::unique_ptr<Connection> connection = openDataFile(options.file.source());
+  const std::unique_ptr<Connection> connection = openDataFile(options.file.source(console));
   Importer importer(*connection, tableNamed(options.table, console.clock()),
                     [&console](std::int64_t rows, double part) {
                       console.err << "已读 " << rows << " 行（" << static_cast<int>(part * 100)

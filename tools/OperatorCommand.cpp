@@ -29,7 +29,7 @@ struct Options {
 using Shared = std::shared_ptr<Options>;
 
 std::string passwordOf(const Options& options, Console& console) {
-  return options.password ? *options.password : askPassword(console);
+  return options.password ? *options.password : askNewPassword(console);
 }
 
 std::string shownName(const Options& options, const ClsOperator& person) {
@@ -37,14 +37,14 @@ std::string shownName(const Options& options, const ClsOperator& person) {
 }
 
 void add(const Options& options, Console& console) {
-  const std::unique_ptr<Connection> connection = openDataFile(options.file.source());
+  const std::unique_ptr<Connection> connection = openDataFile(options.file.source(console));
   addOperator(*connection,
               {options.number, options.name, passwordOf(options, console), options.rights});
   console.out << "已增加操作员 " << options.number << ' ' << trimmed(options.name) << '\n';
 }
 
 void list(const Options& options, Console& console) {
-  const std::unique_ptr<Connection> connection = openDataFile(options.file.source());
+  const std::unique_ptr<Connection> connection = openDataFile(options.file.source(console));
   Rows rows = connection->query("select id from operators order by id");
   while (rows.next()) {
     ClsOperator person;
@@ -56,7 +56,7 @@ void list(const Options& options, Console& console) {
 }
 
 void changePassword(const Options& options, Console& console) {
-  const std::unique_ptr<Connection> connection = openDataFile(options.file.source());
+  const std::unique_ptr<Connection> connection = openDataFile(options.file.source(console));
   ClsOperator person = existingOperator(*connection, options.number);
   person.setPassword(passwordOf(options, console));
   person.Save();
@@ -64,7 +64,7 @@ void changePassword(const Options& options, Console& console) {
 }
 
 void remove(const Options& options, Console& console) {
-  const std::unique_ptr<Connection> connection = openDataFile(options.file.source());
+  const std::unique_ptr<Connection> connection = openDataFile(options.file.source(console));
   const ClsOperator person = existingOperator(*connection, options.number);
   removeOperator(*connection, options.number);
   console.out << "已删除操作员 " << shownName(options, person) << '\n';
@@ -77,7 +77,9 @@ void addNumber(CLI::App& command, Options& options) {
 }
 
 void addPassword(CLI::App& command, Options& options) {
-  command.add_option("--password", options.password, "登录密码；不写就从终端或标准输入读");
+  command.add_option(
+      "--password", options.password,
+      "登录密码；不写就从终端或标准输入读。供脚本使用：写在命令行上，同机的人在进程列表里看得到");
 }
 
 CLI::App* addAction(CLI::App& parent, Console& console, const char* name, const char* help,

@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "base/Failure.h"
+#include "tools/BackupCommand.h"
 #include "tools/CheckCommand.h"
 #include "tools/CreateCommand.h"
 #include "tools/ExportCommand.h"
@@ -86,6 +87,7 @@ int runTool(int count, const char* const* arguments, Console& console) {
   addParamCommand(app, console);
   addImportCommand(app, console);
   addExportCommand(app, console);
+  addBackupCommand(app, console);
   addCheckCommand(app, console, exitCode);
   groupInChinese(app);
   try {

@@ -1,3 +1,5 @@
+#include <QClipboard>
+#include <QGuiApplication>
 #include <QLabel>
 #include <QLineEdit>
 #include <QTest>
@@ -110,7 +112,13 @@ TEST_F(EndSell, storedValueCardPays) {
     press(Qt::Key_Return);
     ASSERT_EQ(focused(), "mima");
     type("Pw1");
-    EXPECT_EQ(dialog.findChild<QLineEdit*>("mima")->echoMode(), QLineEdit::Password);
+    auto* password = dialog.findChild<QLineEdit*>("mima");
+    QGuiApplication::clipboard()->setText("before");
+    for (const auto copying : {QKeySequence::SelectAll, QKeySequence::Copy, QKeySequence::Cut})
+      QTest::keySequence(password, copying);
+    EXPECT_EQ(QGuiApplication::clipboard()->text(), "before");
+    EXPECT_EQ(password->contextMenuPolicy(), Qt::NoContextMenu);
+    type("Pw1");
     press(Qt::Key_Enter);
   }));
   EXPECT_THAT(screen.messages, ElementsAre("储值卡号错误,请重输", "储值卡密码错误,请重输",

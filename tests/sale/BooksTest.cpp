@@ -140,7 +140,7 @@ class BooksTest : public TillFixture {
       if (payment.payByCard(QString::fromStdString(payer.card),
                             QString::fromStdString(payer.password)) ==
           Settlement::CardResult::kPaid) {
-        payment.confirmCard();
+        payment.sayCardPaid();
       }
     };
     key(kF1);

@@ -49,6 +49,7 @@ TEST_F(OpeningTest, ReadsTheConnectionText) {
   };
   for (const Case& one : {Case{" C:\\data\\POS.mdb ", "C:\\data\\POS.mdb", ""},
                           Case{"p.mdb;Jet OLEDB:Database password=kvrnex", "p.mdb", "kvrnex"},
+                          Case{"p.mdb;Jet OLEDB:Database pasword=secret", "p.mdb", ""},
                           Case{"p.mdb;JET oledb:database PASSWORD= a;b=c", "p.mdb", " a;b=c"}}) {
     const DataSource source = DataSource::parse(one.text);
     EXPECT_EQ(source.path, one.path);
@@ -78,6 +79,20 @@ TEST_F(OpeningTest, ANewFileIsDurableEncryptedAndItsOwnersAlone) {
   EXPECT_EQ(opened->Open("select * from stock").count(), 1U);
   EXPECT_THAT([&] { createDataFile(source); }, ThrowsMessage<StoreError>(HasSubstr("不会覆盖")));
   EXPECT_EQ(opened->Open("select * from stock").count(), 1U);
+}
+
+TEST_F(OpeningTest, RightsOfOthersAreTakenAway) {
+  const DataSource source{folder_.file("pos.mdb"), ""};
+  const auto till = createDataFile(source);
+  till->run("insert into stock values ('kept', 2)");
+  const DataFileLock lock(source.path);
+  const char* const names[] = {"pos.mdb", "pos.mdb-wal", "pos.mdb-shm", "pos.mdb.lock"};
+  for (const char* name : names) ASSERT_EQ(chmod(folder_.file(name).c_str(), 0664), 0);
+  const auto opened = openDataFile(source);
+  for (const char* name : names) EXPECT_EQ(permissions(folder_.file(name)), 0600U) << name;
+  EXPECT_TRUE(protectDataFile(source.path).empty());
+  // Not even the superuser may change the rights of this one.
+  EXPECT_EQ(protectDataFile("/proc/self/status").size(), 1U);
 }
 
 TEST_F(OpeningTest, SaysWhyAFileCannotBeOpenedAndLeavesItAsItIs) {

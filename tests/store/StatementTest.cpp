@@ -79,6 +79,24 @@ TEST_F(StatementTest, TextComparesWithoutCasePasswordsExactlyDatesInOrderOfTime)
             Currency::fromScaled(125000));
 }
 
+TEST_F(StatementTest, NoMessageRepeatsAPasswordOutOfItsStatement) {
+  connection_->run("insert into member (bh, join_date) values ('1', ''), ('2', '')");
+  for (const char* text :
+       {"update member set password = 'geheim' whre bh = '1'",
+        "update member set password = 'geheim", "update member set password = 'geheim'; select 1",
+        "update member set password = 'geheim', bh = '2' where bh = '1'",
+        "select * from member where password = 'geheim' and pasword = 'geheim'",
+        "select * from [member where password = 'geheim'",
+        "select * from member where password = #geheim#"}) {
+    try {
+      connection_->Execute(text);
+      ADD_FAILURE() << "took " << text;
+    } catch (const StoreError& error) {
+      EXPECT_THAT(error.what(), testing::Not(testing::HasSubstr("geheim")));
+    }
+  }
+}
+
 TEST_F(StatementTest, QueriesNestAndSurviveAChangeOfTables) {
   for (int id : {1, 2, 3}) connection_->run("insert into SP_LB values (?, 'x')", id);
   const char* const text = "select * from SP_LB order by SPLB_ID";

@@ -65,6 +65,27 @@ TEST_F(Books, NameEachFault) {
        "单据 2 的状态不是"},
       {"update un_sell set item_id = 3", "update un_sell set item_id = 2",
        "退货 1 所退的商品行 3 不在单据 1 里"},
+      {"update sell set paid = 1 where id = 1", "update sell set paid = 0 where id = 1",
+       "单据 1 已结，却还带着收款未存的标记"},
+      {"update sell set amount = 6 where id = 1", "update sell set amount = 5 where id = 1",
+       "单据 1 的应收是 6.00，商品金额是 4.80"},
+      {"update sell set card_pay = 4.99, card_no = '8001' where id = 1",
+       "update sell set card_pay = 0, card_no = '' where id = 1",
+       "储值卡付款是 4.99，不够应收的 5.00"},
+      {"update sell set card_pay = 5 where id = 1", "update sell set card_pay = 0 where id = 1",
+       "单据 1 用储值卡付款，却没有卡号"},
+      {"update sqlite_sequence set seq = 1 where name = 'sell'",
+       "update sqlite_sequence set seq = 2 where name = 'sell'", "流水号会重复：最大的单据是 2"},
+      {"update sellProducts set price = 4 where id = 3",
+       "update sellProducts set price = 4.5 where id = 3",
+       "单据 2 的商品行 3（面）金额是 31.50，按单价、数量、折扣应是 28.00"},
+      {"update sellProducts set amount = -0.2 where id = 2",
+       "update sellProducts set amount = 0.2 where id = 2",
+       "商品行 2（糖）退的比卖的多，还剩 -0.2"},
+      {"update un_sell set quantity = 0", "update un_sell set quantity = 1",
+       "退货 1 的数量不对：0"},
+      {"insert into member (id, bh, card, join_date) values (3, '8003', -1, '')",
+       "delete from member", "储值卡 8003 的余额是负的：-1"},
       {"update stock set quantity = 'many'", "update stock set quantity = 1",
        "商品 A 的库存不是数字：“many”"},
   };
@@ -84,6 +105,37 @@ TEST_F(Books, AreNotCalledRightWhenTheFileIsDamaged) {
   file.close();
   EXPECT_EQ(owner.run({"check", owner.shop}), 1);
   EXPECT_THAT(owner.out + owner.err, testing::Not(HasSubstr("账目正确")));
+}
+
+TEST_F(Books, MissPurchasesThatWereNotCredited) {
+  owner.execute("insert into member (id, bh, total_spent, join_date) values (3, '8003', 4.99, '')");
+  owner.execute("update sell set member_id = 3 where id = 1");
+  EXPECT_EQ(owner.run({"check", owner.shop}), 0) << "goods were taken back: " << owner.out;
+  owner.execute("delete from un_sell");
+  EXPECT_EQ(owner.run({"check", owner.shop}), 1);
+  EXPECT_THAT(owner.out, HasSubstr("会员 8003 的累计消费是 4.99，少于已结单据的合计 5"));
+  owner.execute("update member set total_spent = 5");
+  EXPECT_EQ(owner.run({"check", owner.shop}), 0) << owner.out;
+}
+
+TEST_F(Books, SayThatAPaidBillWaitsToBeStored) {
+  owner.execute("update sell set paid = 1 where id = 2");
+  EXPECT_EQ(owner.run({"check", owner.shop}), 0);
+  EXPECT_THAT(owner.out, HasSubstr("有 1 张单据已收款、还没存完"));
+}
+
+TEST_F(Books, RepairMakesTheGoodsIndexNew) {
+  owner.execute("insert into spda (f_spbm, f_Ggxh) values ('A', '500ml')");
+  owner.execute("delete from spda_written");
+  const auto finds = [this] {
+    return owner.open()->Open("select f_spbm from spda where f_Ggxh like '%00ml%'").count();
+  };
+  ASSERT_EQ(finds(), 0U);
+  EXPECT_EQ(owner.run({"check", owner.shop, "--repair"}), 0) << owner.out << owner.err;
+  EXPECT_THAT(owner.out, HasSubstr("已重建"));
+  EXPECT_EQ(finds(), 1U);
+  EXPECT_EQ(owner.run({"check", owner.shop, "--repair"}), 0);
+  EXPECT_THAT(owner.out, testing::Not(HasSubstr("重建")));
 }
 
 // The cashier goes on selling while the owner checks.

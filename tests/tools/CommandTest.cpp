@@ -1,5 +1,7 @@
 #include <gmock/gmock.h>
 
+#include <filesystem>
+#include <fstream>
 #include <string>
 
 #include "Owner.h"
@@ -50,6 +52,61 @@ TEST_F(Command, TheFilePasswordIsBuiltInGivenOrNone) {
   EXPECT_FALSE(std::filesystem::exists(owner.folder.file("none")));
 }
 
+TEST_F(Command, PasswordsComeFromTheStandardInput) {
+  const std::string own = owner.folder.file("own");
+  owner.typed = "p'w d\n";
+  EXPECT_EQ(owner.run({"create", own, "--ask-file-password"}), 0) << owner.err;
+  EXPECT_EQ(owner.run({"check", own, "--file-password", "p'w d"}), 0) << owner.err;
+  EXPECT_EQ(owner.run({"check", own, "--ask-file-password"}), 0) << owner.err;
+  EXPECT_EQ(owner.run({"check", own, "--ask-file-password", "--file-password", "x"}), 2);
+  EXPECT_THAT(owner.out + owner.err, testing::Not(HasSubstr("p'w d")));
+  owner.typed = "p'w d\n111\n";
+  EXPECT_EQ(
+      owner.run({"operator", "add", own, "--ask-file-password", "--number", "1", "--name", "张三"}),
+      0)
+      << owner.err;
+  for (const char* command : {"create", "check"}) {
+    owner.run({command, "--help"});
+    EXPECT_THAT(owner.out, HasSubstr("进程列表")) << command;
+  }
+}
+
+TEST_F(Command, ABackupIsMadeWhileTheTillSells) {
+  const std::string copy = owner.folder.file("backup.mdb");
+  std::ofstream(copy) << "an older backup";
+  ASSERT_EQ(addOperator("7", {"--password", "111"}), 0);
+  {
+    const std::unique_ptr<Connection> till = owner.open();
+    till->run("begin immediate");
+    till->run("delete from operators");
+    EXPECT_EQ(owner.run({"backup", owner.shop, copy}), 0) << owner.err;
+    till->run("commit");
+  }
+  EXPECT_EQ(std::filesystem::status(copy).permissions(), std::filesystem::perms(0600));
+  EXPECT_FALSE(std::filesystem::exists(copy + ".part"));
+  EXPECT_EQ(openDataFile({copy, ""})->Open("select * from operators").count(), 1U);
+
+  EXPECT_EQ(owner.run({"backup", owner.shop, owner.shop}), 1);
+  EXPECT_EQ(owner.run({"backup", owner.shop, owner.folder.file("none/backup.mdb")}), 1);
+  EXPECT_THAT(owner.err, HasSubstr("文件夹不存在"));
+  EXPECT_TRUE(owner.open()) << "the data file is still one";
+}
+
+// A page of the file that went bad on the disk does not replace the last good backup.
+TEST_F(Command, ABackupThatDoesNotReadIsNotTaken) {
+  const std::string copy = owner.folder.file("backup.mdb");
+  std::ofstream(copy) << "an older backup";
+  std::fstream file(owner.shop, std::ios::in | std::ios::out | std::ios::binary);
+  file.seekp(4096 * 3);
+  file << "a scratch on the disk";
+  file.close();
+  EXPECT_EQ(owner.run({"backup", owner.shop, copy}), 1);
+  EXPECT_THAT(owner.err, HasSubstr("没有采用"));
+  EXPECT_EQ(std::filesystem::file_size(copy), 15U);
+  for (const char* rest : {".part", ".part-wal", ".part-shm"})
+    EXPECT_FALSE(std::filesystem::exists(copy + rest)) << rest;
+}
+
 TEST_F(Command, OperatorsComeAndGo) {
   ASSERT_EQ(addOperator("7", {"--password", "111", "--right", "sell"}), 0) << owner.err;
   EXPECT_TRUE(canLogIn("7", "111"));
@@ -93,7 +150,8 @@ TEST_F(Command, ParametersAreSetAllOrNone) {
 }
 
 TEST_F(Command, HelpIsAResultAndNonsenseAnError) {
-  for (const char* command : {"create", "operator", "param", "import", "export", "check"}) {
+  for (const char* command :
+       {"create", "operator", "param", "import", "export", "backup", "check"}) {
     EXPECT_EQ(owner.run({command, "--help"}), 0);
     EXPECT_THAT(owner.out, HasSubstr("用法")) << command;
     EXPECT_EQ(owner.run({command}), 2) << command;

@@ -1,0 +1,39 @@
+#include "tools/BackupCommand.h"
+
+#include <CLI/CLI.hpp>
+#include <filesystem>
+#include <memory>
+#include <string>
+
+#include "store/Connection.h"
+#include "store/DataFileCopy.h"
+#include "tools/DataFileOptions.h"
+#include "tools/Refusal.h"
+
+namespace {
+
+struct Options {
+  DataFileOptions file;
+  std::string target;
+};
+
+void backUp(const Options& options, Console& console) {
+  const std::unique_ptr<Connection> connection = openDataFile(options.file.source(console));
+  std::error_code ignored;
+  if (std::filesystem::equivalent(connection->source().path, options.target, ignored)) {
+    throw Refusal("不能备份到数据文件自己。");
+  }
+  backUpDataFile(*connection, options.target);
+  console.out << "已备份到 " << options.target << "，并已打开检查过。\n";
+}
+
+}  // namespace
+
+void addBackupCommand(CLI::App& app, Console& console) {
+  CLI::App* command = app.add_subcommand(
+      "backup", "备份数据文件并打开检查；收款程序开着也可以。备份的密码与数据文件相同");
+  const auto options = std::make_shared<Options>();
+  options->file.addTo(*command);
+  command->add_option("TO", options->target, "备份到这个文件；已有的会被替换")->required();
+  command->callback([options, &console] { backUp(*options, console); });
+}
