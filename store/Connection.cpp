@@ -12,6 +12,7 @@
 #include "store/DataFilePath.h"
 #include "store/Dialect.h"
 #include "store/Engine.h"
+#include "store/FragmentPieces.h"
 #include "store/Statement.h"
 #include "store/StatementCache.h"
 #include "store/StoreError.h"
@@ -102,6 +103,7 @@ void Connection::openEngine() {
   check(opened, code);
   sqlite3_extended_result_codes(opened, 1);
   sqlite3_busy_timeout(opened, kBusyMilliseconds);
+  addFragmentPieces(opened);
   unlock(opened, source_);
   requireWritable(opened);
   configure(opened);

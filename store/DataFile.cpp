@@ -4,6 +4,7 @@
 
 #include "base/Text.h"
 #include "store/Connection.h"
+#include "store/FragmentIndex.h"
 #include "store/Schema.h"
 #include "store/StoreError.h"
 
@@ -16,6 +17,15 @@ void useWriteAheadLog(Connection& connection) {
   Rows rows = connection.query("pragma journal_mode = wal");
   if (!rows.next() || rows.text("journal_mode") != "wal") {
     throw StoreError("数据文件所在的磁盘不支持安全写入，请换到本机磁盘上。");
+  }
+}
+
+// Another program may have written many goods. A fault here must not keep the shop closed: look-ups
+// are right without it, and a damaged index is found and made new by the owner's check.
+void quickenLookUps(Connection& connection) {
+  try {
+    updateLongFragmentIndex(connection);
+  } catch (const StoreError&) {
   }
 }
 
@@ -40,6 +50,7 @@ std::unique_ptr<Connection> openDataFile(const DataSource& source) {
   auto connection = std::make_unique<Connection>(source, Connection::Mode::kExisting);
   upgradeSchema(*connection, false);
   useWriteAheadLog(*connection);
+  quickenLookUps(*connection);
   return connection;
 }
 

@@ -6,6 +6,8 @@
 
 #include "base/DateTime.h"
 #include "base/Text.h"
+#include "store/FragmentCondition.h"
+#include "store/FragmentPieces.h"
 #include "store/StoreError.h"
 
 namespace {
@@ -69,7 +71,12 @@ class Translator {
       text += '\'';  // a doubled quote is one
       ++from;
     }
+    const FragmentColumn* indexed = fragments_.at(rest_.substr(from));
+    const std::optional<std::string> query = indexed ? fragmentQuery(text) : std::nullopt;
     bind(std::move(text), from);
+    if (!query) return;
+    result_.text += fragments_.added(*indexed);
+    result_.values.emplace_back(*query);
   }
 
   void takeDate() {
@@ -89,6 +96,7 @@ class Translator {
     }
     result_.text.append("\"").append(name).append("\"");
     rest_.remove_prefix(end + 1);
+    fragments_.valueOrQuotedName();
     leaveListStart();
   }
 
@@ -96,6 +104,7 @@ class Translator {
     const std::string_view number = rest_.substr(0, numberLength());
     const char after = number.size() < rest_.size() ? rest_[number.size()] : ' ';
     if (isLetter(after) || isDigit(after) || after == '.') refuse("数字写法不对");
+    fragments_.valueOrQuotedName();
     if (atListStart_) return copyWord(number.size());  // "order by 1" names the first column
     bind(numberValue(number), number.size());
   }
@@ -134,6 +143,7 @@ class Translator {
     std::size_t length = 1;
     while (length < rest_.size() && (isLetter(rest_[length]) || isDigit(rest_[length]))) ++length;
     const std::string_view word = rest_.substr(0, length);
+    fragments_.word(word);
     const bool beginsList = afterOrder_ && equalIgnoringCase(word, "by");
     afterOrder_ = equalIgnoringCase(word, "order") || equalIgnoringCase(word, "group");
     if (beginsList) {
@@ -155,6 +165,7 @@ class Translator {
   void takeOperator(char sign) {
     if (!isOperator(sign)) refuse("有不认识的字符");
     if (rest_.starts_with("--") || rest_.starts_with("/*")) refuse("不能有注释");
+    fragments_.sign(sign);
     if (sign == '(') ++depth_;
     if (sign == ')' && --depth_ < listDepth_) listDepth_ = kNoList;
     copyWord(1);
@@ -174,6 +185,7 @@ class Translator {
     result_.values.push_back(std::move(value));
     result_.text += "? ";
     rest_.remove_prefix(length);
+    fragments_.valueOrQuotedName();
     leaveListStart();
   }
 
@@ -196,6 +208,7 @@ class Translator {
 
   std::string_view rest_;
   EngineStatement result_;
+  FragmentCondition fragments_;
   int depth_ = 0;             ///< of parentheses
   int listDepth_ = kNoList;   ///< depth of the "order by" or "group by" list being read
   bool afterOrder_ = false;   ///< the last word was "order" or "group"

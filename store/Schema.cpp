@@ -14,6 +14,7 @@ namespace {
 const char* const kFirstStep = R"(
 -- Barcode and price records. Looked up by barcode (sptm) at every scan.
 create table tmda (
+  id      integer primary key,
   sptm    text not null collate nocase,
   ggxh    text collate nocase,
   spbm    text not null collate nocase,
@@ -35,6 +36,7 @@ create index tmda_item on tmda (spbm);                  -- ClsStock: the name of
 
 -- Goods master, one row per item code.
 create table spda (
+  id       integer primary key,
   f_spbm   text not null collate nocase,
   f_spmc   text collate nocase,
   f_sphh   text collate nocase,
@@ -49,6 +51,68 @@ create table spda (
   f_splbmc text collate nocase
 );
 create unique index spda_key on spda (f_spbm);
+
+-- Fragments of goods texts (store/FragmentIndex.h). The rows' own id ties an index to its table: it
+-- outlasts a VACUUM, which an unnamed row number does not. Only this program has the function
+-- fragment_pieces, but no trigger calls it: whoever writes goods is only noted down. Nothing here
+-- says "or ignore", because a conflict clause of the writer's statement would replace it.
+create table tmda_written (id integer primary key, ggxh text collate nocase);
+create table spda_written (
+  id     integer primary key,
+  f_sphh text collate nocase,
+  f_Ggxh text collate nocase
+);
+create view tmda_indexed as
+  select id as rowid, fragment_pieces(ggxh) as ggxh from tmda
+    where id not in (select id from tmda_written)
+  union all
+  select id, fragment_pieces(ggxh) from tmda_written;
+create view spda_indexed as
+  select id as rowid, fragment_pieces(f_sphh) as f_sphh, fragment_pieces(f_Ggxh) as f_Ggxh
+    from spda where id not in (select id from spda_written)
+  union all
+  select id, fragment_pieces(f_sphh), fragment_pieces(f_Ggxh) from spda_written;
+create virtual table tmda_fragments using fts4 (
+  ggxh, content="tmda_indexed", matchinfo=fts3, tokenize=simple
+);
+create virtual table spda_fragments using fts4 (
+  f_sphh, f_Ggxh, content="spda_indexed", matchinfo=fts3, tokenize=simple
+);
+
+create trigger tmda_inserted after insert on tmda begin
+  insert into tmda_written (id)
+    select new.id where not exists (select 1 from tmda_written where id = new.id);
+end;
+create trigger tmda_updated after update of id, ggxh on tmda
+  when new.id <> old.id or new.ggxh is not old.ggxh
+begin
+  insert into tmda_written (id, ggxh)
+    select old.id, old.ggxh where not exists (select 1 from tmda_written where id = old.id);
+  insert into tmda_written (id)
+    select new.id where not exists (select 1 from tmda_written where id = new.id);
+end;
+create trigger tmda_deleted after delete on tmda begin
+  insert into tmda_written (id, ggxh)
+    select old.id, old.ggxh where not exists (select 1 from tmda_written where id = old.id);
+end;
+create trigger spda_inserted after insert on spda begin
+  insert into spda_written (id)
+    select new.id where not exists (select 1 from spda_written where id = new.id);
+end;
+create trigger spda_updated after update of id, f_sphh, f_Ggxh on spda
+  when new.id <> old.id or new.f_sphh is not old.f_sphh or new.f_Ggxh is not old.f_Ggxh
+begin
+  insert into spda_written (id, f_sphh, f_Ggxh)
+    select old.id, old.f_sphh, old.f_Ggxh
+    where not exists (select 1 from spda_written where id = old.id);
+  insert into spda_written (id)
+    select new.id where not exists (select 1 from spda_written where id = new.id);
+end;
+create trigger spda_deleted after delete on spda begin
+  insert into spda_written (id, f_sphh, f_Ggxh)
+    select old.id, old.f_sphh, old.f_Ggxh
+    where not exists (select 1 from spda_written where id = old.id);
+end;
 
 create table SP_LB (
   SPLB_ID integer primary key,

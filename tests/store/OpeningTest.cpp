@@ -127,11 +127,12 @@ TEST_F(OpeningTest, BringsAnOlderFileUpToDateInOneTransactionAndRefusesANewerOne
   const std::string newest = std::to_string(schemaSteps().size());
   {
     Connection older(source, Connection::Mode::kExisting);
-    for (const char* table :
-         {"tmda", "spda", "SP_LB", "sell", "sellProducts", "member", "cardStored", "un_sell",
-          "operators", "operator_rights", "sys_param"}) {
+    for (const char* table : {"tmda", "spda", "SP_LB", "sell", "sellProducts", "member",
+                              "cardStored", "un_sell", "operators", "operator_rights", "sys_param",
+                              "tmda_fragments", "spda_fragments", "tmda_written", "spda_written"}) {
       older.runScript("drop table " + std::string(table));
     }
+    older.runScript("drop view tmda_indexed; drop view spda_indexed");
     older.runScript("pragma user_version = 0");
   }
   // The table that is still there makes the first step fail in its middle.

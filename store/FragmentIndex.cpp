@@ -1,0 +1,110 @@
+#include "store/FragmentIndex.h"
+
+#include <array>
+#include <string>
+
+#include "base/Text.h"
+#include "store/Connection.h"
+#include "store/StoreError.h"
+#include "store/Transaction.h"
+
+namespace {
+
+constexpr std::array kColumns = {FragmentColumn{"tmda", "ggxh", "spbm"},
+                                 FragmentColumn{"spda", "f_sphh", "f_spbm"},
+                                 FragmentColumn{"spda", "f_Ggxh", "f_spbm"}};
+
+// A look-up reads every written row, at 2 µs each.
+constexpr int kManyWritten = 100;
+
+struct IndexStatements {
+  const char* forget;  ///< takes the old texts of written rows out of the index
+  const char* add;     ///< puts the written rows' texts in
+  const char* clearWritten;
+  const char* rebuild;
+  const char* check;
+  const char* countWritten;
+};
+
+constexpr std::array kIndexes = {
+    IndexStatements{"delete from tmda_fragments where docid in"
+                    " (select id from tmda_written where ggxh is not null)",
+                    "insert into tmda_fragments (docid, ggxh)"
+                    " select id, fragment_pieces(ggxh) from tmda"
+                    " where id in (select id from tmda_written)",
+                    "delete from tmda_written",
+                    "insert into tmda_fragments (tmda_fragments) values ('rebuild')",
+                    "insert into tmda_fragments (tmda_fragments) values ('integrity-check')",
+                    "select count(*) as n from (select 1 from tmda_written limit ?)"},
+    IndexStatements{"delete from spda_fragments where docid in (select id from spda_written"
+                    " where f_sphh is not null or f_Ggxh is not null)",
+                    "insert into spda_fragments (docid, f_sphh, f_Ggxh)"
+                    " select id, fragment_pieces(f_sphh), fragment_pieces(f_Ggxh) from spda"
+                    " where id in (select id from spda_written)",
+                    "delete from spda_written",
+                    "insert into spda_fragments (spda_fragments) values ('rebuild')",
+                    "insert into spda_fragments (spda_fragments) values ('integrity-check')",
+                    "select count(*) as n from (select 1 from spda_written limit ?)"},
+};
+
+bool manyWritten(Connection& connection, const IndexStatements& index) {
+  Rows rows = connection.query(index.countWritten, kManyWritten);
+  return rows.next() && rows.whole("n") == kManyWritten;
+}
+
+void update(Connection& connection, const IndexStatements& index) {
+  Transaction transaction(connection);
+  connection.run(index.forget);
+  connection.run(index.add);
+  connection.run(index.clearWritten);
+  transaction.commit();
+}
+
+}  // namespace
+
+const FragmentColumn* fragmentColumn(std::string_view column) {
+  for (const FragmentColumn& known : kColumns) {
+    if (equalIgnoringCase(known.column, column)) return &known;
+  }
+  return nullptr;
+}
+
+bool hasFragmentIndex(std::string_view table) {
+  for (const FragmentColumn& known : kColumns) {
+    if (equalIgnoringCase(known.table, table)) return true;
+  }
+  return false;
+}
+
+void updateFragmentIndex(Connection& connection) {
+  Transaction transaction(connection);
+  for (const IndexStatements& index : kIndexes) update(connection, index);
+  transaction.commit();
+}
+
+void updateLongFragmentIndex(Connection& connection) {
+  for (const IndexStatements& index : kIndexes) {
+    if (manyWritten(connection, index)) update(connection, index);
+  }
+}
+
+// The engine reports an index that differs from its view as a damaged file.
+bool fragmentIndexIsRight(Connection& connection) {
+  Transaction unwritten(connection);
+  try {
+    for (const IndexStatements& index : kIndexes) connection.run(index.check);
+  } catch (const StoreError&) {
+    return false;
+  }
+  return true;
+}
+
+// The view has every row's present text once the list of written rows is empty.
+void rebuildFragmentIndex(Connection& connection) {
+  Transaction transaction(connection);
+  for (const IndexStatements& index : kIndexes) {
+    connection.run(index.clearWritten);
+    connection.run(index.rebuild);
+  }
+  transaction.commit();
+}

@@ -1,0 +1,36 @@
+#pragma once
+
+#include <string_view>
+
+class Connection;
+
+/// The fragment indexes of the goods tables. Beside a table T stand
+///   T_fragments  the index: for every word (store/FragmentPieces.h) the rows that hold it;
+///   T_written    the rows written since the index was last brought up to date, each with the texts
+///                that the index still has of it (Null: none). Triggers keep this list, in plain
+///                SQL: any program may write goods, knowing nothing of the words;
+///   T_indexed    what the index holds, as a view: the texts of T but for the rows in T_written.
+/// A look-up takes the rows that the index finds and all of T_written, and lets LIKE decide. It is
+/// right at every moment, and quick as long as T_written is short.
+
+/// The index that the dialect may ask about this column; nullptr when the column has none.
+/// Names without regard to case.
+struct FragmentColumn {
+  std::string_view table;
+  std::string_view column;
+  std::string_view key;  ///< the item code, by which other tables are joined to this one
+};
+const FragmentColumn* fragmentColumn(std::string_view column);
+/// Whether the table has an index.
+bool hasFragmentIndex(std::string_view table);
+
+/// Takes the written rows into the index, in one transaction (or inside the one that runs). An
+/// import calls it once, behind its last row.
+void updateFragmentIndex(Connection& connection);
+/// The same, when there are enough written rows for a look-up to feel them.
+void updateLongFragmentIndex(Connection& connection);
+
+/// Whether the indexes hold exactly what the tables say. Reads both whole.
+[[nodiscard]] bool fragmentIndexIsRight(Connection& connection);
+/// Makes the indexes new from the tables, whatever state they are in.
+void rebuildFragmentIndex(Connection& connection);
