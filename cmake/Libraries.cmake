@@ -6,6 +6,7 @@ find_package(benchmark REQUIRED)
 find_package(CLI11 REQUIRED)
 pkg_check_modules(sqlcipher REQUIRED IMPORTED_TARGET sqlcipher)
 pkg_check_modules(sodium REQUIRED IMPORTED_TARGET libsodium)
+pkg_check_modules(xlsxwriter REQUIRED IMPORTED_TARGET xlsxwriter)
 
 # What every target of ours is compiled with.
 add_library(till_flags INTERFACE)

@@ -12,6 +12,7 @@
 #include <algorithm>
 #include <cmath>
 #include <utility>
+#include <vector>
 
 #include "platform/PdfName.h"
 #include "platform/PortError.h"
@@ -25,6 +26,9 @@ constexpr double kMmPerInch = 25.4;
 constexpr double kMarginMm = 2;
 /// Below the last line, so that it can be torn off.
 constexpr double kFeedMm = 5;
+/// A PDF page is at most 14,400 points long (ISO 32000-1, annex C); this leaves room for the
+/// margins.
+constexpr int kLongestTwips = 14'000 * 20;
 
 double twipsOf(double mm) {
   return mm / kMmPerInch * kTwipsPerInch;
@@ -53,12 +57,23 @@ QFont fixedPitchFont(const PageDocument& document, double lineTwips) {
   return font;
 }
 
-double lengthMm(const PageDocument& document) {
-  double bottom = 0;
+/// A part of the roll, in twips from its top.
+struct Page {
+  int top = 0;
+  int bottom = 0;
+  std::vector<const PlacedText*> texts;
+};
+
+/// The roll in pages no longer than a page may be, broken between lines.
+std::vector<Page> pagesOf(const PageDocument& document) {
+  std::vector<Page> pages(1);
   for (const PlacedText& text : document.texts) {
-    bottom = std::max(bottom, static_cast<double>(text.y) + document.lineHeight());
+    const int bottom = text.y + document.lineHeight();
+    if (bottom - pages.back().top > kLongestTwips) pages.push_back({text.y, bottom, {}});
+    pages.back().bottom = std::max(pages.back().bottom, bottom);
+    pages.back().texts.push_back(&text);
   }
-  return mmOf(bottom) + kFeedMm;
+  return pages;
 }
 
 void drawText(QPainter& painter, const PlacedText& placed, double lineTwips) {
@@ -82,22 +97,29 @@ QMarginsF marginsOf(const QPagedPaintDevice& device) {
   return layout.minimumMargins() * kTwipsPerPoint | QMarginsF(own, own, own, own);
 }
 
-/// Draws the whole job on one page of the roll. False when the device refuses.
-bool draw(const PageDocument& document, QPagedPaintDevice& device) {
-  const QMarginsF margins = marginsOf(device);
-  const QSizeF paper(document.paperWidthMm, mmOf(margins.top()) + lengthMm(document));
-  const QPageSize size(paper, QPageSize::Millimeter, "roll", QPageSize::ExactMatch);
+void setPaper(QPagedPaintDevice& device, int widthMm, double lengthMm) {
+  const QPageSize size(QSizeF(widthMm, lengthMm), QPageSize::Millimeter, "roll",
+                       QPageSize::ExactMatch);
   QPageLayout layout(size, QPageLayout::Portrait, QMarginsF());
   layout.setMode(QPageLayout::FullPageMode);
   device.setPageLayout(layout);
+}
 
-  QPainter painter;
-  if (!painter.begin(&device)) return false;
-  painter.scale(device.logicalDpiX() / kTwipsPerInch, device.logicalDpiY() / kTwipsPerInch);
-  painter.translate(margins.left(), margins.top());
+/// Draws the whole job, on one page of the roll if it is not too long for that. False when the
+/// device refuses.
+bool draw(const PageDocument& document, QPagedPaintDevice& device) {
+  const QMarginsF margins = marginsOf(device);
   const double lineTwips = twipsOf(document.paperWidthMm) - margins.left() - margins.right();
-  painter.setFont(fixedPitchFont(document, lineTwips));
-  for (const PlacedText& text : document.texts) drawText(painter, text, lineTwips);
+  QPainter painter;
+  for (const Page& page : pagesOf(document)) {
+    setPaper(device, document.paperWidthMm, mmOf(margins.top() + page.bottom - page.top) + kFeedMm);
+    if (!(painter.isActive() ? device.newPage() : painter.begin(&device))) return false;
+    painter.resetTransform();
+    painter.scale(device.logicalDpiX() / kTwipsPerInch, device.logicalDpiY() / kTwipsPerInch);
+    painter.translate(margins.left(), margins.top() - page.top);
+    painter.setFont(fixedPitchFont(document, lineTwips));
+    for (const PlacedText* text : page.texts) drawText(painter, *text, lineTwips);
+  }
   return painter.end();
 }
 

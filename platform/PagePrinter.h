@@ -32,10 +32,10 @@ class PagePrinter {
   explicit PagePrinter(std::filesystem::path pdfFolder = {}, Clock clock = localTime);
   virtual ~PagePrinter() = default;
 
-  /// Prints the job on paper as long as needed: at most fontPoints large, and so that a full line
-  /// (40 columns on 80 mm, 32 on 58 mm) fits. A text that would leave the paper is set narrower.
-  /// The PDFs' file names sort in print order. Throws PortError when there is no printer, or the
-  /// folder or the job fails.
+  /// Prints the job on paper as long as needed, in pages of five metres when it is longer: at most
+  /// fontPoints large, and so that a full line (40 columns on 80 mm, 32 on 58 mm) fits. A text that
+  /// would leave the paper is set narrower. The PDFs' file names sort in print order. Throws
+  /// PortError when there is no printer, or the folder or the job fails.
   virtual void print(const PageDocument& document);
 
  private:

@@ -10,8 +10,8 @@ FocusReturn::FocusReturn(QObject* application) : QObject(application) {
 }
 
 // Only the window that was right under the closed one is unblocked. It asks when the closing is
-// complete, and only if nobody else has the keyboard by then; a modal window that has opened over it
-// meanwhile comes first.
+// complete, and only if nobody else has the keyboard by then; a modal window that has opened over
+// it meanwhile comes first.
 bool FocusReturn::eventFilter(QObject* watched, QEvent* event) {
   if (event->type() == QEvent::WindowUnblocked && watched->isWindowType()) {
     auto* window = static_cast<QWindow*>(watched);

@@ -164,6 +164,15 @@ void Connection::checkpoint() {
   check(engine_.get(), code);
 }
 
+void Connection::stopWhen(std::function<bool()> asked) {
+  constexpr int kEngineSteps = 10000;
+  stopAsked_ = std::move(asked);
+  const auto ask = [](void* stopAsked) {
+    return (*static_cast<std::function<bool()>*>(stopAsked))() ? 1 : 0;
+  };
+  sqlite3_progress_handler(engine_.get(), kEngineSteps, ask, &stopAsked_);
+}
+
 // On a full or failing disk the engine may take the whole transaction back by itself. What follows
 // inside it must not slip through as single commits.
 void Connection::requireTransaction() const {

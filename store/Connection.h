@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -67,6 +68,9 @@ class Connection {
   /// Copies unfinished log pages into the data file, as far as no reader is in the way, without
   /// waiting for anybody.
   void checkpoint();
+  /// From now on `asked` is called every few milliseconds while a statement runs, in its thread; when
+  /// it says yes, the statement ends by a StoreError. It must not use the connection.
+  void stopWhen(std::function<bool()> asked);
 
  private:
   friend class Transaction;
@@ -85,6 +89,7 @@ class Connection {
   DataSource source_;
   std::unique_ptr<sqlite3, EngineCloser> engine_;
   std::unique_ptr<StatementCache> statements_;
+  std::function<bool()> stopAsked_;
   int transactionDepth_ = 0;
   WriteMarks marks_;
 };

@@ -22,6 +22,7 @@ constexpr std::array kMeanings = {
     Meaning{SQLITE_CANTOPEN, "数据文件或它所在的文件夹打不开，请检查权限。"},
     Meaning{SQLITE_PERM, "没有读写数据文件的权限。"},
     Meaning{SQLITE_NOMEM, "内存不足，数据没有保存。"},
+    Meaning{SQLITE_INTERRUPT, "查询已停止。"},
     Meaning{SQLITE_TOOBIG, "文字太长，数据文件存不下。"},
 };
 

@@ -1,4 +1,5 @@
-// The main of every test program that shows windows: off-screen, with the same event loop as the till.
+// The main of every test program that shows windows: off-screen, with the same event loop as the
+// till.
 #include <gtest/gtest.h>
 
 #include <QApplication>

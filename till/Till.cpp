@@ -1,9 +1,12 @@
 #include "till/Till.h"
 
-#include <QCoreApplication>
+#include <QApplication>
 #include <utility>
 
 #include "sale/frmSell.h"
+#include "settings/frmColor.h"
+#include "settings/frmKeyset.h"
+#include "settings/frmPosSet.h"
 #include "shell/Modal.h"
 
 Till::Till(std::filesystem::path folder) : pos_(std::move(folder)) {}
@@ -16,13 +19,24 @@ bool Till::Main() {
     return false;
   }
   pos_.start();
-  frmSell_ = std::make_unique<frmSell>(pos_, SaleSession::Openers(),
-                                       [] { QCoreApplication::exit(0); });
+  frmSell_ = std::make_unique<frmSell>(pos_, saleScreens(), [this] { frmMain_->close(); });
   frmMain_ = std::make_unique<frmMain>(pos_, screens());
   frmMain_->showMaximized();
   return true;
 }
 
 std::map<QString, frmMain::Screen> Till::screens() {
-  return {{"sell", {true, [this] { frmSell_->openModal(); }}}};
+  return {{"sell", {true, [this] { frmSell_->openModal(); }}},
+          {"posset", {true, [this] { show<frmPosSet>(); }}},
+          {"keyset", {true, [this] { show<frmKeyset>(); }}}};
+}
+
+SaleSession::Openers Till::saleScreens() {
+  return {{"color", [this] { show<frmColor>(); }}};
+}
+
+template <class Form>
+void Till::show() {
+  Form form(pos_, QApplication::activeWindow());
+  form.exec();
 }

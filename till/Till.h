@@ -6,6 +6,7 @@
 #include <memory>
 
 #include "app/posMod.h"
+#include "sale/SaleSession.h"
 #include "shell/frmMain.h"
 
 class frmSell;
@@ -23,7 +24,12 @@ class Till {
   [[nodiscard]] bool Main();
 
  private:
+  /// The screens of the main window's menus, and those that the sale screen opens.
   std::map<QString, frmMain::Screen> screens();
+  SaleSession::Openers saleScreens();
+  /// Shows a dialog made for the occasion, over whichever window is in front.
+  template <class Form>
+  void show();
 
   posMod pos_;
   std::unique_ptr<frmSell> frmSell_;  ///< one instance for every opening

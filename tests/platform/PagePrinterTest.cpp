@@ -3,6 +3,7 @@
 #include <gmock/gmock.h>
 
 #include <QPageSize>
+#include <QProcess>
 #include <QRegularExpression>
 #include <filesystem>
 #include <fstream>
@@ -75,6 +76,18 @@ TEST(PagePrinterTest, PaperIsAsWideAsTheRollAndAsLongAsTheText) {
     EXPECT_GT(size.height(), textBottom);
     EXPECT_LT(size.height(), textBottom + 30);
   }
+}
+
+TEST(PagePrinterTest, ARollLongerThanAPageContinuesOnTheNext) {
+  const TemporaryFolder folder;
+  PagePrinter(folder.path()).print(receipt("r", 2000));
+  const std::string file = folder.file(filesIn(folder.path()).at(0));
+  QProcess reader;
+  reader.start("pdftotext", {QString::fromStdString(file), "-"});
+  ASSERT_TRUE(reader.waitForFinished()) << "pdftotext is missing";
+  const QByteArray text = reader.readAllStandardOutput();
+  EXPECT_EQ(text.count("3.00"), 2000);
+  EXPECT_EQ(text.count('\f'), 3) << "800,000 twips in pages of 280,000";
 }
 
 TEST(PagePrinterTest, SaysThatThereIsNowhereToPrint) {

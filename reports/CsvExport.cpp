@@ -1,0 +1,57 @@
+#include "reports/CsvExport.h"
+
+#include <cerrno>
+#include <fstream>
+
+#include "base/Text.h"
+#include "reports/ResultList.h"
+#include "reports/UnfinishedFile.h"
+
+namespace {
+
+constexpr const char* kByteOrderMark = "\xEF\xBB\xBF";
+constexpr const char* kLineEnd = "\r\n";
+
+std::string quotedField(const std::string& text) {
+  return '"' + replaced(text, "\"", "\"\"") + '"';
+}
+
+std::string headings() {
+  std::string line;
+  for (const ResultColumnDesign& column : resultColumns()) {
+    if (!line.empty()) line += ',';
+    line += quotedField(column.header);
+  }
+  return line;
+}
+
+std::string field(const ResultList& list, std::size_t row, ResultColumn column) {
+  const std::string text = list.text(row, column);
+  const bool isTime = column == kColumnTime && !list.isTotals(row);
+  return text.empty() || isTime || resultColumns()[column].isNumber ? text : quotedField(text);
+}
+
+std::string rowLine(const ResultList& list, std::size_t row) {
+  std::string line;
+  for (int column = 0; column < kResultColumns; ++column) {
+    if (column > 0) line += ',';
+    line += field(list, row, static_cast<ResultColumn>(column));
+  }
+  return line;
+}
+
+}  // namespace
+
+bool writeCsv(const UnfinishedFile& file, const ExportTable& table, const ExportProgress& goOn) {
+  std::ofstream out(file.path(), std::ios::binary);
+  out << kByteOrderMark;
+  for (const std::string& line : table.above) out << quotedField(line) << kLineEnd;
+  out << headings() << kLineEnd;
+  for (std::size_t row = 0; row < table.list.rowCount() && out; ++row) {
+    if (row % kRowsPerProgress == 0 && !goOn(row)) return false;
+    out << rowLine(table.list, row) << kLineEnd;
+  }
+  out.close();
+  if (!out) file.failWith(errno);
+  return true;
+}

@@ -1,0 +1,10 @@
+#pragma once
+
+#include "reports/ListExport.h"
+
+class UnfinishedFile;
+
+/// The table as CSV (RFC 4180) in UTF-8 with a byte order mark. Texts are quoted and otherwise as
+/// they are; numbers and times are bare. False when it was stopped. Throws ExportError.
+[[nodiscard]] bool writeCsv(const UnfinishedFile& file, const ExportTable& table,
+                            const ExportProgress& goOn);

@@ -1,0 +1,56 @@
+#include "reports/DayModel.h"
+
+#include <utility>
+
+#include "base/NumberText.h"
+
+DayModel::DayModel(QObject* parent) : QAbstractTableModel(parent) {}
+
+void DayModel::show(ClsDayStat::Sells_t bills, const QString& operatorName) {
+  beginResetModel();
+  bills_ = std::move(bills);
+  operatorName_ = operatorName;
+  endResetModel();
+}
+
+int DayModel::rowCount(const QModelIndex& parent) const {
+  return parent.isValid() ? 0 : static_cast<int>(bills_.size());
+}
+
+int DayModel::columnCount(const QModelIndex& parent) const {
+  return parent.isValid() ? 0 : kColumns;
+}
+
+QString DayModel::text(const ClsSell& bill, int column) const {
+  switch (column) {
+    case kBillNo:
+      return QString::number(bill.BillNo());
+    case kAmount:
+      return QString::fromStdString(twoDecimals(bill.Amount()));
+    case kQuantity:
+      return QString::fromStdString(generalNumber(bill.Quantity()));
+    case kTime:
+      return QString::fromStdString(generalText(bill.SellTime()));
+    default:
+      return operatorName_;
+  }
+}
+
+QVariant DayModel::data(const QModelIndex& index, int role) const {
+  if (!index.isValid()) return {};
+  if (role == Qt::DisplayRole)
+    return text(*bills_[static_cast<std::size_t>(index.row())], index.column());
+  if (role == Qt::TextAlignmentRole && index.column() <= kQuantity)
+    return int(Qt::AlignRight | Qt::AlignVCenter);
+  return {};
+}
+
+QVariant DayModel::headerData(int section, Qt::Orientation orientation, int role) const {
+  const QString headers[kColumns] = {tr("流水号"), tr("金额"), tr("商品数量"), tr("时间"),
+                                     tr("收银员")};
+  if (orientation != Qt::Horizontal || section < 0 || section >= kColumns) return {};
+  if (role == Qt::DisplayRole) return headers[section];
+  if (role == Qt::TextAlignmentRole && section <= kQuantity)
+    return int(Qt::AlignRight | Qt::AlignVCenter);
+  return {};
+}

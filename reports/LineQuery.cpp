@@ -1,0 +1,99 @@
+#include "reports/LineQuery.h"
+
+#include <utility>
+
+#include "base/Failure.h"
+#include "store/Connection.h"
+
+namespace {
+
+/// About a screen's height, to be seen at once; then as many as cost the window little at a time.
+constexpr std::size_t kFirstPage = 64;
+constexpr std::size_t kPage = 16384;
+
+}  // namespace
+
+LineQuery::LineQuery(DataSource source) : source_(std::move(source)), reader_(new QObject) {
+  reader_->moveToThread(&thread_);
+  connect(&thread_, &QThread::finished, reader_, &QObject::deleteLater);
+  thread_.start();
+  QMetaObject::invokeMethod(reader_, [this] {
+    try {
+      connection();
+    } catch (const Failure&) {
+      // The first query opens again, and tells.
+    }
+  });
+}
+
+LineQuery::~LineQuery() {
+  stop();
+  QMetaObject::invokeMethod(reader_, [this] { connection_.reset(); });
+  QMetaObject::invokeMethod(reader_, [this] { thread_.quit(); });
+  thread_.wait();
+}
+
+void LineQuery::start(const std::string& statement) {
+  const int number = ++wanted_;
+  running_ = true;
+  QMetaObject::invokeMethod(reader_, [this, statement, number] { read(statement, number); });
+}
+
+void LineQuery::stop() {
+  ++wanted_;
+  end();
+}
+
+void LineQuery::end() {
+  running_ = false;
+}
+
+Connection& LineQuery::connection() {
+  if (!connection_) {
+    connection_ = std::make_unique<Connection>(source_, Connection::Mode::kExisting);
+  }
+  return *connection_;
+}
+
+void LineQuery::read(const std::string& statement, int number) {
+  if (wanted_ != number) return;
+  try {
+    readPages(statement, number);
+    report(number, [this] {
+      end();
+      emit finished();
+    });
+  } catch (const Failure& failure) {
+    report(number, [this, why = QString::fromUtf8(failure.what())] {
+      end();
+      emit failed(why);
+    });
+  }
+}
+
+void LineQuery::readPages(const std::string& statement, int number) {
+  const auto unwanted = [this, number] { return wanted_ != number; };
+  connection().stopWhen(unwanted);
+  Rows rows = connection().Read(statement);
+  SoldLineCollector lines;
+  std::size_t wantedSize = kFirstPage;
+  const auto give = [&] { report(number, [this, page = lines.page()] { emit found(page); }); };
+  while (rows.next()) {
+    lines.take(rows);
+    if (lines.size() < wantedSize) continue;
+    if (unwanted()) return;
+    give();
+    wantedSize = kPage;
+  }
+  give();
+}
+
+// What is on its way when its query is stopped arrives unwanted.
+void LineQuery::report(int number, std::function<void()> what) {
+  QMetaObject::invokeMethod(
+      this,
+      [this, number, what = std::move(what)] {
+        if (wanted_ == number) what();
+      },
+      Qt::QueuedConnection);
+}

@@ -1,0 +1,54 @@
+#pragma once
+
+#include <QObject>
+#include <QThread>
+#include <atomic>
+#include <memory>
+#include <string>
+
+#include "reports/SoldLines.h"
+#include "store/DataFile.h"
+
+class Connection;
+
+/// Runs sales queries beside the window, so that it lives while a year is sorted and read: a thread
+/// with a reading connection of its own. Queries start, stop and report in the window's thread.
+class LineQuery : public QObject {
+  Q_OBJECT
+
+ public:
+  /// Opens its connection at once, beside the window, so that it stands when the first query comes.
+  explicit LineQuery(DataSource source);
+  ~LineQuery() override;
+
+  /// Starts a query; one that still runs is stopped.
+  void start(const std::string& statement);
+  /// Ends the query within milliseconds, in the midst of the engine's sorting too. Nothing more is
+  /// heard of it.
+  void stop();
+  bool isRunning() const { return running_; }
+
+ signals:
+  /// The next lines, the first few as soon as they are known.
+  void found(const SoldPage& page);
+  /// All lines were given.
+  void finished();
+  /// The query ended early; the text is for people.
+  void failed(const QString& why);
+
+ private:
+  Connection& connection();
+  void read(const std::string& statement, int number);
+  void readPages(const std::string& statement, int number);
+  void report(int number, std::function<void()> what);
+  void end();
+
+  DataSource source_;
+  std::atomic<int> wanted_ = 0;  ///< number of the query that is still wanted
+  bool running_ = false;
+
+  // Used in the reading thread only.
+  std::unique_ptr<Connection> connection_;
+  QThread thread_;
+  QObject* reader_;  ///< lives in the thread and goes with it
+};

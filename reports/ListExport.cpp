@@ -1,0 +1,16 @@
+#include "reports/ListExport.h"
+
+#include "base/Text.h"
+#include "reports/CsvExport.h"
+#include "reports/UnfinishedFile.h"
+#include "reports/XlsxExport.h"
+
+bool exportList(const std::filesystem::path& file, const ExportTable& table,
+                const ExportProgress& goOn) {
+  UnfinishedFile unfinished(file);
+  const bool isCsv = equalIgnoringCase(file.extension().string(), ".csv");
+  const bool isWhole =
+      isCsv ? writeCsv(unfinished, table, goOn) : writeXlsx(unfinished, table, goOn);
+  if (isWhole) unfinished.finish();
+  return isWhole;
+}

@@ -1,0 +1,102 @@
+#include "reports/QueryPrints.h"
+
+#include <utility>
+
+#include "base/Text.h"
+#include "reports/ResultList.h"
+#include "saleslib/ClsSysParam.h"
+
+namespace {
+
+// In twips.
+constexpr int kHeadingsAt = 1000;
+constexpr int kLinesFrom = 1300;  ///< less one row
+constexpr int kRowHeight = 300;
+constexpr int kNameAt = 50;
+constexpr int kQuantityAt = 1300;
+constexpr int kPriceAt = 1700;
+constexpr int kMoneyAt = 2200;
+
+/// Five lines of this size end above the column headings, and seven Chinese characters before the
+/// quantity.
+constexpr double kReprintPoints = 8;
+constexpr std::size_t kNameCharacters = 7;
+
+std::string totalsLine(const ResultList& list) {
+  const std::size_t totals = list.lineCount();
+  return "数量合计" + list.text(totals, kColumnQuantity) + " 金额合计" +
+         list.text(totals, kColumnMoney) + " ";
+}
+
+/// Adds lines below each other from `y` on; gives the place below the last one.
+int addLines(PageDocument& page, int y, const std::vector<std::string>& lines) {
+  for (const std::string& line : lines) {
+    page.texts.push_back({0, y, line});
+    y += page.lineHeight();
+  }
+  return y;
+}
+
+void addGoodsLine(PageDocument& page, int y, const ResultList& list, std::size_t row) {
+  const std::string name = firstCharacters(list.text(row, kColumnName), kNameCharacters);
+  page.texts.push_back({kNameAt, y, name + " "});
+  page.texts.push_back({kQuantityAt, y, " " + list.text(row, kColumnQuantity) + " "});
+  page.texts.push_back({kPriceAt, y, list.text(row, kColumnPrice)});
+  page.texts.push_back({kMoneyAt, y, list.text(row, kColumnMoney) + " "});
+}
+
+/// Column headings and goods lines; gives the place below them, after an empty line.
+int addGoods(PageDocument& page, const ResultList& list) {
+  page.texts.push_back({kNameAt, kHeadingsAt, "品名"});
+  page.texts.push_back({kQuantityAt, kHeadingsAt, "数量"});
+  page.texts.push_back({kPriceAt, kHeadingsAt, "单价"});
+  page.texts.push_back({kMoneyAt, kHeadingsAt, "金额"});
+  int y = kHeadingsAt;
+  for (std::size_t row = 0; row < list.lineCount(); ++row) {
+    y = kLinesFrom + kRowHeight * static_cast<int>(row + 1);
+    addGoodsLine(page, y, list, row);
+  }
+  return y + page.lineHeight() * (list.lineCount() == 0 ? 1 : 2);
+}
+
+}  // namespace
+
+PageDocument pageOfLines(std::string name, const std::vector<std::string>& lines) {
+  PageDocument page;
+  page.name = std::move(name);
+  addLines(page, 0, lines);
+  return page;
+}
+
+PageDocument reportPage(const ResultList& list, const DateTime& start, const DateTime& end,
+                        const DateTime& now) {
+  std::vector<std::string> lines = {"      库存报表",
+                                    "打印时间" + generalText(now),
+                                    "打印报表时间段",
+                                    "从" + generalText(start) + " ",
+                                    "至" + generalText(end) + " ",
+                                    "单号   编码   品名 数量"};
+  for (std::size_t row = 0; row < list.lineCount(); ++row) {
+    lines.push_back(list.text(row, kColumnBill) + "  " + list.text(row, kColumnCode) + " " +
+                    list.text(row, kColumnName) + "  " + list.text(row, kColumnQuantity) + "   ");
+    lines.emplace_back();
+  }
+  lines.push_back(totalsLine(list));
+  return pageOfLines("库存报表", lines);
+}
+
+PageDocument reprintPage(const ResultList& list, const std::string& billNo, const ClsSysParam& shop,
+                         const DateTime& now) {
+  PageDocument page;
+  page.name = "补打小票";
+  page.fontPoints = kReprintPoints;
+  addLines(
+      page, 0,
+      {"       " + shop.ShopName(), "**********补打小票********", "打印时间" + generalText(now),
+       "单号：" + trimmed(billNo), "交易时间" + list.text(0, kColumnTime)});
+  const int y = addGoods(page, list);
+  addLines(page, y,
+           {totalsLine(list), shop.ReceiptText2(), shop.ReceiptText1(), shop.ReceiptText3(),
+            shop.ReceiptText4(), shop.ReceiptText5(), shop.ReceiptText6()});
+  return page;
+}

@@ -1,0 +1,11 @@
+#pragma once
+
+#include "reports/ListExport.h"
+
+class UnfinishedFile;
+
+/// The table as a spreadsheet: numbers and times as such, everything else as text, whatever it
+/// begins with; the headings stay in sight, and the columns are as wide as what is in them. False
+/// when it was stopped. Throws ExportError, for a list too long for a spreadsheet too.
+[[nodiscard]] bool writeXlsx(const UnfinishedFile& file, const ExportTable& table,
+                             const ExportProgress& goOn);

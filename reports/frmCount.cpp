@@ -1,0 +1,129 @@
+#include "reports/frmCount.h"
+
+#include <QKeyEvent>
+#include <QLabel>
+#include <QPushButton>
+#include <QTableView>
+#include <QVBoxLayout>
+
+#include "app/posMod.h"
+#include "base/NumberText.h"
+#include "platform/PortError.h"
+#include "platform/Twips.h"
+#include "platform/VirtualKey.h"
+#include "reports/DayModel.h"
+#include "reports/KeyPreview.h"
+#include "reports/QueryPrints.h"
+#include "reports/ShiftSheet.h"
+#include "reports/TableLook.h"
+#include "saleslib/ClsDayStat.h"
+#include "shell/Modal.h"
+
+namespace {
+
+constexpr int kWidth = 7380;
+constexpr int kHeight = 5940;
+constexpr int kColumnWidths[] = {1764, 1764, 2540, 4410, 2540};
+
+ShiftSheet sheetOf(const ClsDayStat& day) {
+  return {day.Sells().size(), day.SumQuantity(), day.SumMoney()};
+}
+
+/// Other ports have no sheet.
+void print(const posMod& pos, const ShiftSheet& sheet) {
+  const std::string& port = pos.gPosSet.PPort;
+  if (port == "USB") {
+    pos.ports.pagePrinter()->print(pageOfLines("交班表", sheet.lines()));
+  } else {
+    pos.ports.portFile(port)->send(linePrinterBytes(sheet.lines()));
+  }
+}
+
+bool canPrint(const std::string& port) {
+  return port == "USB" || port == "LPT1" || port == "LPT2";
+}
+
+}  // namespace
+
+frmCount::frmCount(posMod& pos, QWidget* parent)
+    : QDialog(parent), pos_(pos), model_(new DayModel(this)) {
+  setObjectName("frmCount");
+  setWindowTitle(tr("销售统计"));
+  resize(pixels(kWidth), pixels(kHeight));
+  build();
+  new KeyPreview(this, [this](int key) {
+    if (key == 0 || key != pos_.gKeyBoard.mEsc) return false;
+    close();
+    return true;
+  });
+}
+
+void frmCount::build() {
+  Label1_ = new QLabel(tr("今日销售统计"));
+  Label1_->setObjectName("Label1");
+  Label1_->setTextFormat(Qt::PlainText);
+  Label1_->setAlignment(Qt::AlignCenter);
+  listSell_ = new QTableView;
+  listSell_->setObjectName("listSell");
+  listSell_->setModel(model_);
+  lookLikeReport(*listSell_);
+  int column = 0;
+  for (const int width : kColumnWidths) listSell_->setColumnWidth(column++, pixels(width));
+  lblMsg_ = new QLabel;
+  lblMsg_->setObjectName("lblMsg");
+  lblMsg_->setWordWrap(true);
+  auto* print1 = new QPushButton(tr("打印交班表"));
+  print1->setObjectName("print1");
+  connect(print1, &QPushButton::clicked, this, &frmCount::printSheet);
+  auto* cmdExit = new QPushButton(tr("退出(&X)"));
+  cmdExit->setObjectName("cmdExit");
+  connect(cmdExit, &QPushButton::clicked, this, &QDialog::close);
+
+  auto* buttons = new QHBoxLayout;
+  buttons->addStretch();
+  buttons->addWidget(print1);
+  buttons->addWidget(cmdExit);
+  auto* layout = new QVBoxLayout(this);
+  layout->addWidget(Label1_);
+  layout->addWidget(listSell_, 1);
+  layout->addWidget(lblMsg_);
+  layout->addLayout(buttons);
+  listSell_->setFocus();
+}
+
+void frmCount::init() {
+  Label1_->setText(QString::fromStdString(pos_.gOperator->Name()) + tr("今日销售统计表"));
+  show(today());
+  centreOnScreen(*this);
+  exec();
+}
+
+// Only the mapped Esc key closes the form.
+void frmCount::keyPressEvent(QKeyEvent* event) {
+  event->ignore();
+}
+
+ClsDayStat frmCount::today() const {
+  ClsDayStat day;
+  day.DayQuery(*pos_.gConn, pos_.clock().date, 0, pos_.gOperator->Id());
+  return day;
+}
+
+void frmCount::show(const ClsDayStat& day) {
+  model_->show(day.Sells(), QString::fromStdString(pos_.gOperator->Name()));
+  lblMsg_->setText(tr("今日累计发生 [%1] 笔交易，共交易 [%2] 件商品，交易额 [%3] 元")
+                       .arg(QString::number(day.Sells().size()),
+                            QString::fromStdString(generalNumber(day.SumQuantity())),
+                            QString::fromStdString(twoDecimals(day.SumMoney()))));
+}
+
+void frmCount::printSheet() {
+  if (!canPrint(pos_.gPosSet.PPort)) return;
+  const ShiftSheet sheet = sheetOf(today());
+  if (sheet.bills == 0) return messageBox(this, tr("没有可打印的内容！"));
+  try {
+    print(pos_, sheet);
+  } catch (const PortError& error) {
+    messageBox(this, QString::fromUtf8(error.what()));
+  }
+}

@@ -1,0 +1,36 @@
+#pragma once
+
+#include <QDialog>
+
+class ClsDayStat;
+class DayModel;
+class QLabel;
+class QTableView;
+class posMod;
+
+/// The logged-in operator's bills of today, their sums, and the hand-over sheet of the shift.
+class frmCount : public QDialog {
+  Q_OBJECT
+
+ public:
+  /// Needs an operator logged in.
+  explicit frmCount(posMod& pos, QWidget* parent = nullptr);
+
+  /// Fills the form and shows it modally; returns when it has been closed.
+  void init();
+
+ protected:
+  void keyPressEvent(QKeyEvent* event) override;
+
+ private:
+  void build();
+  ClsDayStat today() const;
+  void show(const ClsDayStat& day);
+  void printSheet();
+
+  posMod& pos_;
+  DayModel* model_;
+  QLabel* Label1_;
+  QTableView* listSell_;
+  QLabel* lblMsg_;
+};
