@@ -2,11 +2,10 @@
 
 #include <stdexcept>
 
-#include "bench/ShopFile.h"
 #include "checkout/Settlement.h"
 
-std::unique_ptr<posMod> openTill(const std::filesystem::path& folder) {
-  const DateTime now{plusDays(shop_file::kBusyDay, 1), 9, 5, 3};
+std::unique_ptr<posMod> openTill(const std::filesystem::path& folder, const Date& day) {
+  const DateTime now{day, 9, 5, 3};
   auto pos = std::make_unique<posMod>(folder, [now] { return now; });
   if (const std::string fault = pos->OpenDataStore(); !fault.empty()) {
     throw std::runtime_error(fault);

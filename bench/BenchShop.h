@@ -5,12 +5,13 @@
 #include <string>
 
 #include "app/posMod.h"
+#include "bench/ShopFile.h"
 #include "checkout/SaleScreen.h"
 #include "sale/SaleSession.h"
 
-/// The process-wide objects of a till in that folder, on the day after the shop's busy day, with
-/// the cashier logged in.
-std::unique_ptr<posMod> openTill(const std::filesystem::path& folder);
+/// The process-wide objects of a till in that folder on that day, with the cashier logged in.
+std::unique_ptr<posMod> openTill(const std::filesystem::path& folder,
+                                 const Date& day = plusDays(shop_file::kBusyDay, 1));
 
 /// A till without a window: what the cashier's key presses cause, and nothing of what the screen
 /// draws.

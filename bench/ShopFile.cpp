@@ -8,6 +8,7 @@
 #include "saleslib/ClsOperator.h"
 #include "store/Connection.h"
 #include "store/DataFile.h"
+#include "store/FragmentIndex.h"
 #include "store/Schema.h"
 #include "store/Transaction.h"
 
@@ -63,7 +64,6 @@ void fillPeople(Connection& shop) {
   cashier.setName("张三");
   cashier.setCode("01");
   cashier.setPassword("");
-  ClsRights rights;
   cashier.Save();
   shop.run("insert into operator_rights (operator_id, right_key) values (?, 'sell')", kCashier);
   for (int member = 0; member < kMembers; ++member) {
@@ -115,6 +115,7 @@ void fill(Connection& shop, ShopSize size) {
     fillBills(shop, bills - kBusyBills + 1, kBusyBills, kBusyDay, kDay);
   });
   withoutIndexes(shop, "sellProducts", [&] { fillLines(shop, size); });
+  updateFragmentIndex(shop);
   making.commit();
 }
 

@@ -9,6 +9,9 @@
 #include <vector>
 
 #include "bench/Run.h"
+#include "driver/OffscreenScreen.h"
+#include "shell/FocusReturn.h"
+#include "shell/Style.h"
 
 namespace {
 
@@ -50,12 +53,21 @@ int main(int argc, char** argv) {
   const Options options = take(arguments);
   int count = static_cast<int>(arguments.size());
   arguments.push_back(nullptr);
+  std::filesystem::create_directories(options.folder);
+  setenv("QT_QPA_PLATFORM", offscreenPlatform(options.folder, 1024, 768).c_str(), 1);
   QApplication application(count, arguments.data());
+  application.setQuitOnLastWindowClosed(false);
+  applyStyle(application);
+  new FocusReturn(&application);
   benchmark::Initialize(&count, arguments.data());
   if (benchmark::ReportUnrecognizedArguments(count, arguments.data())) return 2;
   Run run{options.full, Shops(options.folder), {}};
   addLookUpRows(run);
   addSaleRows(run);
+  addWindowRows(run);
+  addReportRows(run);
+  addProgramRows(run);
+  addImportRow(run);
   benchmark::RunSpecifiedBenchmarks();
   benchmark::Shutdown();
   return report(run.table, options.judge);
