@@ -12,7 +12,6 @@
 #include <QScopeGuard>
 #include <QScopedValueRollback>
 #include <QScrollBar>
-#include <QTableView>
 #include <array>
 
 #include "app/posMod.h"
@@ -20,6 +19,7 @@
 #include "platform/Twips.h"
 #include "platform/VirtualKey.h"
 #include "sale/BillModel.h"
+#include "sale/BillView.h"
 #include "sale/FittedLabel.h"
 #include "sale/KeyHelp.h"
 #include "sale/SellStyle.h"
@@ -60,7 +60,7 @@ frmSell::frmSell(posMod& pos, SaleSession::Openers openers, std::function<void()
       title1_(named<FittedLabel>("title1", this)),
       title2_(named<QLabel>("title2", this)),
       title3_(named<FittedLabel>("title3", this)),
-      lv_(named<QTableView>("lv", this)),
+      lv_(named<BillView>("lv", this)),
       t_(named<QLineEdit>("t", this)),
       txtmoney_(named<FittedLabel>("txtmoney", this)),
       lblViewMember_(named<QLabel>("lblViewMember", this)),
@@ -110,9 +110,6 @@ void frmSell::makeList() {
   lv_->setSelectionMode(QAbstractItemView::SingleSelection);
   lv_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   lv_->setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
-  lv_->setAlternatingRowColors(true);
-  lv_->setShowGrid(false);
-  lv_->setWordWrap(false);
   lv_->setCornerButtonEnabled(false);
   lv_->verticalHeader()->hide();
   lv_->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
