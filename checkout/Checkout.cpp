@@ -107,6 +107,8 @@ bool Checkout::storeSale() {
 // A member that cannot be credited costs points, not the sale: the bill is stored all the same.
 void Checkout::creditMember() {
   ClsMember& member = *state_.curMember;
+  // Goods taken back while the member was attached have lowered the purchases since.
+  if (const auto now = pos_.gMemberSvc.GetMemberById(member.Id())) member = *now;
   const Currency amount = state_.curBill->Amount();
   member.setTotalSpent(member.TotalSpent() + amount);
   const auto points = pointsAfter(amount, pos_.gSysParam.PointUnit(), member.Points());
@@ -144,21 +146,34 @@ void Checkout::printOurP() {
 }
 
 void Checkout::PrepareNextBill() {
+  ShowNextBill(openBill());
+}
+
+std::shared_ptr<ClsSell> Checkout::openBill() {
+  auto bill = std::make_shared<ClsSell>();
+  const bool opened = bill->Open(*pos_.gConn, 0, pos_.gOperator->Id(), pos_.clock);
+  ensure(opened, "a new bill always opens");
+  return bill;
+}
+
+void Checkout::ShowNextBill(std::shared_ptr<ClsSell> next) {
+  state_.curBill = std::move(next);
   state_.clearRows();
   state_.AddEntryRow();
   screen_.rowsChanged();
   screen_.PlaceEditor();
-  state_.curBill = std::make_shared<ClsSell>();
-  const bool opened = state_.curBill->Open(*pos_.gConn, 0, pos_.gOperator->Id(), pos_.clock);
-  ensure(opened, "a new bill always opens");
   state_.onEntryRow = true;
-  screen_.setTitle1(shown("流水号：" + std::to_string(state_.curBill->BillNo()) + "   收银员：" +
-                          pos_.gOperator->Name()));
+  ShowBillNo();
   if (state_.lastBill && !showLastBill()) return;
   state_.curLine = nullptr;
   state_.curMember = nullptr;
   ShowMemberInfo();
   state_.clearOnKey = false;
+}
+
+void Checkout::ShowBillNo() {
+  screen_.setTitle1(shown("流水号：" + std::to_string(state_.curBill->BillNo()) + "   收银员：" +
+                          pos_.gOperator->Name()));
 }
 
 bool Checkout::showLastBill() {

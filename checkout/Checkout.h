@@ -1,9 +1,11 @@
 #pragma once
 
 #include <QCoreApplication>
+#include <memory>
 
 #include "checkout/Outage.h"
 
+class ClsSell;
 class CustomerDisplay;
 class LineReceipt;
 class posMod;
@@ -25,6 +27,12 @@ class Checkout {
   /// Empties the screen and opens the next bill. Ends the program when the clock is behind the
   /// previous bill.
   void PrepareNextBill();
+  /// The same in two steps, for a caller that opens the next bill in a transaction of its own: a
+  /// new bill of the operator, stored at once; and the screen with it.
+  [[nodiscard]] std::shared_ptr<ClsSell> openBill();
+  void ShowNextBill(std::shared_ptr<ClsSell> next);
+  /// Writes number and cashier of the open bill into the second line.
+  void ShowBillNo();
   /// Prints the receipt of lastBill on the page printer. A printer that fails is reported once.
   void printOurP();
   /// Shows the member attached to the bill, or nobody.

@@ -4,7 +4,9 @@
 #include "checkout/LineReceipt.h"
 #include "checkout/SaleState.h"
 
-void commitCurrentLine(SaleState& state, LineReceipt& receipt) {
+namespace {
+
+void addToBill(SaleState& state) {
   ensure(state.curLine != nullptr, "only a current line can be committed");
   const int row = state.onEntryRow ? state.selected - 1 : state.selected;
   ensure(row >= 0 && row + 1 < static_cast<int>(state.rows.size()),
@@ -15,6 +17,17 @@ void commitCurrentLine(SaleState& state, LineReceipt& receipt) {
   state.onEntryRow = true;
 
   state.curBill->AddItem(state.curLine);
+}
+
+}  // namespace
+
+void joinCurrentLine(SaleState& state) {
+  addToBill(state);
+  state.curLine = nullptr;
+}
+
+void commitCurrentLine(SaleState& state, LineReceipt& receipt) {
+  addToBill(state);
   receipt.PrintLine();
   state.curLine = nullptr;
 }

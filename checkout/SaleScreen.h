@@ -2,7 +2,11 @@
 
 #include <QString>
 #include <QStringList>
+#include <cstdint>
+#include <memory>
+#include <vector>
 
+class ClsSell;
 class Settlement;
 
 /// The few things that a procedure of the sale wants from the screen. The sale window implements
@@ -35,6 +39,9 @@ class SaleScreen {
   [[nodiscard]] virtual QString prompt(const QString& title, const QString& message) = 0;
   /// A popup menu of these entries; the position chosen, or nothing chosen: -1.
   [[nodiscard]] virtual int choose(const QStringList& entries) = 0;
+  /// Shows the bills put aside; the number of the one to be taken up again, 0 for none.
+  [[nodiscard]] virtual std::int32_t chooseHeldBill(
+      const std::vector<std::shared_ptr<ClsSell>>& bills) = 0;
   /// Runs the settlement dialog; true when payment was confirmed.
   [[nodiscard]] virtual bool settle(Settlement& settlement) = 0;
 

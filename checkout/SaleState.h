@@ -42,12 +42,11 @@ struct SaleState {
   std::vector<std::shared_ptr<ClsSell>> heldBills;  ///< suspended, in the order of suspension
 
   std::vector<BillRow> rows;
-  int selected = -1;          ///< index of the selected row
-  int editCol = 1;            ///< what the editor is on: 1 code entry, 2 quantity, 3 discount
-  bool onEntryRow = true;     ///< the entry row is selected, not the current line's row
-  bool clearOnKey = false;    ///< the next key press first empties the input line
-  bool menuIdle = true;       ///< the function menu is not open
-  bool showBillOnly = false;  ///< a recalled bill is being shown again
+  int selected = -1;        ///< index of the selected row
+  int editCol = 1;          ///< what the editor is on: 1 code entry, 2 quantity, 3 discount
+  bool onEntryRow = true;   ///< the entry row is selected, not the current line's row
+  bool clearOnKey = false;  ///< the next key press first empties the input line
+  bool menuIdle = true;     ///< the function menu is not open
 
   bool linePrint = false;  ///< print each committed line at once
   ReceiptColumns receiptCols;

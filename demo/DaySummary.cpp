@@ -34,12 +34,42 @@ int listBills(Connection& shop, std::ostream& text, Currency& takings) {
   return bills;
 }
 
+/// The totals row of an export and the number of lines above it, as the data file has them.
+std::pair<std::string, int> exportedTotals(Connection& shop) {
+  std::int64_t quantity = 0;
+  Currency money;
+  int lines = 0;
+  Rows rows = shop.query("select amount, money from sellProducts");
+  while (rows.next()) {
+    ++lines;
+    quantity += wholeHalfEven(rows.number("amount").value_or(0));
+    money += rows.currency("money").value_or(Currency());
+  }
+  return {"\"合计\",,,,," + std::to_string(quantity) + ",,," + generalNumber(money) +
+              ",,\"***\",\"***\",,",
+          lines};
+}
+
+bool exportAgrees(Connection& shop, const std::filesystem::path& exported) {
+  const auto [totals, lines] = exportedTotals(shop);
+  std::ifstream file(exported);
+  int found = 0;
+  std::string line, last;
+  while (std::getline(file, line)) {
+    if (line.ends_with('\r')) line.pop_back();
+    if (line.starts_with("20")) ++found;
+    last = line;
+  }
+  return found == lines && last == totals;
+}
+
 }  // namespace
 
 DaySummary::DaySummary(const std::filesystem::path& dataFile)
     : dataFile_(dataFile), stockBefore_(stockOf(*openDataFile({dataFile, kBuiltInPassword}))) {}
 
-bool DaySummary::write(const std::filesystem::path& file, int settledBills) const {
+bool DaySummary::write(const std::filesystem::path& file, int settledBills,
+                       const std::filesystem::path& exported) const {
   const auto shop = openDataFile({dataFile_, kBuiltInPassword});
   std::ostringstream faults;
   std::ofstream text(file);
@@ -64,7 +94,10 @@ bool DaySummary::write(const std::filesystem::path& file, int settledBills) cons
     if (roundedQuantity(now) != quantity) faults << "库存不符：" << code << "\n";
   }
 
+  if (!exportAgrees(*shop, exported)) faults << "导出的销售明细与数据文件不符\n";
+
   text << "\n共 " << bills << " 张单据，应收合计 " << twoDecimals(takings) << " 元\n"
-       << (faults.str().empty() ? "账目与库存全部相符\n" : "不符之处：\n" + faults.str());
+       << (faults.str().empty() ? "账目、库存与导出的销售明细全部相符\n"
+                                : "不符之处：\n" + faults.str());
   return faults.str().empty();
 }

@@ -12,8 +12,9 @@ class DaySummary {
 
   /// Writes the day's bills, takings and stock as a text, and what does not agree. False when
   /// something does not: a bill count other than `settledBills`, an open bill left behind, a line
-  /// sum, a stock figure.
-  bool write(const std::filesystem::path& file, int settledBills) const;
+  /// sum, a stock figure, the day's query as it was exported to CSV.
+  bool write(const std::filesystem::path& file, int settledBills,
+             const std::filesystem::path& exported) const;
 
  private:
   std::filesystem::path dataFile_;

@@ -8,7 +8,8 @@
 class TillDriver;
 
 /// A day at the till of the demo shop, worked by keyboard: the morning with a line printer, the
-/// afternoon with the page printer. Leaves pictures, receipts and display texts in the out folder.
+/// afternoon and the evening with the page printer. Leaves pictures, receipts and display texts in
+/// the out folder.
 class DemoDay {
  public:
   /// `program` is an installed program folder with a demo shop's data file; a copy of it in `out`
@@ -17,6 +18,7 @@ class DemoDay {
 
   void morning();
   void afternoon();
+  void evening();
   /// Receipts of the line printer and texts of the display, as people read them.
   void writeTranscripts() const;
 
@@ -27,6 +29,15 @@ class DemoDay {
   void setUpDevices(const char* receiptPort);
   void logIn(TillDriver& till, const char* number, const char* password);
   void basketOfEveryKind(TillDriver& till);
+  void newMember(TillDriver& till);
+  void topUp(TillDriver& till);
+  void memberBill(TillDriver& till);
+  void suspendedBill(TillDriver& till);
+  void colours(TillDriver& till);
+  void takeBack(TillDriver& till);
+  void handOver(TillDriver& till);
+  void query(TillDriver& till);
+  void exportList(TillDriver& till, const char* file);
   void shot(TillDriver& till, const char* name);
 
   std::filesystem::path out_;

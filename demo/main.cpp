@@ -17,8 +17,9 @@ int main(int argc, char** argv) {
     const DaySummary summary(day.dataFile());
     day.morning();
     day.afternoon();
+    day.evening();
     day.writeTranscripts();
-    if (!summary.write(out / "summary.txt", day.settledBills())) {
+    if (!summary.write(out / "summary.txt", day.settledBills(), out / "sales.csv")) {
       std::fprintf(stderr, "the books of the demo day do not agree: see %s\n",
                    (out / "summary.txt").c_str());
       return 1;

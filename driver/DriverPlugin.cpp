@@ -24,6 +24,8 @@ constexpr int kPollMs = 2;
 ///   type TEXT      key clicks that type a text
 ///   wait NAME      until the active window's objectName is NAME
 ///   text NAME      the text of a label or input field of a visible window
+///   focus          the name of the control that has the keyboard
+///   settle         once the keys sent before have been delivered
 ///   shot FILE      a picture of the screen
 /// Each is answered by one line, "ok ..." or "error ...". A click is answered before it is
 /// delivered, because a window that it opens only returns when that window is closed.
@@ -60,6 +62,11 @@ class Driver : public QObject {
       waitFor(argument, timer);
     } else if (command == QLatin1String("text")) {
       answerText(argument);
+    } else if (command == QLatin1String("focus")) {
+      const QWidget* focus = QApplication::focusWidget();
+      answer(QStringLiteral("ok ") + (focus != nullptr ? focus->objectName() : QString()));
+    } else if (command == QLatin1String("settle")) {
+      QTimer::singleShot(0, this, [this] { answer(QStringLiteral("ok")); });
     } else if (command == QLatin1String("shot")) {
       answer(screenshot().save(argument) ? QStringLiteral("ok")
                                          : QStringLiteral("error cannot save"));
@@ -145,7 +152,7 @@ class Driver : public QObject {
 
 }  // namespace
 
-/// What Qt loads; the specification is the socket's file descriptor.
+/// What Qt loads; the argument is the socket's file descriptor.
 class DriverPlugin : public QGenericPlugin {
   Q_OBJECT
   Q_PLUGIN_METADATA(IID QGenericPluginFactoryInterface_iid FILE "DriverPlugin.json")

@@ -13,6 +13,7 @@
 
 namespace {
 
+constexpr int kMostTabs = 60;
 constexpr auto kTextLimit = std::chrono::seconds(20);
 
 [[noreturn]] void becomeTill(const std::filesystem::path& folder, const std::string& platform,
@@ -73,6 +74,18 @@ void TillDriver::type(std::string_view text) {
 void TillDriver::enter(std::string_view text) {
   type(text);
   key("Return");
+}
+
+void TillDriver::tabTo(std::string_view control) {
+  for (int presses = 0; ask("focus") != control; ++presses) {
+    if (presses == kMostTabs) throw std::runtime_error("Tab never reaches " + std::string(control));
+    key("Tab");
+    sync();
+  }
+}
+
+void TillDriver::sync() {
+  ask("settle");
 }
 
 void TillDriver::waitFor(std::string_view window) {

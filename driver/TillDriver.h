@@ -22,6 +22,10 @@ class TillDriver {
   void type(std::string_view text);
   /// Types a text and presses Enter.
   void enter(std::string_view text);
+  /// Presses Tab until that control has the keyboard.
+  void tabTo(std::string_view control);
+  /// Waits until the keys sent so far have been delivered.
+  void sync();
   /// Waits until the window of that name is the active one.
   void waitFor(std::string_view window);
   /// Waits until a control shows a text that contains `part`.

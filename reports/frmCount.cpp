@@ -1,5 +1,7 @@
 #include "reports/frmCount.h"
 
+#include <numeric>
+
 #include <QKeyEvent>
 #include <QLabel>
 #include <QPushButton>
@@ -21,9 +23,14 @@
 
 namespace {
 
-constexpr int kWidth = 7380;
-constexpr int kHeight = 5940;
+constexpr int kHeight = 7380;
 constexpr int kColumnWidths[] = {1764, 1764, 2540, 4410, 2540};
+constexpr int kBesideList = 900;  // margins, frame and scroll bar
+
+// As wide as its columns: a cashier with large type should not have to scroll sideways.
+int formWidth() {
+  return std::accumulate(std::begin(kColumnWidths), std::end(kColumnWidths), kBesideList);
+}
 
 ShiftSheet sheetOf(const ClsDayStat& day) {
   return {day.Sells().size(), day.SumQuantity(), day.SumMoney()};
@@ -49,7 +56,7 @@ frmCount::frmCount(posMod& pos, QWidget* parent)
     : QDialog(parent), pos_(pos), model_(new DayModel(this)) {
   setObjectName("frmCount");
   setWindowTitle(tr("销售统计"));
-  resize(pixels(kWidth), pixels(kHeight));
+  resize(pixels(formWidth()), pixels(kHeight));
   build();
   new KeyPreview(this, [this](int key) {
     if (key == 0 || key != pos_.gKeyBoard.mEsc) return false;

@@ -13,6 +13,7 @@
 #include <QScrollBar>
 #include <QTableView>
 #include <QTimeEdit>
+#include <algorithm>
 
 #include "app/posMod.h"
 #include "base/NumberText.h"
@@ -33,6 +34,10 @@ namespace {
 // In twips.
 constexpr int kWidth = 14235;
 constexpr int kHeight = 7755;
+constexpr int kAround = 24;         // pixels left free around the form, which else fills the screen
+constexpr int kColumnAir = 12;      // pixels beside the widest text of a column
+constexpr int kWidestColumn = 320;  // pixels
+constexpr int kFittedRows = 200;    // rows looked at for a column's width
 constexpr int kEdge = 100;
 
 constexpr int kBlankKey = 32;  // virtual-key code
@@ -60,7 +65,9 @@ frmSearch::frmSearch(posMod& pos, QWidget* parent)
   load();
   new KeyPreview(this, [this](int key) { return keyTaken(key); });
   Frame5_->DtBegin->setFocus();
-  resize(pixels(kWidth), pixels(kHeight));
+  const QSize free = screen()->availableSize();
+  resize(std::max(pixels(kWidth), free.width() - kAround),
+         std::max(pixels(kHeight), free.height() - kAround));
   centreOnScreen(*this);
 }
 
@@ -72,6 +79,7 @@ void frmSearch::build() {
   for (int column = 0; column < kResultColumns; ++column)
     headings->resizeSection(column, pixels(resultColumns()[column].width));
   headings->setSectionsClickable(true);
+  headings->setResizeContentsPrecision(kFittedRows);
   connect(headings, &QHeaderView::sectionClicked, this, &frmSearch::sortBy);
   for (QPushButton* button : Frame5_->findChildren<QPushButton*>()) button->setAutoDefault(false);
   connect(Frame5_->cmdSearch, &QPushButton::clicked, this, &frmSearch::search);
@@ -202,17 +210,31 @@ void frmSearch::addPage(const SoldPage& page) {
     const QModelIndex current = ListView1_->currentIndex();
     placeBefore_ = Place{current.row(), current.column(), ListView1_->verticalScrollBar()->value()};
   }
+  const bool isFirst = model_->rowCount() == 0;
   model_->append(page);
+  if (isFirst) fitColumns();
   showWork(tr("已找到 %L1 行，按 Esc 停止").arg(model_->rowCount()), 0, 0);
 }
 
 void frmSearch::showAll() {
   model_->complete();
+  fitColumns();
   if (!ListView1_->currentIndex().isValid()) ListView1_->setCurrentIndex(model_->index(0, 0));
   placeBefore_.reset();
   found_ = asked_;
   ListView1_->horizontalHeader()->setSortIndicatorShown(false);
   showIdle(tr("共 %L1 行，空格键排序").arg(model_->list()->lineCount()));
+}
+
+// The columns start at the widths of their design; what they hold says better how wide they must be
+// for a bill's line to be read without scrolling sideways. The totals are known only at the end.
+void frmSearch::fitColumns() {
+  ListView1_->resizeColumnsToContents();
+  QHeaderView* headings = ListView1_->horizontalHeader();
+  for (int column = 0; column < kResultColumns; ++column) {
+    const int fitting = headings->sectionSize(column) + kColumnAir;
+    headings->resizeSection(column, std::min(fitting, kWidestColumn));
+  }
 }
 
 void frmSearch::stopQuery() {

@@ -48,6 +48,7 @@ class frmSearch : public QDialog {
   void search();
   void addPage(const SoldPage& page);
   void showAll();
+  void fitColumns();
   void stopQuery();
   void showFailure(const QString& why);
   void sortBy(int column);

@@ -15,8 +15,8 @@
 #include "checkout/SaleScreen.h"
 #include "checkout/SaleState.h"
 #include "sale/ItemLookup.h"
+#include "sale/LineRow.h"
 #include "sale/OriginalPrice.h"
-#include "saleslib/ClsStock.h"
 #include "store/Transaction.h"
 
 namespace {
@@ -224,37 +224,16 @@ bool BillLines::moveStock(double taken, const std::function<void()>& write) {
 }
 
 BillLines::Shown BillLines::shownLine() const {
-  Shown shown{.row = rowTexts(), .originalPrice = 0, .status = {}};
+  Shown shown{.row = lineRow(*pos_.gConn, *state_.curLine, state_.rows.size()),
+              .originalPrice = 0,
+              .status = {}};
   shown.originalPrice = originalPrice(state_.rows, state_.selected, shown.row);
   shown.status = statusText(shown.originalPrice);
   return shown;
 }
 
-BillRow BillLines::rowTexts() const {
-  const ClsSellItem& line = *state_.curLine;
-  ClsStock stock;
-  stock.Init(*pos_.gConn, line.SpCode());
-  BillRow row;
-  row.cells = {std::to_string(state_.rows.size()),
-               line.EntryCode(),
-               line.SpName(),
-               twoDecimals(line.Price()),
-               generalNumber(line.Quantity()),
-               generalNumber(line.Discount()),
-               twoDecimals(line.Money()),
-               generalNumber(roundedQuantity(stock.StockQty() + 1)),
-               line.Origin(),
-               line.Unit(),
-               line.SpCode()};
-  return row;
-}
-
 QString BillLines::statusText(std::int64_t figure) const {
   const ClsSell& bill = *state_.curBill;
-  if (state_.showBillOnly) {
-    return text(generalNumber(bill.Quantity())) + tr("件商品，合计") +
-           text(generalNumber(bill.Amount())) + tr("元");
-  }
   const ClsSellItem& line = *state_.curLine;
   Currency due = bill.Amount() + line.Money();
   const std::string dueText = myCStr(due, pos_.gSysParam);

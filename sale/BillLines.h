@@ -11,7 +11,6 @@ class ItemLookup;
 class LineReceipt;
 class posMod;
 class SaleScreen;
-struct BillRow;
 struct SaleState;
 
 /// Bill lines and totals: what Enter does, and how lines are shown, changed and removed while stock
@@ -55,7 +54,6 @@ class BillLines {
   bool guarded(const std::function<bool()>& work);
   bool moveStock(double taken, const std::function<void()>& write);
   Shown shownLine() const;
-  BillRow rowTexts() const;
   QString statusText(std::int64_t figure) const;
 
   posMod& pos_;

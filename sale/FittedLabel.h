@@ -15,6 +15,7 @@ class FittedLabel : public QLabel {
   void showText(const QString& text);
 
  protected:
+  bool event(QEvent* event) override;
   void resizeEvent(QResizeEvent* event) override;
 
  private:

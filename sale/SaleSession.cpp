@@ -30,7 +30,9 @@ SaleSession::SaleSession(posMod& pos, SaleScreen& screen, Openers openers)
       receipt_(pos, state, drawer_, reportTo(screen)),
       checkout_(pos, state, screen, display_, receipt_),
       lookup_(pos, state, screen),
-      lines_(pos, state, screen, lookup_, checkout_, display_, receipt_) {
+      lines_(pos, state, screen, lookup_, checkout_, display_, receipt_),
+      memberCard_(pos, state, screen, checkout_),
+      held_(pos, state, screen, checkout_, memberCard_, display_, receipt_) {
   fillCommands();
   fillMenu();
 }
@@ -99,8 +101,11 @@ void SaleSession::fillCommands() {
                          }});
   };
   add(&KeyBoard::mF1, [this] { checkout_.SettleBill(); });
+  add(&KeyBoard::mF2, [this] { memberCard_.AttachMember(); });
   addOpener(&KeyBoard::mF3, "addmen");
   add(&KeyBoard::mF4, [this] { lines_.DeleteCurrentLine(); });
+  add(&KeyBoard::mF5, [this] { held_.SuspendBill(); });
+  add(&KeyBoard::mF6, [this] { held_.RecallBill(); });
   addOpener(&KeyBoard::mF8, "search");
   addOpener(&KeyBoard::mF9, "topup");
   add(&KeyBoard::mF10, [this] { drawer_.OpenDrawer(); });
@@ -120,6 +125,8 @@ void SaleSession::addOpener(int KeyBoard::*key, const QString& screen) {
 
 void SaleSession::fillMenu() {
   menu_ = {{"sell", tr("结    账"), [this] { checkout_.SettleBill(); }},
+           {"wait", tr("挂    起"), [this] { held_.SuspendBill(); }},
+           {"load", tr("调    入"), [this] { held_.RecallBill(); }},
            {"isprint", tr("打印机开关"), [this] { toggleLinePrint(); }},
            {"delsell", tr("本单撤消"), [this] { lines_.CancelBill(); }}};
   const auto add = [this](const QString& entry, const QString& caption) {

@@ -13,8 +13,10 @@
 #include "checkout/LineReceipt.h"
 #include "checkout/SaleState.h"
 #include "sale/BillLines.h"
+#include "sale/HeldBills.h"
 #include "sale/ItemLookup.h"
 #include "sale/KeyDispatch.h"
+#include "sale/MemberCard.h"
 
 class posMod;
 class SaleScreen;
@@ -88,6 +90,8 @@ class SaleSession {
   Checkout checkout_;
   ItemLookup lookup_;
   BillLines lines_;
+  MemberCard memberCard_;
+  HeldBills held_;
   std::vector<KeyCommand> commands_;  ///< in the order that decides ties
   std::vector<MenuCommand> menu_;
   bool left_ = false;

@@ -23,6 +23,7 @@
 #include "sale/FittedLabel.h"
 #include "sale/KeyHelp.h"
 #include "sale/SellStyle.h"
+#include "sale/frmRecord.h"
 #include "shell/Modal.h"
 #include "shell/frmInput.h"
 #include "shell/frmMenu.h"
@@ -313,6 +314,11 @@ int frmSell::choose(const QStringList& entries) {
   menu.closed = [this] { endProgram(); };
   for (qsizetype i = 0; i < entries.size(); ++i) menu.AddMenu(entries[i], QString::number(i + 1));
   return menu.ShowMenu(0).toInt() - 1;
+}
+
+std::int32_t frmSell::chooseHeldBill(const std::vector<std::shared_ptr<ClsSell>>& bills) {
+  if (record_ == nullptr) record_ = new frmRecord(pos_.gKeyBoard, this);
+  return record_->Load(bills, pos_.clock());
 }
 
 bool frmSell::settle(Settlement& settlement) {

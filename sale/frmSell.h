@@ -19,6 +19,7 @@ class QLineEdit;
 class frmEndSell;
 class frmInput;
 class frmMenu;
+class frmRecord;
 class posMod;
 
 /// The sale screen: a thin skin that draws a SaleSession and turns keys into its calls. It fills
@@ -58,6 +59,7 @@ class frmSell : public QWidget, private SaleScreen {
   bool askYesNo(const QString& text, const QString& title, bool yesPreselected) override;
   QString prompt(const QString& title, const QString& message) override;
   int choose(const QStringList& entries) override;
+  std::int32_t chooseHeldBill(const std::vector<std::shared_ptr<ClsSell>>& bills) override;
   bool settle(Settlement& settlement) override;
   void endProgram() override;
 
@@ -93,8 +95,9 @@ class frmSell : public QWidget, private SaleScreen {
   QFrame* frmBot_;
   KeyHelp* ViewF_;
   std::unique_ptr<frmMenu> myMenu_;
-  frmEndSell* endSell_ = nullptr;  ///< made on first use, like the price question
+  frmEndSell* endSell_ = nullptr;  ///< made on first use, like the next two
   frmInput* input_ = nullptr;
+  frmRecord* record_ = nullptr;
   QTimer Timer1_;
   QTimer idle_;
 };

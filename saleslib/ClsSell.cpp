@@ -1,5 +1,6 @@
 #include "saleslib/ClsSell.h"
 
+#include <algorithm>
 #include <utility>
 
 #include "base/Failure.h"
@@ -144,6 +145,14 @@ void ClsSell::AddItem(std::shared_ptr<ClsSellItem> line) {
   goodsAmount_ += money;
   amount_ += money;
   items_.push_back(std::move(line));
+}
+
+void ClsSell::RemoveItem(const ClsSellItem& line) {
+  ensure(state_ == kOpen, "a settled bill keeps its lines");
+  items_.erase(std::remove_if(items_.begin(), items_.end(),
+                              [&line](const auto& item) { return item.get() == &line; }),
+               items_.end());
+  Recalculate();
 }
 
 void ClsSell::Recalculate() {

@@ -42,6 +42,8 @@ class ClsSell {
   void LoadLines();
   /// Adds a committed line of this bill (ensure): amount and quantity grow by the line's.
   void AddItem(std::shared_ptr<ClsSellItem> line);
+  /// Takes a line off an open bill; quantity and amount follow. The line's row is the caller's.
+  void RemoveItem(const ClsSellItem& line);
   /// Works quantity and amount out again from the lines, after one of them was changed. Save wants
   /// that (see there).
   void Recalculate();

@@ -72,6 +72,10 @@ class FakeScreen : public SaleScreen {
   }
   QString prompt(const QString&, const QString&) override { return promptAnswer; }
   int choose(const QStringList&) override { return choice; }
+  std::int32_t chooseHeldBill(const std::vector<std::shared_ptr<ClsSell>>& bills) override {
+    const auto position = static_cast<std::size_t>(choice);
+    return choice < 0 ? 0 : bills.at(position)->BillNo();
+  }
   bool settle(Settlement& settlement) override {
     settlement.begin();
     pay(settlement);

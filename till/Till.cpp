@@ -3,11 +3,17 @@
 #include <QApplication>
 #include <utility>
 
+#include "checkout/frmUnSell.h"
+#include "members/cardStored.h"
+#include "members/frmFMember.h"
+#include "reports/frmCount.h"
+#include "reports/frmSearch.h"
 #include "sale/frmSell.h"
 #include "settings/frmColor.h"
 #include "settings/frmKeyset.h"
 #include "settings/frmPosSet.h"
 #include "shell/Modal.h"
+#include "shell/frmEditPwd.h"
 
 Till::Till(std::filesystem::path folder) : pos_(std::move(folder)) {}
 Till::~Till() = default;
@@ -27,12 +33,20 @@ bool Till::Main() {
 
 std::map<QString, frmMain::Screen> Till::screens() {
   return {{"sell", {true, [this] { frmSell_->openModal(); }}},
+          {"count", {true, [this] { frmCount(pos_, QApplication::activeWindow()).init(); }}},
+          {"search", {true, [this] { show<frmSearch>(); }}},
+          {"unsell", {true, [this] { show<frmUnSell>(); }}},
+          {"addmen", {true, [this] { show<frmFMember>(); }}},
+          {"editpwd", {false, [this] { show<frmEditPwd>(); }}},
           {"posset", {true, [this] { show<frmPosSet>(); }}},
           {"keyset", {true, [this] { show<frmKeyset>(); }}}};
 }
 
 SaleSession::Openers Till::saleScreens() {
-  return {{"color", [this] { show<frmColor>(); }}};
+  return {{"addmen", [this] { show<frmFMember>(); }},
+          {"topup", [this] { show<cardStored>(); }},
+          {"search", [this] { show<frmSearch>(); }},
+          {"color", [this] { show<frmColor>(); }}};
 }
 
 template <class Form>

@@ -12,6 +12,7 @@
 #include "saleslib/ClsMember.h"
 #include "saleslib/ClsSysParam.h"
 #include "store/Connection.h"
+#include "store/FragmentIndex.h"
 #include "store/Transaction.h"
 #include "tools/DemoGoods.h"
 #include "tools/GoodsSheet.h"
@@ -218,5 +219,6 @@ void fillDemoShop(Connection& connection, const Clock& clock) {
   addOperators(connection);
   addMembers(connection, clock);
   addGoods(connection, clock().date);
+  updateFragmentIndex(connection);
   transaction.commit();
 }

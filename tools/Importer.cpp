@@ -6,6 +6,7 @@
 
 #include "base/Text.h"
 #include "store/Connection.h"
+#include "store/FragmentIndex.h"
 #include "store/StoreError.h"
 #include "store/Transaction.h"
 #include "tools/CsvReader.h"
@@ -51,6 +52,7 @@ Imported Importer::run(std::istream& text) {
   }
   if (badRowCount_ == kMostBadRows) badRows_ += "\n……后面的行没有再看。";
   if (badRowCount_ > 0) throw Refusal("什么也没有导入：\n" + badRows_);
+  updateFragmentIndex(connection_);
   transaction.commit();
   return imported_;
 }
@@ -76,7 +78,8 @@ void Importer::readHeader(CsvReader& reader) {
 }
 
 // One text each for the whole file, so that each is prepared once. An update leaves the key's
-// columns alone, unless the file has nothing else.
+// columns alone, unless the file has nothing else. "or fail" keeps no copy of the pages to take a
+// single statement back: a failure takes the whole import back anyway.
 void Importer::prepareStatements() {
   std::vector<std::size_t> keys(table_.keyColumns);
   std::iota(keys.begin(), keys.end(), std::size_t{0});
@@ -85,7 +88,7 @@ void Importer::prepareStatements() {
   }
   if (updated_.empty()) updated_ = keys;
   const std::string name = table_.name;
-  updateText_ = "update " + name + " set " + assignments(table_, updated_, ", ") + " where " +
+  updateText_ = "update or fail " + name + " set " + assignments(table_, updated_, ", ") + " where " +
                 assignments(table_, keys, " and ");
   std::string names, marks;
   for (const Column& column : table_.columns) {
@@ -96,7 +99,7 @@ void Importer::prepareStatements() {
         std::find(present_.begin(), present_.end(), newRow_.size() - 1) != present_.end();
     if (!column.fallback && !inFile && lacking_.empty()) lacking_ = column.name;
   }
-  insertText_ = "insert into " + name + " (" + names + ") values (" + marks + ")";
+  insertText_ = "insert or fail into " + name + " (" + names + ") values (" + marks + ")";
 }
 
 void Importer::readRow(const CsvReader& reader) {

@@ -125,7 +125,7 @@ TEST_F(SellWindow, theMenuKeyOpensTheFunctionMenuAndTheCloseBoxAsksTheSession) {
     EXPECT_TRUE(window.isVisible());
     press(Qt::Key_F12);
     then("myMenu", [](QWidget& dialog) {
-      EXPECT_EQ(static_cast<frmMenu&>(dialog).entryCount(), 4);
+      EXPECT_EQ(static_cast<frmMenu&>(dialog).entryCount(), 6);
       QTest::keyClick(target(dialog), Qt::Key_Up);
       QTest::keyClick(target(dialog), Qt::Key_Return);
     });

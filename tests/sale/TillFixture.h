@@ -20,14 +20,15 @@ class TillScreen : public FakeScreen {
   }
   /// The answers in their order. The question repeats for ever without one that it takes.
   QString prompt(const QString& title, const QString& message) override {
-    EXPECT_EQ(title + message, "");
+    EXPECT_EQ(title + message, question);
     ++prompts;
-    if (answers.isEmpty()) throw std::logic_error("a price is asked for and none is left");
+    if (answers.isEmpty()) throw std::logic_error("a question is asked and no answer is left");
     return answers.takeFirst();
   }
 
   SaleSession* session = nullptr;
   QStringList offered, answers;
+  QString question;  ///< title and message expected; empty for the price question
   int prompts = 0;
 
  private:

@@ -1,0 +1,344 @@
+#include "checkout/frmUnSell.h"
+
+#include <QGridLayout>
+#include <QHBoxLayout>
+#include <QHeaderView>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QTableView>
+#include <QVBoxLayout>
+
+#include "app/posMod.h"
+#include "base/NumberText.h"
+#include "checkout/ReturnLines.h"
+#include "platform/VirtualKey.h"
+#include "saleslib/ClsSell.h"
+#include "shell/Modal.h"
+#include "shell/frmMsg.h"
+
+namespace {
+
+QString shown(const std::string& text) {
+  return QString::fromStdString(text);
+}
+
+void focusWhole(QLineEdit* edit) {
+  edit->setFocus();
+  edit->selectAll();
+}
+
+/// Whether a text still being typed ("12.", "12.50") only lacks its end to be that number.
+bool onItsWayTo(QString text, const QString& plain) {
+  if (!text.contains('.')) return false;
+  while (text.endsWith('0')) text.chop(1);
+  if (text.endsWith('.')) text.chop(1);
+  return text == plain;
+}
+
+}  // namespace
+
+frmUnSell::frmUnSell(posMod& pos, QWidget* parent)
+    : QDialog(parent),
+      pos_(pos),
+      returns_(pos),
+      lines_(new ReturnLines(this)),
+      txtNo_(field("txtNo")),
+      txttm_(field("txttm")),
+      lvlistSp_(new QTableView(this)),
+      lblStatus_(label("lblStatus", {})),
+      Text1_(figure("Text1")),
+      Text2_(figure("Text2")),
+      txtAmount_(field("txtAmount")),
+      txtmoney_(field("txtmoney")),
+      cmdUnSell_(button("cmdUnSell", tr("退货"))),
+      cmdExit_(button("cmdExit", tr("退出"))) {
+  setObjectName("frmUnSell");
+  setWindowTitle(tr("退货"));
+  txttm_->setPlaceholderText(tr("条码或货号"));
+  lblStatus_->setTextFormat(Qt::PlainText);
+  lblStatus_->setWordWrap(true);
+  setUpList();
+  arrange();
+  showBill();
+  showLine();
+  connect(lvlistSp_, &QTableView::clicked, this,
+          [this](const QModelIndex& clicked) { chooseRow(clicked.row()); });
+  connect(txtmoney_, &QLineEdit::textChanged, this, &frmUnSell::rewriteRefund);
+  connect(cmdUnSell_, &QPushButton::clicked, this, &frmUnSell::storeReturn);
+  connect(cmdExit_, &QPushButton::clicked, this, &QDialog::reject);
+}
+
+QLabel* frmUnSell::label(const char* name, const QString& text) {
+  auto* made = new QLabel(text, this);
+  made->setObjectName(name);
+  return made;
+}
+
+// Made in the order of the Tab key. The filter sees a key before the control does: a mapped key may
+// well be a letter or a figure.
+QLineEdit* frmUnSell::field(const char* name) {
+  auto* made = new QLineEdit(this);
+  made->setObjectName(name);
+  made->installEventFilter(this);
+  return made;
+}
+
+QLineEdit* frmUnSell::figure(const char* name) {
+  QLineEdit* made = field(name);
+  made->setReadOnly(true);
+  made->setFocusPolicy(Qt::NoFocus);
+  return made;
+}
+
+QPushButton* frmUnSell::button(const char* name, const QString& text) {
+  auto* made = new QPushButton(text, this);
+  made->setObjectName(name);
+  // Enter belongs to the fields.
+  made->setAutoDefault(false);
+  made->installEventFilter(this);
+  return made;
+}
+
+void frmUnSell::setUpList() {
+  lvlistSp_->setObjectName("lvlistSp");
+  lvlistSp_->setModel(lines_);
+  lvlistSp_->setColumnHidden(ReturnLines::kLineId, true);
+  lvlistSp_->setSelectionBehavior(QAbstractItemView::SelectRows);
+  lvlistSp_->setSelectionMode(QAbstractItemView::SingleSelection);
+  lvlistSp_->setEditTriggers(QAbstractItemView::NoEditTriggers);
+  lvlistSp_->setTabKeyNavigation(false);
+  lvlistSp_->setShowGrid(false);
+  lvlistSp_->setWordWrap(false);
+  lvlistSp_->verticalHeader()->hide();
+  QHeaderView* titles = lvlistSp_->horizontalHeader();
+  titles->setHighlightSections(false);
+  titles->setSectionResizeMode(ReturnLines::kName, QHeaderView::Stretch);
+  lvlistSp_->setColumnWidth(ReturnLines::kCode, 190);
+  lvlistSp_->setColumnWidth(ReturnLines::kPrice, 120);
+  lvlistSp_->setColumnWidth(ReturnLines::kQuantity, 100);
+  lvlistSp_->setColumnWidth(ReturnLines::kDiscount, 90);
+  lvlistSp_->setColumnWidth(ReturnLines::kMoney, 130);
+  lvlistSp_->installEventFilter(this);
+}
+
+void frmUnSell::arrange() {
+  auto* all = new QVBoxLayout(this);
+  all->setContentsMargins(24, 16, 24, 16);
+  all->setSpacing(12);
+  all->addWidget(label("Label1", tr("退     货")), 0, Qt::AlignHCenter);
+  all->addLayout(searchRow());
+  all->addWidget(lvlistSp_, 1);
+  all->addWidget(lblStatus_);
+  all->addLayout(returnRow());
+  all->addLayout(buttonRow());
+  resize(960, 640);
+}
+
+QLayout* frmUnSell::searchRow() {
+  auto* row = new QHBoxLayout;
+  row->setSpacing(12);
+  row->addWidget(label("Label2", tr("流水号：")));
+  row->addWidget(txtNo_, 1);
+  row->addSpacing(16);
+  row->addWidget(label("Label3", tr("要退商品编号：")));
+  row->addWidget(txttm_, 2);
+  return row;
+}
+
+QLayout* frmUnSell::returnRow() {
+  auto* grid = new QGridLayout;
+  grid->setHorizontalSpacing(12);
+  grid->setVerticalSpacing(8);
+  grid->addWidget(label("Label5", tr("商品单价：")), 0, 0);
+  grid->addWidget(Text1_, 0, 1);
+  grid->addWidget(label("Label6", tr("商品数量：")), 0, 2);
+  grid->addWidget(Text2_, 0, 3);
+  grid->addWidget(label("Label8", tr("实退数量：")), 1, 0);
+  grid->addWidget(txtAmount_, 1, 1);
+  grid->addWidget(label("Label4", tr("实退金额：")), 1, 2);
+  grid->addWidget(txtmoney_, 1, 3);
+  return grid;
+}
+
+QLayout* frmUnSell::buttonRow() {
+  auto* row = new QHBoxLayout;
+  row->setSpacing(16);
+  row->addStretch();
+  row->addWidget(cmdUnSell_);
+  row->addWidget(cmdExit_);
+  return row;
+}
+
+void frmUnSell::showEvent(QShowEvent* event) {
+  QDialog::showEvent(event);
+  centreOnScreen(*this);
+  txtNo_->setFocus();
+}
+
+bool frmUnSell::eventFilter(QObject* watched, QEvent* event) {
+  if (event->type() == QEvent::FocusIn && (watched == txtAmount_ || watched == txtmoney_)) {
+    static_cast<QLineEdit*>(watched)->selectAll();
+  }
+  if (event->type() == QEvent::FocusOut && watched == txtAmount_) quantityLeft();
+  if (event->type() == QEvent::FocusOut && watched == txtmoney_) rewriteRefund();
+  if (event->type() == QEvent::KeyPress && handleKey(watched, *static_cast<QKeyEvent*>(event))) {
+    return true;
+  }
+  return QDialog::eventFilter(watched, event);
+}
+
+// Only the keys named act; the dialog's own handling would close it on the plain Esc.
+void frmUnSell::keyPressEvent(QKeyEvent* event) {
+  handleKey(this, *event);
+}
+
+bool frmUnSell::handleKey(const QObject* watched, const QKeyEvent& event) {
+  const int key = virtualKey(event);
+  if (key == 0) return false;
+  if (key == pos_.gKeyBoard.mEsc) {
+    reject();
+    return true;
+  }
+  // An Enter held down is one press: held, it would go on to return the whole bill.
+  return key == vk::kEnter && (event.isAutoRepeat() || enter(watched));
+}
+
+bool frmUnSell::enter(const QObject* watched) {
+  if (watched == txtNo_) {
+    loadBill();
+  } else if (watched == txttm_) {
+    chooseTyped();
+  } else if (watched == lvlistSp_) {
+    chooseRow(lvlistSp_->currentIndex().row());
+    if (returns_.line() != nullptr) focusWhole(txtAmount_);
+  } else if (watched == txtAmount_) {
+    confirmQuantity();
+    if (returns_.line() != nullptr) focusWhole(txtmoney_);
+  } else if (watched == txtmoney_ || watched == cmdUnSell_) {
+    cmdUnSell_->click();
+  } else if (watched == cmdExit_) {
+    reject();
+  } else {
+    return false;
+  }
+  return true;
+}
+
+void frmUnSell::message(const QString& text) {
+  frmMsg(this).Message(text);
+}
+
+bool frmUnSell::loadBill() {
+  const QString refusal = returns_.load(txtNo_->text());
+  showBill();
+  showLine();
+  if (refusal.isEmpty()) return true;
+  message(refusal);
+  focusWhole(txtNo_);
+  return false;
+}
+
+void frmUnSell::showBill() {
+  lines_->show(returns_.bill());
+  lblStatus_->setText(returns_.bill() != nullptr
+                          ? returns_.billText()
+                          : tr("单号：     商品数量：    金额：      销售时间：     收银员："));
+  focusWhole(txttm_);
+}
+
+void frmUnSell::chooseTyped() {
+  if (returns_.bill() == nullptr) {
+    if (txtNo_->text().isEmpty()) {
+      message(tr("请输入要退货的单据流水号！"));
+      txtNo_->setFocus();
+      return;
+    }
+    if (!loadBill()) return;
+  }
+  returns_.chooseByCode(txttm_->text());
+  showLine();
+  // Goods that are not on the bill: the next code is wanted, not a quantity.
+  focusWhole(returns_.line() != nullptr ? txtAmount_ : txttm_);
+}
+
+void frmUnSell::chooseRow(int row) {
+  if (returns_.bill() == nullptr) return;
+  returns_.chooseById(lines_->lineId(row));
+  showLine();
+}
+
+void frmUnSell::showLine() {
+  const ClsSellItem* line = returns_.line();
+  cmdUnSell_->setEnabled(line != nullptr);
+  if (line == nullptr) {
+    for (QLineEdit* edit : {Text1_, Text2_, txtAmount_, txtmoney_}) edit->clear();
+    return;
+  }
+  txttm_->setText(shown(line->EntryCode()));
+  Text1_->setText(shown(twoDecimals(line->Price())));
+  Text2_->setText(shown(generalNumber(line->Quantity())));
+  txtAmount_->setText(Text2_->text());
+  confirmedQuantity_ = txtAmount_->text();
+  showRefund(line->Money());
+  for (int row = 0; row < lines_->rowCount(); ++row) {
+    if (lines_->lineId(row) == line->Id()) lvlistSp_->selectRow(row);
+  }
+}
+
+void frmUnSell::confirmQuantity() {
+  if (returns_.line() == nullptr) return;
+  const double quantity = returns_.quantityOf(txtAmount_->text());
+  txtAmount_->setText(shown(generalNumber(quantity)));
+  confirmedQuantity_ = txtAmount_->text();
+  cmdUnSell_->setEnabled(quantity > 0);
+  showRefund(returns_.worth(quantity));
+}
+
+// Left by Tab or the mouse: the refund must not stay that of another quantity.
+void frmUnSell::quantityLeft() {
+  if (txtAmount_->text() != confirmedQuantity_) confirmQuantity();
+}
+
+void frmUnSell::showRefund(Currency refund) {
+  txtmoney_->setText(shown(generalNumber(refund)));
+}
+
+// In plain number text at every change; while the figure is being typed, its end is waited for, so
+// that "12." can become 12.5.
+void frmUnSell::rewriteRefund() {
+  const QString text = txtmoney_->text();
+  const auto refund = Currency::parse(text.toStdString());
+  if (!refund) return;
+  const QString plain = shown(generalNumber(*refund));
+  if (text == plain || (focusWidget() == txtmoney_ && onItsWayTo(text, plain))) return;
+  txtmoney_->setText(plain);
+}
+
+void frmUnSell::storeReturn() {
+  if (returns_.line() == nullptr) return;
+  const auto refund = Currency::parse(txtmoney_->text().toStdString());
+  if (!refund) {
+    message(tr("请输入正确的实退金额！"));
+    focusWhole(txtmoney_);
+    return;
+  }
+  if (!refundAgreed(*refund)) {
+    focusWhole(txtmoney_);
+    return;
+  }
+  const QString refusal = returns_.takeBack(returns_.quantityOf(txtAmount_->text()), *refund);
+  showBill();
+  showLine();
+  if (!refusal.isEmpty()) message(refusal);
+}
+
+bool frmUnSell::refundAgreed(Currency refund) {
+  const Currency remaining = returns_.line()->Money();
+  if (refund <= remaining) return true;
+  return askYesNo(this,
+                  tr("实退金额 %1 元超过了该商品的剩余金额 %2 元，确定要退吗？")
+                      .arg(shown(twoDecimals(refund)), shown(twoDecimals(remaining))),
+                  tr("退货"), false);
+}

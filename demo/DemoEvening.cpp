@@ -1,0 +1,225 @@
+// The rest of the demo day: members and their cards, a suspended bill, a return, the day's figures,
+// the query with its prints and exports, and the settings.
+#include <stdexcept>
+
+#include "demo/DemoDay.h"
+#include "driver/TillDriver.h"
+
+namespace {
+
+constexpr const char* kNewCard = "88001234";
+
+// Entries of the main menu and of the further menu, by position.
+enum MainMenu { kSell, kCount, kPosSet, kEditPwd, kEnd, kMainEntries };
+enum FurtherMenu { kSearch, kUnSell, kAddMen, kKeySet, kExit, kFurtherEntries };
+
+/// Moves the highlight of a menu, which stays where it was last time, and chooses.
+void choose(TillDriver& till, int& highlight, int entry, int entries) {
+  for (; highlight != entry; highlight = (highlight + 1) % entries) till.key("Down");
+  till.key("Return");
+}
+
+}  // namespace
+
+void DemoDay::evening() {
+  setUpDevices("USB");
+  TillDriver till(shop_);
+  int mainEntry = kSell;
+  int furtherEntry = kSearch;
+  const auto screen = [&](MainMenu entry) {
+    till.waitFor("frmMenu");
+    choose(till, mainEntry, entry, kMainEntries);
+  };
+  const auto furtherScreen = [&](FurtherMenu entry, const char* window) {
+    till.waitFor("frmMenu");
+    till.key("Menu");
+    till.sync();
+    choose(till, furtherEntry, entry, kFurtherEntries);
+    till.waitFor(window);
+  };
+
+  logIn(till, "1", "111");
+  till.key("Return");
+  till.waitFor("frmSell");
+  newMember(till);
+  topUp(till);
+  memberBill(till);
+  suspendedBill(till);
+  colours(till);
+  till.key("Esc");
+  mainEntry = kSell;
+
+  furtherScreen(kUnSell, "frmUnSell");
+  takeBack(till);
+  screen(kCount);
+  handOver(till);
+  furtherScreen(kSearch, "frmSearch");
+  query(till);
+  furtherScreen(kKeySet, "frmKeyset");
+  shot(till, "keyboard-settings");
+  till.tabTo("cmdCancel");
+  till.key("Space");
+  screen(kPosSet);
+  till.waitFor("frmPosSet");
+  shot(till, "terminal-settings");
+  till.key("Esc");
+  screen(kEditPwd);
+  till.waitFor("frmEditPwd");
+  shot(till, "password-change");
+  till.key("Esc");
+  screen(kEnd);
+  if (till.waitForEnd() != 0) throw std::runtime_error("the till did not end cleanly at closing");
+}
+
+void DemoDay::newMember(TillDriver& till) {
+  till.key("F3");
+  till.waitFor("frmFMember");
+  till.enter(std::string(";") + kNewCard + "?");
+  till.enter("周小梅");
+  till.enter("32");
+  till.tabTo("txtAddress");
+  till.enter("光明路 20 号");
+  till.tabTo("txtPhone");
+  till.enter("13900001234");
+  till.tabTo("zklb2");
+  till.key("Down");
+  till.tabTo("card");
+  till.type("50");
+  till.tabTo("password");
+  till.type("8888");
+  shot(till, "new-member");
+  till.tabTo("cmdOk");
+  till.key("Return");
+  till.waitFor("messageBox");
+  till.key("Return");
+  till.waitFor("frmSell");
+}
+
+void DemoDay::topUp(TillDriver& till) {
+  till.key("F9");
+  till.waitFor("cardStored");
+  till.enter(kNewCard);
+  till.enter("100");
+  till.enter("110");
+  shot(till, "top-up");
+  till.tabTo("cmdOk2");
+  till.key("Return");
+  till.waitFor("messageBox");
+  shot(till, "top-up-done");
+  till.key("Return");
+  till.waitFor("frmSell");
+}
+
+void DemoDay::memberBill(TillDriver& till) {
+  till.key("F2");
+  till.waitFor("frmInput");
+  till.type(kNewCard);
+  shot(till, "member-card-asked");
+  till.key("Return");
+  till.waitFor("frmSell");
+  till.enter(goods_.plain);
+  till.enter(goods_.another);
+  shot(till, "member-bill");
+  till.key("F1");
+  till.waitFor("frmEndSell");
+  till.enter("100");
+  till.waitFor("frmSell");
+  ++settledBills_;
+}
+
+void DemoDay::suspendedBill(TillDriver& till) {
+  till.enter(goods_.promoted);
+  till.enter(goods_.weighed);
+  till.key("F5");
+  till.enter(goods_.discounted);
+  till.key("F1");
+  till.waitFor("frmEndSell");
+  till.enter("20");
+  till.waitFor("frmSell");
+  ++settledBills_;
+  till.key("F6");
+  till.waitFor("frmRecord");
+  shot(till, "suspended-bills");
+  till.key("Return");
+  till.waitFor("frmSell");
+  shot(till, "bill-recalled");
+  till.key("F1");
+  till.waitFor("frmEndSell");
+  till.enter("50");
+  till.waitFor("frmSell");
+  ++settledBills_;
+}
+
+void DemoDay::colours(TillDriver& till) {
+  constexpr int kColours = 5;  // position in the function menu
+  till.key("Menu");
+  till.waitFor("myMenu");
+  for (int entry = 0; entry < kColours; ++entry) till.key("Down");
+  till.key("Return");
+  till.waitFor("frmColor");
+  shot(till, "colours");
+  till.key("Esc");
+  till.waitFor("frmSell");
+}
+
+void DemoDay::takeBack(TillDriver& till) {
+  till.enter("1");
+  till.enter(goods_.another);
+  till.enter("1");
+  shot(till, "return");
+  till.key("Return");
+  till.waitFor("frmUnSell");
+  till.sync();
+  shot(till, "return-stored");
+  till.key("Esc");
+}
+
+void DemoDay::handOver(TillDriver& till) {
+  till.waitFor("frmCount");
+  shot(till, "statistics");
+  till.tabTo("print1");
+  till.key("Space");
+  till.sync();
+  till.key("Esc");
+}
+
+void DemoDay::query(TillDriver& till) {
+  const auto run = [&](const char* name) {
+    till.tabTo("cmdSearch");
+    till.key("Space");
+    till.waitForText("lblState", "行");
+    shot(till, name);
+  };
+  run("query-of-the-day");
+  exportList(till, "sales.xlsx");
+  exportList(till, "sales.csv");
+  till.tabTo("Command2");
+  till.key("Space");
+  till.sync();
+
+  till.tabTo("zjmtm");
+  till.type(goods_.plain);
+  run("query-of-one-item");
+  till.tabTo("zjmtm");
+  till.key("Ctrl+A");
+  till.key("Delete");
+  till.tabTo("numberSerch");
+  till.type("1");
+  run("query-of-one-bill");
+  till.tabTo("Command3");
+  till.key("Space");
+  till.sync();
+  till.key("Esc");
+}
+
+void DemoDay::exportList(TillDriver& till, const char* file) {
+  till.tabTo("Command1");
+  till.key("Space");
+  till.waitFor("dlgExport");
+  till.key("Ctrl+A");
+  till.type((out_ / file).string());
+  shot(till, "export");
+  till.key("Return");
+  till.waitFor("frmSearch");
+  till.waitForText("lblState", "已导出");
+}

@@ -1,0 +1,272 @@
+#include "members/cardStored.h"
+
+#include <QGridLayout>
+#include <QHBoxLayout>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+#include "app/posMod.h"
+#include "base/Failure.h"
+#include "base/NumberText.h"
+#include "base/Text.h"
+#include "platform/VirtualKey.h"
+#include "saleslib/CardNumber.h"
+#include "shell/Modal.h"
+
+namespace {
+
+QString shown(const std::string& text) {
+  return QString::fromStdString(text);
+}
+
+std::string textOf(const QLineEdit* edit) {
+  return edit->text().toStdString();
+}
+
+std::optional<Currency> money(const QLineEdit* edit) {
+  return Currency::parse(textOf(edit));
+}
+
+void focusWhole(QLineEdit* edit) {
+  edit->setFocus();
+  edit->selectAll();
+}
+
+}  // namespace
+
+cardStored::cardStored(posMod& pos, QWidget* parent)
+    : QDialog(parent),
+      pos_(pos),
+      txtBh_(field("txtBh")),
+      txtName_(figure("txtName")),
+      zklb_(figure("zklb")),
+      beforeMoney_(figure("beforeMoney")),
+      inMoney_(field("inMoney")),
+      addMoney_(field("addMoney")),
+      afterMoney_(figure("afterMoney")),
+      txtbz_(field("txtbz")),
+      cmdOk2_(button("cmdOk2", tr("确定"))),
+      cmdCancel_(button("cmdCancel", tr("取消"))) {
+  setObjectName("cardStored");
+  setWindowTitle(tr("会员充值"));
+  arrange();
+  connect(cmdOk2_, &QPushButton::clicked, this, &cardStored::store);
+  connect(cmdCancel_, &QPushButton::clicked, this, &QDialog::reject);
+}
+
+QLabel* cardStored::label(const char* name, const QString& text) {
+  auto* made = new QLabel(text, this);
+  made->setObjectName(name);
+  return made;
+}
+
+// Made in the order of the Tab key. The filter sees a key before the control does: a mapped key may
+// well be a letter or a figure.
+QLineEdit* cardStored::field(const char* name) {
+  auto* made = new QLineEdit(this);
+  made->setObjectName(name);
+  made->installEventFilter(this);
+  return made;
+}
+
+QLineEdit* cardStored::figure(const char* name) {
+  QLineEdit* made = field(name);
+  made->setReadOnly(true);
+  made->setFocusPolicy(Qt::ClickFocus);
+  return made;
+}
+
+QPushButton* cardStored::button(const char* name, const QString& text) {
+  auto* made = new QPushButton(text, this);
+  made->setObjectName(name);
+  // Enter belongs to the fields.
+  made->setAutoDefault(false);
+  made->installEventFilter(this);
+  return made;
+}
+
+void cardStored::arrange() {
+  auto* all = new QVBoxLayout(this);
+  all->setContentsMargins(32, 20, 32, 20);
+  all->setSpacing(16);
+  all->addWidget(label("Label1", tr("会 员 充 值")), 0, Qt::AlignHCenter);
+  all->addLayout(fields());
+  all->addLayout(buttons());
+}
+
+QLayout* cardStored::fields() {
+  auto* grid = new QGridLayout;
+  grid->setHorizontalSpacing(12);
+  grid->setVerticalSpacing(12);
+  const auto place = [&](int row, int column, const char* name, const QString& caption,
+                         QLineEdit* edit, int span = 1) {
+    grid->addWidget(label(name, caption), row, column, Qt::AlignRight | Qt::AlignVCenter);
+    grid->addWidget(edit, row, column + 1, 1, span);
+  };
+  place(0, 0, "lblBh", tr("卡号"), txtBh_);
+  place(0, 2, "lblName", tr("会员姓名"), txtName_);
+  place(1, 0, "lblZklb", tr("折扣类别"), zklb_);
+  place(1, 2, "lblBefore", tr("充值前余额"), beforeMoney_);
+  place(2, 0, "lblIn", tr("付款金额"), inMoney_);
+  place(2, 2, "lblAdd", tr("充值金额"), addMoney_);
+  place(3, 2, "lblAfter", tr("充值后余额"), afterMoney_);
+  place(4, 0, "lblBz", tr("备注"), txtbz_, 3);
+  grid->setColumnMinimumWidth(1, 240);
+  grid->setColumnMinimumWidth(3, 240);
+  return grid;
+}
+
+QLayout* cardStored::buttons() {
+  auto* row = new QHBoxLayout;
+  row->setSpacing(16);
+  row->addStretch();
+  row->addWidget(cmdOk2_);
+  row->addWidget(cmdCancel_);
+  return row;
+}
+
+void cardStored::showEvent(QShowEvent* event) {
+  QDialog::showEvent(event);
+  centreOnScreen(*this);
+  txtBh_->setFocus();
+}
+
+bool cardStored::eventFilter(QObject* watched, QEvent* event) {
+  if (event->type() == QEvent::KeyPress && handleKey(watched, *static_cast<QKeyEvent*>(event))) {
+    return true;
+  }
+  return QDialog::eventFilter(watched, event);
+}
+
+// Only the keys named act; the dialog's own handling would close it on the plain Esc.
+void cardStored::keyPressEvent(QKeyEvent* event) {
+  handleKey(this, *event);
+}
+
+bool cardStored::handleKey(const QObject* watched, const QKeyEvent& event) {
+  const int key = virtualKey(event);
+  if (key == 0) return false;
+  if (key == pos_.gKeyBoard.mEsc) {
+    reject();
+    return true;
+  }
+  if ((watched == inMoney_ || watched == addMoney_) && txtBh_->text().isEmpty()) {
+    askForCard();
+    (watched == inMoney_ ? inMoney_ : addMoney_)->clear();
+    return true;
+  }
+  // An Enter held down is one press: held, it would confirm everything by itself.
+  return key == vk::kEnter && (event.isAutoRepeat() || enter(watched));
+}
+
+bool cardStored::enter(const QObject* watched) {
+  if (watched == txtBh_) {
+    findCard();
+  } else if (watched == inMoney_) {
+    focusWhole(addMoney_);
+  } else if (watched == addMoney_) {
+    if (const auto after = balanceAfter()) afterMoney_->setText(shown(generalNumber(*after)));
+  } else if (watched == txtbz_) {
+    cmdOk2_->setFocus();
+  } else if (watched == cmdOk2_ || watched == cmdCancel_) {
+    (watched == cmdOk2_ ? cmdOk2_ : cmdCancel_)->click();
+  } else {
+    return false;
+  }
+  return true;
+}
+
+void cardStored::askForCard() {
+  messageBox(this, tr("会员卡号不能为空,请输入卡号"));
+  txtBh_->setFocus();
+}
+
+void cardStored::findCard() {
+  const std::string number = storedCardNumber(textOf(txtBh_));
+  txtBh_->setText(shown(number));
+  std::optional<StoredCard> card;
+  try {
+    card = findStoredCard(*pos_.gConn, number);
+  } catch (const Failure&) {
+    // A card that cannot be read counts as not found.
+    return;
+  }
+  if (!card) return;
+  cardFound_ = number;
+  txtName_->setText(shown(card->memberName));
+  zklb_->setText(shown(card->discountClass));
+  beforeMoney_->setText(shown(generalNumber(card->balance)));
+  // What was worked out for a card before is not this card's balance.
+  afterMoney_->clear();
+  txtName_->setEnabled(false);
+  focusWhole(inMoney_);
+}
+
+/// Nothing when one of the two is no number, or the sum does not fit.
+std::optional<Currency> cardStored::balanceAfter() const {
+  const auto before = money(beforeMoney_);
+  const auto credited = money(addMoney_);
+  if (!before || !credited) return std::nullopt;
+  try {
+    return *before + *credited;
+  } catch (const Overflow&) {
+    return std::nullopt;
+  }
+}
+
+/// What is to be stored; nothing when a field is refused, which is said and has the focus then.
+std::optional<TopUp> cardStored::entered() {
+  const auto refuse = [this](QLineEdit* edit) -> std::optional<TopUp> {
+    messageBox(this, tr("请输入正数"));
+    focusWhole(edit);
+    return std::nullopt;
+  };
+  const auto paid = money(inMoney_);
+  if (!paid || *paid <= Currency()) return refuse(inMoney_);
+  const auto credited = money(addMoney_);
+  if (!credited || *credited < Currency()) return refuse(addMoney_);
+  if (!money(beforeMoney_)) return refuse(beforeMoney_);
+  if (afterMoney_->text().isEmpty()) {
+    const auto after = balanceAfter();
+    if (!after) return refuse(addMoney_);
+    afterMoney_->setText(shown(generalNumber(*after)));
+  }
+  const auto after = money(afterMoney_);
+  if (!after) return refuse(afterMoney_);
+  return TopUp{textOf(txtBh_), *paid, *credited, *after, trimmed(textOf(txtbz_))};
+}
+
+void cardStored::store() {
+  txtBh_->setText(shown(storedCardNumber(textOf(txtBh_))));
+  if (txtBh_->text().isEmpty()) {
+    askForCard();
+    return;
+  }
+  const auto topUp = entered();
+  if (!topUp) return;
+  // The balance shown is that of the card found; another number needs its own look-up first.
+  if (topUp->cardNumber != cardFound_) {
+    messageBox(this, tr("卡号已改变，请在卡号处按回车重新查找会员！"));
+    focusWhole(txtBh_);
+    return;
+  }
+  storeTopUp(*pos_.gConn, *topUp);
+  messageBox(this, tr("充值成功！本次充值%1,充值后卡内余额%2  ")
+                       .arg(shown(generalNumber(topUp->credited)), afterMoney_->text()));
+  if (pos_.gPosSet.PPort == "USB") printSlip();
+  accept();
+}
+
+// The money is on the card: a printer that fails costs the slip, not the top-up.
+void cardStored::printSlip() {
+  try {
+    const SlipTexts texts{textOf(txtBh_), textOf(beforeMoney_), textOf(inMoney_), textOf(addMoney_),
+                          textOf(afterMoney_)};
+    pos_.ports.pagePrinter()->print(topUpSlip(pos_.gSysParam, pos_.gPosSet.PModel, texts));
+  } catch (const Failure& error) {
+    messageBox(this, QString::fromUtf8(error.what()));
+  }
+}

@@ -1,0 +1,344 @@
+#include "members/frmFMember.h"
+
+#include <QComboBox>
+#include <QDateEdit>
+#include <QGridLayout>
+#include <QHBoxLayout>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QVBoxLayout>
+
+#include "app/posMod.h"
+#include "base/Failure.h"
+#include "base/NumberText.h"
+#include "base/Text.h"
+#include "platform/VirtualKey.h"
+#include "saleslib/CardNumber.h"
+#include "saleslib/ClsMember.h"
+#include "shell/Modal.h"
+
+namespace {
+
+QString shown(const std::string& text) {
+  return QString::fromStdString(text);
+}
+
+std::string textOf(const QLineEdit* edit) {
+  return edit->text().toStdString();
+}
+
+double factor(Currency rate) {
+  return static_cast<double>(rate.scaled()) / Currency::kScale;
+}
+
+}  // namespace
+
+frmFMember::frmFMember(posMod& pos, QWidget* parent)
+    : QDialog(parent),
+      pos_(pos),
+      txtBh_(made("txtBh", new QLineEdit(this))),
+      Label10_(label("Label10", tr("会员编号输完请按回车"))),
+      txtName_(made("txtName", new QLineEdit(this))),
+      txtOld_(made("txtOld", new QLineEdit(this))),
+      OptBoy_(made("OptBoy", new QRadioButton(tr("男"), this))),
+      OptGirl_(made("OptGirl", new QRadioButton(tr("女"), this))),
+      txtAddress_(made("txtAddress", new QLineEdit(this))),
+      txtPostcode_(made("txtPostcode", new QLineEdit(this))),
+      txtPhone_(made("txtPhone", new QLineEdit(this))),
+      txtOther_(made("txtOther", new QLineEdit(this))),
+      zklb2_(made("zklb2", new QComboBox(this))),
+      DTPicker1_(made("DTPicker1", new QDateEdit(this))),
+      card_(made("card", new QLineEdit("0", this))),
+      password_(made("password", new QLineEdit(this))),
+      lblStatus_(label("lblStatus", {})),
+      cmdOk_(made("cmdOk", new QPushButton(tr("确定"), this))),
+      cmdCancel_(made("cmdCancel", new QPushButton(tr("取消"), this))) {
+  setObjectName("frmFMember");
+  setWindowTitle(tr("会员资料"));
+  setUpControls();
+  arrange();
+  chainControls();
+  enableEntry(false);
+  connect(cmdOk_, &QPushButton::clicked, this, &frmFMember::addMember);
+  connect(cmdCancel_, &QPushButton::clicked, this, &QDialog::reject);
+}
+
+void frmFMember::init() {
+  exec();
+}
+
+// Made in the order of the Tab key. The filter sees a key before the control does: a mapped key may
+// well be a letter or a figure.
+template <class Control>
+Control* frmFMember::made(const char* name, Control* control) {
+  control->setObjectName(name);
+  control->installEventFilter(this);
+  return control;
+}
+
+QLabel* frmFMember::label(const char* name, const QString& text) {
+  auto* made = new QLabel(text, this);
+  made->setObjectName(name);
+  return made;
+}
+
+void frmFMember::setUpControls() {
+  zklb2_->setEditable(true);
+  zklb2_->setInsertPolicy(QComboBox::NoInsert);
+  DTPicker1_->setDisplayFormat("yyyy-MM-dd");
+  DTPicker1_->setButtonSymbols(QAbstractSpinBox::NoButtons);
+  // Its earliest date shows as nothing: a member's birthday is written, but not read back.
+  DTPicker1_->setSpecialValueText(" ");
+  const Date today = pos_.clock().date;
+  DTPicker1_->setDate(QDate(today.year, today.month, today.day));
+  password_->setEchoMode(QLineEdit::Password);
+  password_->setContextMenuPolicy(Qt::NoContextMenu);
+  lblStatus_->setTextFormat(Qt::PlainText);
+  lblStatus_->hide();
+  OptBoy_->setChecked(true);
+  // Enter belongs to the fields.
+  for (QPushButton* button : {cmdOk_, cmdCancel_}) button->setAutoDefault(false);
+}
+
+void frmFMember::arrange() {
+  auto* all = new QVBoxLayout(this);
+  all->setContentsMargins(32, 16, 32, 16);
+  all->setSpacing(12);
+  all->addWidget(label("Label1", tr("会 员 资 料")), 0, Qt::AlignHCenter);
+  all->addLayout(fields());
+  all->addWidget(lblStatus_);
+  all->addLayout(buttons());
+}
+
+QLayout* frmFMember::fields() {
+  auto* grid = new QGridLayout;
+  grid->setHorizontalSpacing(12);
+  grid->setVerticalSpacing(8);
+  const auto place = [&](int row, int column, const char* name, const QString& caption,
+                         QWidget* control, int span = 1) {
+    grid->addWidget(label(name, caption), row, column, Qt::AlignRight | Qt::AlignVCenter);
+    grid->addWidget(control, row, column + 1, 1, span);
+  };
+  auto* sexes = new QWidget(this);
+  auto* sexRow = new QHBoxLayout(sexes);
+  sexRow->setContentsMargins(0, 0, 0, 0);
+  sexRow->addWidget(OptBoy_);
+  sexRow->addWidget(OptGirl_);
+  sexRow->addStretch();
+  place(0, 0, "lblBh", tr("会员编号："), txtBh_);
+  grid->addWidget(Label10_, 0, 2, 1, 2);
+  place(1, 0, "lblName", tr("姓名："), txtName_);
+  place(1, 2, "lblOld", tr("年龄："), txtOld_);
+  place(2, 0, "lblSex", tr("性别："), sexes);
+  place(3, 0, "lblAddress", tr("联系地址："), txtAddress_, 3);
+  place(4, 0, "lblPostcode", tr("积分："), txtPostcode_);
+  place(4, 2, "lblPhone", tr("电话："), txtPhone_);
+  place(5, 0, "lblOther", tr("备注："), txtOther_, 3);
+  place(6, 0, "lblZklb", tr("会员卡类别"), zklb2_);
+  place(6, 2, "lblBirthday", tr("会员生日:"), DTPicker1_);
+  place(7, 0, "lblCard", tr("储值卡余额"), card_);
+  place(7, 2, "lblPassword", tr("储值卡密码"), password_);
+  grid->setColumnMinimumWidth(1, 260);
+  grid->setColumnMinimumWidth(3, 260);
+  return grid;
+}
+
+QLayout* frmFMember::buttons() {
+  auto* row = new QHBoxLayout;
+  row->setSpacing(16);
+  row->addStretch();
+  row->addWidget(cmdOk_);
+  row->addWidget(cmdCancel_);
+  return row;
+}
+
+void frmFMember::chainControls() {
+  enterChain_ = {{txtName_, txtOld_},     {txtOld_, OptBoy_},          {OptBoy_, txtAddress_},
+                 {OptGirl_, txtAddress_}, {txtAddress_, txtPostcode_}, {txtPostcode_, txtPhone_},
+                 {txtPhone_, txtOther_},  {txtOther_, cmdOk_},         {zklb2_, DTPicker1_},
+                 {DTPicker1_, card_},     {card_, password_},          {password_, cmdOk_}};
+}
+
+void frmFMember::showEvent(QShowEvent* event) {
+  QDialog::showEvent(event);
+  centreOnScreen(*this);
+  txtBh_->setFocus();
+}
+
+bool frmFMember::eventFilter(QObject* watched, QEvent* event) {
+  if (event->type() == QEvent::KeyPress && handleKey(watched, *static_cast<QKeyEvent*>(event))) {
+    return true;
+  }
+  return QDialog::eventFilter(watched, event);
+}
+
+// Only the keys named act; the dialog's own handling would close it on the plain Esc.
+void frmFMember::keyPressEvent(QKeyEvent* event) {
+  handleKey(this, *event);
+}
+
+bool frmFMember::handleKey(QObject* watched, const QKeyEvent& event) {
+  const int key = virtualKey(event);
+  if (key == 0) return false;
+  if (key == pos_.gKeyBoard.mEsc) {
+    reject();
+    return true;
+  }
+  // An Enter held down is one press: held, it would run through the form and store it.
+  return key == vk::kEnter && (event.isAutoRepeat() || enter(watched));
+}
+
+bool frmFMember::enter(QObject* watched) {
+  if (watched == txtBh_) {
+    numberEntered();
+    return true;
+  }
+  if (watched == cmdOk_ || watched == cmdCancel_) {
+    (watched == cmdOk_ ? cmdOk_ : cmdCancel_)->click();
+    return true;
+  }
+  for (const auto& [from, to] : enterChain_) {
+    if (watched != from) continue;
+    to->setFocus();
+    if (auto* edit = qobject_cast<QLineEdit*>(to)) edit->selectAll();
+    return true;
+  }
+  return false;
+}
+
+void frmFMember::enableEntry(bool enabled) {
+  for (QWidget* control : std::initializer_list<QWidget*>{
+           txtName_, txtOld_, OptBoy_, OptGirl_, txtAddress_, txtPostcode_, txtPhone_, txtOther_,
+           zklb2_, DTPicker1_, card_, password_, cmdOk_})
+    control->setEnabled(enabled);
+}
+
+void frmFMember::numberEntered() {
+  const std::string number = memberNumber(textOf(txtBh_));
+  txtBh_->setText(shown(number));
+  try {
+    member_ = pos_.gMemberSvc.GetMember(number);
+  } catch (const Failure& error) {
+    report(QString::fromUtf8(error.what()));
+    return;
+  }
+  member_ ? showMember() : startMember();
+}
+
+void frmFMember::startMember() {
+  enableEntry(true);
+  member_ = std::make_shared<ClsMember>();
+  member_->Init(*pos_.gConn, 0, pos_.clock);
+  for (QLineEdit* edit : {txtName_, txtAddress_, txtPhone_, txtOther_}) edit->clear();
+  txtOld_->setText("25");
+  txtPostcode_->setText("0");
+  OptBoy_->setChecked(true);
+  zklb2_->clear();
+  zklb2_->addItems({tr("贵宾卡"), tr("银卡"), tr("金卡")});
+  // No class until one is chosen: a member without one pays the full price.
+  zklb2_->setCurrentIndex(-1);
+  txtName_->setFocus();
+  Label10_->show();
+  lblStatus_->hide();
+}
+
+void frmFMember::showMember() {
+  txtBh_->setText(shown(member_->Bh()));
+  txtName_->setText(shown(member_->Name()));
+  txtOld_->setText(QString::number(member_->Age()));
+  (member_->Sex() == "男" ? OptBoy_ : OptGirl_)->setChecked(true);
+  txtAddress_->setText(shown(member_->Address()));
+  txtPostcode_->setText(QString::number(member_->Points()));
+  txtPhone_->setText(shown(member_->Phone()));
+  txtOther_->setText(shown(member_->Other()));
+  zklb2_->setEditText(shown(generalNumber(member_->Discount())));
+  DTPicker1_->setDate(DTPicker1_->minimumDate());
+  for (QLineEdit* edit : {card_, password_}) edit->clear();
+  cmdCancel_->setFocus();
+  enableEntry(false);
+  txtBh_->setEnabled(false);
+  Label10_->hide();
+  lblStatus_->setText(tr("卡状态：%1\r\n累计消费：%2\r\n加入时间：%3")
+                          .arg(member_->Enabled() ? tr("可用") : tr("禁用"),
+                               shown(twoDecimals(member_->TotalSpent())),
+                               shown(dateText(member_->JoinDate()))));
+  lblStatus_->show();
+}
+
+void frmFMember::addMember() {
+  try {
+    store();
+  } catch (const Failure& error) {
+    report(QString::fromUtf8(error.what()));
+  }
+}
+
+void frmFMember::store() {
+  txtBh_->setText(shown(memberNumber(textOf(txtBh_))));
+  // Nothing of an attempt that was refused before.
+  member_->Init(*pos_.gConn, 0, pos_.clock);
+  member_->setAddress(textOf(txtAddress_));
+  member_->setBh(textOf(txtBh_));
+  if (trimmed(textOf(txtName_)).empty()) {
+    messageBox(this, tr("请输入会员姓名"));
+    txtName_->setFocus();
+    return;
+  }
+  if (const QString wrong = readFigures(); !wrong.isEmpty()) {
+    report(wrong);
+    return;
+  }
+  member_->setName(textOf(txtName_));
+  member_->setOther(textOf(txtOther_));
+  member_->setPhone(halfWidth(textOf(txtPhone_)));
+  member_->setTotalSpent(Currency());
+  const QDate birthday = DTPicker1_->date();
+  member_->setBirthday(Date{birthday.year(), birthday.month(), birthday.day()});
+  if (const auto rate = classRate()) member_->setDiscount(*rate);
+  member_->setEnabled(true);
+  member_->setPassword(textOf(password_));
+  member_->setSex(OptBoy_->isChecked() ? "男" : "女");
+  if (!member_->Save()) {
+    messageBox(this, shown(member_->ErrText()), tr("出错"));
+    return;
+  }
+  pos_.gMemberSvc.AddMember(*member_);
+  messageBox(this, tr("会员增加成功!"));
+  accept();
+}
+
+/// Age, points and opening balance into the member; an empty text, or which of them is no such
+/// figure, which then has the focus.
+QString frmFMember::readFigures() {
+  const auto wrong = [](QLineEdit* edit, const QString& text) {
+    edit->setFocus();
+    edit->selectAll();
+    return text.arg(edit->text());
+  };
+  const auto age = parseWhole16(textOf(txtOld_));
+  if (!age) return wrong(txtOld_, tr("年龄“%1”不是有效的整数！"));
+  const auto points = parseWhole16(textOf(txtPostcode_));
+  if (!points) return wrong(txtPostcode_, tr("积分“%1”不是有效的整数！"));
+  const auto balance = Currency::parse(textOf(card_));
+  if (!balance) return wrong(card_, tr("储值卡余额“%1”不是有效的金额！"));
+  member_->setAge(*age);
+  member_->setPoints(*points);
+  member_->setBalance(*balance);
+  return {};
+}
+
+/// Nothing for a text that is none of the classes.
+std::optional<double> frmFMember::classRate() const {
+  const QString chosen = zklb2_->currentText().trimmed();
+  if (chosen == tr("贵宾卡")) return factor(pos_.gSysParam.VipRate());
+  if (chosen == tr("银卡")) return factor(pos_.gSysParam.SilverRate());
+  if (chosen == tr("金卡")) return factor(pos_.gSysParam.GoldRate());
+  return std::nullopt;
+}
+
+void frmFMember::report(const QString& text) {
+  messageBox(this, text, tr("出错"), BoxIcon::kInformation);
+}

@@ -1,0 +1,195 @@
+#include "sale/frmRecord.h"
+
+#include <QFrame>
+#include <QHeaderView>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QPushButton>
+#include <QTableView>
+#include <QVBoxLayout>
+
+#include "app/KeyBoard.h"
+#include "base/NumberText.h"
+#include "platform/VirtualKey.h"
+#include "sale/ListModel.h"
+#include "saleslib/ClsSell.h"
+#include "shell/Modal.h"
+
+namespace {
+
+enum BillColumn { kNumber, kAmount, kTime };
+enum LineColumn { kCode, kName, kUnit, kPrice, kQuantity, kDiscount, kMoney };
+
+QString text(const std::string& utf8) {
+  return QString::fromStdString(utf8);
+}
+
+QString billCell(const ClsSell& bill, int column, const DateTime& now) {
+  switch (column) {
+    case kNumber:
+      return QString::number(bill.BillNo());
+    case kAmount:
+      return text(twoDecimals(bill.Amount()));
+    default:
+      return text(shortTime(now));
+  }
+}
+
+QString lineCell(const ClsSellItem& line, int column) {
+  switch (column) {
+    case kCode:
+      return text(line.EntryCode());
+    case kName:
+      return text(line.SpName());
+    case kUnit:
+      return text(line.Unit());
+    case kPrice:
+      return text(twoDecimals(line.Price()));
+    case kQuantity:
+      return text(generalNumber(line.Quantity()));
+    case kDiscount:
+      return text(generalNumber(line.Discount()));
+    default:
+      return text(twoDecimals(line.Money()));
+  }
+}
+
+}  // namespace
+
+// The controls are made in the order of the Tab key.
+frmRecord::frmRecord(const KeyBoard& keys, QWidget* parent)
+    : QDialog(parent),
+      keys_(keys),
+      bills_(new ListModel({tr("单号"), tr("金额"), tr("时间")}, kAmount, this)),
+      lines_(new ListModel(
+          {tr("编号"), tr("品名"), tr("单位"), tr("单价"), tr("数量"), tr("折扣"), tr("金额")},
+          kPrice, this)),
+      listSell_(list("listSell", bills_)),
+      listProducts_(list("listProducts", lines_)) {
+  setObjectName("frmRecord");
+  setWindowTitle(tr("调入挂单"));
+  auto* cmdExit = new QPushButton(tr("退出(&X)"), this);
+  cmdExit->setObjectName("cmdExit");
+  cmdExit->installEventFilter(this);
+  connect(cmdExit, &QPushButton::clicked, this, &QDialog::reject);
+  connect(listSell_, &QTableView::doubleClicked, this, &frmRecord::chooseSelected);
+  connect(listSell_->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
+          &frmRecord::viewSelectpro);
+  setUpColumns();
+
+  auto* title = new QLabel(tr("调入挂单"), this);
+  title->setObjectName("Label3");
+  auto* all = new QVBoxLayout(this);
+  all->setContentsMargins(24, 16, 24, 16);
+  all->setSpacing(12);
+  all->addWidget(title, 0, Qt::AlignHCenter);
+  all->addWidget(frame("Frame1", "Label1", tr("挂起的单子：(回车键选择载入)"), listSell_), 2);
+  all->addWidget(frame("Frame2", "Label2", tr("所选单子商品(Tab键切换过来)："), listProducts_), 3);
+  all->addWidget(cmdExit, 0, Qt::AlignRight);
+  resize(900, 680);
+}
+
+QTableView* frmRecord::list(const char* name, ListModel* model) {
+  auto* made = new QTableView(this);
+  made->setObjectName(name);
+  made->setModel(model);
+  made->setSelectionBehavior(QAbstractItemView::SelectRows);
+  made->setSelectionMode(QAbstractItemView::SingleSelection);
+  made->setEditTriggers(QAbstractItemView::NoEditTriggers);
+  made->setTabKeyNavigation(false);
+  made->setAlternatingRowColors(true);
+  made->setShowGrid(false);
+  made->setWordWrap(false);
+  made->verticalHeader()->hide();
+  made->horizontalHeader()->setHighlightSections(false);
+  made->horizontalHeader()->setSectionsClickable(false);
+  made->installEventFilter(this);
+  return made;
+}
+
+QFrame* frmRecord::frame(const char* name, const char* label, const QString& caption,
+                         QTableView* content) {
+  auto* made = new QFrame(this);
+  made->setObjectName(name);
+  auto* heading = new QLabel(caption, made);
+  heading->setObjectName(label);
+  auto* inside = new QVBoxLayout(made);
+  inside->addWidget(heading);
+  inside->addWidget(content);
+  return made;
+}
+
+void frmRecord::setUpColumns() {
+  listSell_->horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
+  listProducts_->horizontalHeader()->setSectionResizeMode(kName, QHeaderView::Stretch);
+  const std::pair<LineColumn, int> widths[] = {{kCode, 180},    {kUnit, 70},     {kPrice, 110},
+                                               {kQuantity, 90}, {kDiscount, 80}, {kMoney, 120}};
+  for (const auto& [column, width] : widths) listProducts_->setColumnWidth(column, width);
+}
+
+std::int32_t frmRecord::Load(const std::vector<std::shared_ptr<ClsSell>>& bills,
+                             const DateTime& now) {
+  held_ = &bills;
+  chosen_ = 0;
+  bills_->show(static_cast<int>(bills.size()), [&bills, now](int row, int column) {
+    return billCell(*bills[static_cast<std::size_t>(row)], column, now);
+  });
+  listSell_->selectRow(0);
+  viewSelectpro();
+  exec();
+  lines_->show(0, {});
+  bills_->show(0, {});
+  held_ = nullptr;
+  return chosen_;
+}
+
+void frmRecord::viewSelectpro() {
+  const int row = listSell_->currentIndex().row();
+  if (row < 0 || held_ == nullptr) return lines_->show(0, {});
+  const ClsSell& bill = *(*held_)[static_cast<std::size_t>(row)];
+  lines_->show(static_cast<int>(bill.Items().size()), [&bill](int line, int column) {
+    return lineCell(*bill.Items()[static_cast<std::size_t>(line)], column);
+  });
+}
+
+void frmRecord::showEvent(QShowEvent* event) {
+  QDialog::showEvent(event);
+  centreOnScreen(*this);
+  listSell_->setFocus();
+}
+
+bool frmRecord::eventFilter(QObject* watched, QEvent* event) {
+  if (event->type() == QEvent::KeyPress && handleKey(watched, *static_cast<QKeyEvent*>(event))) {
+    return true;
+  }
+  return QDialog::eventFilter(watched, event);
+}
+
+// Only mapped keys leave the form; its own handling would close it on the plain Enter and Esc.
+void frmRecord::keyPressEvent(QKeyEvent* event) {
+  handleKey(nullptr, *event);
+}
+
+bool frmRecord::handleKey(const QObject* watched, const QKeyEvent& event) {
+  const int key = virtualKey(event);
+  if (key == 0) return false;
+  if (key == keys_.mEsc) {
+    reject();
+    return true;
+  }
+  if (key != keys_.mEnter || watched == nullptr) return false;
+  if (event.isAutoRepeat()) return true;
+  if (watched == listSell_) {
+    chooseSelected();
+  } else if (watched != listProducts_) {
+    reject();
+  }
+  return true;
+}
+
+void frmRecord::chooseSelected() {
+  const int row = listSell_->currentIndex().row();
+  if (row < 0) return;
+  chosen_ = (*held_)[static_cast<std::size_t>(row)]->BillNo();
+  accept();
+}
