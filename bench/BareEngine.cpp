@@ -35,7 +35,8 @@ BareEngine::BareEngine(const std::filesystem::path& dataFile) {
         sqlite3_key(engine_, password.data(), static_cast<int>(password.size())) == SQLITE_OK &&
             sqlite3_exec(engine_,
                          "pragma cipher_page_size = 4096; pragma journal_mode = wal;"
-                         "pragma synchronous = full; pragma cache_size = -8192",
+                         "pragma synchronous = full; pragma cache_size = -8192;"
+                         "pragma wal_autocheckpoint = 4000",
                          nullptr, nullptr, nullptr) == SQLITE_OK);
 }
 

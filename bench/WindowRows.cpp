@@ -126,7 +126,7 @@ void addWindowRows(Run& run) {
     addRow(run, what, run.largest().goods, samples,
            [&run, body](benchmark::State& state, Measured& row) { body(run, state, row); });
   };
-  add("ringing a line, key press to painted row", run.samples(3'000, 1500), &ring);
+  add("ringing a line, key press to painted row", run.samples(3'000, 100), &ring);
   add("100th line of a bill, against the first", run.samples(50, 3), &longBill);
   add("1000th bill of a day, against the first", 1, &longDay);
   add("ten-line cash sale through the windows", run.samples(300, 10), &wholeSale);

@@ -1,6 +1,7 @@
 #include "sale/BillView.h"
 
 #include <QHeaderView>
+#include <QItemSelectionModel>
 #include <QPaintEvent>
 #include <QPainter>
 #include <QScrollBar>
@@ -16,6 +17,14 @@ constexpr QChar kSeparator(0x1F);
 BillView::BillView(QWidget* parent) : QTableView(parent), pictures_(kMostPictures) {
   connect(horizontalHeader(), &QHeaderView::sectionResized, this, [this] { pictures_.clear(); });
   connect(verticalHeader(), &QHeaderView::sectionResized, this, [this] { pictures_.clear(); });
+  viewport()->setAttribute(Qt::WA_OpaquePaintEvent);
+}
+
+// The headings do not follow the selection: they would be painted again at each of its moves.
+void BillView::setSelectionModel(QItemSelectionModel* selection) {
+  QTableView::setSelectionModel(selection);
+  if (model() == nullptr) return;
+  horizontalHeader()->setSelectionModel(new QItemSelectionModel(model(), selection));
 }
 
 // Other colours or another font.
@@ -48,11 +57,18 @@ void BillView::rowsAboutToBeRemoved(const QModelIndex& parent, int first, int la
 }
 
 void BillView::paintEvent(QPaintEvent* event) {
-  if (model() == nullptr) return;
   QPainter painter(viewport());
+  const int rows = model() == nullptr ? 0 : model()->rowCount();
   const int last = rowAt(event->rect().bottom());
-  const int end = last < 0 ? model()->rowCount() : last + 1;
+  const int end = last < 0 ? rows : last + 1;
   for (int row = std::max(rowAt(event->rect().top()), 0); row < end; ++row) paintRow(painter, row);
+  if (last < 0) paintRest(painter);
+}
+
+/// The room behind the last row.
+void BillView::paintRest(QPainter& painter) {
+  const int top = verticalHeader()->length() - verticalOffset();
+  painter.fillRect(0, top, viewport()->width(), viewport()->height() - top, palette().base());
 }
 
 void BillView::paintRow(QPainter& painter, int row) {

@@ -14,6 +14,7 @@ class BillView : public QTableView {
  public:
   explicit BillView(QWidget* parent = nullptr);
 
+  void setSelectionModel(QItemSelectionModel* selection) override;
   void doItemsLayout() override;
 
  protected:
@@ -29,6 +30,7 @@ class BillView : public QTableView {
 
   void updateFrom(int row);
   void paintRow(QPainter& painter, int row);
+  void paintRest(QPainter& painter);
   QPixmap picture(int row, const Look& look) const;
   void paintCell(QPainter& painter, const QRect& cell, const QModelIndex& index) const;
   QString texts(int row) const;

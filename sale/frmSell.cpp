@@ -335,6 +335,8 @@ void frmSell::endProgram() {
 void frmSell::applyStyle() {
   const int type = sellTypeSize(width());
   setStyleSheet(sellStyleSheet(pos_.gPosSet, type));
+  t_->ensurePolished();
+  t_->setAttribute(Qt::WA_OpaquePaintEvent);  // else each typed key paints the list beneath it
   title1_->setLargest(type);
   title3_->setLargest(type);
   txtmoney_->setLargest(type * 5 / 2);

@@ -73,6 +73,7 @@ class Connection {
   void stopWhen(std::function<bool()> asked);
 
  private:
+  friend class Snapshot;
   friend class Transaction;
   friend void copyDataFile(Connection& connection, const std::filesystem::path& target);
   Rows queryBound(const char* text, std::vector<Value> values);
