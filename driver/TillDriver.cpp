@@ -7,9 +7,10 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
-#include <fstream>
 #include <stdexcept>
 #include <vector>
+
+#include "driver/OffscreenScreen.h"
 
 namespace {
 
@@ -17,18 +18,9 @@ constexpr int kMostTabs = 60;
 constexpr int kStandstillMs = 120000;
 constexpr auto kTextLimit = std::chrono::seconds(20);
 
-/// The screen of the off-screen platform, as its configuration file wants it.
-std::filesystem::path writeScreen(const std::filesystem::path& folder, int width, int height) {
-  const auto file = folder / "screen.json";
-  std::ofstream(file) << R"({"screens":[{"name":"till","x":0,"y":0,"width":)" << width
-                      << R"(,"height":)" << height
-                      << R"(,"logicalDpi":96,"logicalBaseDpi":96,"dpr":1}]})";
-  return file;
-}
-
-[[noreturn]] void becomeTill(const std::filesystem::path& folder,
-                             const std::filesystem::path& screen, int socket) {
-  setenv("QT_QPA_PLATFORM", ("offscreen:configfile=" + screen.string()).c_str(), 1);
+[[noreturn]] void becomeTill(const std::filesystem::path& folder, const std::string& platform,
+                             int socket) {
+  setenv("QT_QPA_PLATFORM", platform.c_str(), 1);
   setenv("QT_QPA_GENERIC_PLUGINS", ("tilldriver:" + std::to_string(socket)).c_str(), 1);
   setenv("QT_PLUGIN_PATH", DRIVER_PLUGIN_FOLDER, 1);
   const std::string program = (folder / "till").string();
@@ -39,13 +31,13 @@ std::filesystem::path writeScreen(const std::filesystem::path& folder, int width
 }  // namespace
 
 TillDriver::TillDriver(const std::filesystem::path& folder, int screenWidth, int screenHeight) {
-  const auto screen = writeScreen(folder, screenWidth, screenHeight);
+  const std::string platform = offscreenPlatform(folder, screenWidth, screenHeight);
   int ends[2];
   if (socketpair(AF_UNIX, SOCK_STREAM, 0, ends) != 0) throw std::runtime_error("no socket");
   fcntl(ends[0], F_SETFD, FD_CLOEXEC);
   process_ = fork();
   if (process_ < 0) throw std::runtime_error("no process");
-  if (process_ == 0) becomeTill(folder, screen, ends[1]);
+  if (process_ == 0) becomeTill(folder, platform, ends[1]);
   ::close(ends[1]);
   socket_ = ends[0];
 }
