@@ -1,68 +1,43 @@
 #include "bench/BareTill.h"
 
-#include <sqlcipher/sqlite3.h>
-
-#include <stdexcept>
-
-#include "store/DataFile.h"
-
-BareTill::BareTill(const std::filesystem::path& dataFile) {
-  const std::string password = kBuiltInPassword;
-  if (sqlite3_open(dataFile.c_str(), &engine_) != SQLITE_OK ||
-      sqlite3_key(engine_, password.data(), static_cast<int>(password.size())) != SQLITE_OK ||
-      sqlite3_exec(engine_,
-                   "pragma cipher_page_size=4096; pragma journal_mode=wal;"
-                   "pragma synchronous=full;",
-                   nullptr, nullptr, nullptr) != SQLITE_OK) {
-    throw std::runtime_error(sqlite3_errmsg(engine_));
-  }
-  begin_ = prepare("begin immediate");
-  commit_ = prepare("commit");
-  stock_ = prepare("update stock set quantity = quantity - 1 where spbm = ?");
-  line_ = prepare(
-      "insert into sellProducts (sellId, insert_Date, bm, name, unit, amount, price, discount, "
-      "money,"
-      " in_price, splbmc, entry_code, ratio, origin) values (1, '2026-11-22 09:05:03', ?, '矿泉水 "
-      "550ml', '瓶', 1, 2.5, 1, 2.5, 1.2, '饮料', '6900000000013', 1, '广东')");
-  bill_ = prepare(
-      "insert into sell (sell_time, operator_id, state, quantity, goods_amount, amount, cash)"
-      " values ('2026-11-22 09:05:03', 1, 1, 10, 25, 25, 30)");
-}
-
-BareTill::~BareTill() {
-  for (sqlite3_stmt* statement : {begin_, commit_, stock_, line_, bill_}) {
-    sqlite3_finalize(statement);
-  }
-  sqlite3_close(engine_);
-}
-
-sqlite3_stmt* BareTill::prepare(const char* text) {
-  sqlite3_stmt* statement = nullptr;
-  if (sqlite3_prepare_v2(engine_, text, -1, &statement, nullptr) != SQLITE_OK) {
-    throw std::runtime_error(sqlite3_errmsg(engine_));
-  }
-  return statement;
-}
-
-void BareTill::step(sqlite3_stmt* statement) {
-  if (sqlite3_step(statement) != SQLITE_DONE) throw std::runtime_error(sqlite3_errmsg(engine_));
-  sqlite3_reset(statement);
+BareTill::BareTill(const std::filesystem::path& dataFile)
+    : engine_(dataFile),
+      begin_(engine_, "begin immediate"),
+      commit_(engine_, "commit"),
+      stock_(engine_, "update stock set quantity = round(quantity - 1, 6) where spbm = ?"),
+      line_(engine_,
+            "insert into sellProducts (sellId, insert_Date, bm, name, unit, amount, price,"
+            " discount, money, in_price, splbmc, entry_code, ratio, origin)"
+            " values (?2, '2024-01-03 09:05:03', ?1, '矿泉水 550ml', '瓶',"
+            " 1, 2.5, 1, 2.5, 1.2, '饮料', '6900000000013', 1, '广东')"),
+      bill_(engine_, "insert into sell (sell_time, operator_id) values ('2024-01-03 09:05:03', 1)"),
+      member_(engine_,
+              "update member set total_spent = total_spent + 25, points = points + 25"
+              " where id = ?"),
+      store_(engine_,
+             "update sell set sell_time = '2024-01-03 09:05:03', state = 1, quantity = 10,"
+             " goods_amount = 25, amount = 25, cash = 25, member_id = ?"
+             " where id = ?") {
+  openBill();
 }
 
 void BareTill::ring(const std::string& itemCode) {
-  step(begin_);
-  for (sqlite3_stmt* statement : {stock_, line_}) {
-    sqlite3_bind_text(statement, 1, itemCode.data(), static_cast<int>(itemCode.size()),
-                      SQLITE_STATIC);
-    step(statement);
-  }
-  step(commit_);
+  begin_.run();
+  stock_.bind(1, itemCode).run();
+  line_.bind(1, itemCode).bind(2, billNo_).run();
+  commit_.run();
 }
 
-void BareTill::settle(const std::string& itemCode) {
-  step(begin_);
-  sqlite3_bind_text(stock_, 1, itemCode.data(), static_cast<int>(itemCode.size()), SQLITE_STATIC);
-  step(stock_);
-  step(bill_);
-  step(commit_);
+void BareTill::settle(int member) {
+  begin_.run();
+  store_.bind(1, member).bind(2, billNo_).run();
+  if (member != 0) member_.bind(1, member).run();
+  commit_.run();
+}
+
+void BareTill::openBill() {
+  begin_.run();
+  bill_.run();
+  billNo_ = engine_.lastRowId();
+  commit_.run();
 }

@@ -1,31 +1,24 @@
 #pragma once
 
-#include <cstdint>
 #include <filesystem>
 #include <string>
 
-struct sqlite3;
-struct sqlite3_stmt;
+#include "bench/BareEngine.h"
 
-/// The engine alone, with the same settings and tables: prepared statements in one transaction, the
-/// least that a till can do for the same writes.
+/// The least that a till can do for the same writes: prepared statements, one transaction each.
 class BareTill {
  public:
-  /// Opens a second data file, made like the till's.
   explicit BareTill(const std::filesystem::path& dataFile);
-  ~BareTill();
-  BareTill(const BareTill&) = delete;
-  BareTill& operator=(const BareTill&) = delete;
 
-  /// One transaction: the item's stock goes down, a bill line is inserted.
+  /// One transaction: the item's stock goes down, a line of the open bill is inserted.
   void ring(const std::string& itemCode);
-  /// One transaction: the stock of one item goes down and a bill is stored.
-  void settle(const std::string& itemCode);
+  /// One transaction that stores the open bill, with the member who bought (0: nobody).
+  void settle(int member = 0);
+  /// One transaction: the next bill's row.
+  void openBill();
 
  private:
-  sqlite3_stmt* prepare(const char* text);
-  void step(sqlite3_stmt* statement);
-
-  sqlite3* engine_ = nullptr;
-  sqlite3_stmt *begin_, *commit_, *stock_, *line_, *bill_;
+  BareEngine engine_;
+  BareEngine::Statement begin_, commit_, stock_, line_, bill_, member_, store_;
+  long long billNo_ = 0;
 };

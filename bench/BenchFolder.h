@@ -6,17 +6,14 @@
 #include <stdexcept>
 #include <string>
 
-/// Where the data files of the measurements lie: set once from the command line, because a memory
-/// disk would make every durable write free.
-inline std::filesystem::path benchRoot = std::filesystem::current_path();
-
-/// An empty folder below benchRoot that goes with its owner.
+/// An empty folder on the disk that is measured; goes with its owner.
 class BenchFolder {
  public:
-  BenchFolder() {
-    std::string name = (benchRoot / "bench-XXXXXX").string();
+  explicit BenchFolder(const std::filesystem::path& parent) {
+    std::filesystem::create_directories(parent);
+    std::string name = (parent / "run-XXXXXX").string();
     if (mkdtemp(name.data()) == nullptr)
-      throw std::runtime_error("no folder in " + benchRoot.string());
+      throw std::runtime_error("no folder in " + parent.string());
     path_ = name;
   }
   ~BenchFolder() {

@@ -1,28 +1,33 @@
 #pragma once
 
+#include <filesystem>
 #include <memory>
 #include <string>
 
 #include "app/posMod.h"
+#include "bench/ShopFile.h"
 #include "checkout/SaleScreen.h"
 #include "sale/SaleSession.h"
 
-/// A till without a window on a shop of its own: what the cashier's key presses cause, and nothing
-/// of what the screen draws.
+/// The process-wide objects of a till in that folder on that day, with the cashier logged in.
+std::unique_ptr<posMod> openTill(const std::filesystem::path& folder,
+                                 const Date& day = plusDays(shop_file::kBusyDay, 1));
+
+/// A till without a window: what the cashier's key presses cause, and nothing of what the screen
+/// draws.
 class BenchShop : public SaleScreen {
  public:
-  /// Makes a data file with `goods` items in that folder and opens the sale screen's session.
-  BenchShop(const std::filesystem::path& folder, int goods);
+  explicit BenchShop(const std::filesystem::path& folder);
+
+  posMod& pos() { return *pos_; }
+  SaleState& state() { return session_->state; }
 
   /// Types a code and presses Enter.
   void enter(const std::string& code);
+  /// Attaches a member to the bill, without showing it.
+  void attach(int memberId);
   /// Presses the settle key; payment is confirmed with the amount due in cash.
   void settle();
-
-  static std::string barcode(int item);
-  static std::string itemCode(int item);
-  /// Makes the data file alone.
-  static void makeDataFile(const std::filesystem::path& file, int goods);
 
  private:
   void rowsChanged() override {}

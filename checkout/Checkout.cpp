@@ -135,7 +135,8 @@ void Checkout::printOurP() {
 
 void Checkout::PrepareNextBill() {
   state_.curBill = nullptr;
-  if (auto next = nextBill()) {
+  auto next = openNextBill();
+  if (next) {
     ShowNextBill(std::move(next));
   } else {
     screen_.endProgram();
@@ -144,12 +145,13 @@ void Checkout::PrepareNextBill() {
 
 // A bill that was to be withdrawn when the program ends here has not been entered again, because
 // nothing could be stored since: completing it at the next opening is right.
-std::shared_ptr<ClsSell> Checkout::nextBill() {
-  for (;;) {
+std::shared_ptr<ClsSell> Checkout::openNextBill() {
+  while (true) {
     try {
       withdrawDropped();
       return openBill();
     } catch (const StoreError& failure) {
+      emptyList();
       const QString question = tr("不能开始下一单：%1\n排除原因后再试一次吗？选“否”将退出程序。");
       if (!screen_.askYesNo(question.arg(QString::fromUtf8(failure.what())), {}, true)) return {};
     }
@@ -163,12 +165,16 @@ std::shared_ptr<ClsSell> Checkout::openBill() {
   return bill;
 }
 
-void Checkout::ShowNextBill(std::shared_ptr<ClsSell> next) {
-  state_.curBill = std::move(next);
+void Checkout::emptyList() {
   state_.clearRows();
   state_.AddEntryRow();
   screen_.rowsChanged();
   screen_.PlaceEditor();
+}
+
+void Checkout::ShowNextBill(std::shared_ptr<ClsSell> next) {
+  state_.curBill = std::move(next);
+  emptyList();
   state_.onEntryRow = true;
   ShowBillNo();
   if (state_.lastBill && !showLastBill()) return;

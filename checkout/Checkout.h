@@ -44,7 +44,8 @@ class Checkout {
   bool takePayment();
   void dropUnstored();
   void withdrawDropped();
-  std::shared_ptr<ClsSell> nextBill();
+  std::shared_ptr<ClsSell> openNextBill();
+  void emptyList();
   void printPageReceipts();
   bool showLastBill();
 

@@ -3,7 +3,6 @@
 #include <QGridLayout>
 #include <QHBoxLayout>
 #include <QHeaderView>
-#include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
@@ -13,7 +12,6 @@
 #include "app/posMod.h"
 #include "base/NumberText.h"
 #include "checkout/ReturnLines.h"
-#include "platform/VirtualKey.h"
 #include "saleslib/ClsSell.h"
 #include "shell/Modal.h"
 #include "shell/frmMsg.h"
@@ -22,11 +20,6 @@ namespace {
 
 QString shown(const std::string& text) {
   return QString::fromStdString(text);
-}
-
-void focusWhole(QLineEdit* edit) {
-  edit->setFocus();
-  edit->selectAll();
 }
 
 /// Whether a text still being typed ("12.", "12.50") only lacks its end to be that number.
@@ -40,13 +33,13 @@ bool onItsWayTo(QString text, const QString& plain) {
 }  // namespace
 
 frmUnSell::frmUnSell(posMod& pos, QWidget* parent)
-    : QDialog(parent),
+    : KeyDrivenDialog(pos.gKeyBoard, EnterKey::kPlain, parent),
       pos_(pos),
       returns_(pos),
       lines_(new ReturnLines(this)),
       txtNo_(field("txtNo")),
       txttm_(field("txttm")),
-      lvlistSp_(new QTableView(this)),
+      lvlistSp_(made("lvlistSp", new QTableView(this))),
       lblStatus_(label("lblStatus", {})),
       Text1_(figure("Text1")),
       Text2_(figure("Text2")),
@@ -61,6 +54,7 @@ frmUnSell::frmUnSell(posMod& pos, QWidget* parent)
   lblStatus_->setWordWrap(true);
   setUpList();
   arrange();
+  setUpEnter();
   showBill();
   showLine();
   connect(lvlistSp_, &QTableView::clicked, this,
@@ -70,21 +64,6 @@ frmUnSell::frmUnSell(posMod& pos, QWidget* parent)
   connect(cmdExit_, &QPushButton::clicked, this, &QDialog::reject);
 }
 
-QLabel* frmUnSell::label(const char* name, const QString& text) {
-  auto* made = new QLabel(text, this);
-  made->setObjectName(name);
-  return made;
-}
-
-// Made in the order of the Tab key. The filter sees a key before the control does: a mapped key may
-// well be a letter or a figure.
-QLineEdit* frmUnSell::field(const char* name) {
-  auto* made = new QLineEdit(this);
-  made->setObjectName(name);
-  made->installEventFilter(this);
-  return made;
-}
-
 QLineEdit* frmUnSell::figure(const char* name) {
   QLineEdit* made = field(name);
   made->setReadOnly(true);
@@ -92,17 +71,7 @@ QLineEdit* frmUnSell::figure(const char* name) {
   return made;
 }
 
-QPushButton* frmUnSell::button(const char* name, const QString& text) {
-  auto* made = new QPushButton(text, this);
-  made->setObjectName(name);
-  // Enter belongs to the fields.
-  made->setAutoDefault(false);
-  made->installEventFilter(this);
-  return made;
-}
-
 void frmUnSell::setUpList() {
-  lvlistSp_->setObjectName("lvlistSp");
   lvlistSp_->setModel(lines_);
   lvlistSp_->setColumnHidden(ReturnLines::kLineId, true);
   lvlistSp_->setSelectionBehavior(QAbstractItemView::SelectRows);
@@ -120,7 +89,6 @@ void frmUnSell::setUpList() {
   lvlistSp_->setColumnWidth(ReturnLines::kQuantity, 100);
   lvlistSp_->setColumnWidth(ReturnLines::kDiscount, 90);
   lvlistSp_->setColumnWidth(ReturnLines::kMoney, 130);
-  lvlistSp_->installEventFilter(this);
 }
 
 void frmUnSell::arrange() {
@@ -132,7 +100,7 @@ void frmUnSell::arrange() {
   all->addWidget(lvlistSp_, 1);
   all->addWidget(lblStatus_);
   all->addLayout(returnRow());
-  all->addLayout(buttonRow());
+  all->addLayout(buttonRow({cmdUnSell_, cmdExit_}));
   resize(960, 640);
 }
 
@@ -162,68 +130,27 @@ QLayout* frmUnSell::returnRow() {
   return grid;
 }
 
-QLayout* frmUnSell::buttonRow() {
-  auto* row = new QHBoxLayout;
-  row->setSpacing(16);
-  row->addStretch();
-  row->addWidget(cmdUnSell_);
-  row->addWidget(cmdExit_);
-  return row;
-}
-
-void frmUnSell::showEvent(QShowEvent* event) {
-  QDialog::showEvent(event);
-  centreOnScreen(*this);
-  txtNo_->setFocus();
-}
-
 bool frmUnSell::eventFilter(QObject* watched, QEvent* event) {
   if (event->type() == QEvent::FocusIn && (watched == txtAmount_ || watched == txtmoney_)) {
     static_cast<QLineEdit*>(watched)->selectAll();
   }
   if (event->type() == QEvent::FocusOut && watched == txtAmount_) quantityLeft();
   if (event->type() == QEvent::FocusOut && watched == txtmoney_) rewriteRefund();
-  if (event->type() == QEvent::KeyPress && handleKey(watched, *static_cast<QKeyEvent*>(event))) {
-    return true;
-  }
-  return QDialog::eventFilter(watched, event);
+  return KeyDrivenDialog::eventFilter(watched, event);
 }
 
-// Only the keys named act; the dialog's own handling would close it on the plain Esc.
-void frmUnSell::keyPressEvent(QKeyEvent* event) {
-  handleKey(this, *event);
-}
-
-bool frmUnSell::handleKey(const QObject* watched, const QKeyEvent& event) {
-  const int key = virtualKey(event);
-  if (key == 0) return false;
-  if (key == pos_.gKeyBoard.mEsc) {
-    reject();
-    return true;
-  }
-  // An Enter held down is one press: held, it would go on to return the whole bill.
-  return key == vk::kEnter && (event.isAutoRepeat() || enter(watched));
-}
-
-bool frmUnSell::enter(const QObject* watched) {
-  if (watched == txtNo_) {
-    loadBill();
-  } else if (watched == txttm_) {
-    chooseTyped();
-  } else if (watched == lvlistSp_) {
+void frmUnSell::setUpEnter() {
+  onEnter(txtNo_, [this] { loadBill(); });
+  onEnter(txttm_, [this] { chooseTyped(); });
+  onEnter(lvlistSp_, [this] {
     chooseRow(lvlistSp_->currentIndex().row());
     if (returns_.line() != nullptr) focusWhole(txtAmount_);
-  } else if (watched == txtAmount_) {
+  });
+  onEnter(txtAmount_, [this] {
     confirmQuantity();
     if (returns_.line() != nullptr) focusWhole(txtmoney_);
-  } else if (watched == txtmoney_ || watched == cmdUnSell_) {
-    cmdUnSell_->click();
-  } else if (watched == cmdExit_) {
-    reject();
-  } else {
-    return false;
-  }
-  return true;
+  });
+  onEnter(txtmoney_, [this] { cmdUnSell_->click(); });
 }
 
 void frmUnSell::message(const QString& text) {

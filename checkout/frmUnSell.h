@@ -4,18 +4,15 @@
 
 #include "base/Currency.h"
 #include "checkout/Returns.h"
+#include "shell/KeyDrivenDialog.h"
 
-class QKeyEvent;
-class QLabel;
 class QLayout;
-class QLineEdit;
-class QPushButton;
 class QTableView;
 class ReturnLines;
 
 /// The returns screen: a stored bill, one of its lines, how much of it comes back and what is
 /// refunded. Draws a Returns and turns keys into its calls. Opened by a logged-in operator.
-class frmUnSell : public QDialog {
+class frmUnSell : public KeyDrivenDialog {
   Q_OBJECT
 
  public:
@@ -23,23 +20,14 @@ class frmUnSell : public QDialog {
 
  protected:
   bool eventFilter(QObject* watched, QEvent* event) override;
-  void keyPressEvent(QKeyEvent* event) override;
-  void showEvent(QShowEvent* event) override;
 
  private:
-  QLabel* label(const char* name, const QString& text);
-  QLineEdit* field(const char* name);
   QLineEdit* figure(const char* name);
-  QPushButton* button(const char* name, const QString& text);
   void setUpList();
   void arrange();
   QLayout* searchRow();
   QLayout* returnRow();
-  QLayout* buttonRow();
-
-  /// True when the key was used up.
-  bool handleKey(const QObject* watched, const QKeyEvent& event);
-  bool enter(const QObject* watched);
+  void setUpEnter();
   void message(const QString& text);
 
   bool loadBill();

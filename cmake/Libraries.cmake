@@ -18,6 +18,10 @@ if(TILL_SANITIZE)
                                               -fno-omit-frame-pointer)
   target_link_options(till_flags INTERFACE -fsanitize=address,undefined)
 endif()
+if(TILL_FUZZ)
+  # Every room tells the fuzzer which of its branches an input took.
+  target_compile_options(till_flags INTERFACE -fsanitize=fuzzer-no-link)
+endif()
 
 # All of Qt that the windows use, as one target, so that every room shares one precompiled header.
 # Widget headers cost seconds per file; the precompiled header pays that once.

@@ -1,5 +1,6 @@
 #include <QApplication>
 #include <QElapsedTimer>
+#include <QFile>
 #include <QGenericPlugin>
 #include <QKeySequence>
 #include <QLabel>
@@ -12,6 +13,9 @@
 
 #include <unistd.h>
 
+#include <memory>
+
+#include "Monkey.h"
 #include "Screenshot.h"
 
 namespace {
@@ -23,10 +27,14 @@ constexpr int kPollMs = 2;
 ///   key NAME       a key click in the active window (names as QKeySequence knows them)
 ///   type TEXT      key clicks that type a text
 ///   wait NAME      until the active window's objectName is NAME
-///   text NAME      the text of a label or input field of a visible window
+///   text NAME      the text of a label or input field, of the active window if it has that name,
+///                  else of another visible one
 ///   focus          the name of the control that has the keyboard
+///   window         the name of the active window
 ///   settle         once the keys sent before have been delivered
 ///   shot FILE      a picture of the screen
+///   monkey S N W   N random events from seed S, with the words of file W (see Monkey); answered by
+///                  several lines
 /// Each is answered by one line, "ok ..." or "error ...". A click is answered before it is
 /// delivered, because a window that it opens only returns when that window is closed.
 class Driver : public QObject {
@@ -65,14 +73,30 @@ class Driver : public QObject {
     } else if (command == QLatin1String("focus")) {
       const QWidget* focus = QApplication::focusWidget();
       answer(QStringLiteral("ok ") + (focus != nullptr ? focus->objectName() : QString()));
+    } else if (command == QLatin1String("window")) {
+      const QWidget* window = QApplication::activeWindow();
+      answer(QStringLiteral("ok ") + (window != nullptr ? window->objectName() : QString()));
     } else if (command == QLatin1String("settle")) {
       QTimer::singleShot(0, this, [this] { answer(QStringLiteral("ok")); });
     } else if (command == QLatin1String("shot")) {
       answer(screenshot().save(argument) ? QStringLiteral("ok")
                                          : QStringLiteral("error cannot save"));
+    } else if (command == QLatin1String("monkey")) {
+      letMonkeyLoose(argument);
     } else {
       answer(QStringLiteral("error unknown command"));
     }
+  }
+
+  void letMonkeyLoose(const QString& argument) {
+    QFile file(argument.section(QLatin1Char(' '), 2));
+    file.open(QIODevice::ReadOnly);
+    const QStringList words =
+        QString::fromUtf8(file.readAll()).split(QLatin1Char('\n'), Qt::SkipEmptyParts);
+    monkey_ = std::make_unique<Monkey>(argument.section(QLatin1Char(' '), 0, 0).toUInt(),
+                                       argument.section(QLatin1Char(' '), 1, 1).toInt(), words,
+                                       [this](const QString& line) { answer(line); });
+    monkey_->start();
   }
 
   static QWindow* activeWindow() {
@@ -122,7 +146,9 @@ class Driver : public QObject {
   }
 
   void answerText(const QString& name) {
-    for (const QWidget* window : QApplication::topLevelWidgets()) {
+    QWidgetList windows = QApplication::topLevelWidgets();
+    if (QWidget* active = QApplication::activeWindow()) windows.prepend(active);
+    for (const QWidget* window : windows) {
       if (!window->isVisible()) continue;
       const QWidget* found = window->findChild<QWidget*>(name);
       QString text;
@@ -148,6 +174,7 @@ class Driver : public QObject {
   int socket_;
   QSocketNotifier notifier_;
   QByteArray pending_;
+  std::unique_ptr<Monkey> monkey_;
 };
 
 }  // namespace

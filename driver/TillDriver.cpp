@@ -1,32 +1,26 @@
 #include "driver/TillDriver.h"
 
 #include <fcntl.h>
+#include <poll.h>
 #include <signal.h>
 #include <sys/socket.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
-#include <fstream>
 #include <stdexcept>
 #include <vector>
+
+#include "driver/OffscreenScreen.h"
 
 namespace {
 
 constexpr int kMostTabs = 60;
+constexpr int kStandstillMs = 120000;
 constexpr auto kTextLimit = std::chrono::seconds(20);
 
-/// The screen of the off-screen platform, as its configuration file wants it.
-std::filesystem::path writeScreen(const std::filesystem::path& folder, int width, int height) {
-  const auto file = folder / "screen.json";
-  std::ofstream(file) << R"({"screens":[{"name":"till","x":0,"y":0,"width":)" << width
-                      << R"(,"height":)" << height
-                      << R"(,"logicalDpi":96,"logicalBaseDpi":96,"dpr":1}]})";
-  return file;
-}
-
-[[noreturn]] void becomeTill(const std::filesystem::path& folder,
-                             const std::filesystem::path& screen, int socket) {
-  setenv("QT_QPA_PLATFORM", ("offscreen:configfile=" + screen.string()).c_str(), 1);
+[[noreturn]] void becomeTill(const std::filesystem::path& folder, const std::string& platform,
+                             int socket) {
+  setenv("QT_QPA_PLATFORM", platform.c_str(), 1);
   setenv("QT_QPA_GENERIC_PLUGINS", ("tilldriver:" + std::to_string(socket)).c_str(), 1);
   setenv("QT_PLUGIN_PATH", DRIVER_PLUGIN_FOLDER, 1);
   const std::string program = (folder / "till").string();
@@ -37,13 +31,13 @@ std::filesystem::path writeScreen(const std::filesystem::path& folder, int width
 }  // namespace
 
 TillDriver::TillDriver(const std::filesystem::path& folder, int screenWidth, int screenHeight) {
-  const auto screen = writeScreen(folder, screenWidth, screenHeight);
+  const std::string platform = offscreenPlatform(folder, screenWidth, screenHeight);
   int ends[2];
   if (socketpair(AF_UNIX, SOCK_STREAM, 0, ends) != 0) throw std::runtime_error("no socket");
   fcntl(ends[0], F_SETFD, FD_CLOEXEC);
   process_ = fork();
   if (process_ < 0) throw std::runtime_error("no process");
-  if (process_ == 0) becomeTill(folder, screen, ends[1]);
+  if (process_ == 0) becomeTill(folder, platform, ends[1]);
   ::close(ends[1]);
   socket_ = ends[0];
 }
@@ -53,22 +47,46 @@ TillDriver::~TillDriver() {
   ::close(socket_);
 }
 
-std::string TillDriver::ask(const std::string& command) {
+void TillDriver::send(const std::string& command) {
   const std::string line = command + "\n";
   if (::send(socket_, line.data(), line.size(), MSG_NOSIGNAL) != ssize_t(line.size())) {
     throw std::runtime_error("the till is gone at: " + command);
   }
+}
+
+/// Nothing when the till has gone. Throws when it stands still.
+std::optional<std::string> TillDriver::receiveLine() {
   for (std::size_t end; (end = received_.find('\n')) == std::string::npos;) {
+    pollfd ready{socket_, POLLIN, 0};
+    if (poll(&ready, 1, kStandstillMs) == 0) throw std::runtime_error("the till stands still");
     char bytes[4096];
     const ssize_t got = ::recv(socket_, bytes, sizeof bytes, 0);
-    if (got <= 0) throw std::runtime_error("the till went away at: " + command);
+    if (got <= 0) return std::nullopt;
     received_.append(bytes, std::size_t(got));
   }
   const std::size_t end = received_.find('\n');
-  const std::string answer = received_.substr(0, end);
+  const std::string line = received_.substr(0, end);
   received_.erase(0, end + 1);
-  if (!answer.starts_with("ok")) throw std::runtime_error(command + ": " + answer);
-  return answer.size() > 3 ? answer.substr(3) : std::string();
+  return line;
+}
+
+std::string TillDriver::ask(const std::string& command) {
+  send(command);
+  const std::optional<std::string> answer = receiveLine();
+  if (!answer) throw std::runtime_error("the till went away at: " + command);
+  if (!answer->starts_with("ok")) throw std::runtime_error(command + ": " + *answer);
+  return answer->size() > 3 ? answer->substr(3) : std::string();
+}
+
+int TillDriver::monkey(unsigned seed, int events, const std::filesystem::path& words) {
+  send("monkey " + std::to_string(seed) + " " + std::to_string(events) + " " + words.string());
+  int done = 0;
+  while (const std::optional<std::string> line = receiveLine()) {
+    if (line->starts_with("error")) throw std::runtime_error("the monkey: " + *line);
+    done = std::stoi(line->substr(3));
+    if (line->starts_with("ok")) break;
+  }
+  return done;
 }
 
 void TillDriver::key(std::string_view name) {
@@ -109,6 +127,10 @@ void TillDriver::waitForText(std::string_view control, std::string_view part) {
   } while (std::chrono::steady_clock::now() < giveUp);
   throw std::runtime_error(std::string(control) + " shows \"" + shown + "\", not \"" +
                            std::string(part) + "\"");
+}
+
+std::string TillDriver::activeWindow() {
+  return ask("window");
 }
 
 std::string TillDriver::text(std::string_view control) {

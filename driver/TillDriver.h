@@ -2,6 +2,7 @@
 
 #include <chrono>
 #include <filesystem>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -30,18 +31,32 @@ class TillDriver {
   void waitFor(std::string_view window);
   /// Waits until a control shows a text that contains `part`.
   void waitForText(std::string_view control, std::string_view part);
+  /// The name of the active window, empty when there is none.
+  std::string activeWindow();
   /// The text that a label or an input field shows.
   std::string text(std::string_view control);
   /// Saves a picture of the screen as PNG.
   void shot(const std::filesystem::path& file);
 
+  /// Works the till with that many random events (see driver/Monkey.h), typing also the lines of
+  /// the file `words`. Gives how many it came to, in steps of a hundred: fewer when one of them
+  /// ended the till. Throws when a window cannot be left or the till stands still.
+  int monkey(unsigned seed, int events, const std::filesystem::path& words);
+
   /// Waits for the till to end by itself and gives its exit code.
   int waitForEnd();
+  /// The till's process id.
+  int process() const { return process_; }
   /// Kills the till at once, as a power cut would.
   void kill();
+  /// The process that runs the till, for one who kills it from another thread; it is this object's
+  /// until waitForEnd or kill.
+  int process() const { return process_; }
 
  private:
   std::string ask(const std::string& command);
+  void send(const std::string& command);
+  std::optional<std::string> receiveLine();
 
   int socket_ = -1;
   int process_ = -1;

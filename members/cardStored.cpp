@@ -30,15 +30,10 @@ std::optional<Currency> money(const QLineEdit* edit) {
   return Currency::parse(textOf(edit));
 }
 
-void focusWhole(QLineEdit* edit) {
-  edit->setFocus();
-  edit->selectAll();
-}
-
 }  // namespace
 
 cardStored::cardStored(posMod& pos, QWidget* parent)
-    : QDialog(parent),
+    : KeyDrivenDialog(pos.gKeyBoard, EnterKey::kPlain, parent),
       pos_(pos),
       txtBh_(field("txtBh")),
       txtName_(figure("txtName")),
@@ -53,23 +48,9 @@ cardStored::cardStored(posMod& pos, QWidget* parent)
   setObjectName("cardStored");
   setWindowTitle(tr("会员充值"));
   arrange();
+  setUpEnter();
   connect(cmdOk2_, &QPushButton::clicked, this, &cardStored::store);
   connect(cmdCancel_, &QPushButton::clicked, this, &QDialog::reject);
-}
-
-QLabel* cardStored::label(const char* name, const QString& text) {
-  auto* made = new QLabel(text, this);
-  made->setObjectName(name);
-  return made;
-}
-
-// Made in the order of the Tab key. The filter sees a key before the control does: a mapped key may
-// well be a letter or a figure.
-QLineEdit* cardStored::field(const char* name) {
-  auto* made = new QLineEdit(this);
-  made->setObjectName(name);
-  made->installEventFilter(this);
-  return made;
 }
 
 QLineEdit* cardStored::figure(const char* name) {
@@ -79,22 +60,13 @@ QLineEdit* cardStored::figure(const char* name) {
   return made;
 }
 
-QPushButton* cardStored::button(const char* name, const QString& text) {
-  auto* made = new QPushButton(text, this);
-  made->setObjectName(name);
-  // Enter belongs to the fields.
-  made->setAutoDefault(false);
-  made->installEventFilter(this);
-  return made;
-}
-
 void cardStored::arrange() {
   auto* all = new QVBoxLayout(this);
   all->setContentsMargins(32, 20, 32, 20);
   all->setSpacing(16);
   all->addWidget(label("Label1", tr("会 员 充 值")), 0, Qt::AlignHCenter);
   all->addLayout(fields());
-  all->addLayout(buttons());
+  all->addLayout(buttonRow({cmdOk2_, cmdCancel_}));
 }
 
 QLayout* cardStored::fields() {
@@ -119,63 +91,23 @@ QLayout* cardStored::fields() {
   return grid;
 }
 
-QLayout* cardStored::buttons() {
-  auto* row = new QHBoxLayout;
-  row->setSpacing(16);
-  row->addStretch();
-  row->addWidget(cmdOk2_);
-  row->addWidget(cmdCancel_);
-  return row;
-}
-
-void cardStored::showEvent(QShowEvent* event) {
-  QDialog::showEvent(event);
-  centreOnScreen(*this);
-  txtBh_->setFocus();
-}
-
-bool cardStored::eventFilter(QObject* watched, QEvent* event) {
-  if (event->type() == QEvent::KeyPress && handleKey(watched, *static_cast<QKeyEvent*>(event))) {
-    return true;
-  }
-  return QDialog::eventFilter(watched, event);
-}
-
-// Only the keys named act; the dialog's own handling would close it on the plain Esc.
-void cardStored::keyPressEvent(QKeyEvent* event) {
-  handleKey(this, *event);
+void cardStored::setUpEnter() {
+  onEnter(txtBh_, [this] { findCard(); });
+  enterLeads(inMoney_, addMoney_);
+  onEnter(addMoney_, [this] {
+    if (const auto after = balanceAfter()) afterMoney_->setText(shown(generalNumber(*after)));
+  });
+  enterLeads(txtbz_, cmdOk2_);
 }
 
 bool cardStored::handleKey(const QObject* watched, const QKeyEvent& event) {
   const int key = virtualKey(event);
-  if (key == 0) return false;
-  if (key == pos_.gKeyBoard.mEsc) {
-    reject();
-    return true;
+  const bool isAmount = watched == inMoney_ || watched == addMoney_;
+  if (!isAmount || !txtBh_->text().isEmpty() || key == 0 || key == pos_.gKeyBoard.mEsc) {
+    return KeyDrivenDialog::handleKey(watched, event);
   }
-  if ((watched == inMoney_ || watched == addMoney_) && txtBh_->text().isEmpty()) {
-    askForCard();
-    (watched == inMoney_ ? inMoney_ : addMoney_)->clear();
-    return true;
-  }
-  // An Enter held down is one press: held, it would confirm everything by itself.
-  return key == vk::kEnter && (event.isAutoRepeat() || enter(watched));
-}
-
-bool cardStored::enter(const QObject* watched) {
-  if (watched == txtBh_) {
-    findCard();
-  } else if (watched == inMoney_) {
-    focusWhole(addMoney_);
-  } else if (watched == addMoney_) {
-    if (const auto after = balanceAfter()) afterMoney_->setText(shown(generalNumber(*after)));
-  } else if (watched == txtbz_) {
-    cmdOk2_->setFocus();
-  } else if (watched == cmdOk2_ || watched == cmdCancel_) {
-    (watched == cmdOk2_ ? cmdOk2_ : cmdCancel_)->click();
-  } else {
-    return false;
-  }
+  askForCard();
+  (watched == inMoney_ ? inMoney_ : addMoney_)->clear();
   return true;
 }
 

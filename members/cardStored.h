@@ -6,39 +6,26 @@
 
 #include "base/Currency.h"
 #include "members/TopUp.h"
+#include "shell/KeyDrivenDialog.h"
 
 class posMod;
-class QKeyEvent;
-class QLabel;
 class QLayout;
-class QLineEdit;
-class QPushButton;
 
 /// Loads money onto a member's stored-value card and prints a slip: the card, what the customer
 /// pays, what the card is credited with.
-class cardStored : public QDialog {
+class cardStored : public KeyDrivenDialog {
   Q_OBJECT
 
  public:
   explicit cardStored(posMod& pos, QWidget* parent = nullptr);
 
- protected:
-  bool eventFilter(QObject* watched, QEvent* event) override;
-  void keyPressEvent(QKeyEvent* event) override;
-  void showEvent(QShowEvent* event) override;
-
  private:
-  QLabel* label(const char* name, const QString& text);
-  QLineEdit* field(const char* name);
   QLineEdit* figure(const char* name);
-  QPushButton* button(const char* name, const QString& text);
   void arrange();
   QLayout* fields();
-  QLayout* buttons();
+  void setUpEnter();
 
-  /// True when the key was used up.
-  bool handleKey(const QObject* watched, const QKeyEvent& event);
-  bool enter(const QObject* watched);
+  bool handleKey(const QObject* watched, const QKeyEvent& event) override;
   void askForCard();
   void findCard();
   std::optional<Currency> balanceAfter() const;

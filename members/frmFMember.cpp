@@ -4,18 +4,17 @@
 #include <QDateEdit>
 #include <QGridLayout>
 #include <QHBoxLayout>
-#include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QVBoxLayout>
+#include <utility>
 
 #include "app/posMod.h"
 #include "base/Failure.h"
 #include "base/NumberText.h"
 #include "base/Text.h"
-#include "platform/VirtualKey.h"
 #include "saleslib/CardNumber.h"
 #include "saleslib/ClsMember.h"
 #include "shell/Modal.h"
@@ -37,25 +36,25 @@ double factor(Currency rate) {
 }  // namespace
 
 frmFMember::frmFMember(posMod& pos, QWidget* parent)
-    : QDialog(parent),
+    : KeyDrivenDialog(pos.gKeyBoard, EnterKey::kPlain, parent),
       pos_(pos),
-      txtBh_(made("txtBh", new QLineEdit(this))),
+      txtBh_(field("txtBh")),
       Label10_(label("Label10", tr("会员编号输完请按回车"))),
-      txtName_(made("txtName", new QLineEdit(this))),
-      txtOld_(made("txtOld", new QLineEdit(this))),
+      txtName_(field("txtName")),
+      txtOld_(field("txtOld")),
       OptBoy_(made("OptBoy", new QRadioButton(tr("男"), this))),
       OptGirl_(made("OptGirl", new QRadioButton(tr("女"), this))),
-      txtAddress_(made("txtAddress", new QLineEdit(this))),
-      txtPostcode_(made("txtPostcode", new QLineEdit(this))),
-      txtPhone_(made("txtPhone", new QLineEdit(this))),
-      txtOther_(made("txtOther", new QLineEdit(this))),
+      txtAddress_(field("txtAddress")),
+      txtPostcode_(field("txtPostcode")),
+      txtPhone_(field("txtPhone")),
+      txtOther_(field("txtOther")),
       zklb2_(made("zklb2", new QComboBox(this))),
       DTPicker1_(made("DTPicker1", new QDateEdit(this))),
       card_(made("card", new QLineEdit("0", this))),
-      password_(made("password", new QLineEdit(this))),
+      password_(field("password")),
       lblStatus_(label("lblStatus", {})),
-      cmdOk_(made("cmdOk", new QPushButton(tr("确定"), this))),
-      cmdCancel_(made("cmdCancel", new QPushButton(tr("取消"), this))) {
+      cmdOk_(button("cmdOk", tr("确定"))),
+      cmdCancel_(button("cmdCancel", tr("取消"))) {
   setObjectName("frmFMember");
   setWindowTitle(tr("会员资料"));
   setUpControls();
@@ -68,21 +67,6 @@ frmFMember::frmFMember(posMod& pos, QWidget* parent)
 
 void frmFMember::init() {
   exec();
-}
-
-// Made in the order of the Tab key. The filter sees a key before the control does: a mapped key may
-// well be a letter or a figure.
-template <class Control>
-Control* frmFMember::made(const char* name, Control* control) {
-  control->setObjectName(name);
-  control->installEventFilter(this);
-  return control;
-}
-
-QLabel* frmFMember::label(const char* name, const QString& text) {
-  auto* made = new QLabel(text, this);
-  made->setObjectName(name);
-  return made;
 }
 
 void frmFMember::setUpControls() {
@@ -99,8 +83,6 @@ void frmFMember::setUpControls() {
   lblStatus_->setTextFormat(Qt::PlainText);
   lblStatus_->hide();
   OptBoy_->setChecked(true);
-  // Enter belongs to the fields.
-  for (QPushButton* button : {cmdOk_, cmdCancel_}) button->setAutoDefault(false);
 }
 
 void frmFMember::arrange() {
@@ -110,7 +92,7 @@ void frmFMember::arrange() {
   all->addWidget(label("Label1", tr("会 员 资 料")), 0, Qt::AlignHCenter);
   all->addLayout(fields());
   all->addWidget(lblStatus_);
-  all->addLayout(buttons());
+  all->addLayout(buttonRow({cmdOk_, cmdCancel_}));
 }
 
 QLayout* frmFMember::fields() {
@@ -146,67 +128,14 @@ QLayout* frmFMember::fields() {
   return grid;
 }
 
-QLayout* frmFMember::buttons() {
-  auto* row = new QHBoxLayout;
-  row->setSpacing(16);
-  row->addStretch();
-  row->addWidget(cmdOk_);
-  row->addWidget(cmdCancel_);
-  return row;
-}
-
 void frmFMember::chainControls() {
-  enterChain_ = {{txtName_, txtOld_},     {txtOld_, OptBoy_},          {OptBoy_, txtAddress_},
-                 {OptGirl_, txtAddress_}, {txtAddress_, txtPostcode_}, {txtPostcode_, txtPhone_},
-                 {txtPhone_, txtOther_},  {txtOther_, cmdOk_},         {zklb2_, DTPicker1_},
-                 {DTPicker1_, card_},     {card_, password_},          {password_, cmdOk_}};
-}
-
-void frmFMember::showEvent(QShowEvent* event) {
-  QDialog::showEvent(event);
-  centreOnScreen(*this);
-  txtBh_->setFocus();
-}
-
-bool frmFMember::eventFilter(QObject* watched, QEvent* event) {
-  if (event->type() == QEvent::KeyPress && handleKey(watched, *static_cast<QKeyEvent*>(event))) {
-    return true;
-  }
-  return QDialog::eventFilter(watched, event);
-}
-
-// Only the keys named act; the dialog's own handling would close it on the plain Esc.
-void frmFMember::keyPressEvent(QKeyEvent* event) {
-  handleKey(this, *event);
-}
-
-bool frmFMember::handleKey(QObject* watched, const QKeyEvent& event) {
-  const int key = virtualKey(event);
-  if (key == 0) return false;
-  if (key == pos_.gKeyBoard.mEsc) {
-    reject();
-    return true;
-  }
-  // An Enter held down is one press: held, it would run through the form and store it.
-  return key == vk::kEnter && (event.isAutoRepeat() || enter(watched));
-}
-
-bool frmFMember::enter(QObject* watched) {
-  if (watched == txtBh_) {
-    numberEntered();
-    return true;
-  }
-  if (watched == cmdOk_ || watched == cmdCancel_) {
-    (watched == cmdOk_ ? cmdOk_ : cmdCancel_)->click();
-    return true;
-  }
-  for (const auto& [from, to] : enterChain_) {
-    if (watched != from) continue;
-    to->setFocus();
-    if (auto* edit = qobject_cast<QLineEdit*>(to)) edit->selectAll();
-    return true;
-  }
-  return false;
+  onEnter(txtBh_, [this] { numberEntered(); });
+  const std::pair<QWidget*, QWidget*> steps[] = {
+      {txtName_, txtOld_},     {txtOld_, OptBoy_},          {OptBoy_, txtAddress_},
+      {OptGirl_, txtAddress_}, {txtAddress_, txtPostcode_}, {txtPostcode_, txtPhone_},
+      {txtPhone_, txtOther_},  {txtOther_, cmdOk_},         {zklb2_, DTPicker1_},
+      {DTPicker1_, card_},     {card_, password_},          {password_, cmdOk_}};
+  for (const auto& [from, to] : steps) enterLeads(from, to);
 }
 
 void frmFMember::enableEntry(bool enabled) {
@@ -314,8 +243,7 @@ void frmFMember::store() {
 /// figure, which then has the focus.
 QString frmFMember::readFigures() {
   const auto wrong = [](QLineEdit* edit, const QString& text) {
-    edit->setFocus();
-    edit->selectAll();
+    focusWhole(edit);
     return text.arg(edit->text());
   };
   const auto age = parseWhole16(textOf(txtOld_));

@@ -3,23 +3,19 @@
 #include <QDialog>
 #include <memory>
 #include <optional>
-#include <utility>
-#include <vector>
+
+#include "shell/KeyDrivenDialog.h"
 
 class ClsMember;
 class posMod;
 class QComboBox;
 class QDateEdit;
-class QKeyEvent;
-class QLabel;
 class QLayout;
-class QLineEdit;
-class QPushButton;
 class QRadioButton;
 
 /// The quick member dialog at the till: a card number that is new opens an entry form for a new
 /// member; one that exists shows that member, read-only.
-class frmFMember : public QDialog {
+class frmFMember : public KeyDrivenDialog {
   Q_OBJECT
 
  public:
@@ -27,24 +23,12 @@ class frmFMember : public QDialog {
   /// Shows the dialog modally.
   void init();
 
- protected:
-  bool eventFilter(QObject* watched, QEvent* event) override;
-  void keyPressEvent(QKeyEvent* event) override;
-  void showEvent(QShowEvent* event) override;
-
  private:
-  template <class Control>
-  Control* made(const char* name, Control* control);
-  QLabel* label(const char* name, const QString& text);
   void setUpControls();
   void arrange();
   QLayout* fields();
-  QLayout* buttons();
   void chainControls();
 
-  /// True when the key was used up.
-  bool handleKey(QObject* watched, const QKeyEvent& event);
-  bool enter(QObject* watched);
   void enableEntry(bool enabled);
   void numberEntered();
   void startMember();
@@ -74,5 +58,4 @@ class frmFMember : public QDialog {
   QLabel* lblStatus_;
   QPushButton* cmdOk_;
   QPushButton* cmdCancel_;
-  std::vector<std::pair<QWidget*, QWidget*>> enterChain_;  ///< Enter in the first: to the second
 };

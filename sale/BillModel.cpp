@@ -1,8 +1,7 @@
 #include "sale/BillModel.h"
 
+#include <algorithm>
 #include <array>
-
-#include "checkout/SaleState.h"
 
 namespace {
 
@@ -34,37 +33,48 @@ QVariant alignment(const Column& column) {
 }  // namespace
 
 BillModel::BillModel(const SaleState& state, QObject* parent)
-    : QAbstractTableModel(parent), state_(state), shownRows_(static_cast<int>(state.rows.size())) {}
+    : QAbstractTableModel(parent), state_(state), shown_(state.rows) {}
 
 void BillModel::rowsChanged() {
+  const std::size_t common = std::min(shown_.size(), state_.rows.size());
+  for (std::size_t row = 0; row < common; ++row) showChanges(row);
+  const int before = rowCount();
   const int rows = static_cast<int>(state_.rows.size());
-  if (rows > shownRows_) {
-    beginInsertRows({}, shownRows_, rows - 1);
-    shownRows_ = rows;
+  if (rows > before) {
+    beginInsertRows({}, before, rows - 1);
+    shown_.insert(shown_.end(), state_.rows.begin() + before, state_.rows.end());
     endInsertRows();
-  } else if (rows < shownRows_) {
-    beginRemoveRows({}, rows, shownRows_ - 1);
-    shownRows_ = rows;
+  } else if (rows < before) {
+    beginRemoveRows({}, rows, before - 1);
+    shown_.resize(state_.rows.size());
     endRemoveRows();
   }
-  // Only cells that show are painted again, however many are said to have changed.
-  if (rows > 0) emit dataChanged(index(0, 0), index(rows - 1, BillRow::kColumns - 1));
+}
+
+// Cell by cell: a range of cells makes the view and its heading paint themselves whole.
+void BillModel::showChanges(std::size_t row) {
+  for (std::size_t column = 0; column < BillRow::kColumns; ++column) {
+    const std::string& present = state_.rows[row].cells[column];
+    if (shown_[row].cells[column] == present) continue;
+    shown_[row].cells[column] = present;
+    const QModelIndex changed = index(static_cast<int>(row), static_cast<int>(column));
+    emit dataChanged(changed, changed);
+  }
 }
 
 int BillModel::rowCount(const QModelIndex& parent) const {
-  return parent.isValid() ? 0 : shownRows_;
+  return parent.isValid() ? 0 : static_cast<int>(shown_.size());
 }
 
 int BillModel::columnCount(const QModelIndex& parent) const {
   return parent.isValid() ? 0 : BillRow::kColumns;
 }
 
-// A row may be gone from the state a moment before the view is told.
 QVariant BillModel::data(const QModelIndex& index, int role) const {
-  if (!index.isValid() || index.row() >= static_cast<int>(state_.rows.size())) return {};
+  if (!index.isValid()) return {};
   const auto column = static_cast<std::size_t>(index.column());
   if (role == Qt::DisplayRole) {
-    return QString::fromStdString(state_.rows[static_cast<std::size_t>(index.row())].cells[column]);
+    return QString::fromStdString(shown_[static_cast<std::size_t>(index.row())].cells[column]);
   }
   if (role == Qt::TextAlignmentRole) return alignment(kColumns[column]);
   return {};

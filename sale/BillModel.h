@@ -1,17 +1,17 @@
 #pragma once
 
 #include <QAbstractTableModel>
+#include <vector>
 
-struct SaleState;
+#include "checkout/SaleState.h"
 
-/// The bill's rows for the list view; draws the state, holds nothing of it.
+/// The bill's rows for the list view, as they were when it was last told of a change.
 class BillModel : public QAbstractTableModel {
   Q_OBJECT
 
  public:
   explicit BillModel(const SaleState& state, QObject* parent = nullptr);
-  /// The state's rows or its selection changed: the view draws them again. What it costs does not
-  /// grow with the bill.
+  /// The state's rows may have changed: the view is told which did.
   void rowsChanged();
 
   int rowCount(const QModelIndex& parent = {}) const override;
@@ -23,6 +23,8 @@ class BillModel : public QAbstractTableModel {
   static constexpr int kTagRole = Qt::UserRole;
 
  private:
+  void showChanges(std::size_t row);
+
   const SaleState& state_;
-  int shownRows_ = 0;
+  std::vector<BillRow> shown_;
 };

@@ -10,6 +10,7 @@
 #include "checkout/SaleState.h"
 #include "sale/Pricing.h"
 #include "store/Literal.h"
+#include "store/Snapshot.h"
 
 namespace {
 
@@ -63,24 +64,26 @@ bool ItemLookup::lookUp(const std::string& statement, const Caption& caption, co
   try {
     const Recordset found = pos_.gConn->Open(statement);
     if (found.count() == 0) return false;
-    std::size_t position = 0;
-    if (found.count() > 1) {
-      QStringList entries;
-      entries.reserve(static_cast<qsizetype>(found.count()));
-      for (std::size_t i = 0; i < found.count(); ++i) entries << caption(found.row(i));
-      const int chosen = screen_.choose(entries);
-      if (chosen < 0) return false;
-      position = static_cast<std::size_t>(chosen);
-    }
+    const int chosen = found.count() == 1 ? 0 : screen_.choose(captions(found, caption));
+    if (chosen < 0) return false;
     auto line = std::make_shared<ClsSellItem>();
     line->Init(*pos_.gConn, state_.curBill->BillNo(), 0, pos_.clock);
-    fill(*line, found.row(position));
+    fill(*line, found.row(static_cast<std::size_t>(chosen)));
     state_.curLine = std::move(line);
     return true;
   } catch (const Failure& failure) {
     screen_.messageBox(QString::fromStdString(failure.what()));
     return false;
   }
+}
+
+// Ten thousand captions look up ten thousand stocks.
+QStringList ItemLookup::captions(const Recordset& found, const Caption& caption) {
+  const Snapshot reading(*pos_.gConn);
+  QStringList entries;
+  entries.reserve(static_cast<qsizetype>(found.count()));
+  for (std::size_t i = 0; i < found.count(); ++i) entries << caption(found.row(i));
+  return entries;
 }
 
 void ItemLookup::fillFromBarcodeRow(ClsSellItem& line, const Row& row, const std::string& code) {

@@ -2,6 +2,7 @@
 
 #include <QCoreApplication>
 #include <QString>
+#include <QStringList>
 #include <functional>
 #include <string>
 
@@ -10,6 +11,7 @@
 
 class ClsSellItem;
 class posMod;
+class Recordset;
 class Row;
 class SaleScreen;
 struct Price;
@@ -35,6 +37,7 @@ class ItemLookup {
   using Caption = std::function<QString(const Row& row)>;
   using Filler = std::function<void(ClsSellItem& line, const Row& row)>;
   bool lookUp(const std::string& statement, const Caption& caption, const Filler& fill);
+  QStringList captions(const Recordset& found, const Caption& caption);
   bool lookUpBarcodeTable(const std::string& statement, const std::string& code);
   void fillFromBarcodeRow(ClsSellItem& line, const Row& row, const std::string& code);
   void fillFromMasterRow(ClsSellItem& line, const Row& row);

@@ -33,7 +33,10 @@ QString colours(const ClsPosSet& settings) {
              "#frmSell > #title { color: %5; }"
              "#frmSell > #title1, #frmSell > #title2, #frmSell > #title3 { color: %6; }"
              "#ViewF { color: %7; }"
-             "#lv { selection-background-color: #ffe08a; selection-color: black; }")
+             "#lv { selection-background-color: #ffe08a; selection-color: black; }"
+             "#lv QScrollBar { background: #eef2f6; width: 14px; }"
+             "#lv QScrollBar::handle { background: #8a98a6; min-height: 30px; }"
+             "#lv QScrollBar::add-line, #lv QScrollBar::sub-line { height: 0; }")
       .arg(css(settings.C1), css(settings.C2), textCss(settings.C3, settings.C2),
            textCss(settings.C4, settings.C2), textCss(settings.C5, settings.C1),
            textCss(settings.C6, settings.C1), legibleOn(settingColour(settings.C1)).name());
@@ -46,8 +49,7 @@ QString sizes(int type) {
              "#title1, #title2, #title3, #lv, #lv QHeaderView, #t { font-size: %1px; }"
              "#ViewF { font-size: %1px; }"
              "#lblViewMember { font-size: %4px; }"
-             "#t { padding: 0 %3px; }"
-             "#lv::item { border: 0; padding: 0 %3px; }"
+             "#t { padding: 0 %3px; border-radius: 0; }"
              "#lv QHeaderView::section { padding: 0 %3px; }")
       .arg(type)
       .arg(type * 2)

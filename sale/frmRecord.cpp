@@ -1,19 +1,16 @@
 #include "sale/frmRecord.h"
 
 #include <QFrame>
+#include <QHBoxLayout>
 #include <QHeaderView>
-#include <QKeyEvent>
 #include <QLabel>
 #include <QPushButton>
 #include <QTableView>
 #include <QVBoxLayout>
 
-#include "app/KeyBoard.h"
 #include "base/NumberText.h"
-#include "platform/VirtualKey.h"
 #include "sale/ListModel.h"
 #include "saleslib/ClsSell.h"
-#include "shell/Modal.h"
 
 namespace {
 
@@ -58,8 +55,7 @@ QString lineCell(const ClsSellItem& line, int column) {
 
 // The controls are made in the order of the Tab key.
 frmRecord::frmRecord(const KeyBoard& keys, QWidget* parent)
-    : QDialog(parent),
-      keys_(keys),
+    : KeyDrivenDialog(keys, EnterKey::kMapped, parent),
       bills_(new ListModel({tr("单号"), tr("金额"), tr("时间")}, kAmount, this)),
       lines_(new ListModel(
           {tr("编号"), tr("品名"), tr("单位"), tr("单价"), tr("数量"), tr("折扣"), tr("金额")},
@@ -68,30 +64,27 @@ frmRecord::frmRecord(const KeyBoard& keys, QWidget* parent)
       listProducts_(list("listProducts", lines_)) {
   setObjectName("frmRecord");
   setWindowTitle(tr("调入挂单"));
-  auto* cmdExit = new QPushButton(tr("退出(&X)"), this);
-  cmdExit->setObjectName("cmdExit");
-  cmdExit->installEventFilter(this);
+  QPushButton* cmdExit = button("cmdExit", tr("退出(&X)"));
   connect(cmdExit, &QPushButton::clicked, this, &QDialog::reject);
   connect(listSell_, &QTableView::doubleClicked, this, &frmRecord::chooseSelected);
   connect(listSell_->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
           &frmRecord::viewSelectpro);
+  onEnter(listSell_, [this] { chooseSelected(); });
+  onEnter(listProducts_, [] {});  // its rows are only read
   setUpColumns();
 
-  auto* title = new QLabel(tr("调入挂单"), this);
-  title->setObjectName("Label3");
   auto* all = new QVBoxLayout(this);
   all->setContentsMargins(24, 16, 24, 16);
   all->setSpacing(12);
-  all->addWidget(title, 0, Qt::AlignHCenter);
+  all->addWidget(label("Label3", tr("调入挂单")), 0, Qt::AlignHCenter);
   all->addWidget(frame("Frame1", "Label1", tr("挂起的单子：(回车键选择载入)"), listSell_), 2);
   all->addWidget(frame("Frame2", "Label2", tr("所选单子商品(Tab键切换过来)："), listProducts_), 3);
-  all->addWidget(cmdExit, 0, Qt::AlignRight);
+  all->addLayout(buttonRow({cmdExit}));
   resize(900, 680);
 }
 
 QTableView* frmRecord::list(const char* name, ListModel* model) {
-  auto* made = new QTableView(this);
-  made->setObjectName(name);
+  auto* made = KeyDrivenDialog::made(name, new QTableView(this));
   made->setModel(model);
   made->setSelectionBehavior(QAbstractItemView::SelectRows);
   made->setSelectionMode(QAbstractItemView::SingleSelection);
@@ -103,18 +96,15 @@ QTableView* frmRecord::list(const char* name, ListModel* model) {
   made->verticalHeader()->hide();
   made->horizontalHeader()->setHighlightSections(false);
   made->horizontalHeader()->setSectionsClickable(false);
-  made->installEventFilter(this);
   return made;
 }
 
-QFrame* frmRecord::frame(const char* name, const char* label, const QString& caption,
+QFrame* frmRecord::frame(const char* name, const char* heading, const QString& caption,
                          QTableView* content) {
   auto* made = new QFrame(this);
   made->setObjectName(name);
-  auto* heading = new QLabel(caption, made);
-  heading->setObjectName(label);
   auto* inside = new QVBoxLayout(made);
-  inside->addWidget(heading);
+  inside->addWidget(label(heading, caption));
   inside->addWidget(content);
   return made;
 }
@@ -150,41 +140,6 @@ void frmRecord::viewSelectpro() {
   lines_->show(static_cast<int>(bill.Items().size()), [&bill](int line, int column) {
     return lineCell(*bill.Items()[static_cast<std::size_t>(line)], column);
   });
-}
-
-void frmRecord::showEvent(QShowEvent* event) {
-  QDialog::showEvent(event);
-  centreOnScreen(*this);
-  listSell_->setFocus();
-}
-
-bool frmRecord::eventFilter(QObject* watched, QEvent* event) {
-  if (event->type() == QEvent::KeyPress && handleKey(watched, *static_cast<QKeyEvent*>(event))) {
-    return true;
-  }
-  return QDialog::eventFilter(watched, event);
-}
-
-// Only mapped keys leave the form; its own handling would close it on the plain Enter and Esc.
-void frmRecord::keyPressEvent(QKeyEvent* event) {
-  handleKey(nullptr, *event);
-}
-
-bool frmRecord::handleKey(const QObject* watched, const QKeyEvent& event) {
-  const int key = virtualKey(event);
-  if (key == 0) return false;
-  if (key == keys_.mEsc) {
-    reject();
-    return true;
-  }
-  if (key != keys_.mEnter || watched == nullptr) return false;
-  if (event.isAutoRepeat()) return true;
-  if (watched == listSell_) {
-    chooseSelected();
-  } else if (watched != listProducts_) {
-    reject();
-  }
-  return true;
 }
 
 void frmRecord::chooseSelected() {

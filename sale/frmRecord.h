@@ -6,16 +6,16 @@
 #include <vector>
 
 #include "base/DateTime.h"
+#include "shell/KeyDrivenDialog.h"
 
 class ClsSell;
-class KeyBoard;
 class ListModel;
 class QFrame;
 class QTableView;
 
 /// The bills put aside, and the goods of the selected one: the cashier picks the bill to go on
 /// with.
-class frmRecord : public QDialog {
+class frmRecord : public KeyDrivenDialog {
   Q_OBJECT
 
  public:
@@ -27,21 +27,12 @@ class frmRecord : public QDialog {
   /// Fills listProducts with the lines of the bill selected in listSell.
   void viewSelectpro();
 
- protected:
-  bool eventFilter(QObject* watched, QEvent* event) override;
-  void keyPressEvent(QKeyEvent* event) override;
-  void showEvent(QShowEvent* event) override;
-
  private:
   QTableView* list(const char* name, ListModel* model);
-  QFrame* frame(const char* name, const char* label, const QString& caption, QTableView* content);
+  QFrame* frame(const char* name, const char* heading, const QString& caption, QTableView* content);
   void setUpColumns();
-
-  /// True when the key was used up.
-  bool handleKey(const QObject* watched, const QKeyEvent& event);
   void chooseSelected();
 
-  const KeyBoard& keys_;
   ListModel* bills_;
   ListModel* lines_;
   QTableView* listSell_;

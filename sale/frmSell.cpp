@@ -12,7 +12,6 @@
 #include <QScopeGuard>
 #include <QScopedValueRollback>
 #include <QScrollBar>
-#include <QTableView>
 #include <array>
 
 #include "app/posMod.h"
@@ -20,6 +19,7 @@
 #include "platform/Twips.h"
 #include "platform/VirtualKey.h"
 #include "sale/BillModel.h"
+#include "sale/BillView.h"
 #include "sale/FittedLabel.h"
 #include "sale/KeyHelp.h"
 #include "sale/SellStyle.h"
@@ -61,7 +61,7 @@ frmSell::frmSell(posMod& pos, SaleSession::Openers openers, std::function<void()
       title1_(named<FittedLabel>("title1", this)),
       title2_(named<QLabel>("title2", this)),
       title3_(named<FittedLabel>("title3", this)),
-      lv_(named<QTableView>("lv", this)),
+      lv_(named<BillView>("lv", this)),
       t_(named<QLineEdit>("t", this)),
       txtmoney_(named<FittedLabel>("txtmoney", this)),
       lblViewMember_(named<QLabel>("lblViewMember", this)),
@@ -111,9 +111,6 @@ void frmSell::makeList() {
   lv_->setSelectionMode(QAbstractItemView::SingleSelection);
   lv_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   lv_->setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
-  lv_->setAlternatingRowColors(true);
-  lv_->setShowGrid(false);
-  lv_->setWordWrap(false);
   lv_->setCornerButtonEnabled(false);
   lv_->verticalHeader()->hide();
   lv_->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
@@ -342,6 +339,8 @@ void frmSell::endProgram() {
 void frmSell::applyStyle() {
   const int type = sellTypeSize(width());
   setStyleSheet(sellStyleSheet(pos_.gPosSet, type));
+  t_->ensurePolished();
+  t_->setAttribute(Qt::WA_OpaquePaintEvent);  // else each typed key paints the list beneath it
   title1_->setLargest(type);
   title3_->setLargest(type);
   txtmoney_->setLargest(type * 5 / 2);

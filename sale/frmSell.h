@@ -9,13 +9,13 @@
 #include "sale/SaleSession.h"
 
 class BillModel;
+class BillView;
 class FittedLabel;
 class KeyHelp;
 class QEventLoop;
 class QFrame;
 class QLabel;
 class QLineEdit;
-class QTableView;
 class frmEndSell;
 class frmInput;
 class frmMenu;
@@ -88,7 +88,7 @@ class frmSell : public QWidget, private SaleScreen {
   FittedLabel* title1_;
   QLabel* title2_;
   FittedLabel* title3_;
-  QTableView* lv_;
+  BillView* lv_;
   QLineEdit* t_;
   FittedLabel* txtmoney_;
   QLabel* lblViewMember_;

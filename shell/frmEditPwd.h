@@ -1,29 +1,18 @@
 #pragma once
 
-#include <QDialog>
+#include "shell/KeyDrivenDialog.h"
 
 class posMod;
-class QKeyEvent;
-class QLineEdit;
 
 /// An operator changes his own password: his number, the old password, the new one. Needs nobody
 /// logged in; after a change nobody is.
-class frmEditPwd : public QDialog {
+class frmEditPwd : public KeyDrivenDialog {
   Q_OBJECT
 
  public:
   explicit frmEditPwd(posMod& pos, QWidget* parent = nullptr);
 
- protected:
-  bool eventFilter(QObject* watched, QEvent* event) override;
-  void keyPressEvent(QKeyEvent* event) override;
-  void showEvent(QShowEvent* event) override;
-
  private:
-  QLineEdit* field(const QString& name);
-  /// True when the key did something.
-  bool handleKey(const QKeyEvent& event);
-  bool enter();
   void change();
 
   posMod& pos_;

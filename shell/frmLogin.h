@@ -1,12 +1,11 @@
 #pragma once
 
-#include <QDialog>
+#include "shell/KeyDrivenDialog.h"
 
 class posMod;
-class QLineEdit;
 
 /// Who is at the till: operator number and password.
-class frmLogin : public QDialog {
+class frmLogin : public KeyDrivenDialog {
   Q_OBJECT
 
  public:
@@ -19,14 +18,9 @@ class frmLogin : public QDialog {
   /// right to sell was found.
   int goLogin();
 
- protected:
-  bool eventFilter(QObject* watched, QEvent* event) override;
-  void keyPressEvent(QKeyEvent* event) override;
-
  private:
-  bool handleKey(const QKeyEvent& event);
   void check();
-  void cancel();
+  void cancel() override;
 
   posMod& pos_;
   int result_ = kAccepted;

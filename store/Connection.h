@@ -68,11 +68,12 @@ class Connection {
   /// Copies unfinished log pages into the data file, as far as no reader is in the way, without
   /// waiting for anybody.
   void checkpoint();
-  /// From now on `asked` is called every few milliseconds while a statement runs, in its thread; when
-  /// it says yes, the statement ends by a StoreError. It must not use the connection.
+  /// From now on `asked` is called every few milliseconds while a statement runs, in its thread;
+  /// when it says yes, the statement ends by a StoreError. It must not use the connection.
   void stopWhen(std::function<bool()> asked);
 
  private:
+  friend class Snapshot;
   friend class Transaction;
   friend void copyDataFile(Connection& connection, const std::filesystem::path& target);
   friend void backUpDataFile(Connection& connection, const std::filesystem::path& target);

@@ -4,11 +4,14 @@
 
 #include <QApplication>
 #include <QElapsedTimer>
+#include <QLabel>
 #include <QTest>
 #include <QTimer>
 #include <deque>
 #include <functional>
+#include <string>
 #include <utility>
+#include <vector>
 
 /// The hands of someone at the till: what they do, in order, each step as soon as the window of
 /// that name is the modal one in front. A step that never comes fails the test and closes the
@@ -31,6 +34,14 @@ class Hands : public QObject {
   }
   Hands& type(const char* window, const QString& text) {
     return at(window, [text](QWidget& shown) { QTest::keyClicks(focusIn(shown), text); });
+  }
+  /// Reads the next message box and confirms it.
+  Hands& confirm(std::vector<std::string>& said) {
+    return at("messageBox", [&said](QWidget& box) {
+      QString text = box.findChild<QLabel*>("qt_msgbox_label")->text();
+      said.push_back(text.remove(QChar(0x200B)).toStdString());
+      pressNow(Qt::Key_Return);
+    });
   }
   bool idle() const { return steps_.empty(); }
 

@@ -16,7 +16,10 @@ void CsvRow::add(std::string_view field) {
   text_ += '"';
 }
 
+// A row of one empty field would be an empty line, which counts as no row.
 void CsvRow::end() {
+  const bool isEmptyLine = begun_ && (text_.empty() || text_.ends_with('\n'));
+  if (isEmptyLine) text_ += "\"\"";
   text_ += "\r\n";
   begun_ = false;
 }

@@ -88,8 +88,8 @@ void Importer::prepareStatements() {
   }
   if (updated_.empty()) updated_ = keys;
   const std::string name = table_.name;
-  updateText_ = "update or fail " + name + " set " + assignments(table_, updated_, ", ") + " where " +
-                assignments(table_, keys, " and ");
+  updateText_ = "update or fail " + name + " set " + assignments(table_, updated_, ", ") +
+                " where " + assignments(table_, keys, " and ");
   std::string names, marks;
   for (const Column& column : table_.columns) {
     names += (names.empty() ? "" : ", ") + std::string(column.name);

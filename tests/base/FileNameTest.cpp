@@ -23,8 +23,6 @@ TEST(FileName, FindsWhateverTheCase) {
   for (const auto& [written, found] : rows) {
     EXPECT_EQ(findIgnoringCase(root + written), root + found) << written;
   }
-  EXPECT_EQ(findIgnoringCase(""), "");
-  EXPECT_EQ(findIgnoringCase("no-such-file.ini"), "no-such-file.ini");
 }
 
 }  // namespace

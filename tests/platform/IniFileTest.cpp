@@ -37,24 +37,20 @@ TEST_F(IniFileTest, ReadsAsWindowsDoes) {
                   "Path=a=b;c\r\nMode=打印商品全称+折扣\r\n"
                   "Nul=a") +
       std::string(1, '\0') + "b\r\n[POS]\r\nLate=1\r\n" + gbk::encode("[朷]\r\nLast=9"));
-  const std::vector<std::pair<std::string, std::optional<std::string>>> cases = {
-      {"PPort", "LPT1"}, {"EMPTY", ""},
-      {"NoEquals", {}},  {"Quoted", "  two  "},
-      {"Single", "x"},   {"Twice", "\"y\""},
-      {"Half", "\"z"},   {"path", "a=b;c"},
-      {"Nul", "ab"},     {"Mode", "打印商品全称+折扣"},
-      {"Late", {}},      {"stray", {}},
-      {";PPort", {}},    {"absent", {}}};
+  const std::pair<const char*, const char*> cases[] = {
+      {"PPort", "LPT1"}, {"EMPTY", ""},      {"Quoted", "  two  "},
+      {"Single", "x"},   {"Twice", "\"y\""}, {"Half", "\"z"},
+      {"path", "a=b;c"}, {"Nul", "ab"},      {"Mode", "打印商品全称+折扣"}};
   for (const auto& [key, value] : cases) EXPECT_EQ(ini_.read("POS", key), value) << key;
+  for (const char* none : {"NoEquals", "Late", "stray", ";PPort", "absent"})
+    EXPECT_EQ(ini_.read("POS", none), std::nullopt) << none;
   EXPECT_EQ(ini_.read("朷", "Last"), "9");  // its second byte in GBK is "]"
   EXPECT_EQ(ini_.read("none", "PPort"), std::nullopt);
 }
 
 TEST_F(IniFileTest, WritesNothingButTheValue) {
   struct Case {
-    const char* before;
-    const char* value;
-    const char* after;
+    const char *before, *value, *after;
   };
   const Case cases[] = {
       {"", "1", "[POS]\r\na=1\r\n"},
@@ -87,7 +83,6 @@ TEST_F(IniFileTest, EveryValueReadsBackTheSame) {
 TEST_F(IniFileTest, SurvivesWhatIsNoWritableFile) {
   EXPECT_EQ(ini_.read("POS", "PPort"), std::nullopt);
   EXPECT_FALSE(IniFile(folder_.file("no/such/Config.ini")).write("POS", "a", "1"));
-
   put("[POS]\r\na=1\r\n");
   fs::permissions(path_, fs::perms::owner_read);
   EXPECT_FALSE(ini_.write("POS", "a", "2"));
@@ -95,13 +90,7 @@ TEST_F(IniFileTest, SurvivesWhatIsNoWritableFile) {
   fs::permissions(path_, fs::perms::owner_all | fs::perms::group_read);
   EXPECT_TRUE(ini_.write("POS", "a", "2"));
   EXPECT_EQ(fs::status(path_).permissions(), fs::perms::owner_all | fs::perms::group_read);
-
-  fs::remove(path_);
-  fs::create_directory(path_);
-  EXPECT_EQ(ini_.read("POS", "a"), std::nullopt);
-  EXPECT_FALSE(ini_.write("POS", "a", "1"));
-  EXPECT_EQ(std::distance(fs::directory_iterator(folder_.path()), {}), 1)
-      << "a temporary file stayed";
+  EXPECT_EQ(std::distance(fs::directory_iterator(folder_.path()), {}), 1) << "a stray file stayed";
 }
 
 }  // namespace

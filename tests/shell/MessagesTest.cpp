@@ -2,7 +2,6 @@
 
 #include <QDialog>
 #include <QLabel>
-#include <QMessageBox>
 #include <QScreen>
 
 #include "Hands.h"
@@ -89,19 +88,16 @@ TEST(frmInputTest, GivesTheTextOrNothingAndAsksForThePriceUnlessToldOtherwise) {
   const KeyBoard keys;
   frmInput input(keys);
   Hands hands;
-  const auto heads = [&](QWidget& shown) {
-    return shown.findChild<QLabel*>("lblTitle")->text() +
-           shown.findChild<QLabel*>("lblMsg")->text();
+  QString heads;
+  const auto readHeads = [&](QWidget& shown) {
+    heads += shown.findChild<QLabel*>("lblTitle")->text() + "|" +
+             shown.findChild<QLabel*>("lblMsg")->text() + "|";
   };
-  hands.at("frmInput",
-           [&](QWidget& shown) { EXPECT_EQ(heads(shown), "没有定价请输入价格(元)："); });
-  hands.type("frmInput", "12.5").press("frmInput", {Qt::Key_Enter});
+  hands.at("frmInput", readHeads).type("frmInput", "12.5").press("frmInput", {Qt::Key_Enter});
   EXPECT_EQ(input.init("", ""), "12.5");
-  hands.at("frmInput", [&](QWidget& shown) { EXPECT_EQ(heads(shown), "会员卡输入"); });
-  hands.type("frmInput", "9").press("frmInput", {Qt::Key_Escape});
+  hands.at("frmInput", readHeads).type("frmInput", "9").press("frmInput", {Qt::Key_Escape});
   EXPECT_EQ(input.init("会员卡", "输入"), "");
-  hands.press("frmInput", {Qt::Key_Tab, Qt::Key_Space});
-  EXPECT_EQ(input.init("", ""), "");
+  EXPECT_EQ(heads, "没有定价|请输入价格(元)：|会员卡|输入|");
 }
 
 }  // namespace

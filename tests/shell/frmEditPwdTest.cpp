@@ -13,17 +13,10 @@ namespace {
 
 class frmEditPwdTest : public testing::Test {
  protected:
-  void addSecondOperator() {
-    ClsOperator second;
-    second.Init(*till_.pos.gConn, 2);
-    second.setName("李四");
-    second.setPassword("222");
-    second.Save();
-  }
-  bool passwordOf2Is(const char* password) {
+  bool passwordOf3Is(const char* password) {
     ClsLogin login;
     login.Conn(*till_.pos.gConn);
-    return login.Check("2", password);
+    return login.Check("3", password);
   }
   QString field(const char* name) { return dialog_.findChild<QLineEdit*>(name)->text(); }
 
@@ -33,10 +26,9 @@ class frmEditPwdTest : public testing::Test {
 };
 
 TEST_F(frmEditPwdTest, AWrongOldPasswordIsSaidAndTheRightOneChangesItAndLogsEverybodyOff) {
-  addSecondOperator();
   till_.pos.gOperator = std::make_shared<ClsOperator>();
   till_.pos.gOperator->Init(*till_.pos.gConn, 1);
-  hands_.type("frmEditPwd", "2").press("frmEditPwd", {Qt::Key_Return});
+  hands_.type("frmEditPwd", "3").press("frmEditPwd", {Qt::Key_Return});
   hands_.type("frmEditPwd", "x' or ''='").press("frmEditPwd", {Qt::Key_Enter});
   hands_.at("frmEditPwd", [&](QWidget&) {
     dialog_.findChild<QLineEdit*>("txtNewPwd")->setText("新 '\"");
@@ -44,33 +36,32 @@ TEST_F(frmEditPwdTest, AWrongOldPasswordIsSaidAndTheRightOneChangesItAndLogsEver
   });
   hands_.at("frmMsg", [&](QWidget& shown) {
     EXPECT_FALSE(shown.findChild<QLabel*>("Label1")->text().isEmpty());
-    EXPECT_EQ(field("txtNumber") + field("txtPassword") + field("txtNewPwd"), "2x' or ''='新 '\"");
-    EXPECT_TRUE(passwordOf2Is("222"));
+    EXPECT_EQ(field("txtNumber") + field("txtPassword") + field("txtNewPwd"), "3x' or ''='新 '\"");
+    EXPECT_TRUE(passwordOf3Is("333"));
     EXPECT_EQ(till_.pos.gOperator->Id(), 1);
     Hands::pressNow(Qt::Key_Space);
   });
   hands_.at("frmEditPwd", [&](QWidget&) {
-    dialog_.findChild<QLineEdit*>("txtPassword")->setText("222");
+    dialog_.findChild<QLineEdit*>("txtPassword")->setText("333");
     Hands::pressNow(Qt::Key_Return);
   });
   EXPECT_EQ(dialog_.exec(), QDialog::Accepted);
-  EXPECT_TRUE(passwordOf2Is("新 '\""));
+  EXPECT_TRUE(passwordOf3Is("新 '\""));
   EXPECT_FALSE(till_.pos.gOperator);
 }
 
 TEST_F(frmEditPwdTest, AnEmptyNewPasswordCountsAndTheMappedKeysAct) {
-  addSecondOperator();
   till_.pos.gKeyBoard.mEnter = 107;  // the "+" of the numeric pad
   till_.pos.gKeyBoard.mEsc = 'Q';
-  hands_.type("frmEditPwd", "2").press("frmEditPwd", {Qt::Key_Escape, Qt::Key_Q});
+  hands_.type("frmEditPwd", "3").press("frmEditPwd", {Qt::Key_Escape, Qt::Key_Q});
   EXPECT_EQ(dialog_.exec(), QDialog::Rejected);
   const auto plus = [](QWidget& shown) {
     QTest::keyClick(shown.focusWidget(), Qt::Key_Plus, Qt::KeypadModifier);
   };
-  hands_.at("frmEditPwd", plus).type("frmEditPwd", "222").at("frmEditPwd", plus);
+  hands_.at("frmEditPwd", plus).type("frmEditPwd", "333").at("frmEditPwd", plus);
   hands_.at("frmEditPwd", plus);
   EXPECT_EQ(dialog_.exec(), QDialog::Accepted);
-  EXPECT_TRUE(passwordOf2Is(""));
+  EXPECT_TRUE(passwordOf3Is(""));
 }
 
 }  // namespace

@@ -6,6 +6,7 @@
 
 #include "TemporaryFolder.h"
 #include "store/Connection.h"
+#include "store/Snapshot.h"
 #include "store/StoreError.h"
 
 namespace {
@@ -105,6 +106,25 @@ TEST_F(TransactionTest, WhatTheEngineTookBackByItselfIsNotHalfKept) {
     EXPECT_THROW(outer.commit(), StoreError);
   }
   EXPECT_EQ(codes(*connection_), "");
+}
+
+TEST_F(TransactionTest, ASnapshotStaysAsItIsAndHoldsNobodyUp) {
+  Connection other(source_, Connection::Mode::kExisting);
+  put("a");
+  {
+    const Snapshot snapshot(other);
+    EXPECT_EQ(codes(other), "a");
+    put("b");
+    EXPECT_EQ(codes(other), "a");
+  }
+  EXPECT_EQ(codes(other), "ab");
+  Transaction writing(*connection_);
+  {
+    const Snapshot within(*connection_);
+    put("c");
+  }
+  writing.commit();
+  EXPECT_EQ(codes(other), "abc");
 }
 
 }  // namespace

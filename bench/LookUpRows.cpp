@@ -1,0 +1,97 @@
+#include <memory>
+
+#include "bench/BareEngine.h"
+#include "bench/BenchShop.h"
+#include "bench/Goods.h"
+#include "bench/Run.h"
+#include "sale/ItemLookup.h"
+
+namespace {
+
+constexpr const char* kBarcode = "barcode look-up with pricing";
+
+// Walks through the goods without a pattern that a cache could keep.
+int nextItem(int item, ShopSize size) {
+  return static_cast<int>((item + std::int64_t{618'033}) % size.goods);
+}
+
+/// A look-up as the sale screen does it, on an open bill.
+class LookUp {
+ public:
+  explicit LookUp(const std::filesystem::path& folder) : shop_(folder) {}
+
+  bool barcode(const QString& code) { return lookUp_.LookupBarcode(code); }
+  bool specification(const QString& piece) { return lookUp_.LookupSpec(piece); }
+  bool itemNumber(const QString& piece) { return lookUp_.LookupItemNo(piece); }
+
+ private:
+  BenchShop shop_;
+  ItemLookup lookUp_{shop_.pos(), shop_.state(), shop_};
+};
+
+void require(bool found) {
+  if (!found) throw std::runtime_error("a look-up found nothing");
+}
+
+void claimGrowth(const Run& run, Measured& row) {
+  const Measured* small = run.table.find(row.what, kShopSizes.front().goods);
+  if (small == nullptr || small->size == row.size) return;
+  const double till = row.till.median() / small->till.median();
+  const double bare = row.bare.median() / small->bare.median();
+  row.claims.push_back({"growth against the bare one's", till / bare, 1.5});
+}
+
+/// The row of a scanned code, its price, and the line it becomes; against reading the same row from
+/// a file of its own.
+void barcode(Run& run, ShopSize size, benchmark::State& state, Measured& row) {
+  const auto& folder = run.shops.copy(size);
+  LookUp lookUp(folder);
+  BareEngine engine(folder / "bare.mdb");
+  BareEngine::Statement select(engine, "select * from tmda where sptm = ?");
+  int item = 0;
+  const auto one = [&](Samples& till, Samples& bare) {
+    item = nextItem(item, size);
+    const std::string code = goods::barcode(item);
+    const QString typed = QString::fromStdString(code);
+    bare.time([&] { require(select.bind(1, code).readAll() == 1); });
+    return till.time([&] { require(lookUp.barcode(typed)); });
+  };
+  Samples first, firstBare;  // the upper pages of the indexes come into the caches
+  for (int n = 0; n < 1000; ++n) one(first, firstBare);
+  for (auto _ : state) state.SetIterationTime(one(row.till, row.bare));
+  row.claims.push_back({"ratio", row.ratio(), 2});
+  claimGrowth(run, row);
+}
+
+using Find = bool (LookUp::*)(const QString&);
+
+/// Two to five characters in turn, a different piece each time.
+void fragment(Run& run, Find find, benchmark::State& state, Measured& row) {
+  LookUp lookUp(run.shops.copy(run.largest()));
+  int n = 0;
+  for (auto _ : state) {
+    const int item = goods::itemWithRareWord(n * 7 % (run.largest().goods / 100));
+    const QString piece = QString::fromStdString(goods::fragment(item, 2 + n % 4));
+    state.SetIterationTime(row.till.time([&] { require((lookUp.*find)(piece)); }));
+    ++n;
+  }
+  row.claims = {{"median ms", row.till.median() / 1e3, 1},
+                {"p99 ms", row.till.percentile99() / 1e3, 5}};
+}
+
+}  // namespace
+
+void addLookUpRows(Run& run) {
+  for (const ShopSize size : run.sizes()) {
+    addRow(
+        run, kBarcode, size.goods, run.samples(20'000, 2'000),
+        [&run, size](benchmark::State& state, Measured& row) { barcode(run, size, state, row); });
+  }
+  const auto addFragment = [&run](const char* what, Find find) {
+    addRow(
+        run, what, run.largest().goods, run.samples(2'000, 200),
+        [&run, find](benchmark::State& state, Measured& row) { fragment(run, find, state, row); });
+  };
+  addFragment("fragment look-up, ggxh", &LookUp::specification);
+  addFragment("fragment look-up, f_sphh", &LookUp::itemNumber);
+}

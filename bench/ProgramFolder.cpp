@@ -1,0 +1,36 @@
+#include "bench/ProgramFolder.h"
+
+#include <QCoreApplication>
+
+#include "store/Connection.h"
+#include "store/DataFile.h"
+
+namespace fs = std::filesystem;
+
+namespace {
+
+// All programs are built into one folder.
+fs::path built(const char* program) {
+  return fs::path(QCoreApplication::applicationDirPath().toStdString()) / program;
+}
+
+void install(const fs::path& from, const fs::path& to) {
+  fs::copy_file(from, to, fs::copy_options::overwrite_existing);
+}
+
+}  // namespace
+
+void installTill(const fs::path& folder) {
+  install(built("till"), folder / "till");
+  install(built("libTessaly.so"), folder / "libTessaly.so");
+}
+
+void installEmptyWindow(const fs::path& folder) {
+  install(built("empty_window"), folder / "till");
+  fs::create_directory(folder / "data");
+  createDataFile({folder / "data" / "POS.mdb", kBuiltInPassword});
+}
+
+fs::path ownersTool() {
+  return built("tilladmin");
+}

@@ -1,0 +1,89 @@
+#include <fstream>
+#include <string>
+
+#include "bench/Goods.h"
+#include "bench/ProgramFolder.h"
+#include "bench/Run.h"
+#include "bench/ShopFile.h"
+#include "driver/TillDriver.h"
+
+namespace {
+
+double startSeconds(const std::filesystem::path& folder, Samples& samples) {
+  return samples.time([&] { TillDriver(folder).waitFor("frmMenu"); });
+}
+
+/// From exec to the main menu, against a program with a window and an open data file.
+void start(Run& run, benchmark::State& state, Measured& row) {
+  const auto& folder = run.shops.copy(run.largest());
+  const auto empty = run.shops.emptyFolder();
+  installTill(folder);
+  installEmptyWindow(empty->path());
+  for (auto _ : state) {
+    startSeconds(empty->path(), row.bare);
+    state.SetIterationTime(startSeconds(folder, row.till));
+  }
+  row.claims = {{"ratio", row.ratio(), 1.5}};
+}
+
+/// Resident memory of a process, in MiB.
+double residentMiB(int process) {
+  std::ifstream status("/proc/" + std::to_string(process) + "/status");
+  for (std::string line; std::getline(status, line);) {
+    constexpr std::string_view kName = "VmRSS:";
+    if (line.starts_with(kName)) return std::stod(line.substr(kName.size())) / 1024;
+  }
+  throw std::runtime_error("no VmRSS");
+}
+
+void logIn(TillDriver& till) {
+  till.waitFor("frmMenu");
+  till.key("Return");
+  till.waitFor("frmLogin");
+  till.enter(std::to_string(shop_file::kCashier));
+  till.key("Return");
+  till.waitFor("frmSell");
+}
+
+void sell(TillDriver& till, int firstItem, int goods) {
+  for (int line = 0; line < shop_file::kLinesPerBill; ++line) {
+    till.enter(
+        goods::barcode(static_cast<int>((firstItem + std::int64_t{618'033} * line) % goods)));
+  }
+  till.key("Return");
+  till.waitFor("frmEndSell");
+  till.key("Return");
+  till.waitFor("frmSell");
+}
+
+/// A whole day at the real till.
+void memory(Run& run, benchmark::State& state, Measured& row) {
+  const int bills = run.samples(2'000, 40);
+  const int goods = run.largest().goods;
+  const auto& folder = run.shops.copy(run.largest());
+  installTill(folder);
+  double early = 0, late = 0;
+  for (auto _ : state) {
+    Samples day;
+    TillDriver till(folder);
+    logIn(till);
+    state.SetIterationTime(day.time([&] {
+      for (int bill = 1; bill <= bills; ++bill) {
+        sell(till, static_cast<int>(bill * std::int64_t{7919} % goods), goods);
+        if (bill == bills / 10) early = residentMiB(till.process());
+      }
+    }));
+    late = residentMiB(till.process());
+  }
+  row.claims = {{"MiB", late, 120}, {"growth", late / early, 1.05}};
+}
+
+}  // namespace
+
+void addProgramRows(Run& run) {
+  const int goods = run.largest().goods;
+  addRow(run, "start, exec to main menu", goods, run.samples(20, 2),
+         [&run](benchmark::State& state, Measured& row) { start(run, state, row); });
+  addRow(run, "memory after a day of 2,000 bills", goods, 1,
+         [&run](benchmark::State& state, Measured& row) { memory(run, state, row); });
+}

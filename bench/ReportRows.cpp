@@ -1,0 +1,126 @@
+#include <QDateEdit>
+#include <QTableView>
+#include <QTest>
+#include <string>
+
+#include "bench/BareEngine.h"
+#include "bench/BenchShop.h"
+#include "bench/PaintWatch.h"
+#include "bench/Run.h"
+#include "bench/ShopFile.h"
+#include "bench/Stopwatch.h"
+#include "reports/ResultModel.h"
+#include "reports/frmCount.h"
+#include "reports/frmSearch.h"
+
+namespace {
+
+/// The statement of the sales query, in the engine's form.
+constexpr const char* kSoldLines =
+    "select sellproducts.insert_Date, sellproducts.sellId, sellproducts.bm, sellproducts.name, "
+    "unit,"
+    " sellproducts.amount, sellproducts.price, sellproducts.discount, sellproducts.money,"
+    " sellproducts.in_price, sellproducts.splbmc, spda.f_sptm from sellProducts inner join spda on"
+    " sellproducts.bm = spda.f_spbm where insert_date > ? and insert_date <= ?"
+    " order by sellId, insert_Date";
+
+QDate qDate(const Date& day) {
+  return {day.year, day.month, day.day};
+}
+
+/// The sales query's window on a shop.
+class SearchWindow {
+ public:
+  explicit SearchWindow(const std::filesystem::path& folder)
+      : pos_(openTill(folder)), form_(*pos_) {
+    paint_.untilPainted("ListView1", [this] { form_.show(); });
+  }
+
+  void setPeriod(const Date& first, const Date& last) {
+    form_.findChild<QDateEdit*>("DtBegin")->setDate(qDate(first));
+    form_.findChild<QDateEdit*>("Dtfinish")->setDate(qDate(last));
+    QCoreApplication::processEvents();
+  }
+  /// Starts the query and waits until its first lines, or all of them, have been painted.
+  void search(bool all) {
+    const auto press = [this] { QTest::keyClick(form_.windowHandle(), Qt::Key_Return); };
+    paint_.untilPainted("ListView1", press);
+    while (model().rowCount() == 0 || (all && model().isFilling())) {
+      paint_.untilPainted("ListView1", [] {});
+    }
+  }
+  void finish() {
+    while (model().isFilling()) QCoreApplication::processEvents();
+  }
+  int lines() const { return model().rowCount() - 1; }
+
+ private:
+  ResultModel& model() const { return *form_.findChild<ResultModel*>(); }
+
+  std::unique_ptr<posMod> pos_;
+  frmSearch form_;
+  PaintWatch paint_;
+};
+
+/// Different days, among them busy ones, until the first screen of lines has been painted.
+void day(Run& run, benchmark::State& state, Measured& row) {
+  SearchWindow window(run.shops.copy(run.largest()));
+  int n = 0;
+  for (auto _ : state) {
+    const Date asked = n % 10 == 0
+                           ? shop_file::kBusyDay
+                           : plusDays(shop_file::kFirstDay, n * 37 % shop_file::kHistoryDays);
+    window.setPeriod(asked, asked);
+    state.SetIterationTime(row.till.time([&] { window.search(false); }));
+    window.finish();
+    ++n;
+  }
+  row.claims = {{"median ms", row.till.median() / 1e3, 100}};
+}
+
+/// A year, until the list is complete.
+void year(Run& run, benchmark::State& state, Measured& row) {
+  const Date first{2020, 1, 1}, last{2020, 12, 31};
+  const auto& folder = run.shops.copy(run.largest());
+  SearchWindow window(folder);
+  window.setPeriod(first, last);
+  BareEngine engine(folder / "bare.mdb");
+  BareEngine::Statement select(engine, kSoldLines);
+  const std::string begin = storedText({first}), end = storedText({last, 23, 59, 59});
+  for (auto _ : state) {
+    state.SetIterationTime(row.till.time([&] { window.search(true); }));
+    long rows = 0;
+    row.bare.time([&] { rows = select.bind(1, begin).bind(2, end).readAll(); });
+    if (rows != window.lines()) throw std::runtime_error("the year's lines differ");
+  }
+  row.claims = {{"ratio", row.ratio(), 2}};
+}
+
+/// The statistics of a day with two thousand bills, from their opening to their list.
+void statistics(Run& run, benchmark::State& state, Measured& row) {
+  const auto pos = openTill(run.shops.copy(run.largest()), shop_file::kBusyDay);
+  PaintWatch paint;
+  for (auto _ : state) {
+    const Stopwatch since;
+    paint.afterPaint("listSell", [&] {
+      row.till.add(since.microseconds());
+      QTest::keyClick(QGuiApplication::focusWindow(), Qt::Key_Escape);
+    });
+    frmCount form(*pos);
+    form.init();
+    state.SetIterationTime(row.till.median() / 1e6);
+  }
+  row.claims = {{"median ms", row.till.median() / 1e3, 50}};
+}
+
+}  // namespace
+
+void addReportRows(Run& run) {
+  const auto add = [&run](const char* what, int samples, auto body) {
+    addRow(run, what, run.largest().lines, samples,
+           [&run, body](benchmark::State& state, Measured& row) { body(run, state, row); });
+  };
+  add("sales query of a day, first page", run.samples(200, 10), &day);
+  add("sales query of a year, whole list", run.samples(3, 2), &year);
+  add("statistics of 2,000 bills", run.samples(100, 5), &statistics);
+}

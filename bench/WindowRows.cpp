@@ -1,0 +1,134 @@
+#include "bench/BareTill.h"
+#include "bench/Goods.h"
+#include "bench/Run.h"
+#include "bench/SaleWindow.h"
+#include "bench/Stopwatch.h"
+#include "bench/SyncCount.h"
+
+namespace {
+
+constexpr int kLines = 10;
+
+/// The real window on the largest shop.
+struct Till {
+  explicit Till(Run& run) : window(run.shops.copy(run.largest())), goods(run.largest().goods) {}
+
+  int next() { return item = static_cast<int>((item + std::int64_t{618'033}) % goods); }
+  void ring() {
+    window.type(goods::barcode(next()));
+    window.ring();
+  }
+  void ringLines(int lines) {
+    for (int line = 0; line < lines; ++line) ring();
+  }
+
+  SaleWindow window;
+  int goods;
+  int item = 0;
+};
+
+void ring(Run& run, benchmark::State& state, Measured& row) {
+  constexpr int kLinesPerBill = 20;
+  Till till(run);
+  BareTill bare(run.shops.copy(run.largest()) / "bare.mdb");
+  long syncs = 0, lines = 0;
+  till.window.open([&] {
+    for (auto _ : state) {
+      const int item = till.next();
+      till.window.type(goods::barcode(item));
+      const long before = syncCount();
+      state.SetIterationTime(row.till.time([&] { till.window.ring(); }));
+      syncs += syncCount() - before;
+      row.bare.time([&] { bare.ring(goods::itemCode(item)); });
+      if (++lines % kLinesPerBill == 0) till.window.settle();
+    }
+    if (lines % kLinesPerBill != 0) till.window.settle();
+  });
+  row.claims = {{"ratio", row.ratio(), 1.5},
+                {"syncs", static_cast<double>(syncs) / static_cast<double>(lines), 1.05}};
+}
+
+/// The hundredth line of a bill, against the first.
+void longBill(Run& run, benchmark::State& state, Measured& row) {
+  constexpr int kLongBill = 100;
+  Till till(run);
+  till.window.open([&] {
+    for (auto _ : state) {
+      for (int line = 1; line <= kLongBill; ++line) {
+        till.window.type(goods::barcode(till.next()));
+        const auto press = [&] { till.window.ring(); };
+        if (line == 1) {
+          row.bare.time(press);
+        } else if (line == kLongBill) {
+          state.SetIterationTime(row.till.time(press));
+        } else {
+          press();
+        }
+      }
+      till.window.settle();
+    }
+  });
+  row.claims = {{"growth", row.ratio(), 1.2}};
+}
+
+/// The last settlements of a long day, against the first.
+void longDay(Run& run, benchmark::State& state, Measured& row) {
+  const int bills = run.samples(1'000, 100);
+  const int compared = bills / 20;
+  Till till(run);
+  till.window.open([&] {
+    for (auto _ : state) {
+      for (int bill = 1; bill <= bills; ++bill) {
+        till.ringLines(2);
+        Stopwatch since;
+        till.window.settle([&] { since = Stopwatch(); });
+        if (bill <= compared) row.bare.add(since.microseconds());
+        if (bill > bills - compared) row.till.add(since.microseconds());
+      }
+      state.SetIterationTime(row.till.median() / 1e6);
+    }
+  });
+  row.claims = {{"growth", row.ratio(), 1.2}};
+}
+
+void wholeSale(Run& run, benchmark::State& state, Measured& row) {
+  Till till(run);
+  till.window.open([&] {
+    for (auto _ : state) {
+      state.SetIterationTime(row.till.time([&] {
+        till.ringLines(kLines);
+        till.window.settle();
+      }));
+    }
+  });
+  row.claims = {{"median ms", row.till.median() / 1e3, 15}};
+}
+
+/// A fragment that ten thousand goods have, until their menu has been painted.
+void longMenu(Run& run, benchmark::State& state, Measured& row) {
+  Till till(run);
+  till.window.open([&] {
+    for (auto _ : state) {
+      till.window.compose(goods::kLoose);
+      const Stopwatch since;
+      till.window.ringFromMenu([&] { row.till.add(since.microseconds()); });
+      state.SetIterationTime(row.till.median() / 1e6);
+      till.window.settle();
+    }
+  });
+  row.claims = {{"median ms", row.till.median() / 1e3, 100}};
+}
+
+}  // namespace
+
+void addWindowRows(Run& run) {
+  const auto add = [&run](const char* what, int samples, auto body) {
+    addRow(run, what, run.largest().goods, samples,
+           [&run, body](benchmark::State& state, Measured& row) { body(run, state, row); });
+  };
+  add("ringing a line, key press to painted row", run.samples(3'000, 100), &ring);
+  add("100th line of a bill, against the first", run.samples(50, 3), &longBill);
+  add("1000th bill of a day, against the first", 1, &longDay);
+  add("ten-line cash sale through the windows", run.samples(300, 10), &wholeSale);
+  add("menu of 10,000 matches", run.samples(50, 5), &longMenu);
+}

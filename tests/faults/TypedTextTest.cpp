@@ -1,0 +1,348 @@
+#include <sqlcipher/sqlite3.h>
+
+#include <iostream>
+#include <random>
+#include <set>
+#include <sstream>
+
+#include "Disk.h"
+#include "LongRun.h"
+#include "TillFixture.h"
+#include "members/TopUp.h"
+#include "reports/SearchCriteria.h"
+#include "saleslib/CardNumber.h"
+#include "saleslib/ClsLogin.h"
+#include "store/StoreError.h"
+#include "tools/Importer.h"
+#include "tools/Refusal.h"
+
+namespace {
+
+/// Hears the text of every statement that the engine begins, on every connection opened while it
+/// lives. Bound values are no part of it.
+class StatementSpy {
+ public:
+  StatementSpy() {
+    heard_.clear();
+    sqlite3_auto_extension(reinterpret_cast<void (*)()>(&listen));
+  }
+  ~StatementSpy() { sqlite3_reset_auto_extension(); }
+
+  static std::set<std::string> take() { return std::exchange(heard_, {}); }
+
+ private:
+  static int listen(sqlite3* engine, char**, const void*) {
+    return sqlite3_trace_v2(engine, SQLITE_TRACE_STMT, &hear, nullptr);
+  }
+  static int hear(unsigned, void*, void* statement, void*) {
+    const char* text = sqlite3_sql(static_cast<sqlite3_stmt*>(statement));
+    if (text != nullptr) heard_.insert(text);
+    return 0;
+  }
+  static inline std::set<std::string> heard_;
+};
+
+/// Both must be there before the fixture opens its data file. The disk spares the waiting.
+struct WithSpy {
+  Disk disk;
+  StatementSpy spy;
+};
+
+/// A text on each line, blanks counted.
+std::vector<std::string> lines(const std::string& all) {
+  std::vector<std::string> each;
+  std::istringstream in(all);
+  for (std::string line; std::getline(in, line);) each.push_back(line);
+  return each;
+}
+
+// Every kind of text that the places tell apart: barcodes and short codes, known and unknown, short
+// and long, numbers and dates, wildcards, nothing.
+std::vector<std::string> harmlessTexts() {
+  std::vector<std::string> texts = lines(R"(
+5
+-3
+1.5
+00
+ab
+a b c
+茶
+矿泉水
+QB-01
+8001
+550ml
+abcdefgh
+中文中文中文
+6901234567892
+6900000000029
+2026-11-22
+%%
+a%)");
+  texts.push_back(std::string(300, 'a'));
+  return texts;
+}
+
+// Quotes, wildcards, comment marks, statement ends, names and parameters of statements, operators
+// of the text search, look-alikes of all these; then bytes: NUL, control characters, broken UTF-8,
+// GBK characters with a quote or a backslash as their second byte, and lengths.
+std::vector<std::string> hostileTexts() {
+  std::vector<std::string> texts = lines(R"sql('
+''
+'''
+' or '1'='1
+' or 1=1 --
+8001' --
+x'; drop table sell; --
+x') or ('1'='1
+'||(select card from member)||'
+'+''+'
+"
+""
+" or ""="
+\
+\'
+\' or 1=1 --
+`
+[
+]
+[bh]
+%
+_
+%' or '%'='
+_____
+*
+?
+??
+?1
+:bh
+@bh
+$bh
+#
+#2026-11-22#
+#1#' or 1=1
+--
+-- x
+/*
+*/
+/* x */
+;
+; select 1
+1;1
+null
+or 1=1
+1 or 1=1
+0x27
+char(39)
+1e999
+9223372036854775808
+NEAR
+a NEAR b
+a AND b
+NOT a
+a* OR b*
+"a
+(a
+a)
+ggxh:a
+-a
+^a
+{a}
+＇
+＇ or ＇1＇=＇1
+‘
+’ or ’1’=’1
+ʼ
+′
+％
+＿
+；
+－－
+＂
+＼
+１' or 1
+😀')sql");
+  for (const char* bytes :
+       {"\xBF\x27 or 1=1 --", "\xBF\x5C\x27", "\xD5\x27", "\x81\x5C", "\xA1\x27\xA1\x5C",
+        "\xC0\xA7 or 1=1", "\xE0\x80\xA7", "\xF0\x80\x80\xA7", "\xFF\xFE", "\xE4\xB8",
+        "\r\n' or 1=1", "a\tb", "\x1A", "\b'"}) {
+    texts.emplace_back(bytes);
+  }
+  texts.emplace_back("a\0b' or 1=1", 11);
+  texts.emplace_back(1, '\0');
+  texts.emplace_back(300, '\'');
+  texts.emplace_back(2000, '%');
+  return texts;
+}
+
+}  // namespace
+
+class TypedTextTest : public WithSpy, public TillFixture {
+ protected:
+  TypedTextTest() {
+    till.choice = 0;
+    till.answers = QStringList(10000, "1");
+    spy.take();
+  }
+
+  /// A place where a typed text enters statements.
+  struct Place {
+    const char* name;
+    std::function<void(const std::string&)> type;
+    bool isSlow = false;  ///< on purpose: the hash of a password
+  };
+
+  std::vector<Place> places() {
+    return {
+        {"input line", [this](const std::string& text) { ring(text); }},
+        {"settlement: card number", [this](const std::string& text) { pay(text, "Pw1"); }},
+        {"settlement: card password", [this](const std::string& text) { pay("8001", text); }},
+        {"sales query: code", [this](const std::string& text) { search(text, "", "饮料"); }},
+        {"sales query: bill number", [this](const std::string& text) { search("", text, ""); }},
+        {"sales query: category",
+         [this](const std::string& text) {
+           search("", "", text);
+           search("550ml", "", text);
+         }},
+        {"member's number or telephone",
+         [this](const std::string& text) { static_cast<void>(pos.gMemberSvc.GetMember(text)); }},
+        {"top-up: card number and remark",
+         [this](const std::string& text) { topUp(storedCardNumber(text), text); }},
+        {"new member", [this](const std::string& text) { join(text); }},
+        {"login", [this](const std::string& text) { logIn(text); }, true},
+        {"shop parameter",
+         [this](const std::string& text) {
+           static_cast<void>(pos.gSysParam.set("ShopName", text));
+         }},
+        {"imported goods", [this](const std::string& text) { import(text); }}};
+  }
+
+  void logIn(const std::string& text) {
+    ClsLogin login;
+    login.Conn(*pos.gConn);
+    EXPECT_FALSE(login.Check(text, text));
+    EXPECT_FALSE(login.Check("01", text));
+  }
+  void ring(const std::string& text) {
+    enter(QString::fromStdString(text));
+    if (session.state.curLine) press(115);
+  }
+  // With goods on the bill, so that the card is asked for and charged.
+  void pay(const std::string& number, const std::string& password) {
+    till.pay = [&](Settlement& payment) {
+      const auto card = QString::fromStdString(number), word = QString::fromStdString(password);
+      if (payment.payByCard(card, word) == Settlement::CardResult::kPaid) payment.sayCardPaid();
+    };
+    ring("6901234567885");
+    enter("6901234567892");
+    enter("");
+    press(123);
+  }
+  void search(const std::string& code, const std::string& bill, const std::string& category) {
+    SearchCriteria wanted;
+    wanted.end = {{2027, 1, 1}, 0, 0, 0};
+    wanted.byCategory = !category.empty();
+    wanted.code = code;
+    wanted.billNo = bill;
+    wanted.category = category;
+    if (const auto statement = searchStatement(wanted)) pos.gConn->Open(*statement);
+  }
+  void join(const std::string& text) {
+    ClsMember member;
+    member.Init(*pos.gConn, 0, pos.clock);
+    member.setBh("n" + text);
+    member.setName("n" + text);
+    for (const auto& set : {&ClsMember::setSex, &ClsMember::setAddress, &ClsMember::setOther,
+                            &ClsMember::setPassword}) {
+      (member.*set)(text);
+    }
+    member.setPhone(text);
+    if (!member.Save()) return;
+    ++joined;
+    const Recordset row =
+        pos.gConn->Open("select other as v from member where id=" + std::to_string(member.Id()));
+    EXPECT_EQ(row.row(0).text("v"), text) << "stored as typed";
+  }
+  void topUp(const std::string& number, const std::string& remark) {
+    static_cast<void>(findStoredCard(*pos.gConn, number));
+    try {
+      storeTopUp(*pos.gConn, {number, {}, {}, {}, remark});
+    } catch (const StoreError& error) {
+      // No card has that number; a NUL in it ends the text early.
+      EXPECT_TRUE(std::string(error.what()).starts_with("会员卡 ")) << error.what();
+    }
+    EXPECT_EQ(stored("bz as v from cardStored order by id desc limit 1"), remark);
+  }
+  void import(const std::string& text) {
+    std::string quoted;
+    for (const char each : text) quoted += each == '"' ? "\"\"" : std::string(1, each);
+    std::istringstream csv("f_spbm,f_spmc,f_Ggxh\n9001,\"n" + quoted + "\",\"" + quoted + "\"\n");
+    try {
+      Importer importer(*pos.gConn, tableNamed("spda", now), {});
+      static_cast<void>(importer.run(csv));
+    } catch (const Refusal&) {
+      return;
+    }
+  }
+
+  /// The tables' rows, all of which only the till's own steps may change.
+  std::string counts() {
+    return stored(
+        "(select count(*) from sqlite_master) || ' ' || (select count(*) from tmda)"
+        " || ' ' || (select count(*) from sell where state = 1) || ' ' ||"
+        " (select card from member where bh = '8001') || ' ' ||"
+        " (select count(*) from operators) as v");
+  }
+
+  std::set<std::string> heardFrom(const Place& place, const std::string& text) {
+    spy.take();
+    try {
+      place.type(text);
+    } catch (const Failure& refused) {
+      ADD_FAILURE() << place.name << " with " << testing::PrintToString(text) << ": "
+                    << refused.what();
+    }
+    return spy.take();
+  }
+
+  /// Pieces of hostile texts put together anew.
+  static std::string mixture(const std::vector<std::string>& hostile, std::mt19937& random) {
+    std::string text;
+    for (auto pieces = random() % 4 + 1; pieces > 0; --pieces) {
+      text += hostile[random() % hostile.size()].substr(0, random() % 12);
+    }
+    return text;
+  }
+
+  int joined = 0;
+};
+
+TEST_F(TypedTextTest, aTypedTextStaysAValueEverywhere) {
+  open();
+  const std::vector<std::string> hostile = hostileTexts();
+  std::vector<std::string> texts = hostile;
+  std::mt19937 random(20261122);
+  const int mixtures = longRun ? 5000 : 100;
+  for (int i = 0; i < mixtures; ++i) texts.push_back(mixture(hostile, random));
+
+  std::int64_t typed = 0;
+  for (const Place& place : places()) {
+    SCOPED_TRACE(place.name);
+    std::set<std::string> known;
+    for (const std::string& text : harmlessTexts()) known.merge(heardFrom(place, text));
+    const std::string before = counts();
+    spy.take();
+    for (std::size_t i = 0; i < texts.size(); i += place.isSlow ? 10 : 1) {
+      const std::string& text = texts[i];
+      for (const std::string& statement : heardFrom(place, text)) {
+        ASSERT_TRUE(known.contains(statement))
+            << testing::PrintToString(text) << " made another statement:\n"
+            << statement;
+      }
+      ++typed;
+    }
+    ASSERT_EQ(counts(), before) << "a text changed the books";
+    till.messages.clear();
+  }
+  std::cout << "typed texts: " << typed << " at " << places().size()
+            << " places, statements changed: 0; members with such names: " << joined << "\n";
+}

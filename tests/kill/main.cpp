@@ -1,0 +1,184 @@
+// Kills the till at random instants of a busy day and holds its books against the journal.
+//   tests_kill [--long | --kills N] [--seed N]
+#include <cstdio>
+#include <cstring>
+#include <random>
+#include <stdexcept>
+
+#include "InstalledTill.h"
+#include "demo/DisplayTube.h"
+#include "driver/TillDriver.h"
+#include "kill/Day.h"
+#include "kill/Killer.h"
+#include "store/Connection.h"
+
+namespace {
+
+using std::chrono::microseconds;
+
+struct Options {
+  int kills = 30;
+  unsigned seed = 20261122;
+};
+
+/// What became of the steps that were open when the till was killed.
+struct Figures {
+  int kills = 0, opened = 0, betweenSteps = 0, taken = 0, takenShown = 0, halfTaken = 0,
+      notTaken = 0, completed = 0;
+
+  void add(Journal::Outcome outcome, bool shown) {
+    switch (outcome) {
+      case Journal::Outcome::kNothingOpen:
+        ++betweenSteps;
+        return;
+      case Journal::Outcome::kTaken:
+        ++taken;
+        takenShown += shown;
+        return;
+      case Journal::Outcome::kHalfTaken:
+        ++halfTaken;
+        return;
+      case Journal::Outcome::kNotTaken:
+        ++notTaken;
+    }
+  }
+};
+
+class KillTest {
+ public:
+  explicit KillTest(const Options& options)
+      : options_(options),
+        random_(options.seed),
+        journal_(Ledger::read(*till_.open())),
+        day_(journal_, Goods(*till_.open()), options.seed, [this] { stepConfirmed(); }) {}
+
+  Figures run() {
+    while (figures_.kills < options_.kills) {
+      runUntilKilled();
+      ++figures_.kills;
+    }
+    TillDriver last(startFolder({}));
+    openShop(last);
+    day_.close(last);
+    return figures_;
+  }
+  const Ledger& books() const { return journal_.confirmed(); }
+
+ private:
+  const std::filesystem::path& startFolder(const std::string& display) {
+    till_.writeSettings(display);
+    program_ = till_.program();
+    return program_;
+  }
+
+  // Some strike while the till starts, some at any moment of the day, some within the milliseconds
+  // after a key that changes the books, and some when the drawer opens: the customer has paid by
+  // then, and the bill is not stored yet.
+  void aim(Killer& killer) {
+    confirmationsLeft_ = 0;
+    switch (random_() % 8) {
+      case 0:
+        killer.strikeIn(microseconds(random_() % 600000));
+        break;
+      case 1:
+      case 2:
+        killer.strikeIn(microseconds(400000 + random_() % 1500000));
+        break;
+      default:
+        confirmationsLeft_ = 1 + static_cast<int>(random_() % 8);
+    }
+  }
+
+  void stepConfirmed() {
+    if (confirmationsLeft_ == 0 || --confirmationsLeft_ > 0) return;
+    if (random_() % 3 != 0) {
+      killer_->strikeAtDrawer(till_.drawer(), microseconds(random_() % 4 * (random_() % 300)));
+    } else {
+      const auto root = random_() % 123;  // sooner rather than later, within 15 ms
+      killer_->strikeIn(microseconds(root * root));
+    }
+  }
+
+  void runUntilKilled() {
+    DisplayTube display;
+    TillDriver till(startFolder(display.path()));
+    Killer killer(till.process());
+    killer_ = &killer;
+    try {
+      aim(killer);
+      openShop(till);
+      for (;;) {
+        drawerBefore_ = till_.drawerBytes();
+        day_.step(till);
+      }
+    } catch (const std::runtime_error&) {
+      if (!killer.struck()) throw;
+    }
+  }
+
+  /// Up to an empty bill, and the books hold. The drawer opens only for a bill that is paid for.
+  void openShop(TillDriver& till) {
+    const std::string told = day_.logIn(till);
+    const bool shown = journal_.isOpen() && till_.drawerBytes() > drawerBefore_;
+    const Journal::Outcome outcome = journal_.judge(Ledger::read(*till_.open()), shown);
+    figures_.add(outcome, shown);
+    if (!told.empty()) {
+      ++figures_.completed;
+      requireLastBillIn(told);
+    }
+    ++figures_.opened;
+  }
+
+  /// Only the bill that was being settled can have been completed.
+  void requireLastBillIn(const std::string& told) const {
+    const std::string number = std::to_string(day_.settledBill());
+    if (told.find("流水号 " + number + "，") != std::string::npos) return;
+    throw std::runtime_error("told of another bill than the last: " + told);
+  }
+
+  Options options_;
+  std::mt19937 random_;
+  InstalledTill till_;
+  std::filesystem::path program_;
+  Journal journal_;
+  Day day_;
+  Killer* killer_ = nullptr;
+  Figures figures_;
+  int confirmationsLeft_ = 0;
+  std::uintmax_t drawerBefore_ = 0;
+};
+
+Options parse(int argc, char** argv) {
+  Options options;
+  for (int i = 1; i < argc; ++i) {
+    if (std::strcmp(argv[i], "--long") == 0) {
+      options.kills = 500;
+    } else if (std::strcmp(argv[i], "--kills") == 0 && i + 1 < argc) {
+      options.kills = std::stoi(argv[++i]);
+    } else if (std::strcmp(argv[i], "--seed") == 0 && i + 1 < argc) {
+      options.seed = static_cast<unsigned>(std::stoul(argv[++i]));
+    } else {
+      throw std::runtime_error(std::string("unknown option ") + argv[i]);
+    }
+  }
+  return options;
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  try {
+    KillTest test(parse(argc, argv));
+    const Figures figures = test.run();
+    std::printf(
+        "%d kills, %d restarts to an empty bill: %d between two steps, %d in a step that was then "
+        "done (%d of them shown before, %d completed at the start), %d in one that was not, %d "
+        "between the two writes of a top-up; %zu bills, %zu returns, %zu top-ups; lost: 0\n",
+        figures.kills, figures.opened, figures.betweenSteps, figures.taken, figures.takenShown,
+        figures.completed, figures.notTaken, figures.halfTaken, test.books().bills.size(),
+        test.books().returns.size(), test.books().topUps.size());
+  } catch (const std::exception& failure) {
+    std::fprintf(stderr, "kill test: %s\n", failure.what());
+    return 1;
+  }
+}

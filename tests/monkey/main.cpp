@@ -1,0 +1,128 @@
+// Lets a monkey loose on the till and looks at the books whenever it has ended the program.
+//   tests_monkey [--long | --events N] [--seed N]
+#include <stdlib.h>
+
+#include <cstdio>
+#include <cstring>
+#include <fstream>
+#include <stdexcept>
+
+#include "InstalledTill.h"
+#include "driver/TillDriver.h"
+#include "monkey/Figures.h"
+#include "store/Connection.h"
+
+namespace fs = std::filesystem;
+
+namespace {
+
+struct Options {
+  int events = 20000;
+  unsigned seed = 20261122;
+};
+
+class MonkeyTest {
+ public:
+  explicit MonkeyTest(const Options& options)
+      : options_(options), home_(till_.folder() / "home"), figures_(*till_.open()) {
+    fs::create_directories(home_);
+    writeWords();
+    // Whatever the monkey exports, it exports here.
+    for (const char* name : {"HOME", "XDG_RUNTIME_DIR", "XDG_CONFIG_HOME", "XDG_DATA_HOME"}) {
+      setenv(name, home_.c_str(), 1);
+    }
+    fs::current_path(home_);
+  }
+  ~MonkeyTest() { fs::current_path("/"); }
+
+  void run() {
+    while (events_ < options_.events) {
+      clearAway();
+      TillDriver till(till_.program());
+      till.waitFor("frmMenu");
+      ++starts_;
+      const int asked = options_.events - events_;
+      const int done = till.monkey(options_.seed + starts_, asked, till_.folder() / "words");
+      events_ += done;
+      if (done < asked) requireCleanEnd(till);
+      till.kill();
+      figures_.check(*till_.open());
+    }
+  }
+
+  void print() const {
+    const auto shop = till_.open();
+    Rows rows = shop->query(
+        "select (select count(*) from sell where state = 1) as bills, "
+        "(select count(*) from sellProducts) as lines, (select count(*) from un_sell) as returns, "
+        "(select count(*) from member) as members, (select count(*) from cardStored) as topUps");
+    rows.next();
+    std::printf(
+        "%d events, %u starts of the till; %s bills, %s lines, %s returns, %s members, %s "
+        "top-ups; faults: 0\n",
+        events_, starts_, rows.text("bills").c_str(), rows.text("lines").c_str(),
+        rows.text("returns").c_str(), rows.text("members").c_str(), rows.text("topUps").c_str());
+  }
+
+ private:
+  void writeWords() const {
+    std::ofstream words(till_.folder() / "words");
+    const auto shop = till_.open();
+    Rows goods = shop->query("select sptm, ggxh from tmda order by id limit 60");
+    while (goods.next()) words << goods.text("sptm") << '\n' << goods.text("ggxh") << '\n';
+    Rows cards = shop->query("select bh, password from member");
+    while (cards.next()) words << cards.text("bh") << '\n' << cards.text("password") << '\n';
+  }
+
+  /// The settings as they were, and what was printed and exported gone.
+  void clearAway() {
+    fs::remove_all(till_.folder() / "printed");
+    fs::remove_all(home_);
+    fs::create_directories(home_);
+    fs::current_path(home_);
+    till_.writeSettings({});
+  }
+
+  void requireCleanEnd(TillDriver& till) const {
+    const int code = till.waitForEnd();
+    if (code == 0) return;
+    throw std::runtime_error("the till ended with " + std::to_string(code) + " after " +
+                             std::to_string(events_) + " events, start " + std::to_string(starts_));
+  }
+
+  Options options_;
+  InstalledTill till_;
+  fs::path home_;
+  Figures figures_;
+  int events_ = 0;
+  unsigned starts_ = 0;
+};
+
+Options parse(int argc, char** argv) {
+  Options options;
+  for (int i = 1; i < argc; ++i) {
+    if (std::strcmp(argv[i], "--long") == 0) {
+      options.events = 1000000;
+    } else if (std::strcmp(argv[i], "--events") == 0 && i + 1 < argc) {
+      options.events = std::stoi(argv[++i]);
+    } else if (std::strcmp(argv[i], "--seed") == 0 && i + 1 < argc) {
+      options.seed = static_cast<unsigned>(std::stoul(argv[++i]));
+    } else {
+      throw std::runtime_error(std::string("unknown option ") + argv[i]);
+    }
+  }
+  return options;
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  try {
+    MonkeyTest test(parse(argc, argv));
+    test.run();
+    test.print();
+  } catch (const std::exception& failure) {
+    std::fprintf(stderr, "monkey: %s\n", failure.what());
+    return 1;
+  }
+}
