@@ -203,6 +203,14 @@ void DemoDay::query(TillDriver& till) {
   till.tabTo("zjmtm");
   till.key("Ctrl+A");
   till.key("Delete");
+  till.tabTo("Option1");
+  till.key("Right");
+  till.tabTo("Combo1");
+  till.key("Ctrl+A");
+  till.type(goods_.category);
+  run("query-of-one-category");
+  till.tabTo("Option2");
+  till.key("Left");
   till.tabTo("numberSerch");
   till.type("1");
   run("query-of-one-bill");

@@ -57,6 +57,8 @@ DemoGoods DemoGoods::pick(const std::filesystem::path& dataFile) {
             "ggxh", "specification"),
       3);
   goods.itemNumber = itemNumberFragment(*shop);
+  goods.category = first(shop->query("select splbmc from tmda where sptm = ?", goods.plain),
+                         "splbmc", "category");
   Rows card = shop->query("select bh, password from member where card > 300 and enabled = 1");
   if (!card.next()) throw std::runtime_error("the demo shop has no card with a balance");
   goods.card = card.text("bh");

@@ -45,12 +45,10 @@ class TillDriver {
 
   /// Waits for the till to end by itself and gives its exit code.
   int waitForEnd();
-  /// The till's process id.
-  int process() const { return process_; }
   /// Kills the till at once, as a power cut would.
   void kill();
-  /// The process that runs the till, for one who kills it from another thread; it is this object's
-  /// until waitForEnd or kill.
+  /// The process that runs the till, for one who measures it or kills it from another thread; it is
+  /// this object's until waitForEnd or kill.
   int process() const { return process_; }
 
  private:
