@@ -16,6 +16,7 @@ struct DemoGoods {
   std::string twice;          ///< barcode of two items
   std::string specification;  ///< fragment of a specification, 2 to 5 characters
   std::string itemNumber;  ///< fragment of an item number, 2 to 5 characters, of no specification
+  std::string category;    ///< name of the category of `plain`
   std::string card;        ///< number of a stored-value card with a balance
   std::string cardPassword;
 
