@@ -2,6 +2,7 @@
 
 #include <gmock/gmock.h>
 
+#include <QGuiApplication>
 #include <filesystem>
 #include <fstream>
 
@@ -112,6 +113,22 @@ TEST_F(posModTest, BackUpTakesTheDefaultFileWhenAnotherOneIsConfigured) {
   posMod pos(folder_.path());
   ASSERT_EQ(pos.OpenDataStore(), "");
   EXPECT_THROW(pos.backUp(), StoreError);
+  makeShop("data/POS.mdb", "the default one's");
+  pos.backUp();
+  EXPECT_NO_THROW(openDataFile({folder_.file("data/pos3.mdb"), "the default one's"}));
+}
+
+TEST_F(posModTest, StartLoadsTheKeysAndHidesThePointerUnlessItIsWanted) {
+  makeShop("data/POS.mdb");
+  for (const bool wanted : {false, true}) {
+    std::ofstream(folder_.file("config.ini")) << "[KeyBoard]\nUp=87\n[POS]\nVMouse=" << wanted;
+    posMod pos(folder_.path());
+    ASSERT_EQ(pos.OpenDataStore(), "");
+    pos.start();
+    EXPECT_EQ(pos.gKeyBoard.mUp, 87);
+    EXPECT_EQ(QGuiApplication::overrideCursor() == nullptr, wanted);
+    pos.ShowMouse(true);
+  }
 }
 
 }  // namespace

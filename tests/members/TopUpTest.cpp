@@ -1,11 +1,21 @@
 #include "members/TopUp.h"
 
 #include "MembersTill.h"
+#include "saleslib/CardNumber.h"
 #include "store/StoreError.h"
 
 namespace {
 
 using TopUpTest = MembersTill;
+
+TEST_F(TopUpTest, WhatTheReaderTypesAroundANumberGoes) {
+  const std::pair<const char*, const char*> cases[] = {{";88001234?", "88001234"},
+                                                       {"vip88h01", "88h01"},
+                                                       {" ；８８０１？ ", "8801"},
+                                                       {"' or ''='", "'  ''='"}};
+  for (const auto& [typed, number] : cases) EXPECT_EQ(storedCardNumber(typed), number);
+  EXPECT_EQ(memberNumber(" ；vip８８？ "), "vip88");
+}
 
 TEST_F(TopUpTest, ARecordThatWasWrittenStaysWhenTheBalanceCannotBe) {
   const TopUp topUp{"88001234", Currency::fromYuan(90), Currency::fromYuan(100),
@@ -31,6 +41,7 @@ TEST_F(TopUpTest, TheSlipRepeatsWhatTheFieldsShow) {
       " 小店充值单  | 卡号: 88001234   | 充值前卡内余额: 50 | 付款金额: 90.00 | 充值金额: 100 |"
       " 充值后卡内余额: 150 ||________________________________________||谢谢||");
   EXPECT_EQ(slip.texts.back().y, 10 * slip.lineHeight());
+  EXPECT_EQ(slip.paperWidthMm, 58);
 }
 
 }  // namespace
