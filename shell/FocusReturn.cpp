@@ -13,6 +13,16 @@ FocusReturn::FocusReturn(QObject* application) : QObject(application) {
 // complete, and only if nobody else has the keyboard by then; a modal window that has opened over
 // it meanwhile comes first.
 bool FocusReturn::eventFilter(QObject* watched, QEvent* event) {
+  if (event->type() == QEvent::Show && watched->isWindowType()) {
+    auto* window = static_cast<QWindow*>(watched);
+    if (window->isModal()) {
+      QTimer::singleShot(0, window, [window] {
+        if (window->isVisible() && QGuiApplication::modalWindow() == window) {
+          window->requestActivate();
+        }
+      });
+    }
+  }
   if (event->type() == QEvent::WindowUnblocked && watched->isWindowType()) {
     auto* window = static_cast<QWindow*>(watched);
     QTimer::singleShot(0, window, [window] {

@@ -1,6 +1,7 @@
 #include "till/Till.h"
 
 #include <QApplication>
+#include <QScreen>
 #include <utility>
 
 #include "checkout/frmUnSell.h"
@@ -30,7 +31,10 @@ bool Till::Main() {
   pos_.start();
   frmSell_ = std::make_unique<frmSell>(pos_, saleScreens(), [this] { frmMain_->close(); });
   frmMain_ = std::make_unique<frmMain>(pos_, screens());
+  // Without a window manager nobody else makes it large or gives it the keyboard.
+  frmMain_->setGeometry(frmMain_->screen()->availableGeometry());
   frmMain_->showMaximized();
+  frmMain_->activateWindow();
   return true;
 }
 

@@ -58,7 +58,8 @@ TEST(PagePrinterTest, PaperIsAsWideAsTheRollAndAsLongAsTheText) {
     const TemporaryFolder folder;
     PageDocument document = receipt("r", lines);
     document.paperWidthMm = width;
-    document.texts.push_back({1, 0, std::string(10'000, 'x')});
+    document.texts.push_back({1, 0, {}});
+    document.texts.back().text.assign(10'000, 'x');
     PagePrinter(folder.path()).print(document);
     const auto size = QRegularExpression(R"(Pages: +1\n[^$]*Page size: +([\d.]+) x ([\d.]+) pts)")
                           .match(told("pdfinfo", folder.path()));
