@@ -1,5 +1,6 @@
 #include "reports/SearchPanel.h"
 
+#include <QCalendarWidget>
 #include <QComboBox>
 #include <QDateEdit>
 #include <QHBoxLayout>
@@ -26,6 +27,8 @@ QDateEdit* datePicker(const char* name) {
   picker->setDisplayFormat("yyyy-MM-dd");
   picker->setDateRange(QDate(1, 1, 1), QDate(9999, 12, 31));
   picker->setCalendarPopup(true);
+  // Dates are typed in the field. Typed in the calendar they would leak when it is closed on them.
+  picker->calendarWidget()->setDateEditEnabled(false);
   return picker;
 }
 
