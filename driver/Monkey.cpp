@@ -67,6 +67,17 @@ QWidget* front() {
   return QApplication::activeWindow();
 }
 
+/// What stands on the screen, for the report of a window that can't be left.
+QString standing() {
+  QStringList open;
+  for (const QWindow* window : QGuiApplication::topLevelWindows()) {
+    if (window->isVisible()) open << window->objectName();
+  }
+  const QWindow* keyboard = QGuiApplication::focusWindow();
+  return QStringLiteral("open: %1; keyboard: %2")
+      .arg(open.join(QLatin1Char(' ')), keyboard ? keyboard->objectName() : QString());
+}
+
 }  // namespace
 
 Monkey::Monkey(unsigned seed, int events, QStringList words, Tell tell)
@@ -143,7 +154,7 @@ void Monkey::goHome() {
   if (++leaving_ > kLongestWayHome) {
     const QWidget* window = front();
     const QString name = window != nullptr ? window->objectName() : QStringLiteral("no window");
-    return end(QStringLiteral("error cannot leave ") + name);
+    return end(QStringLiteral("error cannot leave %1 (%2)").arg(name, standing()));
   }
   const int dice = below(100);
   if (dice < 65) return key(one(kWayHome));

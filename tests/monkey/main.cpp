@@ -42,7 +42,7 @@ class MonkeyTest {
       till.waitFor("frmMenu");
       ++starts_;
       const int asked = options_.events - events_;
-      const int done = till.monkey(options_.seed + starts_, asked, till_.folder() / "words");
+      const int done = play(till, asked);
       events_ += done;
       if (done < asked) requireCleanEnd(till);
       till.kill();
@@ -72,6 +72,17 @@ class MonkeyTest {
     while (goods.next()) words << goods.text("sptm") << '\n' << goods.text("ggxh") << '\n';
     Rows cards = shop->query("select bh, password from member");
     while (cards.next()) words << cards.text("bh") << '\n' << cards.text("password") << '\n';
+  }
+
+  /// How many events happened before the till had ended, or all that were asked for had.
+  int play(TillDriver& till, int asked) const {
+    const unsigned seed = options_.seed + starts_;
+    try {
+      return till.monkey(seed, asked, till_.folder() / "words");
+    } catch (const std::exception& failure) {
+      throw std::runtime_error(std::string(failure.what()) + ", after " + std::to_string(events_) +
+                               " events, start " + std::to_string(starts_));
+    }
   }
 
   /// The settings as they were, and what was printed and exported gone.
