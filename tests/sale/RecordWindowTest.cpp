@@ -1,4 +1,3 @@
-#include <QPushButton>
 #include <QTableView>
 
 #include "Hands.h"
@@ -10,20 +9,19 @@ class RecordWindow : public TillFixture {
  protected:
   RecordWindow() {
     EXPECT_TRUE(session.open());
-    hold({kWater});
-    hold({kCrate, kApples});
+    enter(kWater);
+    press(kF5);
+    enter(kCrate);
+    enter(kApples);
+    press(kF5);
   }
-  void hold(std::initializer_list<const char*> codes) {
-    for (const char* code : codes) enter(code);
-    press(116);
-  }
-  QString row(const char* list, int row) const {
+  std::string row(const char* list, int row) const {
     const QAbstractItemModel* model = window.findChild<QTableView*>(list)->model();
-    QStringList cells;
+    std::string cells;
     for (int column = 0; row < model->rowCount() && column < model->columnCount(); ++column) {
-      cells << model->index(row, column).data().toString();
+      cells += model->index(row, column).data().toString().toStdString() + " ";
     }
-    return cells.join(" ");
+    return cells;
   }
 
   frmRecord window{pos.gKeyBoard};
@@ -32,39 +30,31 @@ class RecordWindow : public TillFixture {
 TEST_F(RecordWindow, showsEachBillWithItsGoods) {
   Hands hands;
   hands.at("frmRecord", [this](QWidget&) {
-    EXPECT_EQ(window.focusWidget()->objectName(), "listSell");
-    EXPECT_EQ(row("listSell", 0), "1 2.50 09:05");
-    EXPECT_EQ(row("listSell", 1), "2 33.98 09:05");
+    EXPECT_EQ(row("listSell", 0) + row("listSell", 1), "1 2.50 09:05 2 33.98 09:05 ");
     EXPECT_EQ(row("listSell", 2), "");
     Hands::pressNow(Qt::Key_Down);
-    EXPECT_EQ(row("listProducts", 1), QString(kApples) + " 苹果 斤 5.98 1 1 5.98");
+    EXPECT_EQ(row("listProducts", 1), std::string(kApples) + " 苹果 斤 5.98 1 1 5.98 ");
     Hands::pressNow(Qt::Key_Return);
   });
   EXPECT_EQ(window.Load(session.state.heldBills, now), 2);
-  EXPECT_TRUE(hands.idle());
 }
 
 TEST_F(RecordWindow, keysChooseOrLeave) {
-  pos.gKeyBoard.mEnter = 107;  // "+"
-  struct Case {
+  pos.gKeyBoard.mEnter = 120;  // F9
+  const struct {
     std::initializer_list<Qt::Key> keys;
     std::int32_t chosen;
     bool held = true;
-  };
-  for (const Case& each :
-       {Case{{Qt::Key_Escape}, 0}, Case{{Qt::Key_Down, Qt::Key_Down, Qt::Key_Plus}, 2},
-        Case{{Qt::Key_Tab, Qt::Key_Plus, Qt::Key_Backtab, Qt::Key_Plus}, 1},
-        Case{{Qt::Key_Tab, Qt::Key_Escape}, 0}, Case{{Qt::Key_Tab, Qt::Key_Tab, Qt::Key_Space}, 0},
-        Case{{Qt::Key_Plus, Qt::Key_Escape}, 0, false}}) {
+  } cases[] = {{{Qt::Key_Escape}, 0},
+               {{Qt::Key_Down, Qt::Key_Down, Qt::Key_F9}, 2},
+               {{Qt::Key_Tab, Qt::Key_F9, Qt::Key_Backtab, Qt::Key_F9}, 1},
+               {{Qt::Key_Tab, Qt::Key_Tab, Qt::Key_Space}, 0},
+               {{Qt::Key_F9, Qt::Key_Escape}, 0, false}};
+  for (const auto& each : cases) {
     Hands hands;
-    hands.at("frmRecord", [&each](QWidget& shown) {
-      for (const Qt::Key key : each.keys) {
-        EXPECT_TRUE(shown.isVisible());
-        QTest::keyClick(shown.focusWidget(), key,
-                        key == Qt::Key_Plus ? Qt::KeypadModifier : Qt::NoModifier);
-      }
-    });
+    hands.press("frmRecord", each.keys);
     const auto& bills = session.state.heldBills;
     EXPECT_EQ(window.Load(each.held ? bills : std::decay_t<decltype(bills)>(), now), each.chosen);
+    EXPECT_FALSE(window.isVisible());
   }
 }
