@@ -53,11 +53,9 @@ TEST_F(MemberCardTest, findsByCardThenByTelephoneAndSaysWhyNot) {
   EXPECT_EQ(till.offered, (QStringList{"8004  孙丽", "8005  孙强"}));
 }
 
-TEST_F(MemberCardTest, theMemberStaysWithItsBillAndTheInformationLineWithTheMember) {
+TEST_F(MemberCardTest, theInformationLineGoesWithTheMembersBill) {
   attach("8002");
   enter(kWater);
-  enter(kCrate);
-  press(kF4);  // leaves a committed line
   press(kF2);
   EXPECT_EQ(till.said(), "会员卡只能在还没有开始销售时加入！");
   press(kF5);
@@ -65,10 +63,11 @@ TEST_F(MemberCardTest, theMemberStaysWithItsBillAndTheInformationLineWithTheMemb
   till.choice = 0;
   press(kF6);
   EXPECT_EQ(attached() + till.memberInfo, "李明会员：李明，办卡日期：2026-03-04，累计消费：12.50");
+  enter("80g");
   enter("");
   EXPECT_EQ(attached() + till.memberInfo, "");
   attach("8002");
   EXPECT_EQ(till.memberInfo,
-            "会员：李明，办卡日期：2026-03-04，累计消费：14.48\n"
-            "最近消费时间：2026-11-22 09:05:03，金额：1.98\n最近购买商品：矿泉水");
+            "会员：李明，办卡日期：2026-03-04，累计消费：27.98\n"
+            "最近消费时间：2026-11-22 09:05:03，金额：15.48\n最近购买商品：矿泉水、红茶");
 }
