@@ -33,12 +33,14 @@ TEST_F(BillTest, ABillLivesFromItsOpeningToItsReload) {
   again.LoadLines();
   for (const auto& line : again.Items()) line->setSpName("水");
   ASSERT_TRUE(again.Save());
-  EXPECT_EQ(stored("select concat_ws(' ', id, sell_time, operator_id, quantity, goods_amount,"
-                   " amount, cash, favorable, bank_card, card_pay, card_no, salesman) from sell"),
-            "1 2026-11-23 10:05:03 7 2.333 6.05 6 4 1 1 0.5 88 3");
-  EXPECT_EQ(stored("select group_concat(concat_ws(' ', spmc, entry, amount, price, discount,"
-                   " money, ratio), ' / ') from sellProducts"),
-            "水 6901 2 1.5 0.9 2.7 12 / 水  0.333 10.05 1 3.35 1");
+  EXPECT_EQ(stored("select sell_time || ' ' || operator_id || ' ' || salesman || ', ' || quantity"
+                   " || ' for ' || goods_amount || ', ' || amount || ' by ' || cash || ' ' ||"
+                   " bank_card || ' ' || card_pay || ' ' || card_no || ' ' || favorable from sell"),
+            "2026-11-23 10:05:03 7 3, 2.333 for 6.05, 6 by 4 1 0.5 88 1");
+  EXPECT_EQ(stored("select group_concat(name || entry_code || ' ' || amount || ' x ' || price ||"
+                   " ' x ' || discount || ' = ' || money || ' / ' || ratio, '; ')"
+                   " from sellProducts"),
+            "水6901 2 x 1.5 x 0.9 = 2.7 / 12; 水 0.333 x 10.05 x 1 = 3.35 / 1");
   EXPECT_EQ(again.Change(), yuan("0.5"));
   EXPECT_FALSE(again.OpenLastOfMember(connection, 6));
   EXPECT_FALSE(again.Open(connection, 999, 0));
