@@ -68,15 +68,6 @@ TEST_F(ReturnsTest, TheRoundingOfTheSettlementStaysUntilNothingIsLeft) {
   EXPECT_EQ(returns.bill()->Amount(), Currency());
 }
 
-TEST_F(ReturnsTest, AReturnInTheMiddleOfTheMembersNextBillIsNotForgotten) {
-  attachMember();
-  enter("茶", "5");
-  ASSERT_EQ(load("1"), "");
-  EXPECT_EQ(takeBack("6901", 3, "27"), "");
-  payCash("5");
-  EXPECT_EQ(stored("total_spent as v from member"), "10");
-}
-
 TEST_F(ReturnsTest, AReturnThatCannotBeStoredLeavesFileAndScreenAsTheyWere) {
   ASSERT_EQ(load("1"), "");
   for (const char* table : {"stock", "sellProducts", "sell", "member"}) {

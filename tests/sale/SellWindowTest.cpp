@@ -111,3 +111,30 @@ TEST_F(SellWindow, missingPriceAndSeveralMatchesAreAskedFor) {
     press(Qt::Key_F12);
   });
 }
+
+TEST_F(SellWindow, aHeldBillIsChosenInItsWindow) {
+  show([this] {
+    for (const char* code : {kWater, kCrate}) {
+      scan(code);
+      press(Qt::Key_F5);
+    }
+    hands.press("frmRecord", {Qt::Key_Escape});
+    press(Qt::Key_F6);
+    EXPECT_EQ(label("title1"), "流水号：3   收银员：张三");
+    hands.at("frmRecord", [](QWidget& form) {
+      const auto* bills = form.findChild<QTableView*>("listSell")->model();
+      EXPECT_EQ(bills->index(1, 1).data().toString(), "28.00");
+      Hands::pressNow(Qt::Key_Down);
+      const auto* goods = form.findChild<QTableView*>("listProducts")->model();
+      EXPECT_EQ(goods->index(0, 1).data().toString(), "矿泉水整箱");
+      Hands::pressNow(Qt::Key_Return);
+    });
+    press(Qt::Key_F6);
+    EXPECT_EQ(label("title1"), "流水号：2   收银员：张三");
+    EXPECT_EQ(shown(0, BillRow::kMoney), "28.00");
+    press(Qt::Key_F12);
+    hands.press("frmRecord", {Qt::Key_Return});
+    press(Qt::Key_F6);
+    press(Qt::Key_F12);
+  });
+}

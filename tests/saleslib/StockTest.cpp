@@ -33,15 +33,9 @@ TEST_F(StockTest, TheRuleDecidesWhetherStockMayGoNegative) {
 
 TEST_F(StockTest, ARefusalNamesTheGoodsAndTheStock) {
   ASSERT_TRUE(stock.PutBack(3));
-  const std::pair<const char*, const char*> namings[] = {
-      {"1001", ""},
-      {"水", "insert into tmda (sptm, spbm, spmc) values ('6901', '1001', '水')"},
-      {"矿泉水", "insert into spda (f_spbm, f_spmc) values ('1001', '矿泉水')"}};
-  for (const auto& [name, change] : namings) {
-    connection.runScript(change);
-    EXPECT_FALSE(stock.TakeOut(4, 0, 1));
-    EXPECT_EQ(stock.ErrText(), "库存不足：" + std::string(name) + "（1001）现有库存 3");
-  }
+  EXPECT_FALSE(stock.TakeOut(4, 0, 1));
+  EXPECT_EQ(stock.ErrText(), "库存不足：1001（1001）现有库存 3");
+  connection.run("insert into spda (f_spbm, f_spmc) values ('1001', '矿泉水')");
   for (const double absurd : {std::nan(""), HUGE_VAL, 1e13}) {
     EXPECT_FALSE(stock.PutBack(absurd));
     EXPECT_FALSE(stock.TakeOut(absurd, 0, 0));
