@@ -94,6 +94,15 @@ class FakeScreen : public SaleScreen {
   std::function<void(Settlement&)> pay = [](Settlement& s) { s.confirmCash(s.cashText()); };
   bool ended = false;
 
+  /// All that was told since it was last asked for.
+  std::string said() {
+    std::string all;
+    for (const std::string& each : std::exchange(messages, {})) {
+      all += (all.empty() ? "" : "|") + each;
+    }
+    return all;
+  }
+
  private:
   SaleState& state_;
 };
@@ -131,6 +140,21 @@ class SaleFixture : public testing::Test {
   std::string stored(const std::string& query) {
     const Recordset found = pos.gConn->Open("select " + query);
     return found.count() == 0 ? "none" : found.row(0).text("v");
+  }
+
+  std::string stock(const std::string& itemCode = "1001") {
+    return stored("quantity as v from stock where spbm = '" + itemCode + "'");
+  }
+  /// Until mended, every statement of that kind ("update on sell") fails.
+  void breakStore(const std::string& kind, const std::string& name = "broken") {
+    pos.gConn->runScript("create temp trigger " + name + " before " + kind +
+                         " begin select raise(abort, 'disk'); end");
+  }
+  void mendStore(const std::string& name = "broken") {
+    pos.gConn->runScript("drop trigger " + name);
+  }
+  void setParameter(const char* name, const char* value) {
+    EXPECT_EQ(pos.gSysParam.set(name, value), "");
   }
 
   static std::string fileBytes(const std::string& path) {

@@ -11,22 +11,26 @@ class CheckoutFixture : public SaleFixture {
   CheckoutFixture() { checkout.PrepareNextBill(); }
 
   /// Enters a line; it is the current line until the next one or the settlement.
-  void enter(const std::string& name, const char* price, double quantity = 1) {
+  void enter(const std::string& name, const char* price, double quantity = 1,
+             const char* code = "1001", double discount = 1, std::int16_t ratio = 1) {
     if (state.curLine) commitCurrentLine(state, receipt);
     state.curLine = std::make_shared<ClsSellItem>();
     ClsSellItem& line = *state.curLine;
     line.Init(*pos.gConn, state.curBill->BillNo(), 0, pos.clock);
     line.setSpCode("1001");
     line.setSpName(name);
+    line.setEntryCode(code);
     line.setPrice(Currency::parse(price).value());
     line.setQuantity(quantity);
+    line.setDiscount(Discount(discount));
+    line.setRatio(ratio);
     EXPECT_TRUE(TakeStock(pos, screen, line.SpCode(), line.StockQuantity(), [&] { line.Save(); }));
 
     auto& cells = state.rows.back().cells;
     cells[BillRow::kName] = name;
     cells[BillRow::kPrice] = twoDecimals(line.Price());
     cells[BillRow::kQuantity] = generalNumber(quantity);
-    cells[BillRow::kDiscount] = "1";
+    cells[BillRow::kDiscount] = generalNumber(discount);
     cells[BillRow::kMoney] = twoDecimals(line.Money());
     cells[BillRow::kSpCode] = line.SpCode();
     state.AddEntryRow();
@@ -38,14 +42,19 @@ class CheckoutFixture : public SaleFixture {
     checkout.SettleBill();
   }
 
-  /// From now on no row of that table ("sell", "sell when new.state = 1") can be changed.
-  void breakStore(const char* table) {
-    pos.gConn->runScript(std::string("create trigger broken before update on ") + table +
-                         " begin select raise(abort, 'disk'); end");
-  }
-
   void attachMember() {
     state.curMember = pos.gMemberSvc.GetMember("8001");
     state.curBill->setMemberId(state.curMember->Id());
+  }
+
+  void showOn(const char* port, int model = 1) {
+    pos.gPosSet.CVProt = port;
+    pos.gPosSet.CVModel = model;
+    state.hasDisplay = true;
+    display.OpenDisplayPort();
+  }
+  void openDrawerOn(const char* port) {
+    pos.gPosSet.MBPort = port;
+    state.hasDrawer = true;
   }
 };

@@ -2,7 +2,7 @@
 #include "base/Gbk.h"
 #include "base/Text.h"
 
-using testing::SizeIs;
+using testing::StartsWith;
 
 class LinePrinter : public CheckoutFixture {
  protected:
@@ -21,8 +21,7 @@ class LinePrinter : public CheckoutFixture {
 
 TEST_F(LinePrinter, wideReceiptWithMemberAndDrawer) {
   printOn(1);
-  pos.gPosSet.MBPort = "LPT1";
-  state.hasDrawer = true;
+  openDrawerOn("LPT1");
   state.origTotal = 89;
   attachMember();
   receipt.PrintHeader();
@@ -75,46 +74,43 @@ TEST_F(LinePrinter, narrowReceipt) {
 
 TEST_F(LinePrinter, withoutLinePrintingOnlyTheDrawerOpens) {
   pos.gPosSet.PPort = "USB";
-  pos.gPosSet.MBPort = "LPT1";
-  state.hasDrawer = true;
+  openDrawerOn("LPT1");
   enter("水", "1");
   payCash("1");
   receipt.FeedLines();
   EXPECT_EQ(paper(), "<drawer>\n");
 }
 
-// A printer that is off costs one message; switched on, it prints the whole bill with its footer.
-TEST_F(LinePrinter, linesOfABrokenPrinterFollowWithTheFooter) {
+// A printer that is off costs one message. Switched on in the middle of a bill, it prints that
+// bill from its first line on; a bill that was over before is not printed any more.
+TEST_F(LinePrinter, aPrinterThatWasOffPrintsWholeBills) {
   printOn(2);
-  pos.configIni.write("Ports", "LPT1", folder.path().string());
-  for (const char* name : {"水", "茶", "饼"}) enter(name, "1");
-  EXPECT_THAT(screen.messages, SizeIs(1));
-  pos.configIni.write("Ports", "LPT1", folder.file("lpt1"));
-  enter("糖", "1");
-  EXPECT_EQ(paper(), "");
-  payCash("4");
-  EXPECT_THAT(paper(), testing::StartsWith("水                1.00   1  1.00\n"
-                                           "茶                1.00   1  1.00\n"
-                                           "饼                1.00   1  1.00\n"
-                                           "糖                1.00   1  1.00\n"
-                                           "       总    计"));
-  EXPECT_THAT(screen.messages, SizeIs(1));
-}
-
-TEST_F(LinePrinter, afterABillThatNeverPrintedThePaperStartsWithAHeading) {
-  printOn(2);
-  pos.gPosSet.MBPort = "LPT1";
-  state.hasDrawer = true;
-  pos.configIni.write("Ports", "LPT1", folder.path().string());
+  const auto plug = [this](const std::string& path) { pos.configIni.write("Ports", "LPT1", path); };
+  plug(folder.path().string());
   enter("糕", "1");
-  payCash("1");
-  EXPECT_THAT(screen.messages, SizeIs(1));
-  pos.configIni.write("Ports", "LPT1", folder.file("lpt1"));
+  enter("饼", "1");
+  payCash("2");
+  EXPECT_THAT(screen.messages, testing::SizeIs(1));
+  plug(folder.file("lpt1"));
   enter("茶", "4");
   payCash("4");
-  EXPECT_THAT(paper(), testing::StartsWith("                                \n"
-                                           "          好邻居便利店          \n"
-                                           "     商品名称     单价 数量 金额\n"
-                                           "茶                4.00   1  4.00\n"));
-  EXPECT_EQ(paper().find("糕"), std::string::npos);
+  EXPECT_THAT(paper(), StartsWith("                                \n"
+                                  "          好邻居便利店          \n"
+                                  "     商品名称     单价 数量 金额\n"
+                                  "茶                4.00   1  4.00\n"
+                                  "       总    计"));
+
+  plug(folder.path().string());
+  enter("水", "1");
+  enter("茶", "1");
+  plug(folder.file("again"));
+  enter("糖", "1");
+  EXPECT_EQ(fileBytes(folder.file("again")), "") << "not tried again before the end of the bill";
+  payCash("3");
+  EXPECT_THAT(gbk::decode(fileBytes(folder.file("again"))),
+              StartsWith("水                1.00   1  1.00\r\n"
+                         "茶                1.00   1  1.00\r\n"
+                         "糖                1.00   1  1.00\r\n"
+                         "       总    计"));
+  EXPECT_THAT(screen.messages, testing::SizeIs(2));
 }

@@ -2,9 +2,8 @@
 
 #include "CheckoutFixture.h"
 
-using testing::Contains;
 using testing::ElementsAre;
-using testing::ElementsAreArray;
+using testing::EndsWith;
 using testing::IsSupersetOf;
 
 class PageReceiptTest : public CheckoutFixture {
@@ -54,32 +53,22 @@ TEST_F(PageReceiptTest, rowsByLayout) {
   enter("茶", "80.55", 1.5);
   enter("肉", "10", 0.355);
   settled("200", "0");
-  const struct {
-    const char* option;
-    std::vector<std::string> block;
-  } cases[] = {
-      {"打印编码+商品全称",
-       {"1,700 1001  茶", "1200,880  80.6 ", "1900,880 1.5", "2300,880 120.8 "}},
-      {"打印商品全称", {"1,700 茶 ", "1200,880  80.6 ", "1900,880 1.5", "2300,880 120.8 "}},
-      {"打印商品全称+折扣",
-       {"1,700 茶 折扣:1", "1200,880  80.6 ", "1900,880 1.5", "2300,880 120.8 "}},
-      {"", {"1,706 总金额合计"}}};
-  for (const auto& row : cases) {
-    const auto placed = printed(2, row.option);
-    ASSERT_GE(placed.size(), 2 + row.block.size());
-    EXPECT_THAT(std::vector(placed.begin() + 2, placed.begin() + 2 + std::ssize(row.block)),
-                ElementsAreArray(row.block));
-  }
+  const std::pair<const char*, const char*> firstTexts[] = {
+      {"打印编码+商品全称", "1,700 1001  茶"},
+      {"打印商品全称", "1,700 茶 "},
+      {"打印商品全称+折扣", "1,700 茶 折扣:1"},
+      {"", "1,706 总金额合计"}};
+  for (const auto& [option, text] : firstTexts) EXPECT_EQ(printed(2, option).at(2), text);
   // A weighed quantity does not print over the amount.
-  EXPECT_THAT(printed(2, "打印商品全称"), IsSupersetOf({"1900,1280 0.355", "2390,1280 3.6 "}));
+  EXPECT_THAT(printed(2, "打印商品全称"),
+              IsSupersetOf({"1200,880  80.6 ", "1900,880 1.5", "2300,880 120.8 ", "1900,1280 0.355",
+                            "2390,1280 3.6 "}));
 }
 
 TEST_F(PageReceiptTest, longBillContinuesOnTheSameRoll) {
   for (int i = 0; i < 90; ++i) enter("糖", "1.00");
   settled("90", "0");
-  const auto placed = printed(1, "打印商品全称");
-  EXPECT_THAT(placed, Contains("1,36300 糖 "));
-  EXPECT_THAT(placed, Contains("1,36746 总金额合计"));
+  EXPECT_THAT(printed(1, "打印商品全称"), IsSupersetOf({"1,36300 糖 ", "1,36746 总金额合计"}));
 }
 
 TEST_F(PageReceiptTest, paymentByStoredValueCard) {
@@ -89,6 +78,6 @@ TEST_F(PageReceiptTest, paymentByStoredValueCard) {
   state.curBill->setCardNo("8001");
   settled("0", "0");
   const auto placed = printed(2, "");
-  EXPECT_EQ(placed.at(7).substr(placed.at(7).find(' ') + 1), "原价总计81.0   应收80.5");
-  EXPECT_EQ(placed.at(8).substr(placed.at(8).find(' ') + 1), "储值卡号8001刷卡金额80.5\"优惠0.5");
+  EXPECT_THAT(placed.at(7), EndsWith(" 原价总计81.0   应收80.5"));
+  EXPECT_THAT(placed.at(8), EndsWith(" 储值卡号8001刷卡金额80.5\"优惠0.5"));
 }

@@ -3,8 +3,6 @@
 
 class HeldBillsTest : public TillFixture {
  protected:
-  static constexpr int kEnter = 13, kEnd = 27, kUp = 38, kF5 = 116, kF6 = 117, kF12 = 123;
-
   HeldBillsTest() { open(); }
 
   void recall(int position) {
@@ -12,69 +10,34 @@ class HeldBillsTest : public TillFixture {
     press(kF6);
     till.choice = -1;
   }
-  std::string openBills() {
-    return stored("coalesce(group_concat(id), '-') as v from sell where state = 0");
-  }
-  std::string storedLines() {
-    return stored(
-        "coalesce(group_concat(sellId || ':' || bm || 'x' || amount), '-') as v"
-        " from (select * from sellProducts order by id)");
+  /// Stock of 1001, open bills, and all lines stored.
+  std::string books() {
+    return stock() + " / " +
+           stored("coalesce(group_concat(id), '-') as v from sell where state = 0") + " / " +
+           stored(
+               "coalesce(group_concat(sellId || ':' || bm || 'x' || amount), '-') as v"
+               " from (select * from sellProducts order by id)");
   }
 };
 
-TEST_F(HeldBillsTest, aBillPutAsideKeepsItsStockAndItsRowsUntilItIsSettled) {
+TEST_F(HeldBillsTest, aRecalledBillHasItsRowsAndGoesOn) {
   enter(kWater);
   enter(kCrate);
-  press(kUp);
-  press(kF5);
-  EXPECT_EQ(till.title1, "流水号：2   收银员：张三");
-  EXPECT_EQ(till.status + openBills() + " " + storedLines(), "1,2 1:1001x1,1:1001x1");
-  EXPECT_EQ(session.state.rows.size(), 1U);
-  enter(kApples);
   session.menu("wait");
-
+  EXPECT_EQ(till.title1 + till.status, "流水号：2   收银员：张三");
+  press(kEsc);
+  EXPECT_EQ(till.said(), "还没结束销售或还有挂起单子，不能退出。");
   till.choice = 0;
   session.menu("load");
-  EXPECT_EQ(stock("1001") + " " + stock("1005"), "87 -1");
   EXPECT_EQ(till.title1 + till.status, "流水号：1   收银员：张三2件商品，合计30.5元");
-  EXPECT_EQ(openBills(), "1,2") << "the empty bill on the screen is dropped";
-  EXPECT_EQ(cell(0, BillRow::kStock) + cell(1, BillRow::kStock), "10088");
-  EXPECT_EQ(cell(1, BillRow::kNumber) + cell(1, BillRow::kName) + cell(2, BillRow::kName),
-            "2矿泉水整箱");
+  EXPECT_EQ(cell(1, BillRow::kNumber) + cell(1, BillRow::kName) + cell(1, BillRow::kStock),
+            "2矿泉水整箱88");
   press(kUp);
   EXPECT_EQ(session.state.selected, 2) << "recalled lines are committed";
   enter("80g");
   EXPECT_EQ(till.status, "3件商品，原价合计44   合计44.00元");
-  enter("");
-  EXPECT_EQ(stored("state || ' ' || quantity || ' ' || amount as v from sell where id = 1"),
-            "1 3 44");
-  press(kEnd);
-  EXPECT_EQ(onlyMessage(), "还没结束销售或还有挂起单子，不能退出。");
-  recall(0);
-  press(kF12);
-  press(kEnd);
-  EXPECT_TRUE(session.left());
-}
-
-TEST_F(HeldBillsTest, whatCannotBeDoneIsSaidAndChangesNothing) {
-  struct Case {
-    const char* rung;
-    int key;
-    const char* message;
-  };
-  for (const Case& each :
-       {Case{"", kEnter, "没有商品，无需结账！"}, Case{"", kF12, "没有商品，无需删除！"},
-        Case{"", kF5, "没有商品，无需结账！"}, Case{"", kF6, ""},
-        Case{kWater, kF6, "请先结束或挂起本次销售，再执行调用功能。"},
-        Case{"", kEnd, "还没结束销售或还有挂起单子，不能退出。"}}) {
-    SCOPED_TRACE(each.key);
-    if (*each.rung) enter(each.rung);
-    press(each.key);
-    EXPECT_EQ(till.messages.empty() ? "" : onlyMessage(), each.message);
-    EXPECT_EQ(openBills(), "1");
-    EXPECT_TRUE(session.state.heldBills.empty());
-  }
-  EXPECT_EQ(storedLines(), "1:1001x1");
+  press(kF6);
+  EXPECT_EQ(till.said(), "请先结束或挂起本次销售，再执行调用功能。");
 }
 
 // Stock rule 1, with the stock written down while the bill was held: the bill's own goods go back
@@ -85,35 +48,29 @@ TEST_F(HeldBillsTest, aLineRefusedAtRecallLeavesTheBillAndIsNamed) {
   press(kF5);
   pos.gConn->runScript("update stock set quantity = quantity - 90 where spbm = '1001'");
   recall(0);
-  EXPECT_EQ(onlyMessage(), "库存不足：矿泉水（1001）现有库存 9，已从本单中去掉。");
-  EXPECT_EQ(stock("1001") + " " + till.status, "8 2件商品，合计5元");
-  EXPECT_EQ(session.state.rows.size(), 3U);
-  EXPECT_EQ(stored("quantity || ' ' || goods_amount as v from sell where id = 1"), "2 5");
+  EXPECT_EQ(till.said(), "库存不足：矿泉水（1001）现有库存 9，已从本单中去掉。");
+  EXPECT_EQ(stock() + " " + till.status, "8 2件商品，合计5元");
 }
 
 TEST_F(HeldBillsTest, whenTheStoreFailsTheBillStaysWhereItWas) {
   enter(kWater);
   breakStore("update on sell");
   press(kF5);
-  EXPECT_NE(onlyMessage(), "");
+  EXPECT_NE(till.said(), "");
   EXPECT_EQ(session.state.curBill->Items().size(), 1U);
-  EXPECT_EQ(openBills() + " " + std::to_string(session.state.rows.size()), "1 2");
-  pos.gConn->run("drop trigger broken");
+  EXPECT_EQ(books(), "99 / 1 / 1:1001x1");
+  mendStore();
   press(kF5);
 
   breakStore("delete on sellProducts");
   setParameter("StockRule", "1");
   pos.gConn->runScript("update stock set quantity = -5 where spbm = '1001'");
   recall(0);
-  EXPECT_NE(onlyMessage(), "");
-  EXPECT_EQ(stock("1001") + " " + openBills() + " " + storedLines(), "-5 1,2 1:1001x1");
+  EXPECT_NE(till.said(), "");
+  EXPECT_EQ(books(), "-5 / 1,2 / 1:1001x1");
   ASSERT_EQ(session.state.heldBills.size(), 1U);
   EXPECT_EQ(session.state.heldBills.front()->Items().size(), 1U);
   EXPECT_EQ(session.state.curBill->BillNo(), 2);
-  pos.gConn->run("drop trigger broken");
-  setParameter("StockRule", "0");
-  recall(0);
-  EXPECT_EQ(stock("1001") + " " + openBills() + " " + storedLines(), "-5 1 1:1001x1");
 }
 
 TEST_F(HeldBillsTest, paperFeedsAtSuspensionAndRepeatsTheBillAtRecall) {

@@ -51,9 +51,8 @@ TEST(Pricing, barcodeRowsTakeMemberPriceThenPromotionThenRetail) {
       {"starts today at nine", {2.5, kNull, 1.0, 1.99, nine, to}, false, "2.50 0.98 水"},
       {"ended yesterday", {2.5, kNull, 1.0, 1.99, from, yesterday}, false, "2.50 0.98 水"},
       {"open end is none", {2.5, kNull, 1.0, 1.99, from, kNull}, false, "2.50 0.98 水"},
-      {"no price", {0.0, kNull, 0.9, kNull, kNull, kNull}, false, "? 0.9 水"},
       {"empty price", {kNull, kNull, 1.0, kNull, kNull, kNull}, true, "? 0.98 水"},
-      {"negative price", {-1.0, kNull, 1.0, kNull, kNull, kNull}, false, "? 0.98 水"},
+      {"negative price", {-1.0, kNull, 0.9, kNull, kNull, kNull}, false, "? 0.9 水"},
   };
   expectPrices({"spmc", "xsdj", "pfj", "zk", "cxj", "kssj", "jssj"}, cases,
                [](const Row& row, const ClsMember* member) {
@@ -64,11 +63,10 @@ TEST(Pricing, barcodeRowsTakeMemberPriceThenPromotionThenRetail) {
 TEST(Pricing, masterRowsAskBeforeTheyLookAtTheMemberPrice) {
   const std::vector<Case> cases = {
       {"retail", {1.5, kNull, 1.0}, false, "1.50 0.98 水"},
-      {"own discount", {1.5, 1.2, 0.8}, false, "1.50 0.8 水"},
       {"member price", {1.5, 1.2, 0.8}, true, "1.20 0.95 水"},
       {"member price 0", {1.5, 0.0, 0.8}, true, "1.50 0.8 水"},
       {"no retail price", {kNull, 1.2, 0.8}, true, "? 1 水"},
-      {"retail price 0", {0.0, 1.2, 0.8}, false, "? 1 水"},
+      {"retail price 0", {0.0, 1.2, 0.8}, true, "? 1 水"},
   };
   expectPrices(
       {"f_spmc", "f_xsdj", "f_pfj", "f_zk"}, cases,

@@ -1,27 +1,25 @@
-#include <QEventLoop>
 #include <QLabel>
 #include <QLineEdit>
 #include <QTableView>
 #include <QTest>
-#include <QTimer>
 
+#include "Hands.h"
 #include "TillFixture.h"
 #include "sale/frmSell.h"
-#include "shell/frmMenu.h"
 
 /// The sale window, driven by real key events while it is open.
 class SellWindow : public TillFixture {
  protected:
   /// Opens the screen, lets the cashier act, and leaves with Esc unless the screen is left already.
   void show(const std::function<void()>& cashier) {
-    QTimer::singleShot(0, &window, [&] {
+    hands.at("frmSell", [&](QWidget&) {
       ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
       ASSERT_TRUE(editor()->hasFocus());
       cashier();
       if (window.isVisible()) press(Qt::Key_Escape);
     });
     window.openModal();
-    EXPECT_FALSE(window.isVisible());
+    EXPECT_TRUE(hands.idle());
   }
   QLineEdit* editor() { return window.findChild<QLineEdit*>("t"); }
   QTableView* list() { return window.findChild<QTableView*>("lv"); }
@@ -34,21 +32,9 @@ class SellWindow : public TillFixture {
     QTest::keyClicks(editor(), code);
     press(Qt::Key_Return);
   }
-  /// Does that in the modal window which the next key opens.
-  void then(const char* form, const std::function<void(QWidget&)>& act) {
-    QTimer::singleShot(0, &window, [form, act] {
-      QWidget* dialog = QApplication::activeModalWidget();
-      ASSERT_EQ(dialog->objectName(), form);
-      ASSERT_TRUE(QTest::qWaitForWindowActive(dialog));
-      act(*dialog);
-    });
-  }
-  static QWidget* target(QWidget& dialog) {
-    return dialog.focusWidget() ? dialog.focusWidget() : &dialog;
-  }
 
-  bool ended = false;
-  frmSell window{pos, {}, [this] { ended = true; }};
+  Hands hands;
+  frmSell window{pos, {}, [] {}};
 };
 
 TEST_F(SellWindow, ringsCorrectsDeletesAndSettles) {
@@ -56,13 +42,11 @@ TEST_F(SellWindow, ringsCorrectsDeletesAndSettles) {
     EXPECT_EQ(label("title1"), "流水号：1   收银员：张三");
     scan(kWater);
     scan(kCrate);
-    EXPECT_EQ(shown(1, BillRow::kName), "矿泉水整箱");
     EXPECT_EQ(list()->currentIndex().row(), 2);
-
     press(Qt::Key_Up);
     EXPECT_EQ(editor()->text(), "1");
     QTest::keyClicks(editor(), "3");
-    EXPECT_EQ(editor()->text(), "3");
+    EXPECT_EQ(editor()->text(), "3") << "the first key replaces the shown value";
     press(Qt::Key_Return);
     EXPECT_EQ(shown(1, BillRow::kMoney), "84.00");
     press(Qt::Key_Up);
@@ -70,22 +54,17 @@ TEST_F(SellWindow, ringsCorrectsDeletesAndSettles) {
     scan("0.9");
     EXPECT_EQ(label("txtmoney"), "4件商品，原价合计86   合计78.10元");
     press(Qt::Key_F4);
-    EXPECT_EQ(list()->model()->rowCount(), 2);
     scan("80g");
 
-    then("frmEndSell", [](QWidget& dialog) {
-      QTest::keyClicks(target(dialog), "20");
-      QTest::keyClick(target(dialog), Qt::Key_Return);
-    });
+    hands.type("frmEndSell", "20").press("frmEndSell", {Qt::Key_Return});
     press(Qt::Key_Return);
     EXPECT_EQ(label("txtmoney"), "应收16 现金20银行卡0储值卡0优惠0找零4元");
     EXPECT_TRUE(QTest::qWaitFor([this] { return editor()->hasFocus(); }));
     EXPECT_EQ(label("title3").left(11), "上一单：金额 16.0");
     EXPECT_EQ(list()->model()->rowCount(), 1);
   });
-  EXPECT_EQ(stock("1001"), "99");
+  EXPECT_EQ(stock(), "99");
   EXPECT_EQ(stored("group_concat(state) as v from sell"), "1");
-  EXPECT_FALSE(ended);
 }
 
 TEST_F(SellWindow, theEditorCoversTheEditedCellAndTheListNeverHasTheFocus) {
@@ -95,7 +74,6 @@ TEST_F(SellWindow, theEditorCoversTheEditedCellAndTheListNeverHasTheFocus) {
       const QRect inside = list()->visualRect(list()->model()->index(row, column));
       return inside.translated(list()->viewport()->mapTo(&window, QPoint()));
     };
-    EXPECT_EQ(editor()->geometry(), cell(40, BillRow::kNumber));
     EXPECT_TRUE(list()->geometry().contains(editor()->geometry()));
     press(Qt::Key_Up);
     EXPECT_EQ(editor()->geometry(), cell(39, BillRow::kQuantity));
@@ -112,15 +90,11 @@ TEST_F(SellWindow, theMenuKeyOpensTheFunctionMenuAndTheCloseBoxAsksTheSession) {
     QKeyEvent repeated(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier, "\r", true);
     for (int i = 0; i < 3; ++i) QApplication::sendEvent(editor(), &repeated);
     EXPECT_EQ(list()->model()->rowCount(), 2) << "a held Enter key settles nothing";
-    then("frmMsg", [](QWidget& dialog) { QTest::keyClick(&dialog, Qt::Key_Space); });
+    hands.press("frmMsg", {Qt::Key_Space});
     window.close();
     EXPECT_TRUE(window.isVisible());
     press(Qt::Key_F12);
-    then("myMenu", [](QWidget& dialog) {
-      EXPECT_EQ(static_cast<frmMenu&>(dialog).entryCount(), 6);
-      QTest::keyClick(target(dialog), Qt::Key_Up);
-      QTest::keyClick(target(dialog), Qt::Key_Return);
-    });
+    hands.press("myMenu", {Qt::Key_Up, Qt::Key_Return});
     press(Qt::Key_Menu);
     EXPECT_EQ(stored("count(*) as v from sell"), "0") << "left by the menu's last entry";
   });
@@ -128,18 +102,39 @@ TEST_F(SellWindow, theMenuKeyOpensTheFunctionMenuAndTheCloseBoxAsksTheSession) {
 
 TEST_F(SellWindow, missingPriceAndSeveralMatchesAreAskedFor) {
   show([this] {
-    then("frmMenu", [](QWidget& dialog) {
-      QTest::keyClick(target(dialog), Qt::Key_Down);
-      QTest::keyClick(target(dialog), Qt::Key_Return);
-    });
+    hands.press("frmMenu", {Qt::Key_Down, Qt::Key_Return});
     scan(kDouble);
     EXPECT_EQ(shown(0, BillRow::kName), "红茶");
-    then("frmInput", [](QWidget& dialog) {
-      QTest::keyClicks(target(dialog), "1.25");
-      QTest::keyClick(target(dialog), Qt::Key_Return);
-    });
+    hands.type("frmInput", "1.25").press("frmInput", {Qt::Key_Return});
     scan(kNoPrice);
     EXPECT_EQ(shown(1, BillRow::kPrice), "1.25");
+    press(Qt::Key_F12);
+  });
+}
+
+TEST_F(SellWindow, aHeldBillIsChosenInItsWindow) {
+  show([this] {
+    for (const char* code : {kWater, kCrate}) {
+      scan(code);
+      press(Qt::Key_F5);
+    }
+    hands.press("frmRecord", {Qt::Key_Escape});
+    press(Qt::Key_F6);
+    EXPECT_EQ(label("title1"), "流水号：3   收银员：张三");
+    hands.at("frmRecord", [](QWidget& form) {
+      const auto* bills = form.findChild<QTableView*>("listSell")->model();
+      EXPECT_EQ(bills->index(1, 1).data().toString(), "28.00");
+      Hands::pressNow(Qt::Key_Down);
+      const auto* goods = form.findChild<QTableView*>("listProducts")->model();
+      EXPECT_EQ(goods->index(0, 1).data().toString(), "矿泉水整箱");
+      Hands::pressNow(Qt::Key_Return);
+    });
+    press(Qt::Key_F6);
+    EXPECT_EQ(label("title1"), "流水号：2   收银员：张三");
+    EXPECT_EQ(shown(0, BillRow::kMoney), "28.00");
+    press(Qt::Key_F12);
+    hands.press("frmRecord", {Qt::Key_Return});
+    press(Qt::Key_F6);
     press(Qt::Key_F12);
   });
 }

@@ -21,7 +21,6 @@ class TillScreen : public FakeScreen {
   /// The answers in their order. The question repeats for ever without one that it takes.
   QString prompt(const QString& title, const QString& message) override {
     EXPECT_EQ(title + message, question);
-    ++prompts;
     if (answers.isEmpty()) throw std::logic_error("a question is asked and no answer is left");
     return answers.takeFirst();
   }
@@ -29,7 +28,6 @@ class TillScreen : public FakeScreen {
   SaleSession* session = nullptr;
   QStringList offered, answers;
   QString question;  ///< title and message expected; empty for the price question
-  int prompts = 0;
 
  private:
   SaleState unused_;
@@ -38,6 +36,8 @@ class TillScreen : public FakeScreen {
 /// A till whose sale screen has just opened, in a shop with goods of every kind.
 class TillFixture : public SaleFixture {
  protected:
+  static constexpr int kEnter = 13, kEsc = 27, kLeft = 37, kUp = 38, kRight = 39, kDown = 40,
+                       kF1 = 112, kF2 = 113, kF4 = 115, kF5 = 116, kF6 = 117, kF12 = 123;
   static constexpr const char* kWater = "6901234567892";   // 1001, 2.50
   static constexpr const char* kCrate = "6901234567885";   // 1001 by twelve, 28.00
   static constexpr const char* kDouble = "6900000000029";  // 1002 and 1003
@@ -73,29 +73,11 @@ class TillFixture : public SaleFixture {
   void enter(const QString& typed) {
     session.textComing();
     till.text = typed;
-    press(13);
-  }
-  std::string stock(const std::string& itemCode) {
-    return stored("quantity as v from stock where spbm = '" + itemCode + "'");
+    press(kEnter);
   }
   std::string lines() { return stored("count(*) as v from sellProducts"); }
   std::string cell(int row, BillRow::Column column) const {
     return session.state.rows.at(static_cast<std::size_t>(row)).cells[column];
-  }
-  std::string onlyMessage() {
-    EXPECT_EQ(till.messages.size(), 1U);
-    const std::string text = till.messages.empty() ? "" : till.messages.front();
-    till.messages.clear();
-    return text;
-  }
-  /// From now on every statement of that kind ("update on sell") fails.
-  void breakStore(const std::string& kind) {
-    pos.gConn->run(
-        ("create temp trigger broken before " + kind + " begin select raise(abort, 'broken'); end")
-            .c_str());
-  }
-  void setParameter(const char* name, const char* value) {
-    ASSERT_EQ(pos.gSysParam.set(name, value), "");
   }
 
   TillScreen till;

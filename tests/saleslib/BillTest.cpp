@@ -7,21 +7,15 @@ using BillTest = Shop;
 
 TEST_F(BillTest, ABillLivesFromItsOpeningToItsReload) {
   ClsSell bill = openBill(7);
-  EXPECT_EQ(bill.SellTime(), now);
-  now.date.day = 23;
-  now.hour = 10;
+  now = {{2026, 11, 23}, 10, 5, 3};  // opened the evening before, dated by its first line
   const auto water = newLine(bill, "1.5", 2);
   water->setDiscount(Discount(0.9));
   water->setEntryCode("6901");
   water->setRatio(12);
-  EXPECT_EQ(water->Id(), 0);
   water->Save();
-  EXPECT_NE(water->Id(), 0);
   bill.AddItem(water);
   now.hour = 11;
   ring(bill, "10.05", 0.333);
-  EXPECT_EQ(bill.Quantity(), 2.333);
-  EXPECT_EQ(bill.Amount(), yuan("6.05"));
   bill.setAmount(yuan("6"));
   bill.setCash(yuan("4"));
   bill.setBankCard(yuan("1"));
@@ -31,69 +25,46 @@ TEST_F(BillTest, ABillLivesFromItsOpeningToItsReload) {
   bill.setSalesman(3);
   bill.setMemberId(5);
   settle(bill);
-
-  const ClsSell again = loaded(bill.BillNo());
-  EXPECT_EQ(again.Amount(), yuan("6"));
-  EXPECT_EQ(again.GoodsAmount(), yuan("6.05"));
-  EXPECT_EQ(again.Change(), yuan("0.5"));
-  EXPECT_EQ(again.Cash(), yuan("4"));
-  EXPECT_EQ(again.CardNo(), "88");
-  EXPECT_EQ(again.OperatorId(), 7);
-  EXPECT_EQ(again.Salesman(), 3);
-  EXPECT_EQ(again.SellTime().date.day, 23) << "opened the evening before";
-  EXPECT_EQ(again.SellTime().hour, 10);
-  ASSERT_EQ(again.Items().size(), 2u);
-  const ClsSellItem& line = *again.Items()[0];
-  EXPECT_EQ(line.Id(), water->Id());
-  EXPECT_EQ(line.EntryCode(), "6901");
-  EXPECT_EQ(line.Money(), yuan("2.7"));
-  EXPECT_EQ(line.StockQuantity(), 24);
-  EXPECT_FALSE(line.Changed());
   EXPECT_EQ(stored("select insert_Date from sellProducts limit 1"), "2026-11-23 10:05:03");
 
-  ClsSell last;
-  EXPECT_TRUE(last.OpenLastOfMember(connection, 5));
-  EXPECT_EQ(last.BillNo(), bill.BillNo());
-  EXPECT_FALSE(last.OpenLastOfMember(connection, 6));
-  EXPECT_FALSE(last.Open(connection, 999, 0));
-}
-
-TEST_F(BillTest, AVoidedBillIsGoneAndItsNumberIsNotUsedAgain) {
-  ClsSell kept = openBill();
-  ring(kept, "1", 1);
-  ClsSell bill = openBill();
-  ring(bill, "1", 1);
-  ring(bill, "2", 1)->Delete();
-  EXPECT_EQ(stored("select count(*) from sellProducts"), "2");
-  bill.Void();
-  EXPECT_EQ(stored("select count(*) from sellProducts"), "1");
-  EXPECT_EQ(stored("select count(*) from sell"), "1");
-  EXPECT_FALSE(bill.Save());
-  EXPECT_THAT(bill.ErrText(), testing::HasSubstr("单据 2"));
-  EXPECT_EQ(openBill().BillNo(), 3);
+  // Read back and stored again, whatever of it is not read is lost.
+  ClsSell again;
+  ASSERT_TRUE(again.OpenLastOfMember(connection, 5));
+  again.LoadLines();
+  for (const auto& line : again.Items()) line->setSpName("水");
+  ASSERT_TRUE(again.Save());
+  EXPECT_EQ(stored("select sell_time || ' ' || operator_id || ' ' || salesman || ', ' || quantity"
+                   " || ' for ' || goods_amount || ', ' || amount || ' by ' || cash || ' ' ||"
+                   " bank_card || ' ' || card_pay || ' ' || card_no || ' ' || favorable from sell"),
+            "2026-11-23 10:05:03 7 3, 2.333 for 6.05, 6 by 4 1 0.5 88 1");
+  EXPECT_EQ(stored("select group_concat(name || entry_code || ' ' || amount || ' x ' || price ||"
+                   " ' x ' || discount || ' = ' || money || ' / ' || ratio, '; ')"
+                   " from sellProducts"),
+            "水6901 2 x 1.5 x 0.9 = 2.7 / 12; 水 0.333 x 10.05 x 1 = 3.35 / 1");
+  EXPECT_EQ(again.Change(), yuan("0.5"));
+  EXPECT_FALSE(again.OpenLastOfMember(connection, 6));
+  EXPECT_FALSE(again.Open(connection, 999, 0));
 }
 
 TEST_F(BillTest, ABillChecksItselfBeforeItIsStoredAndAfterItIsLoaded) {
   ClsSell bill = openBill();
-  const auto line = ring(bill, "2", 1);
-  line->setQuantity(2);
+  ring(bill, "2", 1)->setQuantity(2);
   EXPECT_DEATH((void)bill.Save(), "add up");
   bill.Recalculate();
   settle(bill);
-  EXPECT_EQ(bill.Amount(), yuan("4"));
   EXPECT_DEATH(bill.AddItem(newLine(openBill(), "1", 1)), "own bill");
 
   connection.run("update sellProducts set amount = 3");
   ClsSell damaged;
   ASSERT_TRUE(damaged.Open(connection, bill.BillNo(), 0));
-  try {
-    damaged.LoadLines();
-    FAIL() << "a settled bill with other lines than it was paid for went unnoticed";
-  } catch (const StoreError& error) {
-    EXPECT_THAT(error.what(), testing::HasSubstr("单据 1 "));
-  }
+  EXPECT_THROW(damaged.LoadLines(), StoreError)
+      << "a settled bill with other lines than it was paid for went unnoticed";
   connection.run("update sell set state = 0");
-  EXPECT_EQ(loaded(bill.BillNo()).Amount(), yuan("6"));
+  ASSERT_TRUE(damaged.Open(connection, bill.BillNo(), 0));
+  damaged.LoadLines();
+  EXPECT_EQ(damaged.Amount(), yuan("6"));
+  damaged.Void();
+  EXPECT_FALSE(damaged.Save()) << "a bill that is gone";
 }
 
 TEST_F(BillTest, ABillWhoseStoringFailsIsStoredByTheNextSave) {
@@ -107,15 +78,13 @@ TEST_F(BillTest, ABillWhoseStoringFailsIsStoredByTheNextSave) {
 
   breakStore("update on sell");
   EXPECT_FALSE(bill.Save());
-  EXPECT_FALSE(bill.ErrText().empty());
   EXPECT_EQ(stored("select group_concat(amount) from sellProducts"), "1,5");
-  EXPECT_EQ(stored("select state from sell"), "0");
   mendStore();
 
   // Only what has changed is written: the first line's row is not touched.
   breakStore("update on sellProducts when old.id = " + std::to_string(stays->Id()));
   EXPECT_TRUE(bill.Save());
-  EXPECT_EQ(loaded(bill.BillNo()).Amount(), yuan("15"));
+  EXPECT_EQ(stored("select state || ' ' || amount from sell"), "1 15");
 }
 
 TEST_F(BillTest, ALineKnowsWhatWasTakenBackWithItsTransaction) {

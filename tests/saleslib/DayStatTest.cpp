@@ -1,4 +1,5 @@
 #include "Shop.h"
+#include "base/NumberText.h"
 #include "saleslib/ClsDayStat.h"
 
 using DayStatTest = Shop;
@@ -24,24 +25,18 @@ TEST_F(DayStatTest, ADayHoldsTheOperatorsSettledBillsOfThatDate) {
     ring(bill, "1.1", 1.25);
     if (settled) settle(bill);
   }
+  const auto found = [&day] {
+    std::string numbers;
+    for (const auto& bill : day.Sells()) numbers += std::to_string(bill->BillNo()) + " ";
+    return numbers + generalNumber(day.SumQuantity()) + " " + generalNumber(day.SumMoney());
+  };
   day.DayQuery(connection, {2026, 11, 22}, 0, 1);
-  ASSERT_EQ(day.Sells().size(), 2u);
-  EXPECT_EQ(day.Sells()[0]->BillNo(), 2);
-  EXPECT_EQ(day.Sells()[1]->BillNo(), 5);
-  EXPECT_EQ(day.SumQuantity(), 2.5);
-  EXPECT_EQ(day.SumMoney(), yuan("2.76"));
-
+  EXPECT_EQ(found(), "2 5 2.5 2.76");
   day.OpenQuery(connection, 1);
-  ASSERT_EQ(day.Sells().size(), 1u);
-  EXPECT_EQ(day.Sells()[0]->BillNo(), 4);
-  EXPECT_EQ(day.Sells()[0]->Items().size(), 1u) << "its goods go back to stock";
-  EXPECT_EQ(day.SumMoney(), yuan("1.38")) << "from the lines: its row was never stored";
+  EXPECT_EQ(found(), "4 1.25 1.38") << "from the lines: its row was never stored";
 
-  EXPECT_EQ(day.LastSell(connection)->BillNo(), 6);
   now = {{2026, 1, 1}, 0, 0, 0};
   ClsSell clockSetBack = openBill();
   settle(clockSetBack);
   EXPECT_EQ(day.LastSell(connection)->BillNo(), 6) << "the latest by time";
-  day.DayQuery(connection, {2026, 11, 22}, 0, 9);
-  EXPECT_EQ(day.SumMoney(), Currency());
 }

@@ -39,12 +39,6 @@ class Shop : public testing::Test {
     bill.setState(1);
     ASSERT_TRUE(bill.Save()) << bill.ErrText();
   }
-  ClsSell loaded(std::int32_t billNo) {
-    ClsSell bill;
-    EXPECT_TRUE(bill.Open(connection, billNo, 0));
-    bill.LoadLines();
-    return bill;
-  }
   /// The first value of an engine query, as text; "-" when there is no row.
   std::string stored(const std::string& query) {
     Rows rows = connection.query(("select (" + query + ") as value").c_str());
