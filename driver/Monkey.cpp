@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QDir>
 #include <QFileDialog>
+#include <QLabel>
 #include <QLineEdit>
 #include <QTest>
 #include <QTimer>
@@ -15,7 +16,7 @@ namespace {
 constexpr int kReportEvery = 100;
 /// How long the monkey plays before it goes home, and how long that may take.
 constexpr int kSpell = 1500;
-constexpr int kLongestWayHome = 8000;
+constexpr int kLongestWayHome = 60000;
 constexpr int kLowNumbers = 60;
 constexpr int kDoubleClickGap = 1000;  // milliseconds that keep two clicks from being a double one
 
@@ -74,8 +75,13 @@ QString standing() {
     if (window->isVisible()) open << window->objectName();
   }
   const QWindow* keyboard = QGuiApplication::focusWindow();
-  return QStringLiteral("open: %1; keyboard: %2")
-      .arg(open.join(QLatin1Char(' ')), keyboard ? keyboard->objectName() : QString());
+  QStringList texts;
+  if (const QWidget* window = front()) {
+    for (const QLabel* label : window->findChildren<QLabel*>()) texts << label->text();
+  }
+  return QStringLiteral("open: %1; keyboard: %2; texts: %3")
+      .arg(open.join(QLatin1Char(' ')), keyboard ? keyboard->objectName() : QString(),
+           texts.join(QLatin1Char('|')));
 }
 
 }  // namespace
@@ -145,7 +151,8 @@ void Monkey::playAround() {
 
 // By keys and clicks alone: not every till has a window manager that closes windows. With
 // everything that leaves a window, and with everything that may leave it because the monkey has
-// changed the meaning of the keys.
+// changed the meaning of the keys: held bills keep the sale screen open until the keys that recall
+// and void them are found, and the last entry of its menu may be the only door.
 void Monkey::goHome() {
   if (atHome()) {
     leaving_ = 0;
@@ -157,10 +164,15 @@ void Monkey::goHome() {
     return end(QStringLiteral("error cannot leave %1 (%2)").arg(name, standing()));
   }
   const int dice = below(100);
+  if (dice < 5) return leaveByMenu();
   if (dice < 65) return key(one(kWayHome));
-  if (dice < 75) return randomKey();
+  if (dice < 75) return chance(20) ? key(one(kKeys)) : type(QString(QChar(' ' + below(95))));
   if (dice < 80) return type(QString(QChar('0' + below(75))));
   randomMouse();
+}
+
+void Monkey::leaveByMenu() {
+  for (const Qt::Key pressed : {Qt::Key_Menu, Qt::Key_Up, Qt::Key_Return}) key(pressed);
 }
 
 void Monkey::logIn() {

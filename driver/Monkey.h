@@ -30,6 +30,7 @@ class Monkey : public QObject {
   void keepFilesHere();
   void playAround();
   void goHome();
+  void leaveByMenu();
   bool atHome() const;
   void logIn();
   void chooseFromMainMenu();
