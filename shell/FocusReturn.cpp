@@ -7,36 +7,40 @@
 
 namespace {
 
-/// Runs when what happens now is complete, if `window` still lives then.
-void soon(QWindow* window, void (*act)(QWindow& window)) {
-  QTimer::singleShot(0, window, [window, act] { act(*window); });
+/// A hidden window has no use for the keyboard, and none that lies under a modal one, menus aside.
+bool canUseKeyboard(const QWindow& window) {
+  const QWindow* modal = QGuiApplication::modalWindow();
+  return window.isVisible() && (modal == nullptr || modal == &window || window.type() == Qt::Popup);
 }
 
-void activateIfInFront(QWindow& window) {
-  if (window.isVisible() && QGuiApplication::modalWindow() == &window) window.requestActivate();
+/// Once what happens now is complete, the modal window in front has the keyboard, or `window` when
+/// there is none, unless somebody has it who can use it.
+void giveToFront(QWindow* window) {
+  QTimer::singleShot(0, window, [window] {
+    const QWindow* owner = QGuiApplication::focusWindow();
+    if (owner != nullptr && canUseKeyboard(*owner)) return;
+    QWindow* modal = QGuiApplication::modalWindow();
+    QWindow* front = modal != nullptr ? modal : window;
+    if (front->isVisible()) front->requestActivate();
+  });
 }
 
-// A modal window that has opened meanwhile comes first. A hidden window has no use for the
-// keyboard.
-void activateFrontIfNobodyHasKeyboard(QWindow& window) {
-  const QWindow* owner = QGuiApplication::focusWindow();
-  if (owner != nullptr && owner->isVisible()) return;
-  QWindow* modal = QGuiApplication::modalWindow();
-  QWindow& front = modal != nullptr ? *modal : window;
-  if (front.isVisible()) front.requestActivate();
-}
-
-void returnFrom(const QWindow& hidden) {
-  if (QWindow* parent = hidden.transientParent()) soon(parent, activateFrontIfNobodyHasKeyboard);
+void takeFrom(QWindow& window) {
+  if (QWindow* parent = window.transientParent()) {
+    giveToFront(parent);
+  } else if (QWindow* modal = QGuiApplication::modalWindow()) {
+    giveToFront(modal);
+  }
 }
 
 }  // namespace
 
-// A menu that is closed at once may be given the keyboard when it is hidden already.
+// A menu that is closed at once may be given the keyboard when it is hidden already, and a window
+// when a modal one lies over it already.
 FocusReturn::FocusReturn(QGuiApplication* application) : QObject(application) {
   application->installEventFilter(this);
   connect(application, &QGuiApplication::focusWindowChanged, this, [](QWindow* window) {
-    if (window != nullptr && !window->isVisible()) returnFrom(*window);
+    if (window != nullptr && !canUseKeyboard(*window)) takeFrom(*window);
   });
 }
 
@@ -45,12 +49,11 @@ FocusReturn::FocusReturn(QGuiApplication* application) : QObject(application) {
 bool FocusReturn::eventFilter(QObject* watched, QEvent* event) {
   if (watched->isWindowType()) {
     auto* window = static_cast<QWindow*>(watched);
-    if (event->type() == QEvent::Show && window->isModal()) {
-      soon(window, activateIfInFront);
-    } else if (event->type() == QEvent::WindowUnblocked) {
-      soon(window, activateFrontIfNobodyHasKeyboard);
+    const bool opens = event->type() == QEvent::Show && window->isModal();
+    if (opens || event->type() == QEvent::WindowUnblocked) {
+      giveToFront(window);
     } else if (event->type() == QEvent::Hide && window == QGuiApplication::focusWindow()) {
-      returnFrom(*window);
+      takeFrom(*window);
     }
   }
   return QObject::eventFilter(watched, event);
