@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QInputMethodEvent>
+#include <QTableView>
 #include <QTest>
 #include <QTimer>
 #include <QWindow>
@@ -46,8 +47,11 @@ void SaleWindow::compose(const QString& text) {
   QCoreApplication::sendEvent(QApplication::focusWidget(), &composed);
 }
 
-void SaleWindow::ring() {
-  paint_.untilPainted(kList, [] { press(Qt::Key_Return); });
+double SaleWindow::ring() {
+  const QAbstractItemModel& rows = *window_->findChild<QTableView*>(kList)->model();
+  return paint_.untilPainted(
+      kList, [] { press(Qt::Key_Return); },
+      [&rows, before = rows.rowCount()] { return rows.rowCount() > before; });
 }
 
 void SaleWindow::settle(const std::function<void()>& confirming) {

@@ -23,8 +23,9 @@ class SaleWindow {
   void type(const std::string& code);
   /// Writes a text as an input method does.
   void compose(const QString& text);
-  /// Presses Enter and waits until the list has been painted.
-  void ring();
+  /// Presses Enter and waits until everything has been painted; gives the microseconds until the
+  /// list had been painted with the new row.
+  double ring();
   /// Opens the settlement and confirms the amount due once the dialog has been painted; ends when
   /// the next bill has been painted. `confirming` is called right before that confirmation.
   void settle(const std::function<void()>& confirming = {});
