@@ -44,6 +44,7 @@ struct BillLines::Shown {
   BillRow row;
   std::int64_t originalPrice;
   QString status;
+  bool isNew = false;  ///< an entry row is to follow it
 };
 
 BillLines::BillLines(posMod& pos, SaleState& state, SaleScreen& screen, ItemLookup& lookup,
@@ -101,13 +102,7 @@ void BillLines::enterShortCode(const QString& typed) {
 // The input line is emptied too when the line was refused: the next scan must not be appended.
 void BillLines::ringUp() {
   state_.curLine->setQuantity(1);
-  if (!ShowLine(true)) {
-    screen_.setInput({});
-    return;
-  }
-  state_.AddEntryRow();
-  screen_.rowsChanged();
-  screen_.PlaceEditor();
+  if (!ShowLine(true)) screen_.setInput({});
 }
 
 void BillLines::notFound(const QString& message) {
@@ -125,11 +120,13 @@ void BillLines::changeQuantity(const QString& typed) {
   const double before = line.Quantity();
   if (*quantity != before) {
     line.setQuantity(*quantity);
-    if (!storeAndShow(roundedQuantity((*quantity - before) * line.Ratio()))) {
+    auto changed = store(roundedQuantity((*quantity - before) * line.Ratio()));
+    if (!changed) {
       line.setQuantity(before);
       screen_.setInput(text(generalNumber(before)));
       return;
     }
+    show(std::move(*changed));
   }
   returnToEntryRow();
 }
@@ -177,16 +174,21 @@ void BillLines::MoveRow(bool up) {
 
 bool BillLines::ShowLine(bool takeStock) {
   if (!state_.curLine) return false;
-  const bool shown = storeAndShow(takeStock ? state_.curLine->StockQuantity() : 0);
-  if (!shown && takeStock) state_.curLine = nullptr;
-  return shown;
+  auto stored = store(takeStock ? state_.curLine->StockQuantity() : 0);
+  if (!stored) {
+    if (takeStock) state_.curLine = nullptr;
+    return false;
+  }
+  stored->isNew = takeStock;
+  show(std::move(*stored));
+  return true;
 }
 
 bool BillLines::RefreshLine() {
   return ShowLine(false);
 }
 
-bool BillLines::storeAndShow(double taken) {
+std::optional<BillLines::Shown> BillLines::store(double taken) {
   Shown shown;
   const bool stored = guarded([&] {
     return moveStock(taken, [&] {
@@ -194,14 +196,19 @@ bool BillLines::storeAndShow(double taken) {
       shown = shownLine();
     });
   });
-  if (!stored) return false;
+  if (!stored) return std::nullopt;
+  return shown;
+}
 
+// The row comes first: it is what the cashier waits for, and the display may be slow.
+void BillLines::show(Shown shown) {
   state_.rows[static_cast<std::size_t>(state_.selected)].cells = std::move(shown.row.cells);
   state_.origTotal = shown.originalPrice;
-  display_.clientView(state_.curLine->Price(), CustomerDisplay::kPrice);
-  screen_.setStatus(shown.status);
+  if (shown.isNew) state_.AddEntryRow();
   screen_.rowsChanged();
-  return true;
+  if (shown.isNew) screen_.PlaceEditor();
+  screen_.setStatus(shown.status);
+  display_.clientView(state_.curLine->Price(), CustomerDisplay::kPrice);
 }
 
 bool BillLines::guarded(const std::function<bool()>& work) {

@@ -4,6 +4,7 @@
 #include <QString>
 #include <cstdint>
 #include <functional>
+#include <optional>
 
 class Checkout;
 class CustomerDisplay;
@@ -27,8 +28,9 @@ class BillLines {
   /// The mapped Enter key on the input line.
   void Enter();
   /// Takes stock for the current line when asked, stores it, writes it into the selected row, shows
-  /// price and status line. False when there is no current line, the stock was refused or the store
-  /// failed; a line whose stock was to be taken is then dropped.
+  /// it with price and status line. A line whose stock is taken is a new one: an entry row follows
+  /// it. False when there is no current line, the stock was refused or the store failed; a line
+  /// whose stock was to be taken is then dropped.
   bool ShowLine(bool takeStock);
   /// The same without stock, after a change of the current line.
   bool RefreshLine();
@@ -50,7 +52,8 @@ class BillLines {
   void returnToEntryRow();
   void numberRows();
 
-  bool storeAndShow(double taken);
+  std::optional<Shown> store(double taken);
+  void show(Shown shown);
   bool guarded(const std::function<bool()>& work);
   bool moveStock(double taken, const std::function<void()>& write);
   Shown shownLine() const;

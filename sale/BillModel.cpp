@@ -25,9 +25,8 @@ const std::array<Column, BillRow::kColumns> kColumns{{
     {QT_TRANSLATE_NOOP("BillModel", "编码")},
 }};
 
-QVariant alignment(const Column& column) {
-  return QVariant::fromValue(Qt::Alignment(column.figure ? Qt::AlignRight : Qt::AlignLeft) |
-                             Qt::AlignVCenter);
+int alignment(const Column& column) {
+  return (column.figure ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignVCenter;
 }
 
 }  // namespace

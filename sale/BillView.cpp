@@ -1,119 +1,150 @@
 #include "sale/BillView.h"
 
 #include <QHeaderView>
-#include <QItemSelectionModel>
 #include <QPaintEvent>
 #include <QPainter>
 #include <QScrollBar>
+#include <QTextLayout>
 #include <algorithm>
 
 namespace {
 
-constexpr int kMostPictures = 32;  // a screen of rows; some 100 KB each
-constexpr QChar kSeparator(0x1F);
+constexpr int kFrame = 2;
+constexpr QColor kFrameColour(0xd3, 0x54, 0x00);
+
+/// In one line; gives its width.
+double layOut(QTextLayout& text) {
+  text.beginLayout();
+  const QTextLine line = text.createLine();
+  text.endLayout();
+  return line.naturalTextWidth();
+}
 
 }  // namespace
 
-BillView::BillView(QWidget* parent) : QTableView(parent), pictures_(kMostPictures) {
-  connect(horizontalHeader(), &QHeaderView::sectionResized, this, [this] { pictures_.clear(); });
-  connect(verticalHeader(), &QHeaderView::sectionResized, this, [this] { pictures_.clear(); });
+BillView::BillView(QWidget* parent) : QTableView(parent) {
+  setSelectionMode(QAbstractItemView::NoSelection);
+  // With a grid the base class marks rectangles that are a pixel too short.
+  setShowGrid(false);
   viewport()->setAttribute(Qt::WA_OpaquePaintEvent);
 }
 
-// The headings do not follow the selection: they would be painted again at each of its moves.
-void BillView::setSelectionModel(QItemSelectionModel* selection) {
-  QTableView::setSelectionModel(selection);
-  if (model() == nullptr) return;
-  horizontalHeader()->setSelectionModel(new QItemSelectionModel(model(), selection));
+void BillView::showCell(int row, int column) {
+  const QModelIndex shown = model()->index(row, column);
+  executeDelayedItemsLayout();
+  scrollTo(shown);
+  setCurrentIndex(shown);
 }
 
-// Other colours or another font.
-void BillView::changeEvent(QEvent* event) {
-  pictures_.clear();
-  QTableView::changeEvent(event);
+QRect BillView::insideOfCurrentCell() const {
+  const QModelIndex cell = currentIndex();
+  return cellRect(cell.row(), cell.column()).adjusted(kFrame, kFrame, -kFrame, -kFrame);
 }
 
-// As the base class does it, but that what is painted already stays: another number of rows moves
-// none of them.
+// One changed row brings all others with it.
+void BillView::paintNow() {
+  const int row = currentIndex().row();
+  viewport()->repaint(rowsRect(row, row));
+}
+
+// As the base class does it, but that what is painted already stays, and so do the headings:
+// another number of rows moves none of them.
 void BillView::doItemsLayout() {
-  updateGeometries();
+  const int room = viewport()->height();
+  verticalScrollBar()->setRange(0, std::max(0, verticalHeader()->length() - room));
+  verticalScrollBar()->setPageStep(room);
+  verticalScrollBar()->setSingleStep(verticalHeader()->defaultSectionSize());
   verticalHeader()->setOffset(verticalScrollBar()->value());
   verticalHeader()->setUpdatesEnabled(true);
 }
 
-void BillView::updateFrom(int row) {
-  const int top = row * verticalHeader()->defaultSectionSize() - verticalOffset();
-  viewport()->update(0, top, viewport()->width(), viewport()->height() - top);
+QRect BillView::rowsRect(int first, int last) const {
+  const int height = verticalHeader()->defaultSectionSize();
+  return {0, first * height - verticalOffset(), viewport()->width(), (last - first + 1) * height};
 }
 
+void BillView::currentChanged(const QModelIndex& current, const QModelIndex& previous) {
+  for (const QModelIndex& index : {current, previous}) {
+    if (index.isValid()) viewport()->update(rowsRect(index.row(), index.row()));
+  }
+}
+
+// Rows below them move.
 void BillView::rowsInserted(const QModelIndex& parent, int first, int last) {
   QTableView::rowsInserted(parent, first, last);
-  updateFrom(first);
+  viewport()->update(rowsRect(first, std::max(last, model()->rowCount() - 1)));
 }
 
 void BillView::rowsAboutToBeRemoved(const QModelIndex& parent, int first, int last) {
   QTableView::rowsAboutToBeRemoved(parent, first, last);
-  updateFrom(first);
+  viewport()->update(rowsRect(first, std::max(last, model()->rowCount() - 1)));
 }
 
+QRect BillView::cellRect(int row, int column) const {
+  const QRect whole = rowsRect(row, row);
+  return {columnViewportPosition(column), whole.top(), columnWidth(column), whole.height()};
+}
+
+// The rectangle of the event is often the whole list, when a bill that fills the screen moves up.
 void BillView::paintEvent(QPaintEvent* event) {
   QPainter painter(viewport());
+  painter.setFont(font());
+  const QRect part = event->rect();
+  paintRest(painter, part);
   const int rows = model() == nullptr ? 0 : model()->rowCount();
-  const int last = rowAt(event->rect().bottom());
+  const int last = rowAt(part.bottom());
   const int end = last < 0 ? rows : last + 1;
-  for (int row = std::max(rowAt(event->rect().top()), 0); row < end; ++row) paintRow(painter, row);
-  if (last < 0) paintRest(painter);
+  for (int row = std::max(rowAt(part.top()), 0); row < end; ++row) {
+    if (event->region().intersects(rowsRect(row, row))) paintRow(painter, row, event->region());
+  }
 }
 
 /// The room behind the last row.
-void BillView::paintRest(QPainter& painter) {
-  const int top = verticalHeader()->length() - verticalOffset();
-  painter.fillRect(0, top, viewport()->width(), viewport()->height() - top, palette().base());
+void BillView::paintRest(QPainter& painter, const QRect& part) {
+  const int end = verticalHeader()->length() - verticalOffset();
+  const QRect rest(0, end, viewport()->width(), viewport()->height() - end);
+  if (rest.intersects(part)) painter.fillRect(rest & part, palette().base());
 }
 
-void BillView::paintRow(QPainter& painter, int row) {
-  const int top = rowViewportPosition(row);
-  if (row == currentIndex().row()) {
-    return painter.drawPixmap(0, top,
-                              picture(row, {QPalette::Highlight, QPalette::HighlightedText}));
-  }
-  const bool odd = row % 2 == 1;
-  const QString shown = texts(row) + (odd ? "1" : "0");
-  QPixmap* known = pictures_.object(shown);
-  if (known == nullptr || known->width() != viewport()->width()) {
-    const auto back = odd ? QPalette::AlternateBase : QPalette::Base;
-    known = new QPixmap(picture(row, {back, QPalette::Text}));
-    pictures_.insert(shown, known);
-  }
-  painter.drawPixmap(0, top, *known);
-}
-
-QPixmap BillView::picture(int row, const Look& look) const {
-  QPixmap made(viewport()->width(), rowHeight(row));
-  made.fill(palette().color(look.back));
-  QPainter painter(&made);
-  painter.setFont(font());
-  painter.setPen(palette().color(look.text));
+void BillView::paintRow(QPainter& painter, int row, const QRegion& part) {
+  const bool current = row == currentIndex().row();
+  const auto plain = row % 2 == 1 ? QPalette::AlternateBase : QPalette::Base;
+  const QColor back = palette().color(current ? QPalette::Highlight : plain);
+  painter.fillRect(rowsRect(row, row) & part.boundingRect(), back);
+  painter.setPen(palette().color(current ? QPalette::HighlightedText : QPalette::Text));
   for (int column = 0; column < model()->columnCount(); ++column) {
-    const QRect cell(columnViewportPosition(column), 0, columnWidth(column), made.height());
-    paintCell(painter, cell, model()->index(row, column));
+    const QRect cell = cellRect(row, column);
+    if (!part.intersects(cell)) continue;
+    const QModelIndex index = model()->index(row, column);
+    if (index == currentIndex())
+      painter.fillRect(cell, kFrameColour);
+    else
+      paintCell(painter, cell, index, back);
   }
-  return made;
 }
 
-void BillView::paintCell(QPainter& painter, const QRect& cell, const QModelIndex& index) const {
+// Text is laid out once, for its width and for drawing.
+void BillView::paintCell(QPainter& painter, const QRect& cell, const QModelIndex& index,
+                         QColor back) {
   const QString text = index.data().toString();
   if (text.isEmpty()) return;
-  const int padding = fontInfo().pixelSize() / 3;
+  const QFontMetrics metrics = painter.fontMetrics();
+  const int padding = metrics.height() / 4;
   const QRect room = cell.adjusted(padding, 0, -padding, 0);
-  painter.drawText(room, index.data(Qt::TextAlignmentRole).toInt() | Qt::TextSingleLine,
-                   fontMetrics().elidedText(text, Qt::ElideRight, room.width()));
+  const bool right = index.data(Qt::TextAlignmentRole).toInt() & Qt::AlignRight;
+  if (characters_.draw(painter, room, right, text, back)) return;
+  QTextLayout layout(text, painter.font());
+  double width = layOut(layout);
+  if (width > room.width()) {
+    layout.setText(metrics.elidedText(text, Qt::ElideRight, room.width()));
+    width = layOut(layout);
+  }
+  const double left = right ? room.right() + 1 - width : room.left();
+  layout.draw(&painter, {left, room.top() + (room.height() - metrics.height()) / 2.0});
 }
 
-QString BillView::texts(int row) const {
-  QString all;
-  for (int column = 0; column < model()->columnCount(); ++column) {
-    all += model()->index(row, column).data().toString() + kSeparator;
-  }
-  return all;
+// Other colours or another font.
+void BillView::changeEvent(QEvent* event) {
+  characters_.clear();
+  QTableView::changeEvent(event);
 }

@@ -1,39 +1,41 @@
 #pragma once
 
-#include <QCache>
-#include <QPixmap>
 #include <QTableView>
 
-/// The bill's list, made for a bill that grows by a line at every key press: only rows that change
-/// are painted again, and rows that merely move are painted from pictures that the list keeps,
-/// since text is what costs most. Rows are of one height. Cells hold one line of text; one that is
-/// wider than its column is cut with "...".
+#include "sale/CharacterPictures.h"
+
+/// The bill's list, made for a bill that grows by a line at every key press: a change lays nothing
+/// out again and paints only the cells that it touches. The row of the current cell is highlighted
+/// and the cell itself framed; there is no selection. Rows are of one height. Cells hold one line
+/// of text; one that is wider than its column is cut with "...".
 class BillView : public QTableView {
   Q_OBJECT
 
  public:
   explicit BillView(QWidget* parent = nullptr);
 
-  void setSelectionModel(QItemSelectionModel* selection) override;
+  /// Makes that cell the current one and brings it into view.
+  void showCell(int row, int column);
+  /// Where the current cell is within the viewport, without its frame.
+  QRect insideOfCurrentCell() const;
+  /// Paints what has changed in the list, and what lies in it, before it returns.
+  void paintNow();
+
   void doItemsLayout() override;
 
  protected:
+  void currentChanged(const QModelIndex& current, const QModelIndex& previous) override;
   void rowsInserted(const QModelIndex& parent, int first, int last) override;
   void rowsAboutToBeRemoved(const QModelIndex& parent, int first, int last) override;
   void paintEvent(QPaintEvent* event) override;
   void changeEvent(QEvent* event) override;
 
  private:
-  struct Look {
-    QPalette::ColorRole back, text;
-  };
+  QRect rowsRect(int first, int last) const;
+  QRect cellRect(int row, int column) const;
+  void paintRest(QPainter& painter, const QRect& part);
+  void paintRow(QPainter& painter, int row, const QRegion& part);
+  void paintCell(QPainter& painter, const QRect& cell, const QModelIndex& index, QColor back);
 
-  void updateFrom(int row);
-  void paintRow(QPainter& painter, int row);
-  void paintRest(QPainter& painter);
-  QPixmap picture(int row, const Look& look) const;
-  void paintCell(QPainter& painter, const QRect& cell, const QModelIndex& index) const;
-  QString texts(int row) const;
-
-  QCache<QString, QPixmap> pictures_;  ///< of rows that are not selected, by what they show
+  CharacterPictures characters_;
 };

@@ -49,7 +49,7 @@ QString sizes(int type) {
              "#title1, #title2, #title3, #lv, #lv QHeaderView, #t { font-size: %1px; }"
              "#ViewF { font-size: %1px; }"
              "#lblViewMember { font-size: %4px; }"
-             "#t { padding: 0 %3px; border-radius: 0; }"
+             "#t { padding: 0 %3px; border: none; border-radius: 0; }"
              "#lv QHeaderView::section { padding: 0 %3px; }")
       .arg(type)
       .arg(type * 2)

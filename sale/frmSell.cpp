@@ -40,7 +40,7 @@ constexpr int kIdleInterval = 1500;
 // Column widths in tenths of the type size; the name takes the rest. The first one is where codes
 // are typed: it holds the thirteen digits of a barcode.
 constexpr std::array<int, BillRow::kColumns> kColumnTenths = {90, 88, 0,  46, 38, 34,
-                                                              52, 48, 36, 30, 48};
+                                                              52, 48, 40, 30, 48};
 
 template <class Widget>
 Widget* named(const char* name, QWidget* parent) {
@@ -62,7 +62,7 @@ frmSell::frmSell(posMod& pos, SaleSession::Openers openers, std::function<void()
       title2_(named<QLabel>("title2", this)),
       title3_(named<FittedLabel>("title3", this)),
       lv_(named<BillView>("lv", this)),
-      t_(named<QLineEdit>("t", this)),
+      t_(named<QLineEdit>("t", lv_->viewport())),
       txtmoney_(named<FittedLabel>("txtmoney", this)),
       lblViewMember_(named<QLabel>("lblViewMember", this)),
       frmBot_(named<QFrame>("frmBot", this)),
@@ -103,12 +103,10 @@ frmSell::frmSell(posMod& pos, SaleSession::Openers openers, std::function<void()
 
 frmSell::~frmSell() = default;
 
-// The list never has the focus: keys always reach the input line.
+// The list never has the focus: keys always reach the input line, which lies in it.
 void frmSell::makeList() {
   lv_->setFocusPolicy(Qt::NoFocus);
   lv_->setEditTriggers(QAbstractItemView::NoEditTriggers);
-  lv_->setSelectionBehavior(QAbstractItemView::SelectRows);
-  lv_->setSelectionMode(QAbstractItemView::SingleSelection);
   lv_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   lv_->setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
   lv_->setCornerButtonEnabled(false);
@@ -185,6 +183,11 @@ bool frmSell::eventFilter(QObject* watched, QEvent* event) {
   if (watched != t_ || !session_ || !session_->state.curBill)
     return QWidget::eventFilter(watched, event);
   if (event->type() == QEvent::KeyPress) return keyPressed(*static_cast<QKeyEvent*>(event));
+  // No shortcut is looked for before a typed character.
+  if (event->type() == QEvent::ShortcutOverride) {
+    event->accept();
+    return true;
+  }
   if (event->type() == QEvent::InputMethod) {
     const auto& composed = *static_cast<QInputMethodEvent*>(event);
     if (!composed.preeditString().isEmpty() || !composed.commitString().isEmpty())
@@ -248,7 +251,7 @@ void frmSell::resizeEvent(QResizeEvent* event) {
 
 void frmSell::rowsChanged() {
   model_->rowsChanged();
-  lv_->selectRow(session_->state.selected);
+  showEditedCell();
 }
 
 void frmSell::PlaceEditor() {
@@ -257,15 +260,18 @@ void frmSell::PlaceEditor() {
   const BillRow& row = state.rows[static_cast<std::size_t>(state.selected)];
   setInput(QString::fromStdString(row.cells[static_cast<std::size_t>(state.editColumn())]));
   state.clearOnKey = true;
+  lv_->paintNow();
+}
+
+void frmSell::showEditedCell() {
+  lv_->showCell(session_->state.selected, session_->state.editColumn());
 }
 
 void frmSell::moveEditor() {
   if (!session_ || session_->state.selected < 0) return;
-  const QModelIndex cell = model_->index(session_->state.selected, session_->state.editColumn());
-  lv_->scrollTo(cell);
-  t_->setAlignment(Qt::Alignment(cell.data(Qt::TextAlignmentRole).toInt()));
-  t_->setGeometry(lv_->visualRect(cell).translated(lv_->viewport()->mapTo(this, QPoint())));
-  t_->raise();
+  showEditedCell();
+  t_->setAlignment(Qt::Alignment(lv_->currentIndex().data(Qt::TextAlignmentRole).toInt()));
+  t_->setGeometry(lv_->insideOfCurrentCell());
 }
 
 QString frmSell::input() const {
