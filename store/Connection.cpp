@@ -131,15 +131,12 @@ Recordset Connection::Open(const std::string& statement) {
   std::vector<std::vector<Value>> rows;
   while (running->step()) {
     std::vector<Value>& values = rows.emplace_back();
+    values.reserve(static_cast<std::size_t>(running->columnCount()));
     for (int index = 0; index < running->columnCount(); ++index) {
       values.push_back(running->column(index));
     }
   }
-  std::vector<std::string> columns;
-  for (int index = 0; index < running->columnCount(); ++index) {
-    columns.emplace_back(running->columnName(index));
-  }
-  return Recordset(std::move(columns), std::move(rows));
+  return Recordset(running->columnNames(), std::move(rows));
 }
 
 std::int64_t Connection::runBound(const char* text, std::vector<Value> values) {

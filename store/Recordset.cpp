@@ -5,7 +5,7 @@
 #include "base/Text.h"
 #include "store/StoreError.h"
 
-Recordset::Record::Record(const std::vector<std::string>& columns, std::vector<Value> values)
+Recordset::Record::Record(const Columns& columns, std::vector<Value> values)
     : columns_(&columns), values_(std::move(values)) {}
 
 Value Recordset::Record::field(std::string_view column) const {
@@ -15,8 +15,8 @@ Value Recordset::Record::field(std::string_view column) const {
   throw StoreError("查询结果里没有“" + std::string(column) + "”这一列。");
 }
 
-Recordset::Recordset(std::vector<std::string> columns, std::vector<std::vector<Value>> rows)
-    : columns_(std::make_unique<std::vector<std::string>>(std::move(columns))) {
+Recordset::Recordset(std::shared_ptr<const Columns> columns, std::vector<std::vector<Value>> rows)
+    : columns_(std::move(columns)) {
   records_.reserve(rows.size());
   for (std::vector<Value>& values : rows) records_.emplace_back(*columns_, std::move(values));
 }

@@ -80,6 +80,18 @@ std::string_view Statement::columnName(int index) const {
   return sqlite3_column_name(prepared_, index);
 }
 
+// Another schema may give the statement other columns when it runs the next time.
+const std::shared_ptr<const std::vector<std::string>>& Statement::columnNames() {
+  const auto count = static_cast<std::size_t>(columnCount());
+  if (!columnNames_ || columnNames_->size() != count) {
+    std::vector<std::string> names;
+    names.reserve(count);
+    for (int index = 0; index < columnCount(); ++index) names.emplace_back(columnName(index));
+    columnNames_ = std::make_shared<const std::vector<std::string>>(std::move(names));
+  }
+  return columnNames_;
+}
+
 Value Statement::column(int index) const {
   ensure(state_ == State::kOnRow, "a row is read while the query stands on one");
   switch (sqlite3_column_type(prepared_, index)) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <memory>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -28,6 +29,8 @@ class Statement {
 
   int columnCount() const;
   std::string_view columnName(int index) const;
+  /// Of all columns; made once for a statement that is used again and again.
+  const std::shared_ptr<const std::vector<std::string>>& columnNames();
   Value column(int index) const;
   /// The column of that name in the present row. Throws StoreError when there is none.
   Value column(std::string_view name) const;
@@ -42,5 +45,6 @@ class Statement {
   sqlite3_stmt* prepared_ = nullptr;
   std::vector<Value> values_;
   State state_ = State::kReady;
+  std::shared_ptr<const std::vector<std::string>> columnNames_;
   mutable int nextIndex_ = 0;  ///< where the next column asked for is likely to be
 };
