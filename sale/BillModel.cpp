@@ -50,15 +50,11 @@ void BillModel::rowsChanged() {
   }
 }
 
-// Cell by cell: a range of cells makes the view and its heading paint themselves whole.
 void BillModel::showChanges(std::size_t row) {
-  for (std::size_t column = 0; column < BillRow::kColumns; ++column) {
-    const std::string& present = state_.rows[row].cells[column];
-    if (shown_[row].cells[column] == present) continue;
-    shown_[row].cells[column] = present;
-    const QModelIndex changed = index(static_cast<int>(row), static_cast<int>(column));
-    emit dataChanged(changed, changed);
-  }
+  if (shown_[row].cells == state_.rows[row].cells) return;
+  shown_[row].cells = state_.rows[row].cells;
+  const int changed = static_cast<int>(row);
+  emit dataChanged(index(changed, 0), index(changed, BillRow::kColumns - 1));
 }
 
 int BillModel::rowCount(const QModelIndex& parent) const {

@@ -30,21 +30,24 @@ BillView::BillView(QWidget* parent) : QTableView(parent) {
 }
 
 void BillView::showCell(int row, int column) {
-  const QModelIndex shown = model()->index(row, column);
+  if (row != row_ || column != column_) {
+    updateRow(row_);
+    updateRow(row);
+  }
+  row_ = row;
+  column_ = column;
   executeDelayedItemsLayout();
-  scrollTo(shown);
-  setCurrentIndex(shown);
+  const QRect cell = cellRect(row, column);
+  if (!viewport()->rect().contains(cell)) scrollTo(model()->index(row, column));
 }
 
 QRect BillView::insideOfCurrentCell() const {
-  const QModelIndex cell = currentIndex();
-  return cellRect(cell.row(), cell.column()).adjusted(kFrame, kFrame, -kFrame, -kFrame);
+  return cellRect(row_, column_).adjusted(kFrame, kFrame, -kFrame, -kFrame);
 }
 
 // One changed row brings all others with it.
 void BillView::paintNow() {
-  const int row = currentIndex().row();
-  viewport()->repaint(rowsRect(row, row));
+  viewport()->repaint(rowsRect(row_, row_));
 }
 
 // As the base class does it, but that what is painted already stays, and so do the headings:
@@ -63,9 +66,21 @@ QRect BillView::rowsRect(int first, int last) const {
   return {0, first * height - verticalOffset(), viewport()->width(), (last - first + 1) * height};
 }
 
-void BillView::currentChanged(const QModelIndex& current, const QModelIndex& previous) {
-  for (const QModelIndex& index : {current, previous}) {
-    if (index.isValid()) viewport()->update(rowsRect(index.row(), index.row()));
+void BillView::updateRow(int row) {
+  if (row >= 0) viewport()->update(rowsRect(row, row));
+}
+
+void BillView::dataChanged(const QModelIndex& topLeft, const QModelIndex& bottomRight,
+                           const QList<int>&) {
+  viewport()->update(rowsRect(topLeft.row(), bottomRight.row()));
+}
+
+// The headings show no cell: they need not hear of each that changes.
+void BillView::setModel(QAbstractItemModel* shown) {
+  QTableView::setModel(shown);
+  if (shown == nullptr) return;
+  for (QHeaderView* heading : {horizontalHeader(), verticalHeader()}) {
+    disconnect(shown, &QAbstractItemModel::dataChanged, heading, nullptr);
   }
 }
 
@@ -107,32 +122,30 @@ void BillView::paintRest(QPainter& painter, const QRect& part) {
 }
 
 void BillView::paintRow(QPainter& painter, int row, const QRegion& part) {
-  const bool current = row == currentIndex().row();
+  const bool current = row == row_;
   const auto plain = row % 2 == 1 ? QPalette::AlternateBase : QPalette::Base;
-  const QColor back = palette().color(current ? QPalette::Highlight : plain);
-  painter.fillRect(rowsRect(row, row) & part.boundingRect(), back);
+  painter.fillRect(rowsRect(row, row) & part.boundingRect(),
+                   palette().color(current ? QPalette::Highlight : plain));
   painter.setPen(palette().color(current ? QPalette::HighlightedText : QPalette::Text));
+  const int padding = painter.fontMetrics().height() / 4;
   for (int column = 0; column < model()->columnCount(); ++column) {
     const QRect cell = cellRect(row, column);
     if (!part.intersects(cell)) continue;
-    const QModelIndex index = model()->index(row, column);
-    if (index == currentIndex())
+    if (current && column == column_) {
       painter.fillRect(cell, kFrameColour);
-    else
-      paintCell(painter, cell, index, back);
+    } else {
+      paintCell(painter, cell.adjusted(padding, 0, -padding, 0), model()->index(row, column));
+    }
   }
 }
 
 // Text is laid out once, for its width and for drawing.
-void BillView::paintCell(QPainter& painter, const QRect& cell, const QModelIndex& index,
-                         QColor back) {
+void BillView::paintCell(QPainter& painter, const QRect& room, const QModelIndex& index) {
   const QString text = index.data().toString();
   if (text.isEmpty()) return;
-  const QFontMetrics metrics = painter.fontMetrics();
-  const int padding = metrics.height() / 4;
-  const QRect room = cell.adjusted(padding, 0, -padding, 0);
   const bool right = index.data(Qt::TextAlignmentRole).toInt() & Qt::AlignRight;
-  if (characters_.draw(painter, room, right, text, back)) return;
+  if (characters_.draw(painter, room, right, text, CharacterPictures::Overlong::kCut)) return;
+  const QFontMetrics metrics = painter.fontMetrics();
   QTextLayout layout(text, painter.font());
   double width = layOut(layout);
   if (width > room.width()) {

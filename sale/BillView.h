@@ -14,28 +14,34 @@ class BillView : public QTableView {
  public:
   explicit BillView(QWidget* parent = nullptr);
 
-  /// Makes that cell the current one and brings it into view.
+  /// Makes that cell the current one and brings it into view. It is the view's own: the item
+  /// views' current index moves with the pointer.
   void showCell(int row, int column);
+  int currentRow() const { return row_; }
   /// Where the current cell is within the viewport, without its frame.
   QRect insideOfCurrentCell() const;
   /// Paints what has changed in the list, and what lies in it, before it returns.
   void paintNow();
 
+  void setModel(QAbstractItemModel* shown) override;
   void doItemsLayout() override;
 
  protected:
-  void currentChanged(const QModelIndex& current, const QModelIndex& previous) override;
+  void dataChanged(const QModelIndex& topLeft, const QModelIndex& bottomRight,
+                   const QList<int>& roles) override;
   void rowsInserted(const QModelIndex& parent, int first, int last) override;
   void rowsAboutToBeRemoved(const QModelIndex& parent, int first, int last) override;
   void paintEvent(QPaintEvent* event) override;
   void changeEvent(QEvent* event) override;
 
  private:
+  void updateRow(int row);
   QRect rowsRect(int first, int last) const;
   QRect cellRect(int row, int column) const;
   void paintRest(QPainter& painter, const QRect& part);
   void paintRow(QPainter& painter, int row, const QRegion& part);
-  void paintCell(QPainter& painter, const QRect& cell, const QModelIndex& index, QColor back);
+  void paintCell(QPainter& painter, const QRect& room, const QModelIndex& index);
 
   CharacterPictures characters_;
+  int row_ = -1, column_ = -1;
 };

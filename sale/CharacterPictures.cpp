@@ -5,10 +5,12 @@
 #include <QString>
 #include <QVarLengthArray>
 #include <algorithm>
+#include <cstring>
 
 namespace {
 
-constexpr int kMostPictures = 6000;  // some 2 KB each
+// A cache drops what was used longest ago: never a character of the line at hand.
+constexpr int kMostBytes = 12 << 20;
 constexpr QChar kEllipsis(0x2026);
 
 // GB 2312 and what the window adds to it; none of these joins another or moves it.
@@ -18,64 +20,71 @@ bool standsAlone(QChar character) {
          (code >= 0x4E00 && code <= 0x9FFF) || (code >= 0xFF01 && code <= 0xFF5E);
 }
 
-int widthOf(const QPixmap& picture) {
-  return qRound(picture.deviceIndependentSize().width());
+using Pictures = QVarLengthArray<const QImage*, 64>;
+
+int widthOf(const Pictures& pictures) {
+  int width = 0;
+  for (const QImage* each : pictures) width += each->width();
+  return width;
+}
+
+/// All of them side by side: to draw that costs no more than to draw one.
+QImage line(const Pictures& pictures) {
+  const QImage& first = *pictures.front();
+  QImage made(widthOf(pictures), first.height(), first.format());
+  made.setDevicePixelRatio(first.devicePixelRatio());
+  uchar* to = made.bits();
+  for (const QImage* each : pictures) {
+    const uchar* from = each->constBits();
+    const auto bytes = size_t(each->bytesPerLine());
+    for (int y = 0; y < made.height(); ++y) {
+      std::memcpy(to + y * made.bytesPerLine(), from + y * each->bytesPerLine(), bytes);
+    }
+    to += bytes;
+  }
+  return made;
 }
 
 }  // namespace
 
-struct CharacterPictures::Look {
-  const QPainter& painter;
-  QFontMetrics metrics;
-  QColor text, back;
-
-  // Colours without transparency leave room for the character.
-  quint64 key(QChar character) const {
-    return (quint64(text.rgb() & 0xFFFFFF) << 40) | (quint64(back.rgb() & 0xFFFFFF) << 16) |
-           character.unicode();
-  }
-};
-
-CharacterPictures::CharacterPictures() : pictures_(kMostPictures) {}
+CharacterPictures::CharacterPictures() : pictures_(kMostBytes) {}
 
 bool CharacterPictures::draw(QPainter& painter, const QRect& room, bool right, const QString& text,
-                             QColor back) {
-  if (!std::all_of(text.begin(), text.end(), standsAlone)) return false;
-  const Look look{painter, painter.fontMetrics(), painter.pen().color(), back};
-  QVarLengthArray<QPixmap, 64> line;
-  int width = 0;
-  for (const QChar character : text) {
-    line.append(picture(look, character));
-    width += widthOf(line.last());
+                             Overlong overlong) {
+  if (text.isEmpty() || !std::all_of(text.begin(), text.end(), standsAlone)) return false;
+  Pictures pictures;
+  for (const QChar character : text) pictures.append(picture(painter, character));
+  const double width = room.width() * pictures.front()->devicePixelRatio();
+  if (widthOf(pictures) > width) {
+    if (overlong == Overlong::kRefuse) return false;
+    const QImage* ellipsis = picture(painter, kEllipsis);
+    do {
+      pictures.removeLast();
+    } while (!pictures.isEmpty() && widthOf(pictures) + ellipsis->width() > width);
+    pictures.append(ellipsis);
   }
-  if (width > room.width()) {
-    const QPixmap& ellipsis = picture(look, kEllipsis);
-    for (width += widthOf(ellipsis); width > room.width() && !line.isEmpty(); line.removeLast()) {
-      width -= widthOf(line.last());
-    }
-    line.append(ellipsis);
-  }
-  int left = right ? room.right() + 1 - width : room.left();
-  const int top = room.top() + (room.height() - look.metrics.height()) / 2;
-  for (const QPixmap& drawn : line) {
-    painter.drawPixmap(left, top, drawn);
-    left += widthOf(drawn);
-  }
+  const QImage drawn = line(pictures);
+  const QSizeF size = drawn.deviceIndependentSize();
+  const double left = right ? room.left() + room.width() - size.width() : room.left();
+  painter.drawImage(QPointF(left, room.top() + int(room.height() - size.height()) / 2), drawn);
   return true;
 }
 
-const QPixmap& CharacterPictures::picture(const Look& look, QChar character) {
-  if (const QPixmap* known = pictures_.object(look.key(character))) return *known;
-  const QSizeF size(look.metrics.horizontalAdvance(character), look.metrics.height());
-  const double scale = look.painter.device()->devicePixelRatio();
-  auto* made = new QPixmap((size * scale).toSize());
+const QImage* CharacterPictures::picture(const QPainter& painter, QChar character) {
+  const QColor colour = painter.pen().color();
+  const quint64 key = (quint64(colour.rgb()) << 16) | character.unicode();
+  if (const QImage* known = pictures_.object(key)) return known;
+  const QFontMetrics metrics = painter.fontMetrics();
+  const double scale = painter.device()->devicePixelRatio();
+  const QSizeF size(metrics.horizontalAdvance(character), metrics.height());
+  auto* made = new QImage((size * scale).toSize(), QImage::Format_ARGB32_Premultiplied);
   made->setDevicePixelRatio(scale);
-  made->fill(look.back);
+  made->fill(Qt::transparent);
   QPainter writer(made);
-  writer.setFont(look.painter.font());
-  writer.setPen(look.text);
-  writer.drawText(0, look.metrics.ascent(), character);
+  writer.setFont(painter.font());
+  writer.setPen(colour);
+  writer.drawText(0, metrics.ascent(), character);
   writer.end();
-  pictures_.insert(look.key(character), made);
-  return *made;
+  pictures_.insert(key, made, made->sizeInBytes());
+  return made;
 }

@@ -1,15 +1,14 @@
 #pragma once
 
 #include <QCache>
-#include <QColor>
-#include <QPixmap>
+#include <QImage>
 
 class QPainter;
 class QString;
 
 /// Draws lines of text from pictures of their characters, each made when it is first needed: laying
-/// out and blending text is what painting a bill costs most, and a shop's lines are made of few
-/// characters. They stand on whole pixels, each beside the one before.
+/// out and blending text is what painting the sale screen costs most, and a shop's lines are made
+/// of few characters. They stand on whole pixels, each beside the one before.
 class CharacterPictures {
  public:
   CharacterPictures();
@@ -17,16 +16,18 @@ class CharacterPictures {
   /// Forgets all pictures: the font is another one.
   void clear() { pictures_.clear(); }
 
-  /// Draws the text in one line, in the painter's font and colour, in the middle of a room of the
-  /// colour `back`, at its left or right end; what does not fit is replaced by "…". False, and
-  /// nothing is drawn, when it has characters that can't stand alone: only ASCII and Chinese
+  /// What to do with a text that is wider than its room.
+  enum class Overlong { kCut, kRefuse };
+
+  /// Draws the text in one line, in the painter's font and colour, in the middle of the room's
+  /// height, at its left or right end; a text that is cut ends with "…". False, and nothing is
+  /// drawn, when it is refused or has characters that can't stand alone: only ASCII and Chinese
   /// characters and their punctuation are taken for such that can.
-  bool draw(QPainter& painter, const QRect& room, bool right, const QString& text, QColor back);
+  bool draw(QPainter& painter, const QRect& room, bool right, const QString& text,
+            Overlong overlong);
 
  private:
-  struct Look;
+  const QImage* picture(const QPainter& painter, QChar character);
 
-  const QPixmap& picture(const Look& look, QChar character);
-
-  QCache<quint64, QPixmap> pictures_;
+  QCache<quint64, QImage> pictures_;
 };

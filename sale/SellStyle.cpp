@@ -45,7 +45,7 @@ QString colours(const ClsPosSet& settings) {
 QString sizes(int type) {
   return QStringLiteral(
              "#frmSell > #title { font-size: %2px; font-weight: bold; }"
-             "#txtmoney { font-weight: bold; padding: 0 %3px; }"
+             "#txtmoney { font-weight: bold; }"
              "#title1, #title2, #title3, #lv, #lv QHeaderView, #t { font-size: %1px; }"
              "#ViewF { font-size: %1px; }"
              "#lblViewMember { font-size: %4px; }"
