@@ -37,8 +37,10 @@ class SaleScreen {
                                       bool yesPreselected) = 0;
   /// Asks for one text (frmInput); empty after Esc.
   [[nodiscard]] virtual QString prompt(const QString& title, const QString& message) = 0;
-  /// A popup menu of these entries; the position chosen, or nothing chosen: -1.
-  [[nodiscard]] virtual int choose(const QStringList& entries) = 0;
+  /// A popup menu of `count` entries; the position chosen, or nothing chosen: -1. A caption may be
+  /// asked for late, when its entry comes into view; asking must not throw.
+  [[nodiscard]] virtual int choose(int count,
+                                   const std::function<QString(int position)>& caption) = 0;
   /// Shows the bills put aside; the number of the one to be taken up again, 0 for none.
   [[nodiscard]] virtual std::int32_t chooseHeldBill(
       const std::vector<std::shared_ptr<ClsSell>>& bills) = 0;

@@ -10,7 +10,6 @@
 #include "checkout/SaleState.h"
 #include "sale/Pricing.h"
 #include "store/Literal.h"
-#include "store/Snapshot.h"
 
 namespace {
 
@@ -64,7 +63,7 @@ bool ItemLookup::lookUp(const std::string& statement, const Caption& caption, co
   try {
     const Recordset found = pos_.gConn->Open(statement);
     if (found.count() == 0) return false;
-    const int chosen = found.count() == 1 ? 0 : screen_.choose(captions(found, caption));
+    const int chosen = found.count() == 1 ? 0 : choose(found, caption);
     if (chosen < 0) return false;
     auto line = std::make_shared<ClsSellItem>();
     line->Init(*pos_.gConn, state_.curBill->BillNo(), 0, pos_.clock);
@@ -77,13 +76,10 @@ bool ItemLookup::lookUp(const std::string& statement, const Caption& caption, co
   }
 }
 
-// Ten thousand captions look up ten thousand stocks.
-QStringList ItemLookup::captions(const Recordset& found, const Caption& caption) {
-  const Snapshot reading(*pos_.gConn);
-  QStringList entries;
-  entries.reserve(static_cast<qsizetype>(found.count()));
-  for (std::size_t i = 0; i < found.count(); ++i) entries << caption(found.row(i));
-  return entries;
+int ItemLookup::choose(const Recordset& found, const Caption& caption) {
+  return screen_.choose(static_cast<int>(found.count()), [&](int position) {
+    return caption(found.row(static_cast<std::size_t>(position)));
+  });
 }
 
 void ItemLookup::fillFromBarcodeRow(ClsSellItem& line, const Row& row, const std::string& code) {
@@ -126,7 +122,12 @@ Currency ItemLookup::askPrice() {
   }
 }
 
+// Without a stock that cannot be read now, the goods can be chosen all the same.
 QString ItemLookup::stockText(const std::string& itemCode) {
-  stock_.Init(*pos_.gConn, itemCode);
-  return tr("  库存：") + QString::fromStdString(generalNumber(stock_.StockQty()));
+  try {
+    stock_.Init(*pos_.gConn, itemCode);
+    return tr("  库存：") + QString::fromStdString(generalNumber(stock_.StockQty()));
+  } catch (const Failure&) {
+    return {};
+  }
 }

@@ -2,7 +2,6 @@
 
 #include <QCoreApplication>
 #include <QString>
-#include <QStringList>
 #include <functional>
 #include <string>
 
@@ -37,7 +36,7 @@ class ItemLookup {
   using Caption = std::function<QString(const Row& row)>;
   using Filler = std::function<void(ClsSellItem& line, const Row& row)>;
   bool lookUp(const std::string& statement, const Caption& caption, const Filler& fill);
-  QStringList captions(const Recordset& found, const Caption& caption);
+  int choose(const Recordset& found, const Caption& caption);
   bool lookUpBarcodeTable(const std::string& statement, const std::string& code);
   void fillFromBarcodeRow(ClsSellItem& line, const Row& row, const std::string& code);
   void fillFromMasterRow(ClsSellItem& line, const Row& row);

@@ -43,11 +43,10 @@ std::shared_ptr<ClsMember> MemberCard::chooseByPhone(const std::string& phone) {
     screen_.ShowMessage(tr("无效的会员卡!"));
     return nullptr;
   }
-  QStringList entries;
-  for (const auto& member : members) {
-    entries << QString::fromStdString(member->Bh() + "  " + member->Name());
-  }
-  const int chosen = screen_.choose(entries);
+  const int chosen = screen_.choose(static_cast<int>(members.size()), [&members](int position) {
+    const ClsMember& member = *members[static_cast<std::size_t>(position)];
+    return QString::fromStdString(member.Bh() + "  " + member.Name());
+  });
   return chosen < 0 ? nullptr : members[static_cast<std::size_t>(chosen)];
 }
 

@@ -254,13 +254,16 @@ void frmSell::rowsChanged() {
   showEditedCell();
 }
 
+// What has changed in the list is painted first: it is what the cashier waits for.
 void frmSell::PlaceEditor() {
   SaleState& state = session_->state;
+  t_->setUpdatesEnabled(false);
   moveEditor();
+  lv_->paintNow();
   const BillRow& row = state.rows[static_cast<std::size_t>(state.selected)];
   setInput(QString::fromStdString(row.cells[static_cast<std::size_t>(state.editColumn())]));
+  t_->setUpdatesEnabled(true);
   state.clearOnKey = true;
-  lv_->paintNow();
 }
 
 void frmSell::showEditedCell() {
@@ -270,7 +273,10 @@ void frmSell::showEditedCell() {
 void frmSell::moveEditor() {
   if (!session_ || session_->state.selected < 0) return;
   showEditedCell();
-  t_->setAlignment(Qt::Alignment(lv_->currentIndex().data(Qt::TextAlignmentRole).toInt()));
+  const SaleState& state = session_->state;
+  const QModelIndex cell = model_->index(state.selected, state.editColumn());
+  const Qt::Alignment side(cell.data(Qt::TextAlignmentRole).toInt());
+  if (t_->alignment() != side) t_->setAlignment(side);
   t_->setGeometry(lv_->insideOfCurrentCell());
 }
 
@@ -281,7 +287,7 @@ QString frmSell::input() const {
 // Selected, so that what is typed next replaces a value shown for correction.
 void frmSell::setInput(const QString& text) {
   t_->setText(text);
-  t_->selectAll();
+  if (!text.isEmpty()) t_->selectAll();
 }
 
 void frmSell::setTitle1(const QString& text) {
@@ -319,10 +325,10 @@ QString frmSell::prompt(const QString& title, const QString& message) {
   return input_->init(title, message);
 }
 
-int frmSell::choose(const QStringList& entries) {
+int frmSell::choose(int count, const std::function<QString(int position)>& caption) {
   frmMenu menu(pos_.gKeyBoard, this);
   menu.closed = [this] { endProgram(); };
-  for (qsizetype i = 0; i < entries.size(); ++i) menu.AddMenu(entries[i], QString::number(i + 1));
+  menu.AddMenus(count, caption);
   return menu.ShowMenu(0).toInt() - 1;
 }
 
@@ -349,6 +355,7 @@ void frmSell::applyStyle() {
   t_->setAttribute(Qt::WA_OpaquePaintEvent);  // else each typed key paints the list beneath it
   title1_->setLargest(type);
   title3_->setLargest(type);
+  txtmoney_->setIndent(type / 3);
   txtmoney_->setLargest(type * 5 / 2);
   txtmoney_->setSmallest(type);
   lv_->verticalHeader()->setDefaultSectionSize(type * 19 / 10);

@@ -58,7 +58,7 @@ class frmSell : public QWidget, private SaleScreen {
   void messageBox(const QString& text, const QString& title) override;
   bool askYesNo(const QString& text, const QString& title, bool yesPreselected) override;
   QString prompt(const QString& title, const QString& message) override;
-  int choose(const QStringList& entries) override;
+  int choose(int count, const std::function<QString(int position)>& caption) override;
   std::int32_t chooseHeldBill(const std::vector<std::shared_ptr<ClsSell>>& bills) override;
   bool settle(Settlement& settlement) override;
   void endProgram() override;

@@ -28,6 +28,16 @@ void MenuEntries::add(Entry entry) {
   entries_.push_back(std::move(entry));
 }
 
+void MenuEntries::setLateTitles(std::function<QString(int index)> titles) {
+  lateTitles_ = std::move(titles);
+}
+
+const QString& MenuEntries::title(int index) {
+  QString& title = entries_[static_cast<std::size_t>(index)].title;
+  if (title.isNull() && lateTitles_) title = lateTitles_(index);
+  return title;
+}
+
 // Measuring a whole text costs microseconds, which ten thousand long captions would make
 // noticeable; adding up the remembered widths of its characters costs next to nothing.
 int MenuEntries::captionWidth(const QString& title, int widest) {
@@ -46,7 +56,7 @@ QSize MenuEntries::measure(int widest) {
   ensurePolished();
   advances_.clear();
   rowHeight_ = fontMetrics().height() + 2 * kRowMargin;
-  int width = qMin(pixels(kDesignWidth), widest);
+  int width = lateTitles_ ? widest : qMin(pixels(kDesignWidth), widest);
   int top = entries_.empty() ? 0 : entries_.front().space;
   for (Entry& entry : entries_) {
     entry.top = top;
@@ -104,7 +114,7 @@ void MenuEntries::paintEvent(QPaintEvent*) {
   if (contentHeight() > height()) paintScrollMark(painter);
 }
 
-void MenuEntries::paintEntry(QPainter& painter, int index) const {
+void MenuEntries::paintEntry(QPainter& painter, int index) {
   const Entry& shown = entry(index);
   const bool active = index == current_;
   const QRect row(shown.space, shown.top - offset_, width() - 2 * shown.space, rowHeight_);
@@ -113,7 +123,7 @@ void MenuEntries::paintEntry(QPainter& painter, int index) const {
   const QRect caption = row.adjusted(kCaptionMargin, 0, -kCaptionMargin, 0);
   const int flags = Qt::TextSingleLine | Qt::AlignVCenter | static_cast<int>(shown.alignment);
   painter.drawText(caption, flags,
-                   fontMetrics().elidedText(shown.title, Qt::ElideRight, caption.width()));
+                   fontMetrics().elidedText(title(index), Qt::ElideRight, caption.width()));
 }
 
 /// How much of the menu shows, and which part.

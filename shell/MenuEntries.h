@@ -4,6 +4,7 @@
 #include <QHash>
 #include <QString>
 #include <QWidget>
+#include <functional>
 #include <vector>
 
 /// The entries of a popup menu, one under the other, one of them highlighted. It paints only the
@@ -13,7 +14,7 @@ class MenuEntries : public QWidget {
 
  public:
   struct Entry {
-    QString title;
+    QString title;  ///< null: asked for when it is needed
     QString key;
     Qt::Alignment alignment;
     int space;    ///< margin around the entry and gap to the next one
@@ -26,8 +27,12 @@ class MenuEntries : public QWidget {
   explicit MenuEntries(QWidget* parent = nullptr);
 
   void add(Entry entry);
+  /// Whom to ask for the title of an entry without one. There is nothing to measure then: the menu
+  /// takes all the width it may.
+  void setLateTitles(std::function<QString(int index)> titles);
   int count() const { return static_cast<int>(entries_.size()); }
   const Entry& entry(int index) const { return entries_[static_cast<std::size_t>(index)]; }
+  const QString& title(int index);
 
   /// Places all entries in today's font and gives the size at which everything would show, the
   /// width at most `widest`.
@@ -58,10 +63,11 @@ class MenuEntries : public QWidget {
   int indexBelow(int y) const;
   int indexAt(QPoint position) const;
   void scrollTo(int offset);
-  void paintEntry(QPainter& painter, int index) const;
+  void paintEntry(QPainter& painter, int index);
   void paintScrollMark(QPainter& painter) const;
 
   std::vector<Entry> entries_;
+  std::function<QString(int index)> lateTitles_;
   QHash<QChar, int> advances_;  ///< width of each character met, in today's font
   int rowHeight_ = 0;
   int current_ = 0;

@@ -16,6 +16,7 @@
 namespace {
 
 constexpr int kBorder = 2;
+constexpr int kMostMeasured = 200;
 constexpr int kScreenMargin = 8;  // left free between the menu and the edge of the screen
 
 Qt::Alignment textAlignment(int alignment) {
@@ -55,6 +56,14 @@ void frmMenu::AddMenu(const QString& MenuText, const QString& Key) {
   entries_->add({MenuText, Key, textAlignment(alignment_), pixels(space_)});
 }
 
+void frmMenu::AddMenus(int count, const std::function<QString(int position)>& caption) {
+  const bool measured = count <= kMostMeasured;
+  for (int position = 0; position < count; ++position) {
+    AddMenu(measured ? caption(position) : QString(), QString::number(position + 1));
+  }
+  if (!measured) entries_->setLateTitles(caption);
+}
+
 QString frmMenu::ShowMenu(int Mode) {
   if (entryCount() == 0) {
     messageBox(parentWidget(), tr("无菜单项"));
@@ -65,7 +74,7 @@ QString frmMenu::ShowMenu(int Mode) {
   placeOnScreen();
   exec();
   if (chosen_ < 0) return {};
-  const MenuItem item{entries_->entry(chosen_).title, entries_->entry(chosen_).key, chosen_};
+  const MenuItem item{entries_->title(chosen_), entries_->entry(chosen_).key, chosen_};
   // What an entry opens may be the end of this menu; nothing of it is touched after the call.
   const auto notify = MenuClick;
   if (notify) notify(item);

@@ -23,6 +23,10 @@ class frmMenu : public QDialog {
 
   /// Appends an entry.
   void AddMenu(const QString& MenuText, const QString& Key);
+  /// Appends `count` entries with the keys "1", "2" and so on. Where they are more than anybody
+  /// reads, a caption is asked for when its entry comes into view, and the menu is as wide as the
+  /// screen.
+  void AddMenus(int count, const std::function<QString(int position)>& caption);
   /// Shows the menu modally and returns the chosen entry's key, "" when it was left with Esc.
   /// A Mode other than 0 makes it impossible to leave with Esc. Without entries: a message.
   QString ShowMenu(int Mode);

@@ -72,7 +72,7 @@ class FakeScreen : public SaleScreen {
     return answersYes.value_or(yesPreselected);
   }
   QString prompt(const QString&, const QString&) override { return promptAnswer; }
-  int choose(const QStringList&) override { return choice; }
+  int choose(int, const std::function<QString(int)>&) override { return choice; }
   std::int32_t chooseHeldBill(const std::vector<std::shared_ptr<ClsSell>>& bills) override {
     const auto position = static_cast<std::size_t>(choice);
     return choice < 0 ? 0 : bills.at(position)->BillNo();

@@ -14,8 +14,9 @@ class TillScreen : public FakeScreen {
     text = QString::fromStdString(row.cells[state.editColumn()]);
     state.clearOnKey = true;
   }
-  int choose(const QStringList& entries) override {
-    offered = entries;
+  int choose(int count, const std::function<QString(int)>& caption) override {
+    offered.clear();
+    for (int position = 0; position < count; ++position) offered << caption(position);
     return choice;
   }
   /// The answers in their order. The question repeats for ever without one that it takes.
