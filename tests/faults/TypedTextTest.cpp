@@ -117,8 +117,11 @@ class TypedTextTest : public WithSpy, public TillFixture {
             {"settlement: card password", [this](Text text) { pay("8001", text); }},
             {"sales query: code", [this](Text text) { search(text, "", "饮料"); }},
             {"sales query: bill number", [this](Text text) { search("", text, ""); }},
-            {"sales query: category", [this](Text text) { search("", "", text); }},
-            {"sales query: category of goods", [this](Text text) { search("550ml", "", text); }},
+            {"sales query: category",
+             [this](Text text) {
+               search("", "", text);
+               search("550ml", "", text);
+             }},
             {"member's number or telephone",
              [this](Text text) { (void)pos.gMemberSvc.GetMember(text); }},
             {"top-up: card number and remark",

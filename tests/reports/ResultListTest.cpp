@@ -3,7 +3,6 @@
 #include <map>
 
 #include "reports/ResultList.h"
-#include "reports/ResultModel.h"
 #include "store/Row.h"
 
 namespace {
@@ -92,18 +91,6 @@ TEST(ResultListTest, SortsEachColumnByWhatItIsAndKeepsTheTotalsLast) {
     list.sort(c.column, c.descending);
     EXPECT_EQ(column(list, c.column), c.texts) << resultColumns()[c.column].header;
   }
-}
-
-TEST(ResultModelTest, TheSameHeadingTwiceTurnsTheRowsRoundEqualOnesToo) {
-  ResultModel model;
-  model.append(pageOf({sold(1, "2026-11-22 09:00:00", "a", 1, 1, ""),
-                       sold(2, "2026-11-22 09:00:00", "b", 1, 1, ""),
-                       sold(3, "2026-11-22 09:00:00", "c", 2, 1, "")}));
-  model.complete();
-  model.sortBy(kColumnQuantity);
-  EXPECT_THAT(column(*model.list(), kColumnName), ElementsAre("c", "a", "b", ""));
-  model.sortBy(kColumnQuantity);
-  EXPECT_THAT(column(*model.list(), kColumnName), ElementsAre("b", "a", "c", ""));
 }
 
 }  // namespace

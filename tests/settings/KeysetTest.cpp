@@ -1,7 +1,6 @@
 #include <gtest/gtest.h>
 
 #include <QAbstractItemView>
-#include <QLabel>
 #include <QPushButton>
 
 #include "Hands.h"
@@ -108,17 +107,6 @@ TEST_F(frmKeysetTest, MovingBetweenTheBoxesSetsNoKey) {
   EXPECT_EQ(move(Qt::Key_Tab, Qt::ShiftModifier), "txtEsc");
   EXPECT_EQ(move(Qt::Key_D, Qt::AltModifier), "txtDown");
   EXPECT_EQ(texts(), before);
-}
-
-TEST_F(frmKeysetTest, TwoFunctionsOnOneKeyAreRedWhileTheyAre) {
-  open();
-  focusOn("txtF4");
-  press(Qt::Key_F2);
-  EXPECT_EQ(control<QLabel>("lblShared").text(), "一键多用　F2 (113)：会员卡、删除");
-  EXPECT_TRUE(control<KeyBox>("txtF4").isShared() && control<KeyBox>("txtF2").isShared());
-  press(Qt::Key_F7);
-  EXPECT_EQ(control<QLabel>("lblShared").text(), "");
-  EXPECT_FALSE(control<KeyBox>("txtF2").isShared());
 }
 
 TEST_F(frmKeysetTest, QuickKeysAreAddedChangedAndDeleted) {

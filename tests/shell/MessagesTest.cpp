@@ -5,11 +5,9 @@
 #include <QScreen>
 
 #include "Hands.h"
-#include "app/KeyBoard.h"
 #include "shell/FocusReturn.h"
 #include "shell/Modal.h"
 #include "shell/Style.h"
-#include "shell/frmInput.h"
 #include "shell/frmMsg.h"
 
 namespace {
@@ -82,16 +80,6 @@ TEST(frmMsgTest, AnyKeyOrClickClosesItButNotAKeyHeldDown) {
     QTest::mouseClick(shown.findChild<QWidget*>("Label2"), Qt::LeftButton);
   });
   message.Message("");
-}
-
-TEST(frmInputTest, GivesTheTextOrNothing) {
-  const KeyBoard keys;
-  frmInput input(keys);
-  Hands hands;
-  hands.type("frmInput", "12.5").press("frmInput", {Qt::Key_Enter});
-  EXPECT_EQ(input.init("", ""), "12.5");
-  hands.type("frmInput", "9").press("frmInput", {Qt::Key_Escape});
-  EXPECT_EQ(input.init("会员卡", "输入"), "");
 }
 
 }  // namespace

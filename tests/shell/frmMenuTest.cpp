@@ -41,14 +41,6 @@ TEST_F(frmMenuTest, TheHighlightWrapsAndIsKeptBetweenShowings) {
   EXPECT_EQ(show({Key_Escape, Key_Down, Key_Return}, 1), "3") << "mode 1 cannot be left";
 }
 
-TEST_F(frmMenuTest, MappedKeysAreTestedInTheOrderUpDownEnterEsc) {
-  fill(3);
-  keys_.mUp = keys_.mEsc = 'W';
-  keys_.mEnter = 'E';
-  using enum Qt::Key;
-  EXPECT_EQ(show({Key_Up, Key_Escape, Key_Return, Key_W, Key_E}), "3");
-}
-
 TEST_F(frmMenuTest, ThePointerHighlightsAndClicks) {
   fill(3);
   Hands hands;

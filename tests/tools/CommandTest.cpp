@@ -132,13 +132,4 @@ TEST_F(Command, ParametersAreSetAllOrNone) {
   EXPECT_THAT(owner.out, HasSubstr("PointUnit=5\n"));
 }
 
-TEST_F(Command, HelpIsAResultAndNonsenseAnError) {
-  for (const char* command : {"create", "operator", "param", "import", "backup", "check"}) {
-    EXPECT_EQ(owner.run({command, "--help"}), 0);
-    EXPECT_THAT(owner.out, HasSubstr("用法")) << command;
-    EXPECT_EQ(owner.run({command}), 2) << command;
-    EXPECT_THAT(owner.err, HasSubstr("--help"));
-  }
-}
-
 }  // namespace
