@@ -54,7 +54,6 @@ TEST(Currency, LineAmountIsTheDecimalProduct) {
         Row{"1.005", 1, 1, "1.01"},
         Row{"0.0125", 0.7 + 0.1, 0.5, "0.01"},  // 0.005, though the sum is 0.7999...
         Row{"19.9", 0.333333333333333, 0.8888888, "5.9"}, Row{"3", 1e-18, 1, "0"},
-        Row{"900000000000000", 1, 1e-30, "0"},
         Row{"9999999999.9999", 0.999999999999999, 0.9999999, "9999999000"}}) {
     EXPECT_EQ(lineAmount(money(row.price), row.quantity, Discount(row.discount)), money(row.amount))
         << row.price << " x " << row.quantity << " x " << row.discount;

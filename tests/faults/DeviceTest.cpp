@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <fstream>
 #include <iostream>
+#include <map>
 
 #include "LongRun.h"
 #include "TillFixture.h"
@@ -17,26 +18,13 @@ constexpr qint64 kLongestKeyPressMs = 2500;
 
 /// What stands behind a port name.
 enum class Device { kMissing, kFull, kUnreadFifo, kClosedTerminal, kStoppedTerminal, kFile };
-constexpr Device kDevices[] = {Device::kMissing,         Device::kFull,
-                               Device::kUnreadFifo,      Device::kClosedTerminal,
-                               Device::kStoppedTerminal, Device::kFile};
-const char* nameOf(Device device) {
-  switch (device) {
-    case Device::kMissing:
-      return "missing";
-    case Device::kFull:
-      return "/dev/full";
-    case Device::kUnreadFifo:
-      return "a FIFO that nobody reads";
-    case Device::kClosedTerminal:
-      return "a terminal closed in the middle";
-    case Device::kStoppedTerminal:
-      return "a terminal that takes nothing more";
-    case Device::kFile:
-      return "a file";
-  }
-  return "";
-}
+const std::map<Device, std::string> kDevices = {
+    {Device::kMissing, "missing"},
+    {Device::kFull, "/dev/full"},
+    {Device::kUnreadFifo, "a FIFO that nobody reads"},
+    {Device::kClosedTerminal, "a terminal closed in the middle"},
+    {Device::kStoppedTerminal, "a terminal that takes nothing more"},
+    {Device::kFile, "a file"}};
 
 }  // namespace
 
@@ -167,8 +155,8 @@ class DeviceTest : public TillFixture {
 TEST_F(DeviceTest, noDeviceHoldsAKeyPressOrLosesABill) {
   int combinations = 0;
   const auto tryOut = [&](Device printer, Device kick, Device shown) {
-    SCOPED_TRACE(std::string("printer ") + nameOf(printer) + ", drawer " + nameOf(kick) +
-                 ", display " + nameOf(shown));
+    SCOPED_TRACE("printer " + kDevices.at(printer) + ", drawer " + kDevices.at(kick) +
+                 ", display " + kDevices.at(shown));
     connect(printer, kick, shown);
     sellTwice();
     const bool allWork =
@@ -178,9 +166,9 @@ TEST_F(DeviceTest, noDeviceHoldsAKeyPressOrLosesABill) {
     mend();
     ++combinations;
   };
-  for (const Device printer : kDevices) {
-    for (const Device kick : kDevices) {
-      for (const Device shown : kDevices) {
+  for (const auto& [printer, printerName] : kDevices) {
+    for (const auto& [kick, kickName] : kDevices) {
+      for (const auto& [shown, shownName] : kDevices) {
         // Each of the two devices that block costs seconds of this test.
         const bool alike = printer == kick && kick == shown && printer != Device::kUnreadFifo &&
                            printer != Device::kStoppedTerminal;

@@ -44,7 +44,7 @@ class Disk {
   /// The n-th call of that kind from now on (the first is 1) and those after it fail, as many as
   /// said.
   void breakAt(Fault fault, std::int64_t call, std::int64_t failing);
-  void mend();
+  void mend() { armed_ = false; }
   /// Whether the call that was to fail came.
   bool failed() const { return failed_; }
 

@@ -48,119 +48,38 @@ struct WithSpy {
   StatementSpy spy;
 };
 
-/// A text on each line, blanks counted.
-std::vector<std::string> lines(const std::string& all) {
+/// The texts between the bars, blanks counted.
+std::vector<std::string> textsIn(const std::string& all) {
   std::vector<std::string> each;
   std::istringstream in(all);
-  for (std::string line; std::getline(in, line);) each.push_back(line);
+  for (std::string text; std::getline(in, text, '|');) each.push_back(text);
   return each;
 }
 
 // Every kind of text that the places tell apart: barcodes and short codes, known and unknown, short
 // and long, numbers and dates, wildcards, nothing.
 std::vector<std::string> harmlessTexts() {
-  std::vector<std::string> texts = lines(R"(
-5
--3
-1.5
-00
-ab
-a b c
-茶
-矿泉水
-QB-01
-8001
-550ml
-abcdefgh
-中文中文中文
-6901234567892
-6900000000029
-2026-11-22
-%%
-a%)");
+  std::vector<std::string> texts = textsIn(
+      "|5|-3|1.5|00|ab|a b c|茶|矿泉水|QB-01|8001|550ml|abcdefgh|中文中文中文|6901234567892|"
+      "6900000000029|2026-11-22|%%|a%");
   texts.push_back(std::string(300, 'a'));
   return texts;
 }
 
-// Quotes, wildcards, comment marks, statement ends, names and parameters of statements, operators
-// of the text search, look-alikes of all these; then bytes: NUL, control characters, broken UTF-8,
-// GBK characters with a quote or a backslash as their second byte, and lengths.
+// A row for each kind: quotes; statements behind them; wildcards; names, parameters and values of
+// statements; their comments and ends; operators of the text search; look-alikes of all these. Then
+// bytes: NUL, control characters, broken UTF-8, GBK characters with a quote or a backslash as their
+// second byte, and lengths.
 std::vector<std::string> hostileTexts() {
-  std::vector<std::string> texts = lines(R"sql('
-''
-'''
-' or '1'='1
-' or 1=1 --
-8001' --
-x'; drop table sell; --
-x') or ('1'='1
-'||(select card from member)||'
-'+''+'
-"
-""
-" or ""="
-\
-\'
-\' or 1=1 --
-`
-[
-]
-[bh]
-%
-_
-%' or '%'='
-_____
-*
-?
-??
-?1
-:bh
-@bh
-$bh
-#
-#2026-11-22#
-#1#' or 1=1
---
--- x
-/*
-*/
-/* x */
-;
-; select 1
-1;1
-null
-or 1=1
-1 or 1=1
-0x27
-char(39)
-1e999
-9223372036854775808
-NEAR
-a NEAR b
-a AND b
-NOT a
-a* OR b*
-"a
-(a
-a)
-ggxh:a
--a
-^a
-{a}
-＇
-＇ or ＇1＇=＇1
-‘
-’ or ’1’=’1
-ʼ
-′
-％
-＿
-；
-－－
-＂
-＼
-１' or 1
-😀')sql");
+  std::vector<std::string> texts = textsIn(
+      R"('|''|'''|"|""|\|\'|`|)"
+      R"(' or '1'='1|' or 1=1 --|8001' --|x'; drop table sell; --|x') or ('1'='1|'+''+'|" or ""="|)"
+      R"(%|_|%' or '%'='|_____|*|)"
+      R"([|]|[bh]|?|??|?1|:bh|@bh|$bh|#|#2026-11-22#|#1#' or 1=1|null|0x27|char(39)|1e999|1 or 1=1|)"
+      R"(--|-- x|/*|*/|/* x */|;|; select 1|1;1|or 1=1|\' or 1=1 --|9223372036854775808|)"
+      R"(NEAR|a NEAR b|a AND b|NOT a|a* OR b*|"a|(a|a)|ggxh:a|-a|^a|{a}|)"
+      R"(＇|＇ or ＇1＇=＇1|‘|’ or ’1’=’1|ʼ|′|％|＿|；|－－|＂|＼|１' or 1|😀')");
+  texts.emplace_back("'||(select card from member)||'");
   for (const char* bytes :
        {"\xBF\x27 or 1=1 --", "\xBF\x5C\x27", "\xD5\x27", "\x81\x5C", "\xA1\x27\xA1\x5C",
         "\xC0\xA7 or 1=1", "\xE0\x80\xA7", "\xF0\x80\x80\xA7", "\xFF\xFE", "\xE4\xB8",
@@ -192,28 +111,25 @@ class TypedTextTest : public WithSpy, public TillFixture {
   };
 
   std::vector<Place> places() {
-    return {
-        {"input line", [this](const std::string& text) { ring(text); }},
-        {"settlement: card number", [this](const std::string& text) { pay(text, "Pw1"); }},
-        {"settlement: card password", [this](const std::string& text) { pay("8001", text); }},
-        {"sales query: code", [this](const std::string& text) { search(text, "", "饮料"); }},
-        {"sales query: bill number", [this](const std::string& text) { search("", text, ""); }},
-        {"sales query: category",
-         [this](const std::string& text) {
-           search("", "", text);
-           search("550ml", "", text);
-         }},
-        {"member's number or telephone",
-         [this](const std::string& text) { static_cast<void>(pos.gMemberSvc.GetMember(text)); }},
-        {"top-up: card number and remark",
-         [this](const std::string& text) { topUp(storedCardNumber(text), text); }},
-        {"new member", [this](const std::string& text) { join(text); }},
-        {"login", [this](const std::string& text) { logIn(text); }, true},
-        {"shop parameter",
-         [this](const std::string& text) {
-           static_cast<void>(pos.gSysParam.set("ShopName", text));
-         }},
-        {"imported goods", [this](const std::string& text) { import(text); }}};
+    using Text = const std::string&;
+    return {{"input line", [this](Text text) { ring(text); }},
+            {"settlement: card number", [this](Text text) { pay(text, "Pw1"); }},
+            {"settlement: card password", [this](Text text) { pay("8001", text); }},
+            {"sales query: code", [this](Text text) { search(text, "", "饮料"); }},
+            {"sales query: bill number", [this](Text text) { search("", text, ""); }},
+            {"sales query: category",
+             [this](Text text) {
+               search("", "", text);
+               search("550ml", "", text);
+             }},
+            {"member's number or telephone",
+             [this](Text text) { (void)pos.gMemberSvc.GetMember(text); }},
+            {"top-up: card number and remark",
+             [this](Text text) { topUp(storedCardNumber(text), text); }},
+            {"new member", [this](Text text) { join(text); }},
+            {"login", [this](Text text) { logIn(text); }, true},
+            {"shop parameter", [this](Text text) { (void)pos.gSysParam.set("ShopName", text); }},
+            {"imported goods", [this](Text text) { import(text); }}};
   }
 
   void logIn(const std::string& text) {

@@ -4,9 +4,9 @@
 #include <iterator>
 #include <stdexcept>
 
+#include "BookFaults.h"
 #include "base/NumberText.h"
 #include "store/Connection.h"
-#include "tools/Books.h"
 
 namespace {
 
@@ -19,8 +19,7 @@ int whole(const Rows& row, const char* column) {
 }
 
 void requireRightBooks(Connection& connection) {
-  std::string faults;
-  Books(connection, [&faults](const std::string& fault) { faults += fault + "\n"; }).check();
+  std::string faults = bookFaults(connection);
   Rows open = connection.query(
       "select id, quantity, (select count(*) from sellProducts where sellId = sell.id) as lines "
       "from sell where state = 0");

@@ -1,11 +1,12 @@
 // Kills the till at random instants of a busy day and holds its books against the journal.
 //   tests_kill [--long | --kills N] [--seed N]
 #include <cstdio>
-#include <cstring>
+#include <map>
 #include <random>
 #include <stdexcept>
 
 #include "InstalledTill.h"
+#include "ProofOptions.h"
 #include "demo/DisplayTube.h"
 #include "driver/TillDriver.h"
 #include "kill/Day.h"
@@ -16,44 +17,22 @@ namespace {
 
 using std::chrono::microseconds;
 
-struct Options {
-  int kills = 30;
-  unsigned seed = 20261122;
-};
-
 /// What became of the steps that were open when the till was killed.
 struct Figures {
-  int kills = 0, opened = 0, betweenSteps = 0, taken = 0, takenShown = 0, halfTaken = 0,
-      notTaken = 0, completed = 0;
-
-  void add(Journal::Outcome outcome, bool shown) {
-    switch (outcome) {
-      case Journal::Outcome::kNothingOpen:
-        ++betweenSteps;
-        return;
-      case Journal::Outcome::kTaken:
-        ++taken;
-        takenShown += shown;
-        return;
-      case Journal::Outcome::kHalfTaken:
-        ++halfTaken;
-        return;
-      case Journal::Outcome::kNotTaken:
-        ++notTaken;
-    }
-  }
+  int kills = 0, opened = 0, takenShown = 0, completed = 0;
+  std::map<Journal::Outcome, int> outcomes;
 };
 
 class KillTest {
  public:
-  explicit KillTest(const Options& options)
+  explicit KillTest(const ProofOptions& options)
       : options_(options),
         random_(options.seed),
         journal_(Ledger::read(*till_.open())),
         day_(journal_, Goods(*till_.open()), options.seed, [this] { stepConfirmed(); }) {}
 
   Figures run() {
-    while (figures_.kills < options_.kills) {
+    while (figures_.kills < options_.count) {
       runUntilKilled();
       ++figures_.kills;
     }
@@ -121,7 +100,8 @@ class KillTest {
     const std::string told = day_.logIn(till);
     const bool shown = journal_.isOpen() && till_.drawerBytes() > drawerBefore_;
     const Journal::Outcome outcome = journal_.judge(Ledger::read(*till_.open()), shown);
-    figures_.add(outcome, shown);
+    ++figures_.outcomes[outcome];
+    if (outcome == Journal::Outcome::kTaken && shown) ++figures_.takenShown;
     if (!told.empty()) {
       ++figures_.completed;
       requireLastBillIn(told);
@@ -136,7 +116,7 @@ class KillTest {
     throw std::runtime_error("told of another bill than the last: " + told);
   }
 
-  Options options_;
+  ProofOptions options_;
   std::mt19937 random_;
   InstalledTill till_;
   std::filesystem::path program_;
@@ -148,35 +128,21 @@ class KillTest {
   std::uintmax_t drawerBefore_ = 0;
 };
 
-Options parse(int argc, char** argv) {
-  Options options;
-  for (int i = 1; i < argc; ++i) {
-    if (std::strcmp(argv[i], "--long") == 0) {
-      options.kills = 500;
-    } else if (std::strcmp(argv[i], "--kills") == 0 && i + 1 < argc) {
-      options.kills = std::stoi(argv[++i]);
-    } else if (std::strcmp(argv[i], "--seed") == 0 && i + 1 < argc) {
-      options.seed = static_cast<unsigned>(std::stoul(argv[++i]));
-    } else {
-      throw std::runtime_error(std::string("unknown option ") + argv[i]);
-    }
-  }
-  return options;
-}
-
 }  // namespace
 
 int main(int argc, char** argv) {
   try {
-    KillTest test(parse(argc, argv));
-    const Figures figures = test.run();
+    KillTest test(ProofOptions::parse(argc, argv, "--kills", 30, 500));
+    Figures figures = test.run();
+    using enum Journal::Outcome;
     std::printf(
         "%d kills, %d restarts to an empty bill: %d between two steps, %d in a step that was then "
         "done (%d of them shown before, %d completed at the start), %d in one that was not, %d "
         "between the two writes of a top-up; %zu bills, %zu returns, %zu top-ups; lost: 0\n",
-        figures.kills, figures.opened, figures.betweenSteps, figures.taken, figures.takenShown,
-        figures.completed, figures.notTaken, figures.halfTaken, test.books().bills.size(),
-        test.books().returns.size(), test.books().topUps.size());
+        figures.kills, figures.opened, figures.outcomes[kNothingOpen], figures.outcomes[kTaken],
+        figures.takenShown, figures.completed, figures.outcomes[kNotTaken],
+        figures.outcomes[kHalfTaken], test.books().bills.size(), test.books().returns.size(),
+        test.books().topUps.size());
   } catch (const std::exception& failure) {
     std::fprintf(stderr, "kill test: %s\n", failure.what());
     return 1;

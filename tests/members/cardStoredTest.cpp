@@ -58,15 +58,11 @@ TEST_F(cardStoredTest, FiguresThatAreNoneWriteNothing) {
     const char *card, *paid, *credited, *message, *focus;
   } cases[] = {
       {";vip?", "90", "100", "会员卡号不能为空,请输入卡号", "txtBh"},
-      {"", "90", "100", "会员卡号不能为空,请输入卡号", "txtBh"},
       {"88001234", "0", "100", "请输入正数", "inMoney"},
-      {"88001234", "", "100", "请输入正数", "inMoney"},
       {"88001234", "-90", "100", "请输入正数", "inMoney"},
-      {"88001234", "90'", "100", "请输入正数", "inMoney"},
       {"88001234", "90", "1e2", "请输入正数", "addMoney"},
       {"88001234", "90", "-100", "请输入正数", "addMoney"},
       {"88001234", "90", "922337203685477", "请输入正数", "addMoney"},
-      {"99", "90", "100", "请输入正数", "beforeMoney"},
       {"' or ''='", "90", "100", "请输入正数", "beforeMoney"},
   };
   for (const auto& c : cases) {

@@ -2,42 +2,65 @@
 
 #include <stdexcept>
 
+#include "BookFaults.h"
 #include "base/NumberText.h"
 #include "store/Connection.h"
-#include "tools/Books.h"
 
 namespace {
 
 using Amounts = std::map<std::string, Currency>;
 
-std::map<std::string, double> stockOf(Connection& connection) {
+// A line takes its goods when it is rung, whether its bill is settled or not.
+std::map<std::string, double> stockAtFirst(Connection& connection) {
   std::map<std::string, double> stock;
   Rows rows = connection.query("select spbm, quantity from stock");
   while (rows.next()) stock[rows.text("spbm")] = rows.number("quantity").value_or(0);
+  Rows lines = connection.query("select bm, amount, ratio from sellProducts");
+  while (lines.next()) {
+    const double taken = lines.number("amount").value_or(0) * lines.number("ratio").value_or(1);
+    double& left = stock[lines.text("bm")];
+    left = roundedQuantity(left + roundedQuantity(taken));
+  }
   return stock;
 }
 
-Amounts sums(Rows rows) {
-  Amounts sums;
-  while (rows.next()) sums[rows.text("bh")] += rows.currency("money").value_or(Currency());
-  return sums;
+void add(Amounts& amounts, const char* what, Rows rows) {
+  while (rows.next()) {
+    amounts[what + rows.text("bh")] += rows.currency("money").value_or(Currency());
+  }
 }
 
-/// What the settled bills of each member came to when they were settled, before any return.
-Amounts purchases(Connection& connection) {
-  Rows lines = connection.query(
-      "select m.bh, l.price, l.discount, l.amount, "
-      "(select coalesce(sum(quantity), 0) from un_sell where item_id = l.id) as returned "
-      "from sellProducts l join sell s on s.id = l.sellId join member m on m.id = s.member_id "
-      "where s.state = 1");
-  Amounts sums;
+/// Takes off what the settled bills of each member came to when they were settled, before any
+/// return.
+void takeOffBought(Amounts& amounts, Rows lines) {
   while (lines.next()) {
     const double sold =
         roundedQuantity(lines.number("amount").value_or(0) + lines.number("returned").value_or(0));
-    sums[lines.text("bh")] += lineAmount(lines.currency("price").value_or(Currency()), sold,
-                                         Discount(lines.number("discount").value_or(1)));
+    amounts["purchases of " + lines.text("bh")] -=
+        lineAmount(lines.currency("price").value_or(Currency()), sold,
+                   Discount(lines.number("discount").value_or(1)));
   }
-  return sums;
+}
+
+Amounts accountsAtFirst(Connection& connection) {
+  Amounts accounts;
+  add(accounts, "card ",
+      connection.query("select bh, card as money from member "
+                       "where bh not in (select cardbh from cardStored) "
+                       "union all select bh, card_pay from sell join member on bh = card_no "
+                       "where card_no not in (select cardbh from cardStored)"));
+  add(accounts, "purchases of ",
+      connection.query("select bh, total_spent as money from member "
+                       "union all select m.bh, u.money from un_sell u "
+                       "join sell s on s.id = u.sell_id join member m on m.id = s.member_id"));
+  takeOffBought(
+      accounts,
+      connection.query(
+          "select m.bh, l.price, l.discount, l.amount, "
+          "(select coalesce(sum(quantity), 0) from un_sell where item_id = l.id) as returned "
+          "from sellProducts l join sell s on s.id = l.sellId join member m on m.id = s.member_id "
+          "where s.state = 1"));
+  return accounts;
 }
 
 void require(bool right, const std::string& what) {
@@ -46,59 +69,22 @@ void require(bool right, const std::string& what) {
 
 }  // namespace
 
-Figures::Figures(Connection& connection) : stock_(stockOf(connection)) {
-  checkMembers(connection);
-}
+Figures::Figures(Connection& connection)
+    : stock_(stockAtFirst(connection)), accounts_(accountsAtFirst(connection)) {}
 
 void Figures::check(Connection& connection) {
-  std::string faults;
-  Books(connection, [&faults](const std::string& fault) { faults += fault + "\n"; }).check();
+  const std::string faults = bookFaults(connection);
   require(faults.empty(), faults);
-  checkStock(connection);
-  checkMembers(connection);
-}
-
-// A line takes its goods when it is rung, whether its bill is settled or not.
-void Figures::checkStock(Connection& connection) const {
-  std::map<std::string, double> expected = stock_;
-  Rows lines = connection.query("select bm, amount, ratio from sellProducts");
-  while (lines.next()) {
-    double& stock = expected[lines.text("bm")];
-    stock = roundedQuantity(stock - roundedQuantity(lines.number("amount").value_or(0) *
-                                                    lines.number("ratio").value_or(1)));
+  const std::map<std::string, double> stock = stockAtFirst(connection);
+  for (const auto& [item, quantity] : stock) {
+    require(quantity == stock_[item], "stock of " + item + " began with " +
+                                          generalNumber(stock_[item]) + ", by the lines with " +
+                                          generalNumber(quantity));
   }
-  const std::map<std::string, double> found = stockOf(connection);
-  for (const auto& [item, quantity] : expected) {
-    const auto there = found.find(item);
-    const double stock = there == found.end() ? 0 : there->second;
-    require(stock == quantity, "stock of " + item + " is " + generalNumber(stock) + ", not " +
-                                   generalNumber(quantity));
-  }
-}
-
-void Figures::checkMembers(Connection& connection) {
-  Amounts paid = sums(connection.query("select card_no as bh, card_pay as money from sell"));
-  Amounts refunded =
-      sums(connection.query("select m.bh, u.money from un_sell u join sell s on s.id = u.sell_id "
-                            "join member m on m.id = s.member_id"));
-  Amounts bought = purchases(connection);
-  Rows members = connection.query(
-      "select *, (select count(*) from cardStored where cardbh = bh) as topUps from member");
-  while (members.next()) {
-    const std::string number = members.text("bh");
-    const Member began{
-        members.currency("card").value_or(Currency()) + paid[number],
-        members.currency("total_spent").value_or(Currency()) - bought[number] + refunded[number]};
-    const auto [known, isNew] = members_.try_emplace(number, began);
-    if (isNew) continue;
-    if (members.whole("topUps").value_or(0) == 0) {
-      require(began.balance == known->second.balance,
-              "card " + number + " began with " + twoDecimals(known->second.balance) +
-                  ", by its payments with " + twoDecimals(began.balance));
-    }
-    require(began.totalSpent == known->second.totalSpent,
-            "purchases of member " + number + " began with " +
-                twoDecimals(known->second.totalSpent) + ", by the bills with " +
-                twoDecimals(began.totalSpent));
+  require(stock.size() == stock_.size(), "stock of some goods is gone");
+  for (const auto& [name, amount] : accountsAtFirst(connection)) {
+    const Currency began = accounts_.try_emplace(name, amount).first->second;
+    require(amount == began, name + " began with " + twoDecimals(began) + ", by the bills with " +
+                                 twoDecimals(amount));
   }
 }

@@ -3,11 +3,11 @@
 #include <stdlib.h>
 
 #include <cstdio>
-#include <cstring>
 #include <fstream>
 #include <stdexcept>
 
 #include "InstalledTill.h"
+#include "ProofOptions.h"
 #include "driver/TillDriver.h"
 #include "monkey/Figures.h"
 #include "store/Connection.h"
@@ -16,14 +16,9 @@ namespace fs = std::filesystem;
 
 namespace {
 
-struct Options {
-  int events = 20000;
-  unsigned seed = 20261122;
-};
-
 class MonkeyTest {
  public:
-  explicit MonkeyTest(const Options& options)
+  explicit MonkeyTest(const ProofOptions& options)
       : options_(options), home_(till_.folder() / "home"), figures_(*till_.open()) {
     fs::create_directories(home_);
     writeWords();
@@ -36,12 +31,12 @@ class MonkeyTest {
   ~MonkeyTest() { fs::current_path("/"); }
 
   void run() {
-    while (events_ < options_.events) {
+    while (events_ < options_.count) {
       clearAway();
       TillDriver till(till_.program());
       till.waitFor("frmMenu");
       ++starts_;
-      const int asked = options_.events - events_;
+      const int asked = options_.count - events_;
       const int done = play(till, asked);
       events_ += done;
       if (done < asked) requireCleanEnd(till);
@@ -101,7 +96,7 @@ class MonkeyTest {
                              std::to_string(events_) + " events, start " + std::to_string(starts_));
   }
 
-  Options options_;
+  ProofOptions options_;
   InstalledTill till_;
   fs::path home_;
   Figures figures_;
@@ -109,27 +104,11 @@ class MonkeyTest {
   unsigned starts_ = 0;
 };
 
-Options parse(int argc, char** argv) {
-  Options options;
-  for (int i = 1; i < argc; ++i) {
-    if (std::strcmp(argv[i], "--long") == 0) {
-      options.events = 1000000;
-    } else if (std::strcmp(argv[i], "--events") == 0 && i + 1 < argc) {
-      options.events = std::stoi(argv[++i]);
-    } else if (std::strcmp(argv[i], "--seed") == 0 && i + 1 < argc) {
-      options.seed = static_cast<unsigned>(std::stoul(argv[++i]));
-    } else {
-      throw std::runtime_error(std::string("unknown option ") + argv[i]);
-    }
-  }
-  return options;
-}
-
 }  // namespace
 
 int main(int argc, char** argv) {
   try {
-    MonkeyTest test(parse(argc, argv));
+    MonkeyTest test(ProofOptions::parse(argc, argv, "--events", 20000, 1000000));
     test.run();
     test.print();
   } catch (const std::exception& failure) {

@@ -38,10 +38,8 @@ class TestShop {
     const std::filesystem::directory_iterator files(papers());
     return static_cast<std::size_t>(std::distance(begin(files), end(files)));
   }
-  std::string file(const std::string& name) const { return folder_.file(name); }
-  std::string bytes(const std::string& name) const { return bytesOf(folder_.file(name)); }
-  static std::string bytesOf(const std::string& path) {
-    std::ifstream file(path, std::ios::binary);
+  std::string bytes(const std::string& name) const {
+    std::ifstream file(folder_.file(name), std::ios::binary);
     return {std::istreambuf_iterator<char>(file), {}};
   }
 
@@ -69,14 +67,12 @@ class TestShop {
 
  private:
   void stockGoods() {
-    store().run("insert into SP_LB values (2, '饮料')");
-    store().run("insert into SP_LB values (1, '食品')");
-    const char* const goods =
-        "insert into spda (f_spbm, f_spmc, f_sptm, f_Ggxh, f_jldw, f_splbmc) values"
-        " (?, ?, ?, ?, ?, ?)";
-    store().run(goods, "A1", "康师傅红烧牛肉面", "690001", "KSF", "包", "食品");
-    store().run(goods, "B2", "=1+1", "69000'2", "KS-2", "", "食品");
-    store().run(goods, "C3", "矿泉水", "690003", "KQS", "瓶", "食品");
+    store().runScript(R"(
+      insert into SP_LB values (2, '饮料'), (1, '食品');
+      insert into spda (f_spbm, f_spmc, f_sptm, f_Ggxh, f_jldw, f_splbmc) values
+        ('A1', '康师傅红烧牛肉面', '690001', 'KSF', '包', '食品'),
+        ('B2', '=1+1', '69000''2', 'KS-2', '', '食品'), ('C3', '矿泉水', '690003', 'KQS', '瓶', '食品');
+    )");
   }
 
   TemporaryFolder folder_;

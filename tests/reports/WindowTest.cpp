@@ -47,52 +47,38 @@ void answer(Hands& hands, const char* text) {
   });
 }
 
-TEST(frmCountTest, ShowsTheDayAndPrintsTheSheet) {
+TEST(frmCountTest, ShowsTheDayAndPrintsTheSheetUnlessThereIsNone) {
   TestShop shop;
-  shop.settle(3, "2026-11-22 09:05:03", 1.25, "12");
-  shop.settle(4, "2026-11-22 10:00:00", 2, "0.5");
-  shop.settle(5, "2026-11-21 23:59:59", 9, "99");
-  shop.pos().gPosSet.PPort = "LPT1";
   Hands hands;
-  hands.at("frmCount", [&](QWidget& form) {
-    EXPECT_EQ(caption(form, "Label1"), "张三今日销售统计表");
-    EXPECT_EQ(caption(form, "lblMsg"),
-              "今日累计发生 [2] 笔交易，共交易 [3.25] 件商品，交易额 [12.50] 元");
-    const char* const first[] = {"3", "12.00", "1.25", "2026-11-22 09:05:03", "张三"};
-    for (int column = 0; column < 5; ++column)
-      EXPECT_EQ(cell(form, "listSell", 0, column), first[column]);
+  hands.at("frmCount", [](QWidget& form) {
     tabTo(form, "print1");
-    Hands::pressNow(Key_Space);
-    shop.pos().gPosSet.PPort = "USB";
-    Hands::pressNow(Key_Space);
-    shop.pos().gPosSet.PPort = "usb";
-    Hands::pressNow(Key_Space);
-    Hands::pressNow(Key_Escape);
-  });
-  frmCount(shop.pos()).init();
-  const std::string sheet = shop.bytes("lpt1");
-  EXPECT_THAT(sheet, HasSubstr(gbk::encode("今日累计发生 [2] 笔交易") + "\r\n"));
-  EXPECT_THAT(sheet, testing::EndsWith("_ _ _\r\n"));
-  EXPECT_EQ(shop.papersPrinted(), 1u);
-}
-
-TEST(frmCountTest, ADayWithoutSalesPrintsNothing) {
-  TestShop shop;
-  shop.pos().gPosSet.PPort = "USB";
-  shop.pos().gKeyBoard.mEsc = 'Q';
-  Hands hands;
-  hands.at("frmCount", [&](QWidget& form) {
-    tabTo(form, "print1");
-    Hands::pressNow(Key_Escape);
-    EXPECT_TRUE(form.isVisible());
     Hands::pressNow(Key_Space);
     EXPECT_EQ(caption(form, "lblMsg"),
               "今日累计发生 [0] 笔交易，共交易 [0] 件商品，交易额 [0.00] 元");
-    Hands::pressNow(Key_Q);
+    Hands::pressNow(Key_Escape);
   });
+  shop.pos().gPosSet.PPort = "USB";
   answer(hands, "没有可打印的内容！");
   frmCount(shop.pos()).init();
   EXPECT_EQ(shop.papersPrinted(), 0u);
+
+  shop.settle(3, "2026-11-22 09:05:03", 1.25, "12");
+  shop.settle(4, "2026-11-22 10:00:00", 2, "0.5");
+  shop.settle(5, "2026-11-21 23:59:59", 9, "99");
+  hands.at("frmCount", [&](QWidget& form) {
+    EXPECT_EQ(cell(form, "listSell", 0, 1), "12.00");
+    tabTo(form, "print1");
+    for (const char* port : {"LPT1", "USB", "usb"}) {
+      shop.pos().gPosSet.PPort = port;
+      Hands::pressNow(Key_Space);
+    }
+    Hands::pressNow(Key_Escape);
+  });
+  frmCount(shop.pos()).init();
+  EXPECT_THAT(
+      shop.bytes("lpt1"),
+      HasSubstr(gbk::encode("[2] 笔交易\r\n共交易 [3.25] 件商品\r\n交易额 [12.50] 元\r\n")));
+  EXPECT_EQ(shop.papersPrinted(), 1u) << "\"usb\" is no printer";
 }
 
 class frmSearchTest : public testing::Test {
@@ -137,8 +123,7 @@ TEST_F(frmSearchTest, SearchesSortsAndPrintsByKeysAlone) {
   Hands::pressNow(Key_Space);
   EXPECT_EQ(at(0, 5), "10");
   Hands::pressNow(Key_Space);
-  EXPECT_EQ(at(0, 5), "2");
-  EXPECT_EQ(at(2, 0), "合计");
+  EXPECT_EQ(at(0, 5) + at(2, 0), "2合计");
   press("Command2");
   press("Command3");
   EXPECT_EQ(shop_.papersPrinted(), 2u);
@@ -146,33 +131,33 @@ TEST_F(frmSearchTest, SearchesSortsAndPrintsByKeysAlone) {
   EXPECT_FALSE(form_->isVisible());
 }
 
-TEST_F(frmSearchTest, RefusesWhatIsNoNumberAndKeepsTheList) {
+TEST_F(frmSearchTest, WhatCannotBeSearchedOrWrittenIsSaid) {
   shop_.sell(1, "2026-11-22 09:00:00", "A1", 2, "2.5", "5");
   open();
+  Hands hands;
   type("xssl", "viele");
   press("xssl");
   ASSERT_TRUE(showsRows(2));
-  EXPECT_EQ(form_->findChild<QLineEdit*>("xssl")->text(), "0");
-  Hands hands;
   answer(hands, "单号应为数字！");
   type("numberSerch", "eins");
   press("numberSerch");
-  EXPECT_EQ(rows(*form_), 2);
-  type("numberSerch", "9");
-  press("numberSerch");
-  ASSERT_TRUE(showsRows(1));
-  EXPECT_EQ(at(0, 5), "0");
-}
-
-TEST_F(frmSearchTest, AnInvertedPeriodIsSaidAndFindsNothing) {
-  shop_.sell(1, "2026-11-22 09:00:00", "A1", 2, "2.5", "5");
-  open();
+  EXPECT_EQ(rows(*form_), 2) << "the list stays";
+  hands.at("dlgExport", [](QWidget& dialog) {
+    auto* edit = dialog.findChild<QLineEdit*>("fileNameEdit");
+    edit->setText("/proc/found.csv");
+    QTest::keyClick(edit, Key_Return);
+  });
+  hands.at("messageBox", [](QWidget& box) {
+    EXPECT_TRUE(boxText(box).contains("/proc/found.csv"));
+    Hands::pressNow(Key_Return);
+  });
+  press("Command1");
+  form_->findChild<QLineEdit*>("numberSerch")->clear();
   press("DtBegin", Key_Up);
-  Hands hands;
   answer(hands, "起止时间不对！");
   press("cmdSearch");
   EXPECT_EQ(form_->focusWidget()->objectName(), "Dtfinish");
-  ASSERT_TRUE(showsRows(1));
+  ASSERT_TRUE(showsRows(1)) << "an inverted period finds nothing";
 }
 
 TEST_F(frmSearchTest, AStoppedQueryLeavesTheListAsItWas) {
@@ -196,34 +181,6 @@ TEST_F(frmSearchTest, AStoppedQueryLeavesTheListAsItWas) {
   }
   press("zjmtm");
   ASSERT_TRUE(showsRows(20002));
-  EXPECT_EQ(at(20001, 5), "20002");
-}
-
-TEST_F(frmSearchTest, ExportsWhereItIsToldAndSaysWhereItCannot) {
-  shop_.sell(1, "2026-11-22 09:00:00", "A1", 2, "2.5", "5");
-  open();
-  press("zjmtm");
-  ASSERT_TRUE(showsRows(2));
-  Hands hands;
-  const auto name = [&](const std::string& file) {
-    hands.at("dlgExport", [file](QWidget& dialog) {
-      auto* edit = dialog.findChild<QLineEdit*>("fileNameEdit");
-      edit->setText(QString::fromStdString(file));
-      QTest::keyClick(edit, Key_Return);
-    });
-  };
-  name(shop_.file("found"));
-  press("Command1");
-  EXPECT_EQ(state(), "已导出 found.xlsx");
-  name(shop_.file("found.csv"));
-  press("Command1");
-  EXPECT_THAT(shop_.bytes("found.csv"), HasSubstr("期间：2026-11-22 至 2026-11-22 23:59:59"));
-  name("/proc/found.csv");
-  hands.at("messageBox", [](QWidget& box) {
-    EXPECT_TRUE(boxText(box).contains("/proc/found.csv"));
-    Hands::pressNow(Key_Return);
-  });
-  press("Command1");
 }
 
 }  // namespace

@@ -30,18 +30,10 @@ class frmLoginTest : public testing::Test {
   std::vector<std::string> said_;
 };
 
-TEST_F(frmLoginTest, ANumberAndItsPasswordLogIn) {
-  enter("1", "111");
-  EXPECT_EQ(login_.goLogin(), frmLogin::kAccepted);
-  ASSERT_TRUE(till_.pos.gOperator);
-  EXPECT_EQ(till_.pos.gOperator->Id(), 1);
-  EXPECT_EQ(field("txtPassword"), "");
-}
-
-TEST_F(frmLoginTest, ARefusalKeepsTheTextsAndCancelKeepsWhoWasLoggedIn) {
-  enter("1", "wrong").confirm(said_);
+TEST_F(frmLoginTest, ARefusalKeepsTheTextsAndCancelLogsNobodyIn) {
+  enter("1' or '1'='1", "wrong").confirm(said_);
   hands_.at("frmLogin", [&](QWidget&) {
-    EXPECT_EQ(field("txtNumber") + " " + field("txtPassword"), "1 wrong");
+    EXPECT_EQ(field("txtNumber") + " " + field("txtPassword"), "1' or '1'='1 wrong");
     Hands::pressNow(Qt::Key_Escape);
   });
   EXPECT_EQ(login_.goLogin(), frmLogin::kCancelled);
@@ -55,13 +47,6 @@ TEST_F(frmLoginTest, WithoutTheRightToSellNobodyIsLoggedIn) {
   EXPECT_EQ(login_.goLogin(), frmLogin::kAccepted) << "closing the window keeps the last code";
   EXPECT_EQ(said_.at(0), "没有权限！");
   EXPECT_FALSE(till_.pos.gOperator);
-}
-
-TEST_F(frmLoginTest, HostileTextsAreJustWrong) {
-  for (const QString& number : {QString("1' or '1'='1"), QString(10'000, '9'), QString()}) {
-    enter(number, "").confirm(said_).press("frmLogin", {Qt::Key_Escape});
-    EXPECT_EQ(login_.goLogin(), frmLogin::kCancelled) << number.left(20).toStdString();
-  }
 }
 
 TEST_F(frmLoginTest, ThePasswordIsNotCopied) {
@@ -80,8 +65,9 @@ TEST_F(frmLoginTest, KeysFollowTheMap) {
   hands_.type("frmLogin", "1").press("frmLogin", {Qt::Key_Return, Qt::Key_Escape, Qt::Key_E});
   hands_.type("frmLogin", "111").press("frmLogin", {Qt::Key_E});
   EXPECT_EQ(login_.goLogin(), frmLogin::kAccepted);
-  hands_.press("frmLogin", {Qt::Key_Q});
-  EXPECT_EQ(login_.goLogin(), frmLogin::kCancelled);
+  ASSERT_TRUE(till_.pos.gOperator);
+  EXPECT_EQ(till_.pos.gOperator->Id(), 1);
+  EXPECT_EQ(field("txtPassword"), "");
 }
 
 }  // namespace

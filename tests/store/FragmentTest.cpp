@@ -187,33 +187,17 @@ TEST_F(FragmentTest, LookUpsAreDrivenByTheIndex) {
   EXPECT_LT(candidates, steps.find("spda_key (f_spbm=?)")) << steps;
 }
 
-TEST_F(FragmentTest, TheIndexIsAskedOnlyWhereThatCannotChangeTheMeaning) {
-  const std::string like = "ggxh like '%ab%'";
-  for (const std::string& asked : std::vector<std::string>{
-           "select * from tmda where " + like,
-           "select * from TMDA where tmda.GGXH like '_ab' limit 1",
-           "select * from tmda where spbm between '1' and '2' and " + like + " or xsdj > 1",
-           "delete from tmda where " + like + ";",
-           "select (a) from tmda join spda on spbm = f_spbm where f_sphh like '%ab%' order by 1"}) {
-    EXPECT_THAT(translate(asked).text, testing::HasSubstr("id in (select docid")) << asked;
+TEST_F(FragmentTest, TheIndexIsNotAskedWhereThatWouldChangeTheMeaning) {
+  for (const char* statement :
+       {"not ggxh like '%ab%'", "not (1 = 2 or ggxh like '%ab%')", "ggxh not like '%ab%'",
+        "ggxh like '%ab%' is null", "(ggxh like '%ab%') is null", "spmc || ggxh like '%ab%'",
+        "spbm between '1' and ggxh like '%ab%'", "ggxh like '%a%b'", "ggxh like '%ab%' escape 'b'",
+        "case when 1 = 1 and ggxh like '%ab%' then 0 end is null"}) {
+    const std::string text = translate("select * from tmda where " + std::string(statement)).text;
+    EXPECT_THAT(text, testing::Not(testing::HasSubstr("docid"))) << statement;
   }
-  for (const std::string& left : std::vector<std::string>{
-           "select * from tmda where not " + like,
-           "select * from tmda where not (1 = 2 or " + like + ")",
-           "select * from tmda where ggxh not like '%ab%'", "select * from tmda t where " + like,
-           "select * from tmda where spbm between '1' and " + like,
-           "select * from tmda where " + like + " is null",
-           "select * from tmda where ggxh like '%a%b'",
-           "select * from tmda where " + like + " escape 'b'", "select " + like + " from tmda",
-           "select * from tmda where (" + like + ") is null",
-           "select * from tmda where case when 1 = 1 and " + like + " then 0 end is null",
-           "select * from tmda where spmc || " + like, "select * from tmda as t where t." + like,
-           "select * from tmda where 1 in (select 1 from (select ggxh from tmda) where " + like +
-               ")",
-           "update spda set f_sphh = 'x' where " + like,
-           "select * from tmda where spmc like '%ab%'"}) {
-    EXPECT_THAT(translate(left).text, testing::Not(testing::HasSubstr("docid"))) << left;
-  }
+  EXPECT_THAT(translate("select * from tmda t where ggxh like '%ab%'").text,
+              testing::Not(testing::HasSubstr("docid")));
 }
 
 }  // namespace

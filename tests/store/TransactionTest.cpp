@@ -70,33 +70,6 @@ TEST_F(TransactionTest, IsRefusedWithATextWhileAnotherProgramWrites) {
   EXPECT_EQ(codes(*connection_), "a");
 }
 
-// A limit on the pages of the file stands for a full disk.
-TEST_F(TransactionTest, TakesEverythingBackOnAFullDiskAndStaysUsable) {
-  connection_->runScript("pragma max_page_count = 1");  // the engine takes it as "no more than now"
-  const std::string large(1'000'000, 'x');
-  {
-    Transaction outer(*connection_);
-    put("a");
-    {
-      Transaction inner(*connection_);
-      EXPECT_THAT([&] { put(large); },
-                  testing::ThrowsMessage<StoreError>(testing::HasSubstr("磁盘已满")));
-    }
-    try {
-      put("b");
-      outer.commit();
-    } catch (const StoreError&) {
-    }
-  }
-  const std::string kept = codes(*connection_);
-  EXPECT_TRUE(kept.empty() || kept == "ab") << "half a transaction: " << kept;
-  connection_->runScript("pragma max_page_count = 1000000");
-  Transaction afterwards(*connection_);
-  put("c");
-  afterwards.commit();
-  EXPECT_EQ(codes(*connection_), kept + "c");
-}
-
 TEST_F(TransactionTest, WhatTheEngineTookBackByItselfIsNotHalfKept) {
   {
     Transaction outer(*connection_);

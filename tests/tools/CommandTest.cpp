@@ -36,7 +36,7 @@ TEST_F(Command, CreateNeverOverwrites) {
   EXPECT_TRUE(canLogIn("1", "111"));
 }
 
-TEST_F(Command, TheFilePasswordIsBuiltInGivenOrNone) {
+TEST_F(Command, TheFilePasswordIsBuiltInGivenNoneOrTyped) {
   const std::string builtIn = owner.folder.file("built-in"), plain = owner.folder.file("plain"),
                     own = owner.folder.file("own");
   EXPECT_EQ(owner.run({"create", builtIn}), 0) << owner.err;
@@ -44,31 +44,21 @@ TEST_F(Command, TheFilePasswordIsBuiltInGivenOrNone) {
   EXPECT_EQ(owner.run({"create", plain, "--file-password", ""}), 0) << owner.err;
   EXPECT_EQ(owner.run({"check", plain, "--file-password="}), 0) << owner.err;
   EXPECT_EQ(owner.run({"check", plain}), 1);
-  EXPECT_EQ(owner.run({"create", "--file-password", "p'w d", own}), 0) << owner.err;
-  EXPECT_EQ(owner.run({"check", own, "--file-password=p'w d"}), 0) << owner.err;
-  EXPECT_EQ(owner.run({"check", own}), 1);
-  EXPECT_EQ(owner.out, "");
-  EXPECT_EQ(owner.run({"check", owner.folder.file("none")}), 1);
-  EXPECT_FALSE(std::filesystem::exists(owner.folder.file("none")));
-}
-
-TEST_F(Command, PasswordsComeFromTheStandardInput) {
-  const std::string own = owner.folder.file("own");
   owner.typed = "p'w d\n";
   EXPECT_EQ(owner.run({"create", own, "--ask-file-password"}), 0) << owner.err;
-  EXPECT_EQ(owner.run({"check", own, "--file-password", "p'w d"}), 0) << owner.err;
   EXPECT_EQ(owner.run({"check", own, "--ask-file-password"}), 0) << owner.err;
-  EXPECT_EQ(owner.run({"check", own, "--ask-file-password", "--file-password", "x"}), 2);
   EXPECT_THAT(owner.out + owner.err, testing::Not(HasSubstr("p'w d")));
+  EXPECT_EQ(owner.run({"check", own, "--file-password=p'w d"}), 0) << owner.err;
+  EXPECT_EQ(owner.run({"check", own, "--ask-file-password", "--file-password", "x"}), 2);
+  EXPECT_EQ(owner.run({"check", own}), 1);
+  EXPECT_EQ(owner.out, "");
   owner.typed = "p'w d\n111\n";
   EXPECT_EQ(
       owner.run({"operator", "add", own, "--ask-file-password", "--number", "1", "--name", "张三"}),
       0)
       << owner.err;
-  for (const char* command : {"create", "check"}) {
-    owner.run({command, "--help"});
-    EXPECT_THAT(owner.out, HasSubstr("进程列表")) << command;
-  }
+  EXPECT_EQ(owner.run({"check", owner.folder.file("none")}), 1);
+  EXPECT_FALSE(std::filesystem::exists(owner.folder.file("none")));
 }
 
 TEST_F(Command, ABackupIsMadeWhileTheTillSells) {
@@ -92,14 +82,10 @@ TEST_F(Command, ABackupIsMadeWhileTheTillSells) {
   EXPECT_TRUE(owner.open()) << "the data file is still one";
 }
 
-// A page of the file that went bad on the disk does not replace the last good backup.
 TEST_F(Command, ABackupThatDoesNotReadIsNotTaken) {
   const std::string copy = owner.folder.file("backup.mdb");
   std::ofstream(copy) << "an older backup";
-  std::fstream file(owner.shop, std::ios::in | std::ios::out | std::ios::binary);
-  file.seekp(4096 * 3);
-  file << "a scratch on the disk";
-  file.close();
+  owner.scratchShop();
   EXPECT_EQ(owner.run({"backup", owner.shop, copy}), 1);
   EXPECT_THAT(owner.err, HasSubstr("没有采用"));
   EXPECT_EQ(std::filesystem::file_size(copy), 15U);
@@ -113,7 +99,6 @@ TEST_F(Command, OperatorsComeAndGo) {
   EXPECT_EQ(addOperator("7", {"--password", "222"}), 1);
   EXPECT_THAT(owner.err, HasSubstr("已经有操作员 7"));
   EXPECT_EQ(addOperator("8", {"--password", "1", "--right", "fly"}), 2);
-  EXPECT_EQ(addOperator("0", {"--password", "1"}), 2);
   EXPECT_EQ(addOperator("32768", {"--password", "1"}), 2);
   owner.typed = "秘密\r\n";
   ASSERT_EQ(addOperator("8"), 0) << owner.err;
@@ -133,8 +118,6 @@ TEST_F(Command, OperatorsComeAndGo) {
   EXPECT_THAT(owner.err, HasSubstr("没结的单据"));
   EXPECT_EQ(owner.run({"operator", "remove", owner.shop, "--number", "8"}), 0);
   EXPECT_FALSE(canLogIn("8", "秘密"));
-  EXPECT_EQ(owner.run({"operator", "remove", owner.shop, "--number", "8"}), 1);
-  EXPECT_EQ(owner.run({"operator", "password", owner.shop, "--number", "8", "--password", ""}), 1);
 }
 
 TEST_F(Command, ParametersAreSetAllOrNone) {
@@ -147,17 +130,6 @@ TEST_F(Command, ParametersAreSetAllOrNone) {
   ASSERT_EQ(owner.run({"param", "list", owner.shop}), 0);
   EXPECT_THAT(owner.out, HasSubstr("ShopName=惠邻=便利店\n"));
   EXPECT_THAT(owner.out, HasSubstr("PointUnit=5\n"));
-}
-
-TEST_F(Command, HelpIsAResultAndNonsenseAnError) {
-  for (const char* command :
-       {"create", "operator", "param", "import", "export", "backup", "check"}) {
-    EXPECT_EQ(owner.run({command, "--help"}), 0);
-    EXPECT_THAT(owner.out, HasSubstr("用法")) << command;
-    EXPECT_EQ(owner.run({command}), 2) << command;
-    EXPECT_EQ(owner.out, "");
-    EXPECT_THAT(owner.err, HasSubstr("--help"));
-  }
 }
 
 }  // namespace

@@ -53,5 +53,11 @@ struct Owner {
     return rows.next() ? rows.text("value") : "(no row)";
   }
 
+  /// A page of the data file goes bad on the disk.
+  void scratchShop() const {
+    std::fstream file(shop, std::ios::in | std::ios::out | std::ios::binary);
+    file.seekp(4096 * 3);
+    file << "a scratch on the disk";
+  }
   void execute(const char* statement) const { open()->run(statement); }
 };
