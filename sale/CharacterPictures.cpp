@@ -9,7 +9,6 @@
 
 namespace {
 
-// A cache drops what was used longest ago: never a character of the line at hand.
 constexpr int kMostBytes = 12 << 20;
 constexpr QChar kEllipsis(0x2026);
 
@@ -47,11 +46,15 @@ QImage line(const Pictures& pictures) {
 
 }  // namespace
 
-CharacterPictures::CharacterPictures() : pictures_(kMostBytes) {}
+void CharacterPictures::clear() {
+  pictures_.clear();
+  bytes_ = 0;
+}
 
 bool CharacterPictures::draw(QPainter& painter, const QRect& room, bool right, const QString& text,
                              Overlong overlong) {
   if (text.isEmpty() || !std::all_of(text.begin(), text.end(), standsAlone)) return false;
+  if (bytes_ > kMostBytes) clear();
   Pictures pictures;
   for (const QChar character : text) pictures.append(picture(painter, character));
   const double width = room.width() * pictures.front()->devicePixelRatio();
@@ -73,18 +76,19 @@ bool CharacterPictures::draw(QPainter& painter, const QRect& room, bool right, c
 const QImage* CharacterPictures::picture(const QPainter& painter, QChar character) {
   const QColor colour = painter.pen().color();
   const quint64 key = (quint64(colour.rgb()) << 16) | character.unicode();
-  if (const QImage* known = pictures_.object(key)) return known;
+  const auto [entry, isNew] = pictures_.try_emplace(key);
+  QImage& made = entry->second;
+  if (!isNew) return &made;
   const QFontMetrics metrics = painter.fontMetrics();
   const double scale = painter.device()->devicePixelRatio();
   const QSizeF size(metrics.horizontalAdvance(character), metrics.height());
-  auto* made = new QImage((size * scale).toSize(), QImage::Format_ARGB32_Premultiplied);
-  made->setDevicePixelRatio(scale);
-  made->fill(Qt::transparent);
-  QPainter writer(made);
+  made = QImage((size * scale).toSize(), QImage::Format_ARGB32_Premultiplied);
+  made.setDevicePixelRatio(scale);
+  made.fill(Qt::transparent);
+  bytes_ += made.sizeInBytes();
+  QPainter writer(&made);
   writer.setFont(painter.font());
   writer.setPen(colour);
   writer.drawText(0, metrics.ascent(), character);
-  writer.end();
-  pictures_.insert(key, made, made->sizeInBytes());
-  return made;
+  return &made;
 }

@@ -1,7 +1,7 @@
 #pragma once
 
-#include <QCache>
 #include <QImage>
+#include <unordered_map>
 
 class QPainter;
 class QString;
@@ -11,10 +11,8 @@ class QString;
 /// of few characters. They stand on whole pixels, each beside the one before.
 class CharacterPictures {
  public:
-  CharacterPictures();
-
   /// Forgets all pictures: the font is another one.
-  void clear() { pictures_.clear(); }
+  void clear();
 
   /// What to do with a text that is wider than its room.
   enum class Overlong { kCut, kRefuse };
@@ -29,5 +27,6 @@ class CharacterPictures {
  private:
   const QImage* picture(const QPainter& painter, QChar character);
 
-  QCache<quint64, QImage> pictures_;
+  std::unordered_map<quint64, QImage> pictures_;  ///< by colour and character
+  qsizetype bytes_ = 0;                           ///< of all pictures
 };
