@@ -4,6 +4,7 @@
 #include <QFontMetrics>
 #include <QMouseEvent>
 #include <QPainter>
+#include <QtMath>
 #include <algorithm>
 
 #include "platform/Twips.h"
@@ -41,15 +42,15 @@ const QString& MenuEntries::title(int index) {
 // Measuring a whole text costs microseconds, which ten thousand long captions would make
 // noticeable; adding up the remembered widths of its characters costs next to nothing.
 int MenuEntries::captionWidth(const QString& title, int widest) {
-  int width = 0;
+  double width = 1;  // characters side by side may stand apart by fractions of a pixel
   for (const QChar character : title) {
     auto known = advances_.constFind(character);
     if (known == advances_.constEnd())
-      known = advances_.insert(character, fontMetrics().horizontalAdvance(character));
+      known = advances_.insert(character, QFontMetricsF(font()).horizontalAdvance(character));
     width += *known;
     if (width >= widest) return widest;
   }
-  return width;
+  return qCeil(width);
 }
 
 QSize MenuEntries::measure(int widest) {

@@ -68,7 +68,7 @@ class MenuEntries : public QWidget {
 
   std::vector<Entry> entries_;
   std::function<QString(int index)> lateTitles_;
-  QHash<QChar, int> advances_;  ///< width of each character met, in today's font
+  QHash<QChar, double> advances_;  ///< width of each character met, in today's font
   int rowHeight_ = 0;
   int current_ = 0;
   int offset_ = 0;  ///< how far the content is scrolled up
