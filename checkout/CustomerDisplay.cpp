@@ -1,26 +1,11 @@
 #include "checkout/CustomerDisplay.h"
 
 #include "app/ClsPosSet.h"
+#include "app/DeviceBytes.h"
 #include "app/Ports.h"
-#include "base/NumberText.h"
 #include "checkout/SaleState.h"
 #include "platform/ByteSink.h"
 #include "platform/PortError.h"
-
-namespace {
-
-bool isKnownModel(int model) {
-  return model == 1 || model == 2;
-}
-
-std::string portName(const std::string& setting) {
-  if (setting == "COM1" || setting == "COM2") return setting;
-  const auto number = parseWhole32(setting);
-  if (!number) throw PortError("客户显示屏的端口“" + setting + "”不是有效的端口号");
-  return "COM" + std::to_string(*number);
-}
-
-}  // namespace
 
 CustomerDisplay::CustomerDisplay(const Ports& ports, const ClsPosSet& settings, SaleState& state,
                                  Outage::Report report)
@@ -29,10 +14,10 @@ CustomerDisplay::CustomerDisplay(const Ports& ports, const ClsPosSet& settings, 
 CustomerDisplay::~CustomerDisplay() = default;
 
 void CustomerDisplay::OpenDisplayPort() {
-  if (!isKnownModel(settings_.CVModel)) return;
+  if (!device::isKnownDisplay(settings_.CVModel)) return;
   try {
     close();
-    line_ = ports_.serialLine(portName(settings_.CVProt));
+    line_ = ports_.serialLine(device::displayPort(settings_.CVProt));
     outage_.worked();
   } catch (const PortError& error) {
     switchOff(error);
@@ -40,14 +25,12 @@ void CustomerDisplay::OpenDisplayPort() {
 }
 
 void CustomerDisplay::clientView(Currency money, int mode) {
-  if (!state_.hasDisplay || !isKnownModel(settings_.CVModel)) return;
-  std::string bytes;
-  if (mode >= kNone && mode <= kChange) bytes = {'\x1B', 's', static_cast<char>('0' + mode)};
-  send(bytes + "\x1BQA" + twoDecimals(money) + "\r");
+  if (!state_.hasDisplay || !device::isKnownDisplay(settings_.CVModel)) return;
+  send(device::displayFigure(money, mode));
 }
 
 bool CustomerDisplay::kickDrawer() {
-  return send("\x02M");
+  return send(device::kDrawerThroughDisplay);
 }
 
 void CustomerDisplay::close() {

@@ -6,6 +6,7 @@
 #include "base/Currency.h"
 #include "base/NumberText.h"
 #include "store/Connection.h"
+#include "store/Snapshot.h"
 #include "store/StoreError.h"
 
 namespace {
@@ -16,26 +17,6 @@ constexpr Currency kLargestRounding = Currency::fromScaled(5500);
 std::string numbered(const char* what, std::int64_t number) {
   return std::string(what) + " " + std::to_string(number);
 }
-
-/// One state of the file for all reads while this lives; unlike a Transaction it takes no lock, so
-/// that the till goes on selling.
-class ReadSnapshot {
- public:
-  explicit ReadSnapshot(Connection& connection) : connection_(connection) {
-    connection_.run("begin");
-  }
-  ~ReadSnapshot() {
-    try {
-      connection_.run("rollback");
-    } catch (const StoreError&) {  // nothing was written, so nothing is left to take back
-    }
-  }
-  ReadSnapshot(const ReadSnapshot&) = delete;
-  ReadSnapshot& operator=(const ReadSnapshot&) = delete;
-
- private:
-  Connection& connection_;
-};
 
 }  // namespace
 
@@ -62,7 +43,7 @@ Books::Books(Connection& connection, Report report)
 
 BooksSummary Books::check() {
   found_ = {};
-  const ReadSnapshot oneState(connection_);
+  const Snapshot oneState(connection_);  // the till goes on selling
   checkEngine();
   checkBills();
   checkPayments();
