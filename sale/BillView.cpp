@@ -124,8 +124,8 @@ void BillView::paintRest(QPainter& painter, const QRect& part) {
 void BillView::paintRow(QPainter& painter, int row, const QRegion& part) {
   const bool current = row == row_;
   const auto plain = row % 2 == 1 ? QPalette::AlternateBase : QPalette::Base;
-  painter.fillRect(rowsRect(row, row) & part.boundingRect(),
-                   palette().color(current ? QPalette::Highlight : plain));
+  const QColor back = palette().color(current ? QPalette::Highlight : plain);
+  painter.fillRect(rowsRect(row, row) & part.boundingRect(), back);
   painter.setPen(palette().color(current ? QPalette::HighlightedText : QPalette::Text));
   const int padding = painter.fontMetrics().height() / 4;
   for (int column = 0; column < model()->columnCount(); ++column) {
@@ -133,6 +133,7 @@ void BillView::paintRow(QPainter& painter, int row, const QRegion& part) {
     if (!part.intersects(cell)) continue;
     if (current && column == column_) {
       painter.fillRect(cell, kFrameColour);
+      painter.fillRect(insideOfCurrentCell(), back);
     } else {
       paintCell(painter, cell.adjusted(padding, 0, -padding, 0), model()->index(row, column));
     }
