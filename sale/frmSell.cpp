@@ -249,9 +249,9 @@ void frmSell::resizeEvent(QResizeEvent* event) {
   applyStyle();
 }
 
+// Who changes the selection places the editor, too.
 void frmSell::rowsChanged() {
   model_->rowsChanged();
-  showEditedCell();
 }
 
 // What has changed in the list is painted first: it is what the cashier waits for.
@@ -266,14 +266,10 @@ void frmSell::PlaceEditor() {
   state.clearOnKey = true;
 }
 
-void frmSell::showEditedCell() {
-  lv_->showCell(session_->state.selected, session_->state.editColumn());
-}
-
 void frmSell::moveEditor() {
   if (!session_ || session_->state.selected < 0) return;
-  showEditedCell();
   const SaleState& state = session_->state;
+  lv_->showCell(state.selected, state.editColumn());
   const QModelIndex cell = model_->index(state.selected, state.editColumn());
   const Qt::Alignment side(cell.data(Qt::TextAlignmentRole).toInt());
   if (t_->alignment() != side) t_->setAlignment(side);

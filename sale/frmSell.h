@@ -69,7 +69,6 @@ class frmSell : public QWidget, private SaleScreen {
   void applyStyle();
   void layOut();
   void setColumnWidths();
-  void showEditedCell();
   void moveEditor();
   void showTime();
   bool keyPressed(QKeyEvent& event);
