@@ -31,7 +31,7 @@ class KillTest {
         journal_(Ledger::read(*till_.open())),
         day_(journal_, Goods(*till_.open()), options.seed, [this] { stepConfirmed(); }) {}
 
-  Figures run() {
+  Figures run() try {
     while (figures_.kills < options_.count) {
       runUntilKilled();
       ++figures_.kills;
@@ -40,6 +40,9 @@ class KillTest {
     openShop(last);
     day_.close(last);
     return figures_;
+  } catch (const std::runtime_error& failure) {
+    throw std::runtime_error("after " + std::to_string(figures_.kills) +
+                             " kills: " + failure.what());
   }
   const Ledger& books() const { return journal_.confirmed(); }
 

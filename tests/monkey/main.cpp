@@ -30,7 +30,7 @@ class MonkeyTest {
   }
   ~MonkeyTest() { fs::current_path("/"); }
 
-  void run() {
+  void run() try {
     while (events_ < options_.count) {
       clearAway();
       TillDriver till(till_.program());
@@ -43,6 +43,9 @@ class MonkeyTest {
       till.kill();
       figures_.check(*till_.open());
     }
+  } catch (const std::runtime_error& failure) {
+    throw std::runtime_error("start " + std::to_string(starts_) + ", after " +
+                             std::to_string(events_) + " events: " + failure.what());
   }
 
   void print() const {
@@ -81,8 +84,7 @@ class MonkeyTest {
   void requireCleanEnd(TillDriver& till) const {
     const int code = till.waitForEnd();
     if (code == 0) return;
-    throw std::runtime_error("the till ended with " + std::to_string(code) + " after " +
-                             std::to_string(events_) + " events, start " + std::to_string(starts_));
+    throw std::runtime_error("the till ended with " + std::to_string(code));
   }
 
   ProofOptions options_;
