@@ -34,11 +34,13 @@ void Killer::strikeAtDrawer(const std::filesystem::path& port, std::chrono::micr
   thread_ = std::thread([this, watch, delay] { this->watch(watch, delay); });
 }
 
+// The kill comes before the closing, which can take milliseconds: longer than the till needs from
+// the drawer to the stored bill.
 void Killer::watch(int watch, std::chrono::microseconds delay) {
   pollfd ready{watch, POLLIN, 0};
   while (!spared_ && poll(&ready, 1, static_cast<int>(kPatience.count())) == 0) continue;
-  close(watch);
   strikeAt(Clock::now() + delay);
+  close(watch);
 }
 
 void Killer::strikeAt(Clock::time_point moment) {
