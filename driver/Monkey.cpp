@@ -143,7 +143,7 @@ void Monkey::goHome() {
   if (++leaving_ > kLongestWayHome) {
     const QWidget* window = front();
     const QString name = window != nullptr ? window->objectName() : QStringLiteral("no window");
-    return end(QStringLiteral("error cannot leave ") + name);
+    return end(QStringLiteral("error cannot leave %1, event %2").arg(name).arg(done_));
   }
   const int dice = below(100);
   if (dice < 65) return key(one(kWayHome));

@@ -44,8 +44,8 @@ class MonkeyTest {
       figures_.check(*till_.open());
     }
   } catch (const std::runtime_error& failure) {
-    throw std::runtime_error("start " + std::to_string(starts_) + ", after " +
-                             std::to_string(events_) + " events: " + failure.what());
+    throw std::runtime_error("start " + std::to_string(starts_) + ", with " +
+                             std::to_string(events_) + " events counted: " + failure.what());
   }
 
   void print() const {
