@@ -58,7 +58,7 @@ constexpr Phrase kPhrases[] = {{"frmSell", "*\n"},
                                {"frmInput", "880001\n"},
                                {"frmInput", "3.5\n"},
                                {"frmUnSell", "#\n"},
-                               {"frmUnSell", "#\n*\n1\n\n"},
+                               {"frmUnSell", "#\n\t\n1\n\n"},
                                {"cardStored", "880002\n50\n60\n\t\n\n"},
                                {"cardStored", "880003\n#\n#\n\t\n\n"}};
 
