@@ -25,11 +25,11 @@ void Killer::strikeIn(std::chrono::microseconds delay) {
   thread_ = std::thread([this, moment = Clock::now() + delay] { strikeAt(moment); });
 }
 
-void Killer::strikeAtDrawer(const std::filesystem::path& port, std::chrono::microseconds delay) {
-  std::ofstream(port, std::ios::app);  // a file that is not there cannot be watched
+void Killer::strikeAtWrite(const std::filesystem::path& file, std::chrono::microseconds delay) {
+  std::ofstream(file, std::ios::app);  // a file that is not there cannot be watched
   const int watch = inotify_init1(IN_CLOEXEC);
-  if (watch < 0 || inotify_add_watch(watch, port.c_str(), IN_MODIFY) < 0) {
-    throw std::logic_error("cannot watch the drawer");
+  if (watch < 0 || inotify_add_watch(watch, file.c_str(), IN_MODIFY) < 0) {
+    throw std::logic_error("cannot watch the file");
   }
   thread_ = std::thread([this, watch, delay] { this->watch(watch, delay); });
 }
