@@ -74,7 +74,6 @@ class KillTest {
 
   void stepConfirmed() {
     if (confirmationsLeft_ == 0 || --confirmationsLeft_ > 0) return;
-    const auto soon = microseconds(random_() % 4 * (random_() % 300));
     switch (random_() % 5) {
       case 0: {
         const auto root = random_() % 123;  // sooner rather than later, within 15 ms
@@ -83,10 +82,10 @@ class KillTest {
       }
       case 1:
       case 2:
-        killer_->strikeAtWrite(till_.dataFile().string() + "-wal", soon);
+        killer_->strikeAtWrite(till_.dataFile().string() + "-wal", microseconds(random_() % 200));
         break;
       default:
-        killer_->strikeAtWrite(till_.drawer(), soon);
+        killer_->strikeAtWrite(till_.drawer(), microseconds(random_() % 4 * (random_() % 300)));
     }
   }
 
