@@ -124,7 +124,8 @@ void Monkey::playAround() {
   window_ = name;
   if (name == QLatin1String("frmLogin") && isNew && chance(85)) return logIn();
   if (atHome() && chance(90)) return chooseFromMainMenu();
-  if (chance(12) && speak(name)) return;
+  // On arrival the focus is still where the words belong.
+  if (chance(isNew ? 60 : 12) && speak(name)) return;
   const int dice = below(1000);
   if (dice < 550) return randomKey();
   if (dice < 800) return randomText();
