@@ -59,7 +59,7 @@ constexpr Phrase kPhrases[] = {{"frmSell", "*\n"},
                                {"frmInput", "880001\n"},
                                {"frmInput", "3.5\n"},
                                {"frmUnSell", "#\n"},
-                               {"frmUnSell", "#\n*\n1\n\n"},
+                               {"frmUnSell", "#\n\t\n1\n\n"},
                                {"cardStored", "880002\n50\n60\n\t\n\n"},
                                {"cardStored", "880003\n#\n#\n\t\n\n"}};
 
@@ -141,7 +141,8 @@ void Monkey::playAround() {
   window_ = name;
   if (name == QLatin1String("frmLogin") && isNew && chance(85)) return logIn();
   if (atHome() && chance(90)) return chooseFromMainMenu();
-  if (chance(12) && speak(name)) return;
+  // On arrival the focus is still where the words belong.
+  if (chance(isNew ? 60 : 12) && speak(name)) return;
   const int dice = below(1000);
   if (dice < 550) return randomKey();
   if (dice < 800) return randomText();
@@ -161,7 +162,10 @@ void Monkey::goHome() {
   if (++leaving_ > kLongestWayHome) {
     const QWidget* window = front();
     const QString name = window != nullptr ? window->objectName() : QStringLiteral("no window");
-    return end(QStringLiteral("error cannot leave %1 (%2)").arg(name, standing()));
+    return end(QStringLiteral("error cannot leave %1, event %2 (%3)")
+                   .arg(name)
+                   .arg(done_)
+                   .arg(standing()));
   }
   const int dice = below(100);
   if (dice < 5) return leaveByMenu();

@@ -15,8 +15,8 @@ class Killer {
 
   /// The moment is set once.
   void strikeIn(std::chrono::microseconds delay);
-  /// So long after something is next written to the drawer's port, a plain file.
-  void strikeAtDrawer(const std::filesystem::path& port, std::chrono::microseconds delay);
+  /// So long after something is next written to that plain file.
+  void strikeAtWrite(const std::filesystem::path& file, std::chrono::microseconds delay);
   bool struck() const { return struck_; }
 
  private:

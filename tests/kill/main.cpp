@@ -31,7 +31,7 @@ class KillTest {
         journal_(Ledger::read(*till_.open())),
         day_(journal_, Goods(*till_.open()), options.seed, [this] { stepConfirmed(); }) {}
 
-  Figures run() {
+  Figures run() try {
     while (figures_.kills < options_.count) {
       runUntilKilled();
       ++figures_.kills;
@@ -40,6 +40,9 @@ class KillTest {
     openShop(last);
     day_.close(last);
     return figures_;
+  } catch (const std::runtime_error& failure) {
+    throw std::runtime_error("after " + std::to_string(figures_.kills) +
+                             " kills: " + failure.what());
   }
   const Ledger& books() const { return journal_.confirmed(); }
 
@@ -51,8 +54,9 @@ class KillTest {
   }
 
   // Some strike while the till starts, some at any moment of the day, some within the milliseconds
-  // after a key that changes the books, and some when the drawer opens: the customer has paid by
-  // then, and the bill is not stored yet.
+  // after a key that changes the books, some as these are written, between two writes that belong
+  // together, and some when the drawer opens: the customer has paid by then, and the bill is not
+  // stored yet.
   void aim(Killer& killer) {
     confirmationsLeft_ = 0;
     switch (random_() % 8) {
@@ -70,11 +74,18 @@ class KillTest {
 
   void stepConfirmed() {
     if (confirmationsLeft_ == 0 || --confirmationsLeft_ > 0) return;
-    if (random_() % 3 != 0) {
-      killer_->strikeAtDrawer(till_.drawer(), microseconds(random_() % 4 * (random_() % 300)));
-    } else {
-      const auto root = random_() % 123;  // sooner rather than later, within 15 ms
-      killer_->strikeIn(microseconds(root * root));
+    switch (random_() % 5) {
+      case 0: {
+        const auto root = random_() % 123;  // sooner rather than later, within 15 ms
+        killer_->strikeIn(microseconds(root * root));
+        break;
+      }
+      case 1:
+      case 2:
+        killer_->strikeAtWrite(till_.dataFile().string() + "-wal", microseconds(random_() % 200));
+        break;
+      default:
+        killer_->strikeAtWrite(till_.drawer(), microseconds(random_() % 4 * (random_() % 300)));
     }
   }
 

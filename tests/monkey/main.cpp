@@ -30,19 +30,22 @@ class MonkeyTest {
   }
   ~MonkeyTest() { fs::current_path("/"); }
 
-  void run() {
+  void run() try {
     while (events_ < options_.count) {
       clearAway();
       TillDriver till(till_.program());
       till.waitFor("frmMenu");
       ++starts_;
       const int asked = options_.count - events_;
-      const int done = play(till, asked);
+      const int done = till.monkey(options_.seed + starts_, asked, till_.folder() / "words");
       events_ += done;
       if (done < asked) requireCleanEnd(till);
       till.kill();
       figures_.check(*till_.open());
     }
+  } catch (const std::runtime_error& failure) {
+    throw std::runtime_error("start " + std::to_string(starts_) + ", with " +
+                             std::to_string(events_) + " events counted: " + failure.what());
   }
 
   void print() const {
@@ -69,17 +72,6 @@ class MonkeyTest {
     while (cards.next()) words << cards.text("bh") << '\n' << cards.text("password") << '\n';
   }
 
-  /// How many events happened before the till had ended, or all that were asked for had.
-  int play(TillDriver& till, int asked) const {
-    const unsigned seed = options_.seed + starts_;
-    try {
-      return till.monkey(seed, asked, till_.folder() / "words");
-    } catch (const std::exception& failure) {
-      throw std::runtime_error(std::string(failure.what()) + ", after " + std::to_string(events_) +
-                               " events, start " + std::to_string(starts_));
-    }
-  }
-
   /// The settings as they were, and what was printed and exported gone.
   void clearAway() {
     fs::remove_all(till_.folder() / "printed");
@@ -92,8 +84,7 @@ class MonkeyTest {
   void requireCleanEnd(TillDriver& till) const {
     const int code = till.waitForEnd();
     if (code == 0) return;
-    throw std::runtime_error("the till ended with " + std::to_string(code) + " after " +
-                             std::to_string(events_) + " events, start " + std::to_string(starts_));
+    throw std::runtime_error("the till ended with " + std::to_string(code));
   }
 
   ProofOptions options_;
