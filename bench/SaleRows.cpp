@@ -65,6 +65,7 @@ void settle(Run& run, ShopSize size, benchmark::State& state, Measured& row) {
       pair.bare.settle(kMember);
       pair.bare.openBill();
     });
+    pair.till.pos().gConn->checkpoint();  // as the till does when nobody waits
   }
   row.claims = {{"ratio", row.ratio(), 2},
                 {"syncs", static_cast<double>(syncs) / static_cast<double>(bills), 3}};

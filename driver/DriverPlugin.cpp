@@ -133,13 +133,19 @@ class Driver : public QObject {
     }
   }
 
+  static QString described(const QWidget* window) {
+    if (window == nullptr) return QStringLiteral("none");
+    QStringList words{window->objectName()};
+    for (const QLabel* label : window->findChildren<QLabel*>()) words << label->text();
+    return words.join(QLatin1Char(' ')).replace(QLatin1Char('\n'), QLatin1Char(' '));
+  }
+
   void waitFor(const QString& name, QElapsedTimer timer) {
     const QWidget* window = QApplication::activeWindow();
     if (window != nullptr && window->objectName() == name) {
       answer(QStringLiteral("ok"));
     } else if (timer.elapsed() > kWaitLimitMs) {
-      answer(QStringLiteral("error the active window is ") +
-             (window ? window->objectName() : QStringLiteral("none")));
+      answer(QStringLiteral("error the active window is ") + described(window));
     } else {
       QTimer::singleShot(kPollMs, this, [this, name, timer] { waitFor(name, timer); });
     }

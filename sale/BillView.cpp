@@ -30,7 +30,9 @@ BillView::BillView(QWidget* parent) : QTableView(parent) {
 }
 
 void BillView::showCell(int row, int column) {
-  if (row != row_ || column != column_) {
+  if (row == row_ + 1) {
+    viewport()->update(rowsRect(row_, row));
+  } else if (row != row_ || column != column_) {
     updateRow(row_);
     updateRow(row);
   }
