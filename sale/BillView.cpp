@@ -10,6 +10,7 @@
 namespace {
 
 constexpr int kFrame = 2;
+constexpr int kFreeRows = 4;  // below the last line of a bill that has just moved up
 constexpr QColor kFrameColour(0xd3, 0x54, 0x00);
 
 /// In one line; gives its width.
@@ -39,8 +40,20 @@ void BillView::showCell(int row, int column) {
   row_ = row;
   column_ = column;
   executeDelayedItemsLayout();
-  const QRect cell = cellRect(row, column);
-  if (!viewport()->rect().contains(cell)) scrollTo(model()->index(row, column));
+  scrollToRow(row);
+}
+
+int BillView::rowsShown() const {
+  return std::max(1, viewport()->height() / verticalHeader()->defaultSectionSize());
+}
+
+// A bill that has filled the screen moves up by some rows at once: moving all that is painted at
+// each line would cost as much as painting the line.
+void BillView::scrollToRow(int row) {
+  if (row < 0 || viewport()->rect().contains(rowsRect(row, row))) return;
+  const bool above = rowsRect(row, row).top() < 0;
+  const int first = above ? row : std::min(row, row + 1 + kFreeRows - rowsShown());
+  verticalScrollBar()->setValue(first * verticalHeader()->defaultSectionSize());
 }
 
 QRect BillView::insideOfCurrentCell() const {
@@ -52,13 +65,14 @@ void BillView::paintNow() {
   viewport()->repaint(rowsRect(row_, row_));
 }
 
-// As the base class does it, but that what is painted already stays, and so do the headings:
-// another number of rows moves none of them.
+// As the base class does it, but that what is painted already stays, and so do the headings
+// (another number of rows moves none of them), and that some rows may be free below the last.
 void BillView::doItemsLayout() {
-  const int room = viewport()->height();
-  verticalScrollBar()->setRange(0, std::max(0, verticalHeader()->length() - room));
-  verticalScrollBar()->setPageStep(room);
-  verticalScrollBar()->setSingleStep(verticalHeader()->defaultSectionSize());
+  const int height = verticalHeader()->defaultSectionSize();
+  const int hidden = std::max(0, verticalHeader()->count() - rowsShown());
+  verticalScrollBar()->setRange(0, hidden > 0 ? (hidden + kFreeRows) * height : 0);
+  verticalScrollBar()->setPageStep(rowsShown() * height);
+  verticalScrollBar()->setSingleStep(height);
   verticalHeader()->setOffset(verticalScrollBar()->value());
   verticalHeader()->setUpdatesEnabled(true);
 }

@@ -35,6 +35,8 @@ class BillView : public QTableView {
   void changeEvent(QEvent* event) override;
 
  private:
+  int rowsShown() const;
+  void scrollToRow(int row);
   void updateRow(int row);
   QRect rowsRect(int first, int last) const;
   QRect cellRect(int row, int column) const;
