@@ -14,6 +14,7 @@
 #include "checkout/LineReceipt.h"
 #include "checkout/SaleScreen.h"
 #include "checkout/SaleState.h"
+#include "sale/EditedCell.h"
 #include "sale/ItemLookup.h"
 #include "sale/LineRow.h"
 #include "sale/OriginalPrice.h"
@@ -47,11 +48,13 @@ struct BillLines::Shown {
   bool isNew = false;  ///< an entry row is to follow it
 };
 
-BillLines::BillLines(posMod& pos, SaleState& state, SaleScreen& screen, ItemLookup& lookup,
-                     Checkout& checkout, CustomerDisplay& display, LineReceipt& receipt)
+BillLines::BillLines(posMod& pos, SaleState& state, SaleScreen& screen, EditedCell& cell,
+                     ItemLookup& lookup, Checkout& checkout, CustomerDisplay& display,
+                     LineReceipt& receipt)
     : pos_(pos),
       state_(state),
       screen_(screen),
+      cell_(cell),
       lookup_(lookup),
       checkout_(checkout),
       display_(display),
@@ -149,27 +152,13 @@ void BillLines::changeDiscount(const QString& typed) {
 }
 
 void BillLines::returnToEntryRow() {
-  state_.editCol = 1;
-  MoveRow(false);
-  screen_.PlaceEditor();
-  state_.onEntryRow = true;
   numberRows();
-  screen_.rowsChanged();
+  cell_.toEntryRow();
 }
 
 void BillLines::numberRows() {
   int position = 0;
   for (BillRow& row : state_.rows) row.cells[BillRow::kNumber] = std::to_string(++position);
-}
-
-void BillLines::MoveRow(bool up) {
-  const int target = state_.selected + (up ? -1 : 1);
-  if (target < 0 || target >= static_cast<int>(state_.rows.size())) return;
-  if (state_.rows[static_cast<std::size_t>(target)].tag != 0) return;
-  state_.selected = target;
-  screen_.rowsChanged();
-  screen_.PlaceEditor();
-  state_.onEntryRow = !up;
 }
 
 bool BillLines::ShowLine(bool takeStock) {
@@ -283,14 +272,10 @@ void BillLines::DeleteCurrentLine() {
   const int row = state_.onEntryRow ? state_.selected - 1 : state_.selected;
   state_.rows.erase(state_.rows.begin() + row);
   state_.curLine = nullptr;
-  state_.selected = row;
   state_.rows.back().cells[BillRow::kNumber].clear();
-  state_.editCol = 1;
-  state_.onEntryRow = true;
   state_.origTotal = originalPrice(state_.rows);
   screen_.setStatus(text(generalNumber(state_.curBill->Quantity())) + tr("件商品，原价总计") +
                     QString::number(state_.origTotal) + tr("合计") +
                     text(generalNumber(state_.curBill->Amount())) + tr("元"));
-  screen_.rowsChanged();
-  screen_.PlaceEditor();
+  cell_.toEntryRow();
 }

@@ -8,6 +8,7 @@
 
 class Checkout;
 class CustomerDisplay;
+class EditedCell;
 class ItemLookup;
 class LineReceipt;
 class posMod;
@@ -22,7 +23,7 @@ class BillLines {
   Q_DECLARE_TR_FUNCTIONS(BillLines)
 
  public:
-  BillLines(posMod& pos, SaleState& state, SaleScreen& screen, ItemLookup& lookup,
+  BillLines(posMod& pos, SaleState& state, SaleScreen& screen, EditedCell& cell, ItemLookup& lookup,
             Checkout& checkout, CustomerDisplay& display, LineReceipt& receipt);
 
   /// The mapped Enter key on the input line.
@@ -34,8 +35,6 @@ class BillLines {
   bool ShowLine(bool takeStock);
   /// The same without stock, after a change of the current line.
   bool RefreshLine();
-  /// Moves the selection between the current line's row and the entry row.
-  void MoveRow(bool up);
   /// Voids the open bill and the current line, and prepares the next bill.
   void CancelBill();
   void DeleteCurrentLine();
@@ -62,6 +61,7 @@ class BillLines {
   posMod& pos_;
   SaleState& state_;
   SaleScreen& screen_;
+  EditedCell& cell_;
   ItemLookup& lookup_;
   Checkout& checkout_;
   CustomerDisplay& display_;

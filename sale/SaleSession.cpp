@@ -14,7 +14,6 @@
 namespace {
 
 constexpr int kModifiers[] = {16, 17, 18};  // Shift, Ctrl, Alt
-constexpr int kEditColumns = 3;
 
 Outage::Report reportTo(SaleScreen& screen) {
   return [&screen](const QString& text) { screen.ShowMessage(text); };
@@ -35,8 +34,9 @@ SaleSession::SaleSession(posMod& pos, SaleScreen& screen, Openers openers)
       drawer_(pos.ports, pos.gPosSet, state, display_, reportTo(screen)),
       receipt_(pos, state, drawer_, reportTo(screen)),
       checkout_(pos, state, screen, display_, receipt_),
+      cell_(state, screen),
       lookup_(pos, state, screen),
-      lines_(pos, state, screen, lookup_, checkout_, display_, receipt_),
+      lines_(pos, state, screen, cell_, lookup_, checkout_, display_, receipt_),
       memberCard_(pos, state, screen, checkout_),
       held_(pos, state, screen, checkout_, memberCard_, display_, receipt_) {
   fillCommands();
@@ -80,18 +80,16 @@ bool SaleSession::clockIsBehind() const {
 // The order is the one in which a key mapped twice finds its command.
 void SaleSession::fillCommands() {
   commands_ = {
-      {&KeyBoard::mLeft, [this] { return moveEditor(-1); }},
+      {&KeyBoard::mLeft, [this] { return cell_.moveColumn(-1); }},
       {&KeyBoard::mUp,
        [this] {
-         state.editCol = 2;
-         lines_.MoveRow(true);
+         cell_.MoveRow(true);
          return true;
        }},
-      {&KeyBoard::mRight, [this] { return moveEditor(1); }},
+      {&KeyBoard::mRight, [this] { return cell_.moveColumn(1); }},
       {&KeyBoard::mDown,
        [this] {
-         state.editCol = 1;
-         lines_.MoveRow(false);
+         cell_.MoveRow(false);
          return true;
        }},
       {&KeyBoard::mEnter,
@@ -169,14 +167,6 @@ bool SaleSession::mayRepeat(int code) const {
   return code == keys.mLeft || code == keys.mRight || code == keys.mUp || code == keys.mDown;
 }
 
-bool SaleSession::moveEditor(int step) {
-  const int column = state.editCol + step;
-  if (column < 1 || column > kEditColumns) return false;
-  state.editCol = column;
-  screen_.PlaceEditor();
-  return true;
-}
-
 // Quick keys work on an empty input line only. One without an item code is none: with nothing on
 // the input line, Enter would settle.
 const clsQk* SaleSession::quickKeyFor(int code) const {
@@ -198,10 +188,7 @@ bool SaleSession::quickKey(int code) {
 }
 
 void SaleSession::listClicked() {
-  if (state.rows.size() < 2) return;
-  state.selected = static_cast<int>(state.rows.size()) - 2;
-  state.editCol = 1;
-  lines_.MoveRow(false);
+  if (state.rows.size() > 1) cell_.toEntryRow();
 }
 
 void SaleSession::menu(const QString& entry) {
