@@ -34,6 +34,10 @@ QString codeOf(const QString& typed) {
   return plain ? QString::fromStdString(folded) : typed;
 }
 
+bool isBarcode(const QString& typed) {
+  return characters(typed.toStdString()) > kLongestShortCode;
+}
+
 QString text(const std::string& utf8) {
   return QString::fromStdString(utf8);
 }
@@ -63,43 +67,43 @@ BillLines::BillLines(posMod& pos, SaleState& state, SaleScreen& screen, EditedCe
 void BillLines::Enter() {
   const QString typed = screen_.input();
   const std::size_t length = characters(typed.toStdString());
-  if (length > kLongestShortCode) {
-    enterBarcode(typed);
-  } else if (length >= kShortestCode && state_.onEntryRow) {
-    enterShortCode(typed);
-  } else if (length == 0) {
+  if (length == 0) {
     checkout_.SettleBill();
-  } else if (!state_.onEntryRow && state_.editCol == 2) {
+  } else if (state_.onEntryRow) {
+    if (length >= kShortestCode) enterGoods(typed);
+  } else if (isBarcode(typed)) {
+    dropWhileEditing(typed);
+  } else if (state_.editCol == 2) {
     changeQuantity(typed);
-  } else if (!state_.onEntryRow && state_.editCol == 3) {
+  } else if (state_.editCol == 3) {
     changeDiscount(typed);
   }
 }
 
-// A barcode scanned while a quantity or discount is being edited is dropped: it is neither.
-void BillLines::enterBarcode(const QString& typed) {
+void BillLines::EnterQuickKey(const QString& itemCode) {
   if (!state_.onEntryRow) {
-    screen_.setInput({});
-    ShowLine(false);
-    returnToEntryRow();
-    return;
-  }
-  if (state_.curLine) commitCurrentLine(state_, receipt_);
-  if (lookup_.LookupBarcode(codeOf(typed))) {
-    ringUp();
+    dropWhileEditing(itemCode);
+  } else if (characters(itemCode.toStdString()) < kShortestCode) {
+    notFound(itemCode);
   } else {
-    notFound(tr("没有找到条码为：") + typed + tr("的商品"));
+    enterGoods(itemCode);
   }
 }
 
-void BillLines::enterShortCode(const QString& typed) {
+void BillLines::enterGoods(const QString& typed) {
   if (state_.curLine) commitCurrentLine(state_, receipt_);
   const QString code = codeOf(typed);
-  if (lookup_.LookupSpec(code) || lookup_.LookupItemNo(code)) {
-    ringUp();
-  } else {
-    notFound(tr("没有找到：") + typed + tr("的商品"));
-  }
+  const bool found = isBarcode(typed) ? lookup_.LookupBarcode(code)
+                                      : lookup_.LookupSpec(code) || lookup_.LookupItemNo(code);
+  found ? ringUp() : notFound(typed);
+}
+
+// Goods are not rung before the change of the line is finished.
+void BillLines::dropWhileEditing(const QString& code) {
+  screen_.setInput({});
+  ShowLine(false);
+  returnToEntryRow();
+  screen_.ShowMessage(tr("正在修改商品行，“%1”没有录入。请重新录入。").arg(code));
 }
 
 // The input line is emptied too when the line was refused: the next scan must not be appended.
@@ -108,8 +112,9 @@ void BillLines::ringUp() {
   if (!ShowLine(true)) screen_.setInput({});
 }
 
-void BillLines::notFound(const QString& message) {
-  screen_.ShowMessage(message);
+void BillLines::notFound(const QString& code) {
+  const QString before = isBarcode(code) ? tr("没有找到条码为：") : tr("没有找到：");
+  screen_.ShowMessage(before + code + tr("的商品"));
   screen_.setInput({});
 }
 
@@ -264,7 +269,12 @@ void BillLines::CancelBill() {
 
 // The row that goes is the current line's, also when the entry row below it is the selected one.
 void BillLines::DeleteCurrentLine() {
-  if (!state_.curLine) return;
+  if (!state_.curLine) {
+    screen_.ShowMessage(state_.curBill->Items().empty()
+                            ? tr("没有商品，无需删除！")
+                            : tr("没有可删除的行：已确认的商品不能单独删除，只能整单撤消。"));
+    return;
+  }
   const bool deleted = guarded([this] {
     return moveStock(-state_.curLine->StockQuantity(), [this] { state_.curLine->Delete(); });
   });

@@ -28,6 +28,8 @@ class BillLines {
 
   /// The mapped Enter key on the input line.
   void Enter();
+  /// A quick key's item code, as if it were typed on the entry row and confirmed.
+  void EnterQuickKey(const QString& itemCode);
   /// Takes stock for the current line when asked, stores it, writes it into the selected row, shows
   /// it with price and status line. A line whose stock is taken is a new one: an entry row follows
   /// it. False when there is no current line, the stock was refused or the store failed; a line
@@ -37,15 +39,16 @@ class BillLines {
   bool RefreshLine();
   /// Voids the open bill and the current line, and prepares the next bill.
   void CancelBill();
+  /// Says why there is nothing to delete when there is no current line.
   void DeleteCurrentLine();
 
  private:
   struct Shown;
 
-  void enterBarcode(const QString& typed);
-  void enterShortCode(const QString& typed);
+  void enterGoods(const QString& typed);
   void ringUp();
-  void notFound(const QString& text);
+  void dropWhileEditing(const QString& code);
+  void notFound(const QString& code);
   void changeQuantity(const QString& typed);
   void changeDiscount(const QString& typed);
   void returnToEntryRow();

@@ -181,8 +181,7 @@ const clsQk* SaleSession::quickKeyFor(int code) const {
 bool SaleSession::quickKey(int code) {
   const clsQk* quick = quickKeyFor(code);
   if (quick == nullptr) return false;
-  screen_.setInput(QString::fromStdString(quick->QK_Bm));
-  static_cast<void>(key(pos_.gKeyBoard.mEnter));
+  lines_.EnterQuickKey(QString::fromStdString(quick->QK_Bm));
   state.clearOnKey = true;
   return true;
 }
@@ -206,7 +205,15 @@ std::vector<std::pair<QString, QString>> SaleSession::menuEntries() const {
 }
 
 void SaleSession::toggleLinePrint() {
-  state.linePrint = !state.linePrint && pos_.gPosSet.PPort != "USB";
+  const std::string& port = pos_.gPosSet.PPort;
+  const bool possible = !port.empty() && port != "USB";
+  state.linePrint = possible && !state.linePrint;
+  if (possible) {
+    screen_.ShowMessage(state.linePrint ? tr("打印机已打开。") : tr("打印机已关闭。"));
+  } else {
+    screen_.ShowMessage(port.empty() ? tr("没有设置打印机，打印机开关保持关闭。")
+                                     : tr("USB 打印机不逐行打印，打印机开关保持关闭。"));
+  }
 }
 
 // A row that cannot be deleted now is voided when the screen opens next.
