@@ -24,10 +24,8 @@
 #include "sale/KeyHelp.h"
 #include "sale/SellStyle.h"
 #include "sale/frmRecord.h"
-#include "shell/Modal.h"
 #include "shell/frmInput.h"
 #include "shell/frmMenu.h"
-#include "shell/frmMsg.h"
 #include "store/StoreError.h"
 
 namespace {
@@ -305,15 +303,15 @@ void frmSell::setMemberInfo(const QString& text) {
 }
 
 void frmSell::ShowMessage(const QString& text) {
-  frmMsg(this).Message(text);
+  messages_.show(text);
 }
 
 void frmSell::messageBox(const QString& text, const QString& title) {
-  ::messageBox(this, text, title, title.isEmpty() ? BoxIcon::kNone : BoxIcon::kExclamation);
+  messages_.box(text, title, title.isEmpty() ? BoxIcon::kNone : BoxIcon::kExclamation);
 }
 
 bool frmSell::askYesNo(const QString& text, const QString& title, bool yesPreselected) {
-  return ::askYesNo(this, text, title, yesPreselected);
+  return messages_.ask(text, title, yesPreselected);
 }
 
 QString frmSell::prompt(const QString& title, const QString& message) {

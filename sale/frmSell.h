@@ -6,6 +6,7 @@
 #include <memory>
 
 #include "checkout/SaleScreen.h"
+#include "sale/SaleMessages.h"
 #include "sale/SaleSession.h"
 
 class BillModel;
@@ -76,6 +77,7 @@ class frmSell : public QWidget, private SaleScreen {
   void checkpoint();
 
   posMod& pos_;
+  SaleMessages messages_{this};
   SaleSession::Openers openers_;
   std::function<void()> endProgram_;
   std::unique_ptr<SaleSession> session_;  ///< while the screen is open

@@ -135,6 +135,28 @@ TEST_F(SellWindow, theMenuKeyOpensTheFunctionMenuAndTheCloseBoxAsksTheSession) {
   });
 }
 
+TEST_F(SellWindow, goodsScannedOverAMessageAreNotRungAndThatIsSaid) {
+  const auto scanOver = [](QWidget& message) {
+    QTest::keyClicks(&message, kCrate);
+    QTest::keyClick(&message, Qt::Key_Return);
+  };
+  const auto readAndClose = [](QWidget& message) {
+    EXPECT_EQ(message.findChild<QLabel*>("Label1")->text().left(10), "出现提示时扫描的商品");
+    Hands::pressNow(Qt::Key_Escape);
+  };
+  show([&] {
+    hands.at("frmMsg", scanOver).at("frmMsg", readAndClose);
+    scan("6900000000000");
+    breakStore("insert on sellProducts");
+    hands.at("messageBox", scanOver).press("messageBox", {Qt::Key_Escape});
+    hands.at("frmMsg", readAndClose);
+    scan(kWater);
+    mendStore();
+    EXPECT_EQ(editor()->text(), "");
+    EXPECT_EQ(list()->model()->rowCount(), 1);
+  });
+}
+
 TEST_F(SellWindow, missingPriceAndSeveralMatchesAreAskedFor) {
   show([this] {
     hands.press("frmMenu", {Qt::Key_Down, Qt::Key_Return});
