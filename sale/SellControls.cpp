@@ -26,8 +26,7 @@ Widget* named(const char* name, QWidget* parent) {
 }  // namespace
 
 SellControls::SellControls(QWidget* screen)
-    : screen_(screen),
-      title(named<FittedLabel>("title", screen)),
+    : title(named<FittedLabel>("title", screen)),
       title1(named<FittedLabel>("title1", screen)),
       title2(named<QLabel>("title2", screen)),
       title3(named<FittedLabel>("title3", screen)),
@@ -36,7 +35,8 @@ SellControls::SellControls(QWidget* screen)
       txtmoney(named<FittedLabel>("txtmoney", screen)),
       lblViewMember(named<FittedLabel>("lblViewMember", screen)),
       frmBot(named<QFrame>("frmBot", screen)),
-      ViewF(named<KeyHelp>("ViewF", frmBot)) {
+      ViewF(named<KeyHelp>("ViewF", frmBot)),
+      screen_(screen) {
   title->setAlignment(Qt::AlignCenter);
   title3->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
   txtmoney->setAlignment(Qt::AlignRight | Qt::AlignVCenter);

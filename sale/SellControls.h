@@ -25,15 +25,6 @@ class SellControls {
   /// The member's lines take room from the status line when there are any.
   void showMember(const QString& text);
 
- private:
-  void setSizes(int type);
-  void layOut(int type);
-  void layOutHeadings();
-  void layOutStatus();
-
-  QWidget* screen_;
-
- public:
   FittedLabel* const title;
   FittedLabel* const title1;
   QLabel* const title2;
@@ -44,4 +35,12 @@ class SellControls {
   FittedLabel* const lblViewMember;
   QFrame* const frmBot;
   KeyHelp* const ViewF;
+
+ private:
+  void setSizes(int type);
+  void layOut(int type);
+  void layOutHeadings();
+  void layOutStatus();
+
+  QWidget* screen_;
 };
