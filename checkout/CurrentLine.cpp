@@ -12,10 +12,11 @@ void addToBill(SaleState& state) {
   ensure(row >= 0 && row + 1 < static_cast<int>(state.rows.size()),
          "the current line's row stands above the entry row");
   state.rows[static_cast<std::size_t>(row)].tag = state.curLine->Id();
-  state.selected = row + 1;
-  state.editCol = 1;
-  state.onEntryRow = true;
-
+  if (!state.onEntryRow) {
+    state.selected = row + 1;
+    state.editCol = 1;
+    state.onEntryRow = true;
+  }
   state.curBill->AddItem(state.curLine);
 }
 

@@ -14,6 +14,7 @@
 #include "checkout/LineReceipt.h"
 #include "checkout/SaleScreen.h"
 #include "checkout/SaleState.h"
+#include "sale/EditedCell.h"
 #include "sale/ItemLookup.h"
 #include "sale/LineRow.h"
 #include "sale/OriginalPrice.h"
@@ -33,6 +34,10 @@ QString codeOf(const QString& typed) {
   return plain ? QString::fromStdString(folded) : typed;
 }
 
+bool isBarcode(const QString& typed) {
+  return characters(typed.toStdString()) > kLongestShortCode;
+}
+
 QString text(const std::string& utf8) {
   return QString::fromStdString(utf8);
 }
@@ -47,11 +52,13 @@ struct BillLines::Shown {
   bool isNew = false;  ///< an entry row is to follow it
 };
 
-BillLines::BillLines(posMod& pos, SaleState& state, SaleScreen& screen, ItemLookup& lookup,
-                     Checkout& checkout, CustomerDisplay& display, LineReceipt& receipt)
+BillLines::BillLines(posMod& pos, SaleState& state, SaleScreen& screen, EditedCell& cell,
+                     ItemLookup& lookup, Checkout& checkout, CustomerDisplay& display,
+                     LineReceipt& receipt)
     : pos_(pos),
       state_(state),
       screen_(screen),
+      cell_(cell),
       lookup_(lookup),
       checkout_(checkout),
       display_(display),
@@ -60,43 +67,43 @@ BillLines::BillLines(posMod& pos, SaleState& state, SaleScreen& screen, ItemLook
 void BillLines::Enter() {
   const QString typed = screen_.input();
   const std::size_t length = characters(typed.toStdString());
-  if (length > kLongestShortCode) {
-    enterBarcode(typed);
-  } else if (length >= kShortestCode && state_.onEntryRow) {
-    enterShortCode(typed);
-  } else if (length == 0) {
+  if (length == 0) {
     checkout_.SettleBill();
-  } else if (!state_.onEntryRow && state_.editCol == 2) {
+  } else if (state_.onEntryRow) {
+    if (length >= kShortestCode) enterGoods(typed);
+  } else if (isBarcode(typed)) {
+    dropWhileEditing(typed);
+  } else if (state_.editCol == 2) {
     changeQuantity(typed);
-  } else if (!state_.onEntryRow && state_.editCol == 3) {
+  } else if (state_.editCol == 3) {
     changeDiscount(typed);
   }
 }
 
-// A barcode scanned while a quantity or discount is being edited is dropped: it is neither.
-void BillLines::enterBarcode(const QString& typed) {
+void BillLines::EnterQuickKey(const QString& itemCode) {
   if (!state_.onEntryRow) {
-    screen_.setInput({});
-    ShowLine(false);
-    returnToEntryRow();
-    return;
-  }
-  if (state_.curLine) commitCurrentLine(state_, receipt_);
-  if (lookup_.LookupBarcode(codeOf(typed))) {
-    ringUp();
+    dropWhileEditing(itemCode);
+  } else if (characters(itemCode.toStdString()) < kShortestCode) {
+    notFound(itemCode);
   } else {
-    notFound(tr("没有找到条码为：") + typed + tr("的商品"));
+    enterGoods(itemCode);
   }
 }
 
-void BillLines::enterShortCode(const QString& typed) {
+void BillLines::enterGoods(const QString& typed) {
   if (state_.curLine) commitCurrentLine(state_, receipt_);
   const QString code = codeOf(typed);
-  if (lookup_.LookupSpec(code) || lookup_.LookupItemNo(code)) {
-    ringUp();
-  } else {
-    notFound(tr("没有找到：") + typed + tr("的商品"));
-  }
+  const bool found = isBarcode(typed) ? lookup_.LookupBarcode(code)
+                                      : lookup_.LookupSpec(code) || lookup_.LookupItemNo(code);
+  found ? ringUp() : notFound(typed);
+}
+
+// Goods are not rung before the change of the line is finished.
+void BillLines::dropWhileEditing(const QString& code) {
+  screen_.setInput({});
+  ShowLine(false);
+  returnToEntryRow();
+  screen_.ShowMessage(tr("正在修改商品行，“%1”没有录入。请重新录入。").arg(code));
 }
 
 // The input line is emptied too when the line was refused: the next scan must not be appended.
@@ -105,8 +112,9 @@ void BillLines::ringUp() {
   if (!ShowLine(true)) screen_.setInput({});
 }
 
-void BillLines::notFound(const QString& message) {
-  screen_.ShowMessage(message);
+void BillLines::notFound(const QString& code) {
+  const QString before = isBarcode(code) ? tr("没有找到条码为：") : tr("没有找到：");
+  screen_.ShowMessage(before + code + tr("的商品"));
   screen_.setInput({});
 }
 
@@ -149,27 +157,13 @@ void BillLines::changeDiscount(const QString& typed) {
 }
 
 void BillLines::returnToEntryRow() {
-  state_.editCol = 1;
-  MoveRow(false);
-  screen_.PlaceEditor();
-  state_.onEntryRow = true;
   numberRows();
-  screen_.rowsChanged();
+  cell_.toEntryRow();
 }
 
 void BillLines::numberRows() {
   int position = 0;
   for (BillRow& row : state_.rows) row.cells[BillRow::kNumber] = std::to_string(++position);
-}
-
-void BillLines::MoveRow(bool up) {
-  const int target = state_.selected + (up ? -1 : 1);
-  if (target < 0 || target >= static_cast<int>(state_.rows.size())) return;
-  if (state_.rows[static_cast<std::size_t>(target)].tag != 0) return;
-  state_.selected = target;
-  screen_.rowsChanged();
-  screen_.PlaceEditor();
-  state_.onEntryRow = !up;
 }
 
 bool BillLines::ShowLine(bool takeStock) {
@@ -275,7 +269,12 @@ void BillLines::CancelBill() {
 
 // The row that goes is the current line's, also when the entry row below it is the selected one.
 void BillLines::DeleteCurrentLine() {
-  if (!state_.curLine) return;
+  if (!state_.curLine) {
+    screen_.ShowMessage(state_.curBill->Items().empty()
+                            ? tr("没有商品，无需删除！")
+                            : tr("没有可删除的行：已确认的商品不能单独删除，只能整单撤消。"));
+    return;
+  }
   const bool deleted = guarded([this] {
     return moveStock(-state_.curLine->StockQuantity(), [this] { state_.curLine->Delete(); });
   });
@@ -283,14 +282,10 @@ void BillLines::DeleteCurrentLine() {
   const int row = state_.onEntryRow ? state_.selected - 1 : state_.selected;
   state_.rows.erase(state_.rows.begin() + row);
   state_.curLine = nullptr;
-  state_.selected = row;
   state_.rows.back().cells[BillRow::kNumber].clear();
-  state_.editCol = 1;
-  state_.onEntryRow = true;
   state_.origTotal = originalPrice(state_.rows);
   screen_.setStatus(text(generalNumber(state_.curBill->Quantity())) + tr("件商品，原价总计") +
                     QString::number(state_.origTotal) + tr("合计") +
                     text(generalNumber(state_.curBill->Amount())) + tr("元"));
-  screen_.rowsChanged();
-  screen_.PlaceEditor();
+  cell_.toEntryRow();
 }

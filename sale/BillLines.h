@@ -8,6 +8,7 @@
 
 class Checkout;
 class CustomerDisplay;
+class EditedCell;
 class ItemLookup;
 class LineReceipt;
 class posMod;
@@ -22,11 +23,13 @@ class BillLines {
   Q_DECLARE_TR_FUNCTIONS(BillLines)
 
  public:
-  BillLines(posMod& pos, SaleState& state, SaleScreen& screen, ItemLookup& lookup,
+  BillLines(posMod& pos, SaleState& state, SaleScreen& screen, EditedCell& cell, ItemLookup& lookup,
             Checkout& checkout, CustomerDisplay& display, LineReceipt& receipt);
 
   /// The mapped Enter key on the input line.
   void Enter();
+  /// A quick key's item code, as if it were typed on the entry row and confirmed.
+  void EnterQuickKey(const QString& itemCode);
   /// Takes stock for the current line when asked, stores it, writes it into the selected row, shows
   /// it with price and status line. A line whose stock is taken is a new one: an entry row follows
   /// it. False when there is no current line, the stock was refused or the store failed; a line
@@ -34,19 +37,18 @@ class BillLines {
   bool ShowLine(bool takeStock);
   /// The same without stock, after a change of the current line.
   bool RefreshLine();
-  /// Moves the selection between the current line's row and the entry row.
-  void MoveRow(bool up);
   /// Voids the open bill and the current line, and prepares the next bill.
   void CancelBill();
+  /// Says why there is nothing to delete when there is no current line.
   void DeleteCurrentLine();
 
  private:
   struct Shown;
 
-  void enterBarcode(const QString& typed);
-  void enterShortCode(const QString& typed);
+  void enterGoods(const QString& typed);
   void ringUp();
-  void notFound(const QString& text);
+  void dropWhileEditing(const QString& code);
+  void notFound(const QString& code);
   void changeQuantity(const QString& typed);
   void changeDiscount(const QString& typed);
   void returnToEntryRow();
@@ -62,6 +64,7 @@ class BillLines {
   posMod& pos_;
   SaleState& state_;
   SaleScreen& screen_;
+  EditedCell& cell_;
   ItemLookup& lookup_;
   Checkout& checkout_;
   CustomerDisplay& display_;

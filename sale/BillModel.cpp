@@ -3,30 +3,31 @@
 #include <algorithm>
 #include <array>
 
+#include "sale/BillColumns.h"
+
 namespace {
 
 struct Column {
   const char* header;
   bool editable = false;
-  bool figure = false;
 };
 
 const std::array<Column, BillRow::kColumns> kColumns{{
-    {QT_TRANSLATE_NOOP("BillModel", "序号"), true, false},
+    {QT_TRANSLATE_NOOP("BillModel", "序号"), true},
     {QT_TRANSLATE_NOOP("BillModel", "条码货号")},
     {QT_TRANSLATE_NOOP("BillModel", "商品名称")},
-    {QT_TRANSLATE_NOOP("BillModel", "单价"), false, true},
-    {QT_TRANSLATE_NOOP("BillModel", "数量"), true, true},
-    {QT_TRANSLATE_NOOP("BillModel", "折扣"), true, true},
-    {QT_TRANSLATE_NOOP("BillModel", "金额"), false, true},
-    {QT_TRANSLATE_NOOP("BillModel", "现有库存"), false, true},
+    {QT_TRANSLATE_NOOP("BillModel", "单价")},
+    {QT_TRANSLATE_NOOP("BillModel", "数量"), true},
+    {QT_TRANSLATE_NOOP("BillModel", "折扣"), true},
+    {QT_TRANSLATE_NOOP("BillModel", "金额")},
+    {QT_TRANSLATE_NOOP("BillModel", "现有库存")},
     {QT_TRANSLATE_NOOP("BillModel", "产地")},
     {QT_TRANSLATE_NOOP("BillModel", "单位")},
     {QT_TRANSLATE_NOOP("BillModel", "编码")},
 }};
 
-int alignment(const Column& column) {
-  return (column.figure ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignVCenter;
+int alignment(int column) {
+  return (BillColumns::isFigure(column) ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignVCenter;
 }
 
 }  // namespace
@@ -67,11 +68,11 @@ int BillModel::columnCount(const QModelIndex& parent) const {
 
 QVariant BillModel::data(const QModelIndex& index, int role) const {
   if (!index.isValid()) return {};
-  const auto column = static_cast<std::size_t>(index.column());
   if (role == Qt::DisplayRole) {
-    return QString::fromStdString(shown_[static_cast<std::size_t>(index.row())].cells[column]);
+    const BillRow& row = shown_[static_cast<std::size_t>(index.row())];
+    return QString::fromStdString(row.cells[static_cast<std::size_t>(index.column())]);
   }
-  if (role == Qt::TextAlignmentRole) return alignment(kColumns[column]);
+  if (role == Qt::TextAlignmentRole) return alignment(index.column());
   return {};
 }
 
@@ -79,7 +80,7 @@ QVariant BillModel::headerData(int section, Qt::Orientation orientation, int rol
   if (orientation != Qt::Horizontal || section < 0 || section >= BillRow::kColumns) return {};
   const Column& column = kColumns[static_cast<std::size_t>(section)];
   if (role == Qt::DisplayRole) return tr(column.header);
-  if (role == Qt::TextAlignmentRole) return alignment(column);
+  if (role == Qt::TextAlignmentRole) return alignment(section);
   if (role == kTagRole && column.editable) return QStringLiteral("edit");
   return {};
 }

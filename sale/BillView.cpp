@@ -10,7 +10,7 @@
 namespace {
 
 constexpr int kFrame = 2;
-constexpr int kFreeRows = 4;  // below the last line of a bill that has just moved up
+constexpr int kFreeRows = 2;  // below the last line of a bill that has just moved up
 constexpr QColor kFrameColour(0xd3, 0x54, 0x00);
 
 /// In one line; gives its width.
@@ -25,20 +25,83 @@ double layOut(QTextLayout& text) {
 
 BillView::BillView(QWidget* parent) : QTableView(parent) {
   setSelectionMode(QAbstractItemView::NoSelection);
+  setFocusPolicy(Qt::NoFocus);
+  setEditTriggers(QAbstractItemView::NoEditTriggers);
+  setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+  setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
+  setCornerButtonEnabled(false);
+  verticalHeader()->hide();
+  verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+  horizontalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+  horizontalHeader()->setHighlightSections(false);
+  horizontalHeader()->setSectionsClickable(false);
+  connect(verticalScrollBar(), &QScrollBar::valueChanged, this, [this](int value) {
+    verticalScrollBar()->setValue(value - value % verticalHeader()->defaultSectionSize());
+  });
   // With a grid the base class marks rectangles that are a pixel too short.
   setShowGrid(false);
   viewport()->setAttribute(Qt::WA_OpaquePaintEvent);
 }
 
-void BillView::showCell(int row, int column) {
+void BillView::divideRows(int leastHeight, int leastHeading) {
+  const int room = height() - 2 * frameWidth() - leastHeading;
+  const int rows = std::max(1, room / leastHeight);
+  const int rowHeight = std::max(1, room / rows);
+  verticalHeader()->setDefaultSectionSize(rowHeight);
+  horizontalHeader()->setFixedHeight(leastHeading + std::max(0, room - rows * rowHeight));
+  setType(rowHeight);
+  const int bar = verticalScrollBar()->sizeHint().width();
+  columns_.setRoom(width() - 2 * frameWidth() - bar, fontMetrics());
+  if (model() != nullptr) makeRoomFor(0, model()->rowCount() - 1);
+  applyWidths();
+}
+
+// As large as the rows allow within the frame of the current cell. The input line has the same
+// type, and its text stands where the cell's does.
+void BillView::setType(int rowHeight) {
+  constexpr int kMeasured = 100;
+  constexpr int kMarginOfLineEdit = 2;
+  QFont measured = font();
+  measured.setPixelSize(kMeasured);
+  const int size = (rowHeight - 2 * kFrame) * kMeasured / QFontMetrics(measured).height();
+  measured.setPixelSize(size);
+  const int padding = QFontMetrics(measured).height() / 4 - kFrame - kMarginOfLineEdit;
+  // A font set by setFont would lose against the screen's style sheet.
+  setStyleSheet(QStringLiteral("#lv, #t { font-size: %1px; } #t { padding: 0 %2px; }")
+                    .arg(size)
+                    .arg(padding));
+  ensurePolished();
+}
+
+void BillView::makeRoomFor(int first, int last) {
+  const QFontMetrics type = fontMetrics();
+  bool changed = false;
+  for (int row = first; row <= last; ++row) {
+    for (int column = BillRow::kPrice; column <= BillRow::kStock; ++column) {
+      const QString text = model()->index(row, column).data().toString();
+      changed = columns_.makeRoomFor(column, text, type) || changed;
+    }
+  }
+  if (changed) applyWidths();
+}
+
+void BillView::applyWidths() {
+  for (int column = 0; column < BillRow::kColumns; ++column) {
+    setColumnWidth(column, columns_.width(column));
+  }
+  viewport()->update();
+}
+
+void BillView::showCell(int row, int column, int last) {
   if (row == row_ + 1) {
     viewport()->update(rowsRect(row_, row));
-  } else if (row != row_ || column != column_) {
+  } else if (row != row_ || column != column_ || last != last_) {
     updateRow(row_);
     updateRow(row);
   }
   row_ = row;
   column_ = column;
+  last_ = last;
   executeDelayedItemsLayout();
   scrollToRow(row);
 }
@@ -56,8 +119,12 @@ void BillView::scrollToRow(int row) {
   verticalScrollBar()->setValue(first * verticalHeader()->defaultSectionSize());
 }
 
+QRect BillView::currentCell() const {
+  return cellRect(row_, column_) | cellRect(row_, last_);
+}
+
 QRect BillView::insideOfCurrentCell() const {
-  return cellRect(row_, column_).adjusted(kFrame, kFrame, -kFrame, -kFrame);
+  return currentCell().adjusted(kFrame, kFrame, -kFrame, -kFrame);
 }
 
 // One changed row brings all others with it.
@@ -88,6 +155,7 @@ void BillView::updateRow(int row) {
 
 void BillView::dataChanged(const QModelIndex& topLeft, const QModelIndex& bottomRight,
                            const QList<int>&) {
+  makeRoomFor(topLeft.row(), bottomRight.row());
   viewport()->update(rowsRect(topLeft.row(), bottomRight.row()));
 }
 
@@ -103,11 +171,13 @@ void BillView::setModel(QAbstractItemModel* shown) {
 // Rows below them move.
 void BillView::rowsInserted(const QModelIndex& parent, int first, int last) {
   QTableView::rowsInserted(parent, first, last);
+  makeRoomFor(first, last);
   viewport()->update(rowsRect(first, std::max(last, model()->rowCount() - 1)));
 }
 
 void BillView::rowsAboutToBeRemoved(const QModelIndex& parent, int first, int last) {
   QTableView::rowsAboutToBeRemoved(parent, first, last);
+  if (first <= 1 && columns_.forgetFigures()) applyWidths();  // the entry row alone is left
   viewport()->update(rowsRect(first, std::max(last, model()->rowCount() - 1)));
 }
 
@@ -143,16 +213,16 @@ void BillView::paintRow(QPainter& painter, int row, const QRegion& part) {
   const QColor back = palette().color(current ? QPalette::Highlight : plain);
   painter.fillRect(rowsRect(row, row) & part.boundingRect(), back);
   painter.setPen(palette().color(current ? QPalette::HighlightedText : QPalette::Text));
-  const int padding = painter.fontMetrics().height() / 4;
+  const int padding = columns_.padding();
+  const bool framed = current && part.intersects(currentCell());
+  if (framed) {
+    painter.fillRect(currentCell(), kFrameColour);
+    painter.fillRect(insideOfCurrentCell(), back);
+  }
   for (int column = 0; column < model()->columnCount(); ++column) {
     const QRect cell = cellRect(row, column);
-    if (!part.intersects(cell)) continue;
-    if (current && column == column_) {
-      painter.fillRect(cell, kFrameColour);
-      painter.fillRect(insideOfCurrentCell(), back);
-    } else {
-      paintCell(painter, cell.adjusted(padding, 0, -padding, 0), model()->index(row, column));
-    }
+    if (!part.intersects(cell) || (current && column >= column_ && column <= last_)) continue;
+    paintCell(painter, cell.adjusted(padding, 0, -padding, 0), model()->index(row, column));
   }
 }
 
@@ -161,7 +231,11 @@ void BillView::paintCell(QPainter& painter, const QRect& room, const QModelIndex
   const QString text = index.data().toString();
   if (text.isEmpty()) return;
   const bool right = index.data(Qt::TextAlignmentRole).toInt() & Qt::AlignRight;
-  if (characters_.draw(painter, room, right, text, CharacterPictures::Overlong::kCut)) return;
+  using Overlong = CharacterPictures::Overlong;
+  const bool figure = BillColumns::isFigure(index.column());
+  const Overlong overlong = figure ? Overlong::kRefuse : Overlong::kCut;
+  if (characters_.draw(painter, room, right, text, overlong)) return;
+  if (figure) return paintSmaller(painter, room, text);
   const QFontMetrics metrics = painter.fontMetrics();
   QTextLayout layout(text, painter.font());
   double width = layOut(layout);
@@ -169,8 +243,18 @@ void BillView::paintCell(QPainter& painter, const QRect& room, const QModelIndex
     layout.setText(metrics.elidedText(text, Qt::ElideRight, room.width()));
     width = layOut(layout);
   }
-  const double left = right ? room.right() + 1 - width : room.left();
+  const double left = room.left();
   layout.draw(&painter, {left, room.top() + (room.height() - metrics.height()) / 2.0});
+}
+
+// The figure does not fit, though its column has all the room that there is.
+void BillView::paintSmaller(QPainter& painter, const QRect& room, const QString& text) {
+  QFont smaller = font();
+  const int width = textWidth(painter.fontMetrics(), text);
+  smaller.setPixelSize(std::max(1, smaller.pixelSize() * room.width() / width));
+  painter.setFont(smaller);
+  painter.drawText(room, Qt::AlignRight | Qt::AlignVCenter | Qt::TextSingleLine, text);
+  painter.setFont(font());
 }
 
 // Other colours or another font.

@@ -3,11 +3,12 @@
 #include <QEvent>
 #include <QFontMetrics>
 #include <QPainter>
+#include <QTextLayout>
 #include <algorithm>
+#include <numeric>
 
 FittedLabel::FittedLabel(QWidget* parent) : QLabel(parent) {
   setTextFormat(Qt::PlainText);
-  setWordWrap(true);
 }
 
 void FittedLabel::setLargest(int size) {
@@ -27,8 +28,7 @@ void FittedLabel::showText(const QString& text) {
 
 bool FittedLabel::event(QEvent* event) {
   const bool handled = QLabel::event(event);
-  if (event->type() == QEvent::ContentsRectChange) fit();
-  if (event->type() == QEvent::FontChange) characters_.clear();
+  if (event->type() == QEvent::ContentsRectChange || event->type() == QEvent::FontChange) fit();
   return handled;
 }
 
@@ -37,20 +37,51 @@ void FittedLabel::resizeEvent(QResizeEvent* event) {
   fit();
 }
 
+QFont FittedLabel::sized(int size) const {
+  QFont font = this->font();
+  font.setPixelSize(std::max(size, 1));
+  return font;
+}
+
 // Widths grow in proportion to the size of the type, so that one measurement is enough.
-void FittedLabel::fit() {
+int FittedLabel::fittingSize(const QString& text) const {
   constexpr int kMeasured = 100;
-  QFont measured = font();
-  measured.setPixelSize(kMeasured);
-  const int width = QFontMetrics(measured).horizontalAdvance(text());
-  const int available = std::max(textRoom().width(), 1);
-  const int fitting = width == 0 ? largest_ : kMeasured * available / (width + 1);
-  const int size = std::clamp(fitting, std::min(smallest_, largest_), largest_);
-  wraps_ = size > fitting;
-  if (size == shown_) return;
-  shown_ = size;
-  // A font set by setFont would lose against the program's style sheet.
-  setStyleSheet(QStringLiteral("font-size: %1px;").arg(size));
+  const int width = QFontMetrics(sized(kMeasured)).horizontalAdvance(text);
+  return std::min(largest_, kMeasured * std::max(textRoom().width(), 1) / (width + 1));
+}
+
+void FittedLabel::fit() {
+  const int before = lines_.empty() ? 0 : lines_.front().size;
+  lines_.clear();
+  const QStringList texts = text().split('\n');
+  for (const QString& each : texts) {
+    const int size = fittingSize(each);
+    if (size < smallest_ && texts.size() == 1) {
+      wrap(each);
+    } else {
+      lines_.push_back({each, std::max(size, std::min(smallest_, largest_))});
+    }
+  }
+  if (lines_.front().size != before) characters_.clear();
+  update();
+}
+
+void FittedLabel::wrap(const QString& text) {
+  const QFont font = sized(smallest_);
+  const int most = std::max(1, textRoom().height() / QFontMetrics(font).height());
+  QTextLayout layout(text, font);
+  QTextOption option;
+  option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
+  layout.setTextOption(option);
+  layout.beginLayout();
+  for (QTextLine line = layout.createLine(); line.isValid(); line = layout.createLine()) {
+    line.setLineWidth(textRoom().width());
+    const bool last = static_cast<int>(lines_.size()) + 1 == most;
+    const int length = last ? -1 : line.textLength();
+    lines_.push_back({text.mid(line.textStart(), length), smallest_});
+    if (last) break;
+  }
+  layout.endLayout();
 }
 
 QRect FittedLabel::textRoom() const {
@@ -58,16 +89,31 @@ QRect FittedLabel::textRoom() const {
   return contentsRect().adjusted(padding, 0, -padding, 0);
 }
 
-void FittedLabel::paintEvent(QPaintEvent* event) {
-  if (!wraps_) {
-    QPainter painter(this);
-    drawFrame(&painter);
-    painter.setFont(font());
-    painter.setPen(palette().color(foregroundRole()));
-    if (characters_.draw(painter, textRoom(), alignment() & Qt::AlignRight, text(),
+void FittedLabel::paintEvent(QPaintEvent*) {
+  QPainter painter(this);
+  drawFrame(&painter);
+  painter.setPen(palette().color(foregroundRole()));
+  const QRect room = textRoom();
+  const bool centred = alignment() & Qt::AlignHCenter;
+  if (lines_.size() == 1 && !centred) {
+    painter.setFont(sized(lines_.front().size));
+    if (characters_.draw(painter, room, alignment() & Qt::AlignRight, lines_.front().text,
                          CharacterPictures::Overlong::kRefuse)) {
       return;
     }
   }
-  QLabel::paintEvent(event);
+  const auto heightOf = [this](const Line& line) {
+    return QFontMetrics(sized(line.size)).height();
+  };
+  const int height =
+      std::accumulate(lines_.begin(), lines_.end(), 0,
+                      [&](int sum, const Line& line) { return sum + heightOf(line); });
+  int top = room.top() + std::max(0, (room.height() - height) / 2);
+  for (const Line& line : lines_) {
+    painter.setFont(sized(line.size));
+    const QRect place(room.left(), top, room.width(), heightOf(line));
+    const QString text = painter.fontMetrics().elidedText(line.text, Qt::ElideRight, room.width());
+    painter.drawText(place, int(alignment() & Qt::AlignHorizontal_Mask) | Qt::AlignVCenter, text);
+    top = place.bottom() + 1;
+  }
 }

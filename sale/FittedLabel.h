@@ -1,12 +1,14 @@
 #pragma once
 
 #include <QLabel>
+#include <vector>
 
 #include "sale/CharacterPictures.h"
 
-/// A label for one line of text that must never be cut off: it is shown as large as set, smaller
-/// when it would not fit, and wrapped when it would become too small to read. Its indent is kept
-/// free at both ends.
+/// A label of which no part is ever lost unseen. Each line of its text is shown as large as set and
+/// smaller when it would not fit. What would become too small to read ends with "…"; a text of one
+/// line goes on below before that, as far as the label's height allows. Its indent is kept free at
+/// both ends.
 class FittedLabel : public QLabel {
   Q_OBJECT
 
@@ -23,13 +25,19 @@ class FittedLabel : public QLabel {
   void paintEvent(QPaintEvent* event) override;
 
  private:
+  struct Line {
+    QString text;
+    int size;
+  };
+
   void fit();
+  void wrap(const QString& text);
+  int fittingSize(const QString& text) const;
+  QFont sized(int size) const;
   QRect textRoom() const;
 
   CharacterPictures characters_;
-  bool wraps_ = false;  ///< the text is too long for one line of the smallest type
-
+  std::vector<Line> lines_;  ///< as they are painted
   int largest_ = 16;
   int smallest_ = 12;
-  int shown_ = 0;
 };

@@ -144,8 +144,8 @@ void HeldBills::show(Recalled recalled) {
   state_.origTotal = recalled.origTotal;
   state_.AddEntryRow();
   state_.onEntryRow = true;
-  if (!bill.Items().empty()) {
-    display_.clientView(bill.Items().back()->Price(), CustomerDisplay::kPrice);
+  for (const auto& line : bill.Items()) {
+    display_.clientView(line->Price(), CustomerDisplay::kPrice);
   }
   screen_.setStatus(text(generalNumber(bill.Quantity())) + tr("件商品，合计") +
                     text(generalNumber(bill.Amount())) + tr("元"));

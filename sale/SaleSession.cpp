@@ -14,7 +14,6 @@
 namespace {
 
 constexpr int kModifiers[] = {16, 17, 18};  // Shift, Ctrl, Alt
-constexpr int kEditColumns = 3;
 
 Outage::Report reportTo(SaleScreen& screen) {
   return [&screen](const QString& text) { screen.ShowMessage(text); };
@@ -35,8 +34,9 @@ SaleSession::SaleSession(posMod& pos, SaleScreen& screen, Openers openers)
       drawer_(pos.ports, pos.gPosSet, state, display_, reportTo(screen)),
       receipt_(pos, state, drawer_, reportTo(screen)),
       checkout_(pos, state, screen, display_, receipt_),
+      cell_(state, screen),
       lookup_(pos, state, screen),
-      lines_(pos, state, screen, lookup_, checkout_, display_, receipt_),
+      lines_(pos, state, screen, cell_, lookup_, checkout_, display_, receipt_),
       memberCard_(pos, state, screen, checkout_),
       held_(pos, state, screen, checkout_, memberCard_, display_, receipt_) {
   fillCommands();
@@ -80,18 +80,16 @@ bool SaleSession::clockIsBehind() const {
 // The order is the one in which a key mapped twice finds its command.
 void SaleSession::fillCommands() {
   commands_ = {
-      {&KeyBoard::mLeft, [this] { return moveEditor(-1); }},
+      {&KeyBoard::mLeft, [this] { return cell_.moveColumn(-1); }},
       {&KeyBoard::mUp,
        [this] {
-         state.editCol = 2;
-         lines_.MoveRow(true);
+         cell_.MoveRow(true);
          return true;
        }},
-      {&KeyBoard::mRight, [this] { return moveEditor(1); }},
+      {&KeyBoard::mRight, [this] { return cell_.moveColumn(1); }},
       {&KeyBoard::mDown,
        [this] {
-         state.editCol = 1;
-         lines_.MoveRow(false);
+         cell_.MoveRow(false);
          return true;
        }},
       {&KeyBoard::mEnter,
@@ -169,14 +167,6 @@ bool SaleSession::mayRepeat(int code) const {
   return code == keys.mLeft || code == keys.mRight || code == keys.mUp || code == keys.mDown;
 }
 
-bool SaleSession::moveEditor(int step) {
-  const int column = state.editCol + step;
-  if (column < 1 || column > kEditColumns) return false;
-  state.editCol = column;
-  screen_.PlaceEditor();
-  return true;
-}
-
 // Quick keys work on an empty input line only. One without an item code is none: with nothing on
 // the input line, Enter would settle.
 const clsQk* SaleSession::quickKeyFor(int code) const {
@@ -191,17 +181,13 @@ const clsQk* SaleSession::quickKeyFor(int code) const {
 bool SaleSession::quickKey(int code) {
   const clsQk* quick = quickKeyFor(code);
   if (quick == nullptr) return false;
-  screen_.setInput(QString::fromStdString(quick->QK_Bm));
-  static_cast<void>(key(pos_.gKeyBoard.mEnter));
+  lines_.EnterQuickKey(QString::fromStdString(quick->QK_Bm));
   state.clearOnKey = true;
   return true;
 }
 
 void SaleSession::listClicked() {
-  if (state.rows.size() < 2) return;
-  state.selected = static_cast<int>(state.rows.size()) - 2;
-  state.editCol = 1;
-  lines_.MoveRow(false);
+  if (state.rows.size() > 1) cell_.toEntryRow();
 }
 
 void SaleSession::menu(const QString& entry) {
@@ -219,7 +205,15 @@ std::vector<std::pair<QString, QString>> SaleSession::menuEntries() const {
 }
 
 void SaleSession::toggleLinePrint() {
-  state.linePrint = !state.linePrint && pos_.gPosSet.PPort != "USB";
+  const std::string& port = pos_.gPosSet.PPort;
+  const bool possible = !port.empty() && port != "USB";
+  state.linePrint = possible && !state.linePrint;
+  if (possible) {
+    screen_.ShowMessage(state.linePrint ? tr("打印机已打开。") : tr("打印机已关闭。"));
+  } else {
+    screen_.ShowMessage(port.empty() ? tr("没有设置打印机，打印机开关保持关闭。")
+                                     : tr("USB 打印机不逐行打印，打印机开关保持关闭。"));
+  }
 }
 
 // A row that cannot be deleted now is voided when the screen opens next.

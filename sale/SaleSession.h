@@ -13,6 +13,7 @@
 #include "checkout/LineReceipt.h"
 #include "checkout/SaleState.h"
 #include "sale/BillLines.h"
+#include "sale/EditedCell.h"
 #include "sale/HeldBills.h"
 #include "sale/ItemLookup.h"
 #include "sale/KeyDispatch.h"
@@ -76,7 +77,6 @@ class SaleSession {
   void fillCommands();
   void fillMenu();
   void addOpener(int KeyBoard::*key, const QString& screen);
-  bool moveEditor(int step);
   const clsQk* quickKeyFor(int code) const;
   bool quickKey(int code);
   void toggleLinePrint();
@@ -88,6 +88,7 @@ class SaleSession {
   CashDrawer drawer_;
   LineReceipt receipt_;
   Checkout checkout_;
+  EditedCell cell_;
   ItemLookup lookup_;
   BillLines lines_;
   MemberCard memberCard_;

@@ -46,15 +46,12 @@ QString sizes(int type) {
   return QStringLiteral(
              "#frmSell > #title { font-size: %2px; font-weight: bold; }"
              "#txtmoney { font-weight: bold; }"
-             "#title1, #title2, #title3, #lv, #lv QHeaderView, #t { font-size: %1px; }"
-             "#ViewF { font-size: %1px; }"
-             "#lblViewMember { font-size: %4px; }"
-             "#t { padding: 0 %3px; border: none; border-radius: 0; }"
+             "#title1, #title2, #title3, #lv QHeaderView, #ViewF { font-size: %1px; }"
+             "#t { border: none; border-radius: 0; }"
              "#lv QHeaderView::section { padding: 0 %3px; }")
       .arg(type)
       .arg(type * 2)
-      .arg(type / 3)
-      .arg(type * 9 / 10);
+      .arg(type / 3);
 }
 
 }  // namespace

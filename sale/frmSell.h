@@ -6,16 +6,12 @@
 #include <memory>
 
 #include "checkout/SaleScreen.h"
+#include "sale/SaleMessages.h"
 #include "sale/SaleSession.h"
+#include "sale/SellControls.h"
 
 class BillModel;
-class BillView;
-class FittedLabel;
-class KeyHelp;
 class QEventLoop;
-class QFrame;
-class QLabel;
-class QLineEdit;
 class frmEndSell;
 class frmInput;
 class frmMenu;
@@ -63,12 +59,9 @@ class frmSell : public QWidget, private SaleScreen {
   bool settle(Settlement& settlement) override;
   void endProgram() override;
 
-  void makeList();
   void begin();
   void finish();
-  void applyStyle();
-  void layOut();
-  void setColumnWidths();
+  void arrange();
   void moveEditor();
   void showTime();
   bool keyPressed(QKeyEvent& event);
@@ -76,6 +69,7 @@ class frmSell : public QWidget, private SaleScreen {
   void checkpoint();
 
   posMod& pos_;
+  SaleMessages messages_{this};
   SaleSession::Openers openers_;
   std::function<void()> endProgram_;
   std::unique_ptr<SaleSession> session_;  ///< while the screen is open
@@ -84,16 +78,7 @@ class frmSell : public QWidget, private SaleScreen {
   bool ended_ = false;                ///< the program is ending
   const ClsSell* settled_ = nullptr;  ///< the previous bill as last seen, to notice a settlement
 
-  QLabel* title_;
-  FittedLabel* title1_;
-  QLabel* title2_;
-  FittedLabel* title3_;
-  BillView* lv_;
-  QLineEdit* t_;
-  FittedLabel* txtmoney_;
-  QLabel* lblViewMember_;
-  QFrame* frmBot_;
-  KeyHelp* ViewF_;
+  SellControls controls_{this};
   std::unique_ptr<frmMenu> myMenu_;
   frmEndSell* endSell_ = nullptr;  ///< made on first use, like the next two
   frmInput* input_ = nullptr;

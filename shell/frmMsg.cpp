@@ -51,7 +51,11 @@ void frmMsg::Message(const QString& msg) {
 
 // A key held down is one press: the Enter that brought the message up does not take it away again.
 void frmMsg::keyPressEvent(QKeyEvent* event) {
-  if (!event->isAutoRepeat()) accept();
+  if (!event->isAutoRepeat()) pressed(*event);
+}
+
+void frmMsg::pressed(const QKeyEvent&) {
+  accept();
 }
 
 void frmMsg::mousePressEvent(QMouseEvent*) {

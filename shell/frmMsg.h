@@ -15,6 +15,8 @@ class frmMsg : public QDialog {
 
  protected:
   void keyPressEvent(QKeyEvent* event) override;
+  /// A key that was pressed anew; closes the window.
+  virtual void pressed(const QKeyEvent& event);
   void mousePressEvent(QMouseEvent* event) override;
 
  private:

@@ -51,7 +51,7 @@ TEST_F(BillLinesTest, enterByLengthRowAndColumn) {
            {"１.5", 0, "", "1.5 1"},
            {"x", 0, "", "1 1", false},
            {"12345", 0, "", "12345 1"},
-           {"123456", 0, "", "1 1"},  // a barcode, dropped
+           {"123456", 0, "正在修改商品行，“123456”没有录入。请重新录入。", "1 1"},
            {"0.9", 1, "", "1 0.9"},
            {"0", 1, "", "1 0"},
            {"-1", 1, "", "1 1", false},
@@ -121,6 +121,7 @@ TEST_F(BillLinesTest, onlyTheCurrentLineIsReachedAndRemoved) {
     EXPECT_EQ(cell(0, BillRow::kName), "矿泉水");
     expectInStep();
     press(kF4);
+    EXPECT_EQ(till.said(), "没有可删除的行：已确认的商品不能单独删除，只能整单撤消。");
     press(kUp);
     EXPECT_TRUE(session.state.onEntryRow) << "a committed line is out of reach";
     session.listClicked();

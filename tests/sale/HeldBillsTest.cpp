@@ -73,6 +73,22 @@ TEST_F(HeldBillsTest, whenTheStoreFailsTheBillStaysWhereItWas) {
   EXPECT_EQ(session.state.curBill->BillNo(), 2);
 }
 
+TEST_F(HeldBillsTest, theCustomerSeesEachPriceAgain) {
+  CustomerDisplay pole{ports, pos.gPosSet, session.state, report};
+  Checkout itsCheckout{pos, session.state, till, pole, receipt};
+  MemberCard card{pos, session.state, till, itsCheckout};
+  HeldBills held{pos, session.state, till, itsCheckout, card, pole, receipt};
+  pos.gPosSet.CVProt = "COM1";
+  pos.gPosSet.CVModel = 1;
+  session.state.hasDisplay = true;
+  pole.OpenDisplayPort();
+  for (const char* code : {kWater, kCrate}) enter(code);
+  press(kF5);
+  till.choice = 0;
+  held.RecallBill();
+  EXPECT_EQ(ports.shown, "\x1Bs1\x1BQA2.50\r\x1Bs1\x1BQA28.00\r");
+}
+
 TEST_F(HeldBillsTest, paperFeedsAtSuspensionAndRepeatsTheBillAtRecall) {
   pos.gPosSet.PPort = "LPT1";
   session.state.linePrint = true;

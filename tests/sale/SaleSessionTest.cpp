@@ -65,7 +65,7 @@ TEST_F(SaleSessionTest, theEditorStaysWithinItsThreeColumns) {
 }
 
 TEST_F(SaleSessionTest, quickKeysWorkOnAnEmptyLineOnly) {
-  pos.gKeyBoard.QK = {{81, ""}, {81, kWater}, {81, kCrate}, {13, kCrate}};
+  pos.gKeyBoard.QK = {{81, ""}, {81, kWater}, {81, kCrate}, {13, kCrate}, {82, "80"}, {83, "x"}};
   open();
   EXPECT_TRUE(session.key(81));
   EXPECT_EQ(cell(0, BillRow::kName), "矿泉水");
@@ -74,6 +74,12 @@ TEST_F(SaleSessionTest, quickKeysWorkOnAnEmptyLineOnly) {
   EXPECT_TRUE(session.mayRepeat(81));
   EXPECT_FALSE(session.key(81));
   EXPECT_EQ(lines(), "1");
+  press(kUp);
+  press(82);
+  EXPECT_EQ(till.said(), "正在修改商品行，“80”没有录入。请重新录入。");
+  EXPECT_EQ(cell(0, BillRow::kQuantity), "1") << "80 is no quantity";
+  press(83);
+  EXPECT_EQ(till.said(), "没有找到：x的商品");
   for (const int code : {kEnter, kF1, kF12, kEsc, kF4})
     EXPECT_FALSE(session.mayRepeat(code)) << code;
   for (const int code : {kLeft, kDown, 65, 8}) EXPECT_TRUE(session.mayRepeat(code)) << code;
@@ -83,13 +89,14 @@ TEST_F(SaleSessionTest, linePrintingFollowsThePrinterPort) {
   const struct {
     const char* port;
     int model;
-    bool atOpening, toggled;
+    bool atOpening;
     int width;
-  } cases[] = {{"", 1, false, true, 32},
-               {"LPT1", 1, true, false, 40},
-               {"LPT1", 2, true, false, 32},
-               {"USB", 1, false, false, 40}};
-  for (const auto& [port, model, atOpening, toggled, width] : cases) {
+    const char* toggled;
+  } cases[] = {{"", 1, false, 32, "没有设置打印机，打印机开关保持关闭。"},
+               {"LPT1", 1, true, 40, "打印机已关闭。"},
+               {"LPT1", 2, true, 32, "打印机已关闭。"},
+               {"USB", 1, false, 40, "USB 打印机不逐行打印，打印机开关保持关闭。"}};
+  for (const auto& [port, model, atOpening, width, toggled] : cases) {
     pos.gPosSet.PPort = port;
     pos.gPosSet.PModel = model;
     SaleSession other(pos, till, {});
@@ -98,6 +105,7 @@ TEST_F(SaleSessionTest, linePrintingFollowsThePrinterPort) {
     EXPECT_EQ(other.state.linePrint, atOpening) << port;
     EXPECT_EQ(other.state.receiptCols.line, width) << port << model;
     other.menu("isprint");
-    EXPECT_EQ(other.state.linePrint, toggled) << port;
+    EXPECT_EQ(till.said(), toggled);
+    EXPECT_FALSE(other.state.linePrint) << port;
   }
 }

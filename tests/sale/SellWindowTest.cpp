@@ -2,6 +2,7 @@
 #include <QLineEdit>
 #include <QPainter>
 #include <QScreen>
+#include <QScrollBar>
 #include <QTableView>
 #include <QTest>
 
@@ -73,17 +74,25 @@ TEST_F(SellWindow, ringsCorrectsDeletesAndSettles) {
 TEST_F(SellWindow, theEditorCoversTheEditedCellAndTheListNeverHasTheFocus) {
   show([this] {
     for (int i = 0; i < 40; ++i) scan(kWater);
-    const auto covered = [this](int row, int column) {
+    const auto covered = [this](int row, int column, int last) {
       constexpr int kFrame = 2;
-      const QRect cell = list()->visualRect(list()->model()->index(row, column));
+      const QRect cell = list()->visualRect(list()->model()->index(row, column)) |
+                         list()->visualRect(list()->model()->index(row, last));
       return editor()->geometry() == cell.adjusted(kFrame, kFrame, -kFrame, -kFrame) &&
              list()->viewport()->rect().contains(cell);
     };
-    EXPECT_TRUE(covered(40, BillRow::kNumber));
-    press(Qt::Key_Up);
-    EXPECT_TRUE(covered(39, BillRow::kQuantity));
+    EXPECT_TRUE(covered(40, BillRow::kNumber, BillRow::kCode));
+    const int row = list()->rowHeight(0);
+    list()->verticalScrollBar()->setValue(row * 3 / 2);
+    EXPECT_EQ(list()->rowViewportPosition(1), 0) << "no row is half shown";
+    EXPECT_EQ(list()->viewport()->height() % row, 0);
+    press(Qt::Key_Backspace);
+    EXPECT_TRUE(covered(40, BillRow::kNumber, BillRow::kCode)) << "typing brings it back";
+    for (const Qt::Key key : {Qt::Key_Up, Qt::Key_Right, Qt::Key_Up}) press(key);
+    EXPECT_TRUE(covered(39, BillRow::kQuantity, BillRow::kQuantity))
+        << "the frame is where typing goes";
     QTest::mouseClick(list()->viewport(), Qt::LeftButton, {}, {60, 60});
-    EXPECT_TRUE(covered(40, BillRow::kNumber));
+    EXPECT_TRUE(covered(40, BillRow::kNumber, BillRow::kCode));
     EXPECT_TRUE(editor()->hasFocus());
     press(Qt::Key_F12);
   });
@@ -107,7 +116,7 @@ TEST_F(SellWindow, nothingOldStaysOnTheScreen) {
     screenIsWhole("ringing more than fits");
     press(Qt::Key_Up);
     screenIsWhole("going to the last line");
-    scan("12");
+    scan("12345");
     screenIsWhole("correcting it");
     press(Qt::Key_F4);
     screenIsWhole("deleting it");
@@ -132,6 +141,28 @@ TEST_F(SellWindow, theMenuKeyOpensTheFunctionMenuAndTheCloseBoxAsksTheSession) {
     hands.press("myMenu", {Qt::Key_Up, Qt::Key_Return});
     press(Qt::Key_Menu);
     EXPECT_EQ(stored("count(*) as v from sell"), "0") << "left by the menu's last entry";
+  });
+}
+
+TEST_F(SellWindow, goodsScannedOverAMessageAreNotRungAndThatIsSaid) {
+  const auto scanOver = [](QWidget& message) {
+    QTest::keyClicks(&message, kCrate);
+    QTest::keyClick(&message, Qt::Key_Return);
+  };
+  const auto readAndClose = [](QWidget& message) {
+    EXPECT_EQ(message.findChild<QLabel*>("Label1")->text().left(10), "出现提示时扫描的商品");
+    Hands::pressNow(Qt::Key_Escape);
+  };
+  show([&] {
+    hands.at("frmMsg", scanOver).at("frmMsg", readAndClose);
+    scan("6900000000000");
+    breakStore("insert on sellProducts");
+    hands.at("messageBox", scanOver).press("messageBox", {Qt::Key_Escape});
+    hands.at("frmMsg", readAndClose);
+    scan(kWater);
+    mendStore();
+    EXPECT_EQ(editor()->text(), "");
+    EXPECT_EQ(list()->model()->rowCount(), 1);
   });
 }
 

@@ -1,0 +1,46 @@
+#pragma once
+
+#include <QCoreApplication>
+
+class BillView;
+class ClsPosSet;
+class FittedLabel;
+class KeyHelp;
+class QFrame;
+class QLabel;
+class QLineEdit;
+class QString;
+class QWidget;
+
+/// The controls of the sale screen: what they look like and where they are, at any size of the
+/// screen from 1024 x 768 on. The input line lies in the list.
+class SellControls {
+  Q_DECLARE_TR_FUNCTIONS(SellControls)
+
+ public:
+  explicit SellControls(QWidget* screen);
+
+  /// Gives them the six colours of the settings, and sizes and places for the size of the screen.
+  void arrange(const ClsPosSet& settings);
+  /// The member's lines take room from the status line when there are any.
+  void showMember(const QString& text);
+
+  FittedLabel* const title;
+  FittedLabel* const title1;
+  QLabel* const title2;
+  FittedLabel* const title3;
+  BillView* const lv;
+  QLineEdit* const t;
+  FittedLabel* const txtmoney;
+  FittedLabel* const lblViewMember;
+  QFrame* const frmBot;
+  KeyHelp* const ViewF;
+
+ private:
+  void setSizes(int type);
+  void layOut(int type);
+  void layOutHeadings();
+  void layOutStatus();
+
+  QWidget* screen_;
+};
