@@ -195,6 +195,8 @@ void frmFMember::showMember() {
                                shown(twoDecimals(member_->TotalSpent())),
                                shown(dateText(member_->JoinDate()))));
   lblStatus_->show();
+  adjustSize();
+  centreOnScreen(*this);
 }
 
 void frmFMember::addMember() {
