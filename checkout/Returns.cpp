@@ -105,6 +105,34 @@ Currency Returns::worth(double quantity) const {
   return quantity > 0 ? lineAmount(line_->Price(), quantity, line_->Discount()) : Currency();
 }
 
+// Refunded before for more than the pieces were worth. Each worth is rounded as it was proposed, so
+// that goods that come back in steps raise no question of a fen.
+Currency Returns::overpaid() const {
+  Currency refunded, worthOfAll;
+  for (const ClsUnSell::Earlier& earlier : ClsUnSell::OfLine(*pos_.gConn, line_->Id())) {
+    refunded += earlier.money;
+    worthOfAll += worth(earlier.quantity);
+  }
+  return std::max(refunded - worthOfAll, Currency());
+}
+
+QString Returns::doubt(double quantity, Currency refund) const {
+  ensure(line_ != nullptr, "a line is taken back");
+  const Currency pieces = worth(quantity);
+  const Currency left = std::max(worth(line_->Quantity()) - overpaid(), Currency());
+  const auto question = [&](const QString& text, Currency most) {
+    return text.arg(shown(twoDecimals(refund)), shown(twoDecimals(most)));
+  };
+  if (refund > pieces && pieces <= left) {
+    return question(tr("实退金额 %1 元超过了所退商品的金额 %2 元，确定要退吗？"), pieces);
+  }
+  if (refund > left) {
+    return question(
+        tr("实退金额 %1 元超过了该商品的剩余金额 %2 元（以前退货时已多退），确定要退吗？"), left);
+  }
+  return {};
+}
+
 QString Returns::takeBack(double quantity, Currency refund) {
   ensure(line_ != nullptr && pos_.gOperator != nullptr, "a line is taken back by an operator");
   if (!(quantity > 0)) return tr("没有可退的数量！");
@@ -115,7 +143,9 @@ QString Returns::takeBack(double quantity, Currency refund) {
   } catch (const Failure& broken) {
     refusal = broken.what();
   }
-  if (!refusal.empty()) {
+  if (refusal.empty()) {
+    line_ = nullptr;
+  } else {
     // The bill at hand was being changed: what counts is what the data file holds.
     const std::int32_t lineId = line_->Id();
     const QString gone = load(QString::number(bill_->BillNo()));

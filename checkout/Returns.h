@@ -48,13 +48,19 @@ class Returns {
   /// What that much of the chosen line was sold for; nothing for 0 or less.
   Currency worth(double quantity) const;
 
-  /// Stock, return record, line, bill and member in one transaction. An empty text, or why nothing
-  /// was written.
+  /// What the cashier is to be asked before so much is refunded for that much of the chosen line:
+  /// more than it was sold for, or more than what the line was sold for less what was refunded for
+  /// it before. An empty text when there is nothing to ask. Throws StoreError.
+  QString doubt(double quantity, Currency refund) const;
+
+  /// Stock, return record, line, bill and member in one transaction; then no line is chosen, so
+  /// that the same cannot be stored twice. An empty text, or why nothing was written.
   [[nodiscard]] QString takeBack(double quantity, Currency refund);
 
  private:
   void unload();
   QString open(std::int32_t billNo);
+  Currency overpaid() const;
   std::string store(double quantity, Currency refund);
   void lowerLine(double quantity);
   std::string debitMember(Currency refund);

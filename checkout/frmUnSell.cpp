@@ -10,6 +10,7 @@
 #include <QVBoxLayout>
 
 #include "app/posMod.h"
+#include "base/Failure.h"
 #include "base/NumberText.h"
 #include "checkout/ReturnLines.h"
 #include "saleslib/ClsSell.h"
@@ -251,21 +252,25 @@ void frmUnSell::storeReturn() {
     focusWhole(txtmoney_);
     return;
   }
-  if (!refundAgreed(*refund)) {
+  const double quantity = returns_.quantityOf(txtAmount_->text());
+  if (!refundAgreed(quantity, *refund)) {
     focusWhole(txtmoney_);
     return;
   }
-  const QString refusal = returns_.takeBack(returns_.quantityOf(txtAmount_->text()), *refund);
+  const QString refusal = returns_.takeBack(quantity, *refund);
   showBill();
   showLine();
+  // What is typed or scanned next replaces the code, also one that showLine has just written.
+  focusWhole(txttm_);
   if (!refusal.isEmpty()) message(refusal);
 }
 
-bool frmUnSell::refundAgreed(Currency refund) {
-  const Currency remaining = returns_.line()->Money();
-  if (refund <= remaining) return true;
-  return askYesNo(this,
-                  tr("实退金额 %1 元超过了该商品的剩余金额 %2 元，确定要退吗？")
-                      .arg(shown(twoDecimals(refund)), shown(twoDecimals(remaining))),
-                  tr("退货"), false);
+bool frmUnSell::refundAgreed(double quantity, Currency refund) {
+  try {
+    const QString doubt = returns_.doubt(quantity, refund);
+    return doubt.isEmpty() || askYesNo(this, doubt, tr("退货"), false);
+  } catch (const Failure& failure) {
+    message(shown(failure.what()));
+    return false;
+  }
 }

@@ -40,7 +40,7 @@ class frmUnSell : public KeyDrivenDialog {
   void showRefund(Currency refund);
   void rewriteRefund();
   void storeReturn();
-  bool refundAgreed(Currency refund);
+  bool refundAgreed(double quantity, Currency refund);
 
   posMod& pos_;
   Returns returns_;

@@ -12,6 +12,7 @@
 #include "base/Failure.h"
 #include "base/NumberText.h"
 #include "base/Text.h"
+#include "members/TopUpSlip.h"
 #include "platform/VirtualKey.h"
 #include "saleslib/CardNumber.h"
 #include "shell/Modal.h"
@@ -117,20 +118,29 @@ void cardStored::askForCard() {
 }
 
 void cardStored::findCard() {
-  const std::string number = storedCardNumber(textOf(txtBh_));
-  txtBh_->setText(shown(number));
   std::optional<StoredCard> card;
   try {
-    card = findStoredCard(*pos_.gConn, number);
+    card = findStoredCard(*pos_.gConn, textOf(txtBh_));
   } catch (const Failure&) {
     // A card that cannot be read counts as not found.
+  }
+  txtBh_->setText(shown(card ? card->number : storedCardNumber(textOf(txtBh_))));
+  if (!card) return;
+  if (!card->isEnabled) {
+    messageBox(
+        this,
+        tr("会员卡被禁用！卡号：%1，持卡人：%2").arg(shown(card->number), shown(card->memberName)));
+    focusWhole(txtBh_);
     return;
   }
-  if (!card) return;
-  cardFound_ = number;
-  txtName_->setText(shown(card->memberName));
-  zklb_->setText(shown(card->discountClass));
-  beforeMoney_->setText(shown(generalNumber(card->balance)));
+  showCard(*card);
+}
+
+void cardStored::showCard(const StoredCard& card) {
+  cardFound_ = card.number;
+  txtName_->setText(shown(card.memberName));
+  zklb_->setText(shown(card.discountClass));
+  beforeMoney_->setText(shown(generalNumber(card.balance)));
   // What was worked out for a card before is not this card's balance.
   afterMoney_->clear();
   txtName_->setEnabled(false);
@@ -172,7 +182,7 @@ std::optional<TopUp> cardStored::entered() {
 }
 
 void cardStored::store() {
-  txtBh_->setText(shown(storedCardNumber(textOf(txtBh_))));
+  txtBh_->setText(shown(memberNumber(textOf(txtBh_))));
   if (txtBh_->text().isEmpty()) {
     askForCard();
     return;
@@ -185,7 +195,13 @@ void cardStored::store() {
     focusWhole(txtBh_);
     return;
   }
-  storeTopUp(*pos_.gConn, *topUp);
+  try {
+    storeTopUp(*pos_.gConn, *topUp);
+  } catch (const Failure& failure) {
+    messageBox(this,
+               tr("充值没有完成，卡内余额没有改变：%1").arg(QString::fromUtf8(failure.what())));
+    return;
+  }
   messageBox(this, tr("充值成功！本次充值%1,充值后卡内余额%2  ")
                        .arg(shown(generalNumber(topUp->credited)), afterMoney_->text()));
   if (pos_.gPosSet.PPort == "USB") printSlip();

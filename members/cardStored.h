@@ -5,7 +5,7 @@
 #include <string>
 
 #include "base/Currency.h"
-#include "members/TopUp.h"
+#include "saleslib/TopUp.h"
 #include "shell/KeyDrivenDialog.h"
 
 class posMod;
@@ -28,6 +28,7 @@ class cardStored : public KeyDrivenDialog {
   bool handleKey(const QObject* watched, const QKeyEvent& event) override;
   void askForCard();
   void findCard();
+  void showCard(const StoredCard& card);
   std::optional<Currency> balanceAfter() const;
   std::optional<TopUp> entered();
   void store();

@@ -146,10 +146,10 @@ void frmFMember::enableEntry(bool enabled) {
 }
 
 void frmFMember::numberEntered() {
-  const std::string number = memberNumber(textOf(txtBh_));
-  txtBh_->setText(shown(number));
+  const std::string typed = textOf(txtBh_);
+  txtBh_->setText(shown(memberNumber(typed)));
   try {
-    member_ = pos_.gMemberSvc.GetMember(number);
+    member_ = pos_.gMemberSvc.GetMember(typed);
   } catch (const Failure& error) {
     report(QString::fromUtf8(error.what()));
     return;
@@ -195,6 +195,8 @@ void frmFMember::showMember() {
                                shown(twoDecimals(member_->TotalSpent())),
                                shown(dateText(member_->JoinDate()))));
   lblStatus_->show();
+  adjustSize();
+  centreOnScreen(*this);
 }
 
 void frmFMember::addMember() {

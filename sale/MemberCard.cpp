@@ -16,10 +16,10 @@ void MemberCard::AttachMember() {
     return;
   }
   const QString typed = screen_.prompt(tr("会员卡"), tr("输入会员卡号或电话："));
-  const std::string number = memberNumber(typed.toStdString());
+  const std::string number = typed.toStdString();
   std::shared_ptr<ClsMember> member;
   try {
-    if (!number.empty()) member = find(number);
+    if (!memberNumber(number).empty()) member = find(number);
   } catch (const Failure& failure) {
     screen_.messageBox(QString::fromStdString(failure.what()));
   }
@@ -45,7 +45,8 @@ std::shared_ptr<ClsMember> MemberCard::chooseByPhone(const std::string& phone) {
   }
   const int chosen = screen_.choose(static_cast<int>(members.size()), [&members](int position) {
     const ClsMember& member = *members[static_cast<std::size_t>(position)];
-    return QString::fromStdString(member.Bh() + "  " + member.Name());
+    const QString caption = QString::fromStdString(member.Bh() + "  " + member.Name());
+    return member.Enabled() ? caption : tr("%1（已禁用）").arg(caption);
   });
   return chosen < 0 ? nullptr : members[static_cast<std::size_t>(chosen)];
 }

@@ -8,6 +8,7 @@
 #include "checkout/PaidBill.h"
 #include "checkout/SaleScreen.h"
 #include "platform/VirtualKey.h"
+#include "sale/TopUpReport.h"
 #include "saleslib/ClsDayStat.h"
 #include "store/StoreError.h"
 
@@ -47,6 +48,7 @@ bool SaleSession::open() {
   ensure(pos_.gOperator != nullptr, "somebody is logged in before the sale screen opens");
   loadSettings();
   completePaidBills(pos_, screen_);
+  reportIncompleteTopUps(pos_, screen_);
   voidOpenBills();
   if (clockIsBehind()) {
     screen_.messageBox(tr("电脑系统时间错误！"), tr("致命错误"));

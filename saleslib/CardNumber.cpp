@@ -1,5 +1,7 @@
 #include "saleslib/CardNumber.h"
 
+#include <algorithm>
+
 #include "base/Text.h"
 
 namespace {
@@ -15,6 +17,12 @@ std::string without(std::string_view typed, std::string_view dropped) {
   return trimmed(number);
 }
 
+/// They only lose characters on the way, so that equal ones stand side by side.
+std::vector<std::string> eachOnce(std::vector<std::string> numbers) {
+  numbers.erase(std::unique(numbers.begin(), numbers.end()), numbers.end());
+  return numbers;
+}
+
 }  // namespace
 
 std::string memberNumber(std::string_view typed) {
@@ -23,4 +31,12 @@ std::string memberNumber(std::string_view typed) {
 
 std::string storedCardNumber(std::string_view typed) {
   return without(typed, kSentinelsAndLetters);
+}
+
+std::vector<std::string> memberNumbers(std::string_view typed) {
+  return eachOnce({std::string(typed), memberNumber(typed)});
+}
+
+std::vector<std::string> storedCardNumbers(std::string_view typed) {
+  return eachOnce({std::string(typed), memberNumber(typed), storedCardNumber(typed)});
 }

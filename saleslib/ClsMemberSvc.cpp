@@ -3,6 +3,7 @@
 #include <string>
 
 #include "base/Failure.h"
+#include "saleslib/CardNumber.h"
 #include "store/Connection.h"
 
 void ClsMemberSvc::Conn(Connection& connection) {
@@ -13,9 +14,11 @@ void ClsMemberSvc::AddMember(const ClsMember&) {}
 
 std::shared_ptr<ClsMember> ClsMemberSvc::GetMember(std::string_view number) const {
   ensure(connection_ != nullptr, "ClsMemberSvc is bound before it is used");
-  if (number.empty()) return nullptr;
-  Rows rows = connection_->query("select * from member where bh = ?", std::string(number));
-  if (rows.next()) return std::make_shared<ClsMember>(ClsMember::fromRow(*connection_, rows));
+  if (memberNumber(number).empty()) return nullptr;
+  for (const std::string& each : memberNumbers(number)) {
+    Rows rows = connection_->query("select * from member where bh = ?", each);
+    if (rows.next()) return std::make_shared<ClsMember>(ClsMember::fromRow(*connection_, rows));
+  }
   const auto withPhone = GetMembersByPhone(number);
   return withPhone.size() == 1 ? withPhone.front() : nullptr;
 }
@@ -24,9 +27,9 @@ std::vector<std::shared_ptr<ClsMember>> ClsMemberSvc::GetMembersByPhone(
     std::string_view phone) const {
   ensure(connection_ != nullptr, "ClsMemberSvc is bound before it is used");
   std::vector<std::shared_ptr<ClsMember>> members;
-  if (phone.empty()) return members;
-  Rows rows =
-      connection_->query("select * from member where phone = ? order by bh", std::string(phone));
+  const std::string number = memberNumber(phone);
+  if (number.empty()) return members;
+  Rows rows = connection_->query("select * from member where phone = ? order by bh", number);
   while (rows.next()) {
     members.push_back(std::make_shared<ClsMember>(ClsMember::fromRow(*connection_, rows)));
   }

@@ -19,17 +19,33 @@ void ClsUnSell::Init(Connection& connection, std::int32_t billNo, int, Clock clo
 void ClsUnSell::Save() {
   ensure(connection_ != nullptr, "a return is bound before it is stored");
   Transaction transaction(*connection_);
-  quantity_ = roundedQuantity(std::min(quantity_, heldByLine()));
-  if (!(quantity_ > 0)) {
-    quantity_ = 0;
-    money_ = Currency();
-    return;
-  }
+  limitTo(heldByLine());
+  if (!(quantity_ > 0)) return;
   connection_->run(
       "insert into un_sell (un_time, sell_id, item_id, quantity, money, cost, ratio, discount,"
       " operator_id) values (?, ?, ?, ?, ?, ?, ?, ?, ?)",
       clock_(), billNo_, itemId_, quantity_, money_, cost_, ratio_, discount_, operatorId_);
   transaction.commit();
+}
+
+void ClsUnSell::limitTo(double held) {
+  const double wanted = quantity_;
+  quantity_ = roundedQuantity(std::min(wanted, held));
+  if (!(quantity_ > 0)) {
+    quantity_ = 0;
+    money_ = Currency();
+  } else if (held < wanted) {
+    money_ = lineAmount(money_, quantity_ / wanted, Discount());
+  }
+}
+
+std::vector<ClsUnSell::Earlier> ClsUnSell::OfLine(Connection& connection, std::int32_t itemId) {
+  std::vector<Earlier> returns;
+  Rows rows = connection.query("select quantity, money from un_sell where item_id = ?", itemId);
+  while (rows.next()) {
+    returns.push_back({rows.number("quantity").value_or(0), ::money(rows, "money")});
+  }
+  return returns;
 }
 
 double ClsUnSell::heldByLine() const {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <vector>
 
 #include "base/Currency.h"
 #include "base/DateTime.h"
@@ -12,10 +13,19 @@ class ClsUnSell {
  public:
   /// Binds and starts a return against that bill; the third argument is unused and 0.
   void Init(Connection& connection, std::int32_t billNo, int unused = 0, Clock clock = localTime);
-  /// Stores the return, in one transaction. UnQty is limited to what the line still holds; read it
-  /// back. When that is nothing, nothing is stored, and UnQty and UnMoney read 0. Lowering the line
-  /// is the caller's. Throws StoreError; ensure() guards a line that is not of this bill.
+  /// Stores the return, in one transaction. UnQty is limited to what the line still holds, and
+  /// UnMoney falls in proportion, rounded to 0.01; read both back. When nothing is held, nothing is
+  /// stored, and both read 0. Lowering the line is the caller's. Throws StoreError; ensure() guards
+  /// a line that is not of this bill.
   void Save();
+
+  /// What was taken back of a line, and refunded for it.
+  struct Earlier {
+    double quantity = 0;
+    Currency money;
+  };
+  /// The stored returns against a line. Throws StoreError.
+  static std::vector<Earlier> OfLine(Connection& connection, std::int32_t itemId);
 
   double UnQty() const { return quantity_; }
   void setUnQty(double quantity) { quantity_ = quantity; }
@@ -29,6 +39,7 @@ class ClsUnSell {
 
  private:
   double heldByLine() const;
+  void limitTo(double held);
 
   Connection* connection_ = nullptr;
   Clock clock_ = localTime;

@@ -6,6 +6,7 @@
 #include <QPushButton>
 
 #include "app/posMod.h"
+#include "base/Failure.h"
 #include "saleslib/ClsLogin.h"
 #include "shell/FramedFields.h"
 #include "shell/frmMsg.h"
@@ -35,16 +36,30 @@ frmEditPwd::frmEditPwd(posMod& pos, QWidget* parent)
 }
 
 void frmEditPwd::change() {
-  ClsLogin login;
-  login.Conn(*pos_.gConn);
-  if (!login.Check(txtNumber_->text().toStdString(), txtPassword_->text().toStdString())) {
-    frmMsg(this).Message(QString::fromStdString(login.ErrText()));
+  std::string refusal;
+  try {
+    refusal = store();
+  } catch (const Failure& failure) {
+    refusal = failure.what();
+  }
+  if (!refusal.empty()) {
+    frmMsg(this).Message(QString::fromStdString(refusal));
     return;
   }
-  pos_.gOperator = login.Operator();
-  pos_.gOperator->setPassword(txtNewPwd_->text().toStdString());
-  pos_.gOperator->Save();
   // Whoever was at the till logs in again: the next protected screen asks who is there.
   pos_.gOperator = nullptr;
   accept();
+}
+
+/// An empty text, or why the old password does not do, which is then to be typed anew.
+std::string frmEditPwd::store() {
+  ClsLogin login;
+  login.Conn(*pos_.gConn);
+  if (!login.Check(txtNumber_->text().toStdString(), txtPassword_->text().toStdString())) {
+    focusWhole(txtPassword_);
+    return login.ErrText();
+  }
+  login.Operator()->setPassword(txtNewPwd_->text().toStdString());
+  login.Operator()->Save();
+  return {};
 }

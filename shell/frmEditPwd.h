@@ -1,5 +1,7 @@
 #pragma once
 
+#include <string>
+
 #include "shell/KeyDrivenDialog.h"
 
 class posMod;
@@ -14,6 +16,7 @@ class frmEditPwd : public KeyDrivenDialog {
 
  private:
   void change();
+  std::string store();
 
   posMod& pos_;
   QLineEdit* txtNumber_;

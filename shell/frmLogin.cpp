@@ -20,10 +20,10 @@ frmLogin::frmLogin(posMod& pos, QWidget* parent)
   hidePassword(txtPassword_);
   QPushButton* cmdOk = button("cmdOk", tr("确定"));
   QPushButton* cmdCancel = button("cmdCancel", tr("取消"));
-  layOutFramedFields(
-      *this, label("Label1", tr("收银员登录")),
-      {{label("Label2", tr("工号：")), txtNumber_}, {label("Label3", tr("密码：")), txtPassword_}},
-      buttonRow({cmdOk, cmdCancel}));
+  layOutFramedFields(*this, label("Label1", tr("收银员登录")),
+                     {{label("Label2", tr("用户编号：")), txtNumber_},
+                      {label("Label3", tr("密码：")), txtPassword_}},
+                     buttonRow({cmdOk, cmdCancel}));
   connect(cmdOk, &QPushButton::clicked, this, &frmLogin::check);
   connect(cmdCancel, &QPushButton::clicked, this, &frmLogin::cancel);
   enterLeads(txtNumber_, txtPassword_);

@@ -240,6 +240,15 @@ create table sys_param (
 ) without rowid;
 )";
 
+// Marks of the top-ups: complete, when the card's balance was written too, and reported, when a
+// cashier was told that it was not. Those of older files count as complete.
+const char* const kSecondStep = R"(
+alter table cardStored add column complete integer not null default 0;
+alter table cardStored add column reported integer not null default 0;
+update cardStored set complete = 1;
+create index cardStored_incomplete on cardStored (id) where complete = 0;  -- at each opening
+)";
+
 // The engine's field for the kind of file: "TILL".
 constexpr std::int64_t kApplicationMark = 0x54494C4C;
 
@@ -271,7 +280,7 @@ std::size_t stepsDone(Connection& connection) {
 }  // namespace
 
 const std::vector<std::string>& schemaSteps() {
-  static const std::vector<std::string> steps = {kFirstStep};
+  static const std::vector<std::string> steps = {kFirstStep, kSecondStep};
   return steps;
 }
 

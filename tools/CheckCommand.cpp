@@ -3,6 +3,8 @@
 #include <CLI/CLI.hpp>
 #include <memory>
 
+#include "base/NumberText.h"
+#include "saleslib/TopUp.h"
 #include "store/Connection.h"
 #include "store/FragmentIndex.h"
 #include "tools/Books.h"
@@ -23,6 +25,17 @@ void repairIndex(Connection& connection, Console& console) {
   console.out << "商品查找索引不对，已重建。\n";
 }
 
+// Not a fault: such a record loaded nothing, and the books go without it.
+void nameIncompleteTopUps(Connection& connection, Console& console) {
+  for (const IncompleteTopUp& each : incompleteTopUps(connection)) {
+    console.out << "充值 " << each.id << " 没有完成，卡内余额没有改变：卡号 "
+                << each.topUp.cardNumber << "，付款 " << twoDecimals(each.topUp.paid) << "，充值 "
+                << twoDecimals(each.topUp.credited)
+                << (each.isReported ? "（已提示过收银员）。\n"
+                                    : "；下次打开收银窗口时提示收银员。\n");
+  }
+}
+
 void check(const Options& options, Console& console, int& exitCode) {
   const std::unique_ptr<Connection> connection = openDataFile(options.file.source(console));
   if (options.repair) repairIndex(*connection, console);
@@ -32,6 +45,7 @@ void check(const Options& options, Console& console, int& exitCode) {
     console.out << "有 " << found.paidBills
                 << " 张单据已收款、还没存完：正在结账，或者下次打开收银窗口时补存。\n";
   }
+  nameIncompleteTopUps(*connection, console);
   if (found.faults > 0) {
     console.out << "发现 " << found.faults << " 处问题。\n";
     exitCode = kFaultsFound;

@@ -71,7 +71,7 @@ void remove(const Options& options, Console& console) {
 }
 
 void addNumber(CLI::App& command, Options& options) {
-  command.add_option("--number", options.number, "操作员号，1 到 32767")
+  command.add_option("--number", options.number, "用户编号（登录时输入），1 到 32767")
       ->required()
       ->check(CLI::Range(1, INT16_MAX));
 }
@@ -103,7 +103,7 @@ void addOperatorCommand(CLI::App& app, Console& console) {
   adding->add_option("--right", options->rights, "权限：sell（收银）；可以写几次")
       ->check(CLI::IsMember(operatorRights()))
       ->allow_extra_args(false);
-  addAction(*parent, console, "list", "列出操作员：号、姓名、权限", options, list);
+  addAction(*parent, console, "list", "列出操作员：用户编号、姓名、权限", options, list);
   CLI::App* changing = addAction(*parent, console, "password", "更改密码", options, changePassword);
   addNumber(*changing, *options);
   addPassword(*changing, *options);

@@ -35,7 +35,7 @@ TEST_F(ReturnsTest, OnlyASettledBillOfThatNumberLoads) {
 
 TEST_F(ReturnsTest, EverythingThatAReturnTouchesAgreesWithWhatCameBack) {
   const char* afterFirst = "95 / 2x18,1x5 / 3 23 23 32 / 1x9 / 23 6";
-  const char* afterAll = "100 / 0x0,0x0 / 0 0 0 32 / 1x9,2x10.5,1x5 / 7.5 6";
+  const char* afterAll = "100 / 0x0,0x0 / 0 0 0 32 / 1x9,2x4.2,1x5 / 13.8 6";
   const struct {
     const char* code;
     double quantity;
@@ -44,8 +44,8 @@ TEST_F(ReturnsTest, EverythingThatAReturnTouchesAgreesWithWhatCameBack) {
       {" 6901", 1, "9", "", afterFirst},
       {"6901", 0, "9", "没有可退的数量！", afterFirst},
       {"6901", 1, "-1", "实退金额不能是负数！", afterFirst},
-      // More than the line holds: the record, the stock and the line take what it holds.
-      {"6901", 5, "10.5", "", "99 / 0x0,1x5 / 1 5 5 32 / 1x9,2x10.5 / 12.5 6"},
+      // More than the line holds: everything takes what it holds, and the refund falls with it.
+      {"6901", 5, "10.5", "", "99 / 0x0,1x5 / 1 5 5 32 / 1x9,2x4.2 / 18.8 6"},
       {"ａ７", 1, "5", "", afterAll},
       {"6901", 1, "1", "no such line", afterAll},
   };
@@ -53,10 +53,32 @@ TEST_F(ReturnsTest, EverythingThatAReturnTouchesAgreesWithWhatCameBack) {
   for (const auto& s : steps) {
     EXPECT_EQ(takeBack(s.code, s.quantity, s.refund), s.refusal);
     EXPECT_EQ(books(), s.books);
+    EXPECT_TRUE(*s.refusal != '\0' || returns.line() == nullptr) << "it would be stored twice";
   }
   EXPECT_EQ(stored("sell_id || ' ' || item_id || ' ' || operator_id || ' ' || ratio || ' ' ||"
                    " discount || ' ' || un_time as v from un_sell"),
             "1 1 1 2 0.9 2026-11-22 09:05:03");
+}
+
+TEST_F(ReturnsTest, WhatIsRefundedBeyondPiecesOrLineIsAskedFor) {
+  const struct {
+    double quantity;
+    const char *refund, *asked;
+  } steps[] = {{3, "27", ""},
+               {3, "27.01", "超过了所退商品的金额 27.00 元"},
+               {1, "9.01", "超过了所退商品的金额 9.00 元"},
+               {2, "18", "超过了该商品的剩余金额 0.00 元"}};
+  ASSERT_EQ(load("1"), "");
+  for (const auto& s : steps) {
+    // Before the last step one piece has come back for the price of all.
+    if (s.quantity == 2) {
+      ASSERT_EQ(takeBack("6901", 1, "27"), "");
+    }
+    returns.chooseByCode("6901");
+    const QString asked = returns.doubt(s.quantity, Currency::parse(s.refund).value());
+    EXPECT_TRUE(asked.contains(s.asked) && asked.isEmpty() == QString(s.asked).isEmpty())
+        << s.refund;
+  }
 }
 
 TEST_F(ReturnsTest, TheRoundingOfTheSettlementStaysUntilNothingIsLeft) {

@@ -70,6 +70,8 @@ TEST_F(frmUnSellTest, BillLineQuantityAndRefundByKeyboardAlone) {
   look([this] {
     EXPECT_EQ(books(), "95 / 2x18,1x5 / 3 23 23 32 / 1x8.5 / 23.5 6");
     EXPECT_EQ(firstRow() + focusName(), "6901 水 10.00 2 0.9 18.00 txttm");
+    EXPECT_EQ(field("txttm")->selectedText(), "6901") << "the next code replaces it";
+    EXPECT_FALSE(canReturn()) << "a second press would store it again";
     Hands::pressNow(Qt::Key_Escape);
   });
   work();

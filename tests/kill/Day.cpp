@@ -50,7 +50,7 @@ void Day::choose(TillDriver& till, int& highlight, int entry) {
   till.key("Return");
 }
 
-std::string Day::logIn(TillDriver& till) {
+void Day::logIn(TillDriver& till) {
   mainEntry_ = kSell;
   furtherEntry_ = kSearch;
   held_.clear();
@@ -60,14 +60,12 @@ std::string Day::logIn(TillDriver& till) {
   till.enter("1");
   till.enter("111");
   till.sync();
-  std::string told;
   if (till.activeWindow() == "frmMsg") {
-    told = till.text("Label1");
+    told_ += till.text("Label1");
     till.key("Return");
   }
   till.waitFor("frmSell");
   newBill(till);
-  return told;
 }
 
 // A bill's number is never used twice, not even that of a bill that was voided.
@@ -256,7 +254,10 @@ void Day::topUp(TillDriver& till) {
   till.enter(generalNumber(topUp.paid));
   till.enter(generalNumber(topUp.credited));
   till.tabTo("cmdOk2");
-  const auto record = [topUp](Ledger& ledger) { ledger.topUps.push_back(topUp); };
+  const auto record = [topUp](Ledger& ledger) {
+    ledger.topUps.push_back(topUp);
+    ledger.topUps.back().isComplete = false;
+  };
   const auto both = [topUp](Ledger& ledger) {
     ledger.topUps.push_back(topUp);
     ledger.members[topUp.card].balance = topUp.balance;

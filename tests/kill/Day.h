@@ -3,6 +3,7 @@
 #include <functional>
 #include <random>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "kill/Goods.h"
@@ -19,9 +20,10 @@ class Day {
   /// `aboutToConfirm` is called before a key is sent that changes the books.
   Day(Journal& journal, Goods goods, unsigned seed, std::function<void()> aboutToConfirm);
 
-  /// From the main menu to an empty bill; gives the message about bills that were completed, if
-  /// there was one.
-  std::string logIn(TillDriver& till);
+  /// From the main menu to an empty bill.
+  void logIn(TillDriver& till);
+  /// What the till told on the way, also on those that a kill cut short since this was last asked.
+  std::string takeTold() { return std::exchange(told_, {}); }
   /// The next thing that the cashier does.
   void step(TillDriver& till);
   /// Leaves the till by its menus.
@@ -69,6 +71,7 @@ class Day {
   std::function<void()> aboutToConfirm_;
   OpenBill bill_;
   std::vector<OpenBill> held_;
+  std::string told_;
   int highestNumber_ = 0;
   int settledBill_ = 0;
   int mainEntry_ = 0, furtherEntry_ = 0;  ///< where the menus' highlights are

@@ -79,7 +79,8 @@ void readRecords(Connection& connection, Ledger& ledger) {
   Rows topUps = connection.query("select * from cardStored order by id");
   while (topUps.next()) {
     ledger.topUps.push_back({topUps.text("cardbh"), money(topUps, "inMoney"),
-                             money(topUps, "addmoney"), money(topUps, "commerce")});
+                             money(topUps, "addmoney"), money(topUps, "commerce"),
+                             whole(topUps, "complete") != 0});
   }
 }
 
@@ -142,7 +143,8 @@ std::set<std::string> Ledger::entries() const {
   for (std::size_t i = 0; i < topUps.size(); ++i) {
     texts.insert("top-up " + std::to_string(i + 1) + " of " + topUps[i].card + ": paid " +
                  twoDecimals(topUps[i].paid) + ", credited " + twoDecimals(topUps[i].credited) +
-                 ", balance " + twoDecimals(topUps[i].balance));
+                 ", balance " + twoDecimals(topUps[i].balance) +
+                 (topUps[i].isComplete ? "" : ", not completed"));
   }
   return texts;
 }

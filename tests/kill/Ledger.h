@@ -45,6 +45,7 @@ struct Ledger {
   struct TopUp {
     std::string card;
     Currency paid, credited, balance;
+    bool isComplete = true;  ///< not a record alone, without the card's balance
   };
 
   std::map<int, Bill> bills;

@@ -7,6 +7,7 @@
 
 #include "InstalledTill.h"
 #include "ProofOptions.h"
+#include "base/NumberText.h"
 #include "demo/DisplayTube.h"
 #include "driver/TillDriver.h"
 #include "kill/Day.h"
@@ -108,12 +109,15 @@ class KillTest {
 
   /// Up to an empty bill, and the books hold. The drawer opens only for a bill that is paid for.
   void openShop(TillDriver& till) {
-    const std::string told = day_.logIn(till);
+    day_.logIn(till);
     const bool shown = journal_.isOpen() && till_.drawerBytes() > drawerBefore_;
     const Journal::Outcome outcome = journal_.judge(Ledger::read(*till_.open()), shown);
     ++figures_.outcomes[outcome];
     if (outcome == Journal::Outcome::kTaken && shown) ++figures_.takenShown;
-    if (!told.empty()) {
+    const std::string told = day_.takeTold();
+    if (outcome == Journal::Outcome::kHalfTaken) {
+      requireLastTopUpIn(told);
+    } else if (!told.empty()) {
       ++figures_.completed;
       requireLastBillIn(told);
     }
@@ -125,6 +129,15 @@ class KillTest {
     const std::string number = std::to_string(day_.settledBill());
     if (told.find("流水号 " + number + "，") != std::string::npos) return;
     throw std::runtime_error("told of another bill than the last: " + told);
+  }
+
+  void requireLastTopUpIn(const std::string& told) const {
+    const Ledger::TopUp& topUp = books().topUps.back();
+    const std::string named = "卡号 " + topUp.card + "，付款 " + twoDecimals(topUp.paid) +
+                              "，充值 " + twoDecimals(topUp.credited);
+    if (told.find(named) != std::string::npos) return;
+    throw std::runtime_error("not told of the record without a balance, " + named +
+                             " but: " + told);
   }
 
   ProofOptions options_;

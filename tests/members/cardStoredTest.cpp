@@ -85,6 +85,31 @@ TEST_F(cardStoredTest, FiguresThatAreNoneWriteNothing) {
   }
 }
 
+TEST_F(cardStoredTest, ABlockedCardAndADataFileThatFailsAreSaidAndTheDialogStays) {
+  till.pos.gConn->runScript(
+      "update member set enabled = 0;"
+      "create trigger broken before insert on cardStored begin select raise(abort, 'disk'); end");
+  hands.type("cardStored", "88001234").press("cardStored", {Qt::Key_Return});
+  hands.confirm(messages);
+  hands.at("cardStored", [&](QWidget& shown) {
+    EXPECT_EQ(text(shown, "beforeMoney") + focusName(shown), "txtBh");
+    till.pos.gConn->runScript("update member set enabled = 1");
+  });
+  typeAll("88001234", "90", "100");
+  confirm();
+  hands.at("cardStored", [&](QWidget& shown) {
+    EXPECT_EQ(books(), "0 50");
+    till.pos.gConn->runScript("drop trigger broken");
+    confirmNow(shown);
+  });
+  hands.confirm(messages);
+  EXPECT_EQ(dialog.exec(), QDialog::Accepted);
+  EXPECT_EQ(books(), "1 150");
+  ASSERT_EQ(messages.size(), 3U);
+  EXPECT_EQ(messages[0], "会员卡被禁用！卡号：88001234，持卡人：王芳");
+  EXPECT_THAT(messages[1], testing::StartsWith("充值没有完成，卡内余额没有改变："));
+}
+
 TEST_F(cardStoredTest, AmountsWaitForACardAndAHeldEnterIsOnePress) {
   hands.press("cardStored", {Qt::Key_Tab, Qt::Key_5});
   hands.confirm(messages);

@@ -6,7 +6,7 @@
 #include "TillFixture.h"
 #include "base/NumberText.h"
 #include "checkout/Returns.h"
-#include "members/TopUp.h"
+#include "saleslib/TopUp.h"
 
 /// A cashier who does anything in any order, at the till and in the model at once. Every step takes
 /// its figures from the random numbers of its sequence.

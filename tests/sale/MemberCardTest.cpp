@@ -5,6 +5,8 @@ class MemberCardTest : public TillFixture {
   MemberCardTest() {
     pos.gConn->runScript(R"(
       insert into member (bh, name, phone, discount, enabled, total_spent, join_date) values
+        ('6', '郑六', '', 1, 1, 0, '2026-03-04 10:00:00'),
+        ('?6', '吴六', '', 1, 1, 0, '2026-03-04 10:00:00'),
         ('8002', '李明', '13800000001', 0.9, 1, 12.5, '2026-03-04 10:00:00'),
         ('8003', '赵云', '13800000002', 1, 0, 0, '2026-03-04 10:00:00'),
         ('13800000001', '钱多', '', 1, 1, 0, '2026-03-04 10:00:00'),
@@ -33,6 +35,7 @@ TEST_F(MemberCardTest, findsByCardThenByTelephoneAndSaysWhyNot) {
     const char *member, *message;
   } cases[] = {
       {" ;８００２? ", -1, "李明", ""},
+      {"?6", -1, "吴六", ""},           // as typed before what it is cleaned to
       {"13800000001", -1, "钱多", ""},  // a card's number wins over a telephone number
       {"13800000003", 0, "孙丽", ""},
       {"13800000003", -1, "", ""},
@@ -50,7 +53,7 @@ TEST_F(MemberCardTest, findsByCardThenByTelephoneAndSaysWhyNot) {
     EXPECT_EQ(till.said(), each.message);
     EXPECT_EQ(till.memberInfo.empty(), *each.member == '\0');
   }
-  EXPECT_EQ(till.offered, (QStringList{"8004  孙丽", "8005  孙强"}));
+  EXPECT_EQ(till.offered, (QStringList{"8004  孙丽", "8005  孙强（已禁用）"}));
 }
 
 TEST_F(MemberCardTest, theInformationLineGoesWithTheMembersBill) {

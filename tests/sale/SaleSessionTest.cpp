@@ -11,6 +11,19 @@ TEST_F(SaleSessionTest, openingVoidsWhatAnEarlierRunOfThisOperatorLeftBehind) {
   EXPECT_EQ(stored("group_concat(id) as v from sell"), "2,3");
 }
 
+TEST_F(SaleSessionTest, openingNamesATopUpWithoutItsBalanceOnce) {
+  pos.gConn->runScript(
+      "insert into cardStored (cardbh, inMoney, addmoney, commerce, bz, complete) values"
+      " ('8001', 90, 100, 150, '', 0), ('8002', 1, 1, 1, '', 1)");
+  open();
+  EXPECT_EQ(till.said(),
+            "以下充值没有记入卡内，请核对后重新充值：\n"
+            "卡号 8001，付款 90.00，充值 100.00");
+  press(kEsc);
+  open();
+  EXPECT_EQ(till.said(), "");
+}
+
 TEST_F(SaleSessionTest, aClockBehindTheLastBillEndsTheProgram) {
   open();
   enter(kWater);

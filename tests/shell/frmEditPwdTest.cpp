@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <QLineEdit>
+#include <QPushButton>
 
 #include "Hands.h"
 #include "TestTill.h"
@@ -24,7 +25,7 @@ class frmEditPwdTest : public testing::Test {
   Hands hands_;
 };
 
-TEST_F(frmEditPwdTest, AWrongOldPasswordIsSaidAndTheRightOneChangesItAndLogsEverybodyOff) {
+TEST_F(frmEditPwdTest, WhatFailsIsSaidAndTheRightPasswordChangesItAndLogsEverybodyOff) {
   till_.pos.gOperator = std::make_shared<ClsOperator>();
   till_.pos.gOperator->Init(*till_.pos.gConn, 1);
   hands_.type("frmEditPwd", "3").press("frmEditPwd", {Qt::Key_Return});
@@ -40,8 +41,17 @@ TEST_F(frmEditPwdTest, AWrongOldPasswordIsSaidAndTheRightOneChangesItAndLogsEver
     Hands::pressNow(Qt::Key_Space);
   });
   hands_.at("frmEditPwd", [&](QWidget&) {
-    dialog_.findChild<QLineEdit*>("txtPassword")->setText("333");
+    QTest::keyClicks(dialog_.focusWidget(), "333");  // in place of the wrong one
+    till_.pos.gConn->runScript(
+        "create trigger broken before update on operators begin select raise(abort, 'disk'); end");
     Hands::pressNow(Qt::Key_Return);
+    Hands::pressNow(Qt::Key_Return);
+  });
+  hands_.press("frmMsg", {Qt::Key_Space});
+  hands_.at("frmEditPwd", [&](QWidget&) {
+    EXPECT_EQ(till_.pos.gOperator->Id(), 1) << "who is at the till stays there";
+    till_.pos.gConn->runScript("drop trigger broken");
+    dialog_.findChild<QPushButton*>("cmdOk")->click();
   });
   EXPECT_EQ(dialog_.exec(), QDialog::Accepted);
   EXPECT_TRUE(passwordOf3Is("新 '\""));

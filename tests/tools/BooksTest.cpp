@@ -40,8 +40,12 @@ TEST_F(Books, AreRightWithWhatTheTillWritesAndWhileItWrites) {
               HasSubstr("账目正确：单据 2 张（其中未结 1 张），商品行 3 行，退货 1 笔，库存 1 条"));
   till->run("rollback");
   till->run("update sell set paid = 1 where id = 2");
+  till->run(
+      "insert into cardStored (cardbh, inMoney, addmoney, commerce) values ('8001', 90, 100, 150)");
   EXPECT_EQ(owner.run({"check", owner.shop}), 0);
   EXPECT_THAT(owner.out, HasSubstr("有 1 张单据已收款、还没存完"));
+  EXPECT_THAT(owner.out,
+              HasSubstr("充值 1 没有完成，卡内余额没有改变：卡号 8001，付款 90.00，充值 100.00"));
 }
 
 TEST_F(Books, NameEachFault) {

@@ -1,0 +1,20 @@
+#include "members/TopUpSlip.h"
+
+#include "saleslib/ClsSysParam.h"
+
+PageDocument topUpSlip(const ClsSysParam& shop, int paperModel, const SlipTexts& texts) {
+  PageDocument slip;
+  slip.name = "充值单";
+  slip.paperWidthMm = paperModel == 1 ? 80 : 58;
+  int y = 0;
+  for (const std::string& line :
+       {" " + shop.ShopName() + "充值单  ", " 卡号: " + texts.cardNumber + "   ",
+        " 充值前卡内余额: " + texts.balanceBefore + " ", " 付款金额: " + texts.paid + " ",
+        " 充值金额: " + texts.credited + " ", " 充值后卡内余额: " + texts.balanceAfter + " ",
+        std::string(), std::string(40, '_'), shop.ReceiptText1(), shop.ReceiptText2(),
+        shop.ReceiptText3()}) {
+    slip.texts.push_back({0, y, line});
+    y += slip.lineHeight();
+  }
+  return slip;
+}
