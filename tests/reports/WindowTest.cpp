@@ -142,22 +142,43 @@ TEST_F(frmSearchTest, WhatCannotBeSearchedOrWrittenIsSaid) {
   type("numberSerch", "eins");
   press("numberSerch");
   EXPECT_EQ(rows(*form_), 2) << "the list stays";
-  hands.at("dlgExport", [](QWidget& dialog) {
-    auto* edit = dialog.findChild<QLineEdit*>("fileNameEdit");
-    edit->setText("/proc/found.csv");
-    QTest::keyClick(edit, Key_Return);
-  });
-  hands.at("messageBox", [](QWidget& box) {
-    EXPECT_TRUE(boxText(box).contains("/proc/found.csv"));
-    Hands::pressNow(Key_Return);
-  });
-  press("Command1");
   form_->findChild<QLineEdit*>("numberSerch")->clear();
   press("DtBegin", Key_Up);
   answer(hands, "起止时间不对！");
   press("cmdSearch");
   EXPECT_EQ(form_->focusWidget()->objectName(), "Dtfinish");
   ASSERT_TRUE(showsRows(1)) << "an inverted period finds nothing";
+}
+
+TEST_F(frmSearchTest, DatesAndTimesAreTakenAsTypedAndImpossibleOnesSaid) {
+  shop_.sell(1, "2026-11-21 07:00:00", "A1", 2, "2.5", "5");
+  shop_.sell(2, "2026-11-22 08:30:01", "A1", 2, "2.5", "5");
+  open();
+  const auto typeNow = [&](const char* text) { QTest::keyClicks(form_->focusWidget(), text); };
+  tabTo(*form_, "DTPBeginTime");
+  typeNow("08:30:01");
+  Hands::pressNow(Key_Return);
+  ASSERT_TRUE(showsRows(1));
+  typeNow("083000");
+  Hands::pressNow(Key_Return);
+  ASSERT_TRUE(showsRows(2)) << "a second typing is not taken";
+  tabTo(*form_, "DtBegin");
+  typeNow("2026-11-21");
+  Hands::pressNow(Key_Tab);
+  EXPECT_EQ(form_->focusWidget()->objectName(), "DTPBeginTime");
+  typeNow("6.59");
+  Hands::pressNow(Key_Return);
+  ASSERT_TRUE(showsRows(3));
+  Hands hands;
+  for (const Qt::Key leaving : {Key_Tab, Key_Return}) {
+    typeNow("24:00");
+    answer(hands, "没有“24:00”这个时间！请按 08:30:00 或 083000 的样子输入。");
+    Hands::pressNow(leaving);
+    ASSERT_TRUE(QTest::qWaitFor(
+        [&] { return QApplication::activeModalWidget() == form_.get() && hands.idle(); }));
+    EXPECT_EQ(form_->focusWidget()->objectName(), "DTPBeginTime");
+  }
+  EXPECT_EQ(rows(*form_), 3) << "searched all the same";
 }
 
 TEST_F(frmSearchTest, AStoppedQueryLeavesTheListAsItWas) {
