@@ -9,6 +9,7 @@
 #include <QRadioButton>
 #include <algorithm>
 
+#include "reports/LastBill.h"
 #include "shell/DateField.h"
 #include "shell/TimeField.h"
 
@@ -72,7 +73,7 @@ SearchPanel::SearchPanel(QWidget* parent) : QFrame(parent) {
                          {billCaption},
                          {numberSerch, 2},
                          {Combo1, 3}}));
-  layout->addLayout(row({{cmdSearch}, {Command1}, {Command2}, {Command3}, {Command4}}));
+  layout->addLayout(row({{cmdSearch}, {Command1}, {Command2}, {Command3}, {cmdLast}, {Command4}}));
   layout->addLayout(row({{lblState, 2}, {prgState, 1}}));
 }
 
@@ -101,6 +102,7 @@ void SearchPanel::makeButtons() {
   Command1 = named(new QPushButton(tr("导出excel(&E)")), "Command1");
   Command2 = named(new QPushButton(tr("用小票打印报表(&R)")), "Command2");
   Command3 = named(new QPushButton(tr("补打小票(&P)")), "Command3");
+  cmdLast = named(new QPushButton(tr("补打上一单(&L)")), "cmdLast");
   Command4 = named(new QPushButton(tr("退出(&X)")), "Command4");
   lblState = label("lblState", {});
   lblState->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);  // pushes no button
@@ -139,6 +141,17 @@ SearchCriteria SearchPanel::criteria() const {
   wanted.billNo = numberSerch->text().toStdString();
   wanted.category = Combo1->currentText().toStdString();
   return wanted;
+}
+
+// A line is found when it is later than the start, which may be midnight.
+void SearchPanel::lookFor(const LastBill& bill) {
+  DtBegin->setDate(plusDays(bill.firstDay, -1));
+  DTPBeginTime->setTime(23, 59, 59);
+  Dtfinish->setDate(bill.lastDay);
+  DtfinishTime->setTime(23, 59, 59);
+  Option1->setChecked(true);
+  zjmtm->clear();
+  numberSerch->setText(QString::number(bill.number));
 }
 
 void SearchPanel::showWork(const QString& what, int done, int all) {

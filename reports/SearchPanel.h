@@ -12,6 +12,7 @@ class QProgressBar;
 class QPushButton;
 class QRadioButton;
 class TimeField;
+struct LastBill;
 
 /// What stands above the list of the sales query: the criteria, the buttons, and what is going on.
 class SearchPanel : public QFrame {
@@ -27,6 +28,8 @@ class SearchPanel : public QFrame {
   DateTime end() const;
   /// As typed; an empty period is the day from its start on.
   SearchCriteria criteria() const;
+  /// Criteria that find this bill.
+  void lookFor(const LastBill& bill);
 
   /// Tells that something goes on; `all` 0: nobody knows how much there is to do.
   void showWork(const QString& what, int done, int all);
@@ -46,6 +49,7 @@ class SearchPanel : public QFrame {
   QPushButton* Command1;  ///< export
   QPushButton* Command2;  ///< report
   QPushButton* Command3;  ///< reprint
+  QPushButton* cmdLast;   ///< reprint of the last bill
   QPushButton* Command4;  ///< exit
   QLabel* lblState;
   QProgressBar* prgState;

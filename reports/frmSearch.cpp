@@ -5,6 +5,7 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <algorithm>
+#include <utility>
 
 #include "app/posMod.h"
 #include "base/NumberText.h"
@@ -14,6 +15,7 @@
 #include "platform/VirtualKey.h"
 #include "reports/ExportName.h"
 #include "reports/KeyPreview.h"
+#include "reports/LastBill.h"
 #include "reports/LineQuery.h"
 #include "reports/QueryPrints.h"
 #include "reports/ResultList.h"
@@ -68,6 +70,7 @@ void frmSearch::build() {
   connect(Frame5_->Command1, &QPushButton::clicked, this, &frmSearch::exportList);
   connect(Frame5_->Command2, &QPushButton::clicked, this, &frmSearch::printReport);
   connect(Frame5_->Command3, &QPushButton::clicked, this, &frmSearch::printReceipt);
+  connect(Frame5_->cmdLast, &QPushButton::clicked, this, &frmSearch::reprintLastBill);
   connect(Frame5_->Command4, &QPushButton::clicked, this, &QDialog::close);
 }
 
@@ -152,6 +155,7 @@ void frmSearch::checkQuantityLimit() {
 }
 
 void frmSearch::search() {
+  printWhenFound_ = false;
   if (export_.isRunning() || !Frame5_->check()) return;
   stopQuery();
   const SearchCriteria wanted = Frame5_->criteria();
@@ -177,6 +181,7 @@ void frmSearch::showAll() {
   ListView1_->complete();
   found_ = asked_;
   Frame5_->showIdle(tr("共 %L1 行。在列表中按空格键排序。").arg(ListView1_->lineCount()));
+  if (std::exchange(printWhenFound_, false)) printReceipt();
 }
 
 void frmSearch::stopQuery() {
@@ -217,6 +222,20 @@ void frmSearch::printReceipt() {
   if (!hasList(tr("没有可打印的内容！"))) return;
   print(reprintPage(*ListView1_->list(), Frame5_->numberSerch->text().toStdString(), pos_.gSysParam,
                     pos_.clock()));
+}
+
+// The query shows what is printed, so that the cashier sees which bill it was.
+void frmSearch::reprintLastBill() {
+  if (export_.isRunning()) return;
+  try {
+    const std::optional<LastBill> bill = lastBill(*pos_.gConn);
+    if (!bill) return messageBox(this, tr("还没有可以补打的单据！"));
+    Frame5_->lookFor(*bill);
+    search();
+    printWhenFound_ = true;
+  } catch (const Failure& failure) {
+    messageBox(this, QString::fromUtf8(failure.what()));
+  }
 }
 
 void frmSearch::print(const PageDocument& page) {

@@ -19,7 +19,7 @@ struct SoldPage;
 /// A long query or export runs beside the form, which says so; the mapped Esc key stops it and
 /// leaves the list as it was, and else closes the form. The mapped Enter key presses the button
 /// that has the focus, or searches from the criteria. In the list the blank key sorts by the
-/// current column.
+/// current column. A button prints the last bill's receipt again at once.
 class frmSearch : public QDialog {
   Q_OBJECT
 
@@ -50,6 +50,7 @@ class frmSearch : public QDialog {
   bool hasList(const QString& otherwise);
   void printReport();
   void printReceipt();
+  void reprintLastBill();
   void print(const PageDocument& page);
   void exportList();
   void exportTo(const std::filesystem::path& file);
@@ -61,4 +62,5 @@ class frmSearch : public QDialog {
   ExportRun export_;
   SearchCriteria asked_;         ///< by the query that runs
   SearchCriteria found_;         ///< by the query that filled the list
+  bool printWhenFound_ = false;  ///< a receipt of what the running query finds
 };

@@ -8,6 +8,7 @@
 #include "Hands.h"
 #include "TestShop.h"
 #include "base/Gbk.h"
+#include "reports/ResultColumns.h"
 #include "reports/frmCount.h"
 #include "reports/frmSearch.h"
 
@@ -148,6 +149,21 @@ TEST_F(frmSearchTest, WhatCannotBeSearchedOrWrittenIsSaid) {
   press("cmdSearch");
   EXPECT_EQ(form_->focusWidget()->objectName(), "Dtfinish");
   ASSERT_TRUE(showsRows(1)) << "an inverted period finds nothing";
+}
+
+TEST_F(frmSearchTest, TheLastBillIsPrintedAgainByOneKeyWithItsAmountsInSight) {
+  shop_.sell(2, "2026-11-20 00:00:00", "A1", 2, "2.5", "5");
+  shop_.sell(3, "2026-11-22 09:00:00", "A1", 2, "2.5", "5");
+  shop_.settle(2, "2026-11-20 00:00:00", 2, "5");
+  shop_.store().run("update sellProducts set name = ?", std::string(60, 'W'));
+  open();
+  form_->resize(1000, 740);
+  QTest::keyClick(form_.get(), Key_L, Qt::AltModifier);
+  ASSERT_TRUE(showsRows(2));
+  EXPECT_EQ(shop_.papersPrinted(), 1u);
+  EXPECT_EQ(form_->findChild<QLineEdit*>("numberSerch")->text() + at(0, 8), "25");
+  const auto* list = form_->findChild<QTableView*>("ListView1");
+  EXPECT_LE(list->columnViewportPosition(kColumnUnitCost), list->viewport()->width());
 }
 
 TEST_F(frmSearchTest, DatesAndTimesAreTakenAsTypedAndImpossibleOnesSaid) {
