@@ -8,12 +8,14 @@
 #include <utility>
 
 #include "app/posMod.h"
+#include "base/Failure.h"
 #include "base/NumberText.h"
 #include "platform/KeyName.h"
 #include "platform/PortError.h"
 #include "platform/Twips.h"
 #include "platform/VirtualKey.h"
-#include "reports/ExportName.h"
+#include "reports/ExportDialog.h"
+#include "reports/ExportFolder.h"
 #include "reports/KeyPreview.h"
 #include "reports/LastBill.h"
 #include "reports/LineQuery.h"
@@ -249,8 +251,8 @@ void frmSearch::print(const PageDocument& page) {
 void frmSearch::exportList() {
   if (!hasList(tr("没有可导出的内容！"))) return;
   const QString today = QString::fromStdString(dateText(pos_.clock().date));
-  const QString file = askExportName(this, tr("商品查询 %1.xlsx").arg(today));
-  if (!file.isEmpty()) exportTo(file.toStdString());
+  ExportDialog dialog(pos_.gKeyBoard, exportFolder(pos_), tr("商品查询 %1").arg(today), this);
+  if (dialog.exec() == QDialog::Accepted) exportTo(dialog.file());
 }
 
 void frmSearch::exportTo(const std::filesystem::path& file) {
@@ -263,10 +265,11 @@ void frmSearch::exportTo(const std::filesystem::path& file) {
   };
   show(0);
   try {
+    makeExportFolder(file.parent_path());
     const bool isWhole = export_.write(file, {above, *list}, show);
     const QString shown = QString::fromStdString(file.string());
     Frame5_->showIdle(isWhole ? tr("已导出 %1").arg(shown) : tr("导出已停止"));
-  } catch (const ExportError& error) {
+  } catch (const Failure& error) {
     Frame5_->showIdle({});
     messageBox(this, QString::fromUtf8(error.what()));
   }

@@ -197,6 +197,36 @@ TEST_F(frmSearchTest, DatesAndTimesAreTakenAsTypedAndImpossibleOnesSaid) {
   EXPECT_EQ(rows(*form_), 3) << "searched all the same";
 }
 
+TEST_F(frmSearchTest, ExportsGoToANameInTheOwnersFolderAndNowhereElse) {
+  open();
+  press("zjmtm");
+  ASSERT_TRUE(showsRows(1));
+  Hands hands;
+  const auto name = [&](const QString& text) {
+    hands.type("dlgExport", text).press("dlgExport", {Key_Return});
+  };
+  for (const char* refused : {"../x", "/tmp/x", "..", "data\\POS.mdb", " "}) {
+    name(refused);
+    hands.press("messageBox", {Key_Return});
+  }
+  name("x");
+  press("Command1");
+  const auto file = shop_.pos().folder / "Exports" / "x.xlsx";
+  EXPECT_TRUE(exists(file));
+  EXPECT_TRUE(state().contains("x.xlsx"));
+  std::ofstream(file) << "old";
+  name("x");
+  answer(hands, "文件已经存在，要覆盖吗？\nx.xlsx");
+  name("x.csv");
+  press("Command1");
+  EXPECT_EQ(file_size(file), 3u) << "replaced without a question";
+  EXPECT_TRUE(exists(shop_.pos().folder / "Exports" / "x.csv"));
+  shop_.pos().configIni.write("Till", "ExportFolder", "/proc/none");
+  name("x");
+  answer(hands, "不能新建导出文件夹 /proc/none，请检查设置和权限。");
+  press("Command1");
+}
+
 TEST_F(frmSearchTest, AStoppedQueryLeavesTheListAsItWas) {
   shop_.sell(1, "2026-11-22 09:00:00", "C3", 2, "2.5", "5");
   open();
