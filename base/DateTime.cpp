@@ -6,6 +6,7 @@
 #include <cstdint>
 #include <cstdio>
 #include <ctime>
+#include <vector>
 
 #include "base/Failure.h"
 #include "base/Text.h"
@@ -58,6 +59,10 @@ bool take(std::string_view& text, char wanted) {
   return true;
 }
 
+bool isDate(const Date& date) {
+  return date.year >= kFirstDate.year && civil(date).ok();
+}
+
 std::optional<Date> takeDate(std::string_view& text) {
   const auto year = takeNumber(text, 4, 4);
   const char separator = text.starts_with('/') ? '/' : '-';
@@ -67,8 +72,29 @@ std::optional<Date> takeDate(std::string_view& text) {
   const auto day = takeNumber(text, 1, 2);
   if (!day) return std::nullopt;
   const Date date{*year, *month, *day};
-  if (date.year < kFirstDate.year || !civil(date).ok()) return std::nullopt;
+  if (!isDate(date)) return std::nullopt;
   return date;
+}
+
+bool isTime(const DateTime& time) {
+  return time.hour < 24 && time.minute < 60 && time.second < 60;
+}
+
+/// The numbers of a typed date or time, which are divided by any of the separators. Nothing when
+/// there is anything else.
+std::optional<std::vector<int>> typedParts(std::string_view text, std::string_view separators) {
+  std::vector<int> parts;
+  while (const auto part = takeNumber(text, 1, 4)) {
+    parts.push_back(*part);
+    if (text.empty()) return parts;
+    if (separators.find(text.front()) == std::string_view::npos) return std::nullopt;
+    text.remove_prefix(1);
+  }
+  return std::nullopt;
+}
+
+bool isDigits(std::string_view text) {
+  return text.find_first_not_of("0123456789") == std::string_view::npos;
 }
 
 /// "9:05" or "9:05:03", to the end of the text.
@@ -81,7 +107,7 @@ bool readTime(std::string_view text, DateTime& into) {
   into.hour = *hour;
   into.minute = *minute;
   into.second = *second;
-  return *hour < 24 && *minute < 60 && *second < 60;
+  return isTime(into);
 }
 
 }  // namespace
@@ -133,6 +159,32 @@ std::optional<DateTime> parseDateTime(std::string_view text) {
   if (rest.empty()) return result;
   if (!take(rest, ' ') || !readTime(rest, result)) return std::nullopt;
   return result;
+}
+
+std::optional<Date> parseTypedDate(std::string_view text, int year) {
+  constexpr int kFourDigits = 1000;
+  std::string folded = trimmed(halfWidth(text));
+  const bool isUndivided = isDigits(folded);
+  if (isUndivided && folded.size() == 8) folded.insert(6, "-").insert(4, "-");
+  if (isUndivided && folded.size() == 4) folded.insert(2, "-");
+  std::optional<std::vector<int>> parts = typedParts(folded, "-/.");
+  if (!parts) return std::nullopt;
+  if (parts->size() == 2) parts->insert(parts->begin(), year);
+  if (parts->size() != 3 || parts->front() < kFourDigits) return std::nullopt;
+  const Date date{parts->at(0), parts->at(1), parts->at(2)};
+  return isDate(date) ? std::optional(date) : std::nullopt;
+}
+
+std::optional<DateTime> parseTypedTime(std::string_view text, const Date& date) {
+  std::string folded = trimmed(halfWidth(text));
+  if (isDigits(folded)) {
+    for (std::size_t at = folded.size(); at > 2;) folded.insert(at -= 2, ":");
+  }
+  std::optional<std::vector<int>> parts = typedParts(folded, ":.");
+  if (!parts || parts->size() > 3) return std::nullopt;
+  parts->resize(3, 0);
+  const DateTime time{date, parts->at(0), parts->at(1), parts->at(2)};
+  return isTime(time) ? std::optional(time) : std::nullopt;
 }
 
 std::string accessLiteral(const DateTime& value) {

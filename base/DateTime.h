@@ -49,6 +49,15 @@ std::string storedText(const DateTime& value);
 /// exist.
 std::optional<DateTime> parseDateTime(std::string_view text);
 
+/// Reads a date as people type it: year, month and day divided by "-", "/" or ".", or as eight
+/// digits; without the year ("11-22", "1122") it is one of `year`. Blanks around and full-width
+/// characters are allowed. Nothing for any other text or a date that does not exist.
+std::optional<Date> parseTypedDate(std::string_view text, int year);
+/// Reads a time as people type it, the same way: hour, minute and second divided by ":" or "." (the
+/// numeric pad has no colon), or as two digits each; seconds and minutes may be left out. The time
+/// is one of `date`.
+std::optional<DateTime> parseTypedTime(std::string_view text, const Date& date);
+
 /// Access date literal: "#2026-11-22 09:05:03#", or "#2026-11-22#" at 00:00:00.
 std::string accessLiteral(const DateTime& value);
 /// Reads what accessLiteral writes, the "#" signs included.

@@ -1,4 +1,3 @@
-#include <QDateEdit>
 #include <QTableView>
 #include <QTest>
 #include <string>
@@ -12,6 +11,7 @@
 #include "reports/ResultModel.h"
 #include "reports/frmCount.h"
 #include "reports/frmSearch.h"
+#include "shell/DateField.h"
 
 namespace {
 
@@ -24,10 +24,6 @@ constexpr const char* kSoldLines =
     " sellproducts.bm = spda.f_spbm where insert_date > ? and insert_date <= ?"
     " order by sellId, insert_Date";
 
-QDate qDate(const Date& day) {
-  return {day.year, day.month, day.day};
-}
-
 /// The sales query's window on a shop.
 class SearchWindow {
  public:
@@ -37,8 +33,8 @@ class SearchWindow {
   }
 
   void setPeriod(const Date& first, const Date& last) {
-    form_.findChild<QDateEdit*>("DtBegin")->setDate(qDate(first));
-    form_.findChild<QDateEdit*>("Dtfinish")->setDate(qDate(last));
+    form_.findChild<DateField*>("DtBegin")->setDate(first);
+    form_.findChild<DateField*>("Dtfinish")->setDate(last);
     QCoreApplication::processEvents();
   }
   /// Starts the query and waits until its first lines, or all of them, have been painted.

@@ -25,6 +25,7 @@ void DemoDay::setUpDevices(const char* receiptPort) {
       {"COM1", display_.path()},
       {"USB", (out_ / "receipts").string()}};
   for (const auto& [name, path] : ports) settings.write("Ports", name, path);
+  settings.write("Till", "ExportFolder", out_.string());
   settings.write("POS", "PPort", receiptPort);
   settings.write("POS", "PModel", "1");
   settings.write("POS", "printAmount", "直接打印1联");

@@ -225,7 +225,7 @@ void DemoDay::exportList(TillDriver& till, const char* file) {
   till.key("Space");
   till.waitFor("dlgExport");
   till.key("Ctrl+A");
-  till.type((out_ / file).string());
+  till.type(file);
   shot(till, "export");
   till.key("Return");
   till.waitFor("frmSearch");

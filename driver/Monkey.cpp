@@ -1,10 +1,7 @@
 #include "Monkey.h"
 
 #include <QApplication>
-#include <QDir>
-#include <QFileDialog>
 #include <QLabel>
-#include <QLineEdit>
 #include <QTest>
 #include <QTimer>
 #include <QWindow>
@@ -100,7 +97,6 @@ void Monkey::start() {
 void Monkey::next() {
   if (ended_) return;
   QTimer::singleShot(0, this, &Monkey::next);
-  keepFilesHere();
   if (!queue_.empty()) {
     const auto deliver = std::move(queue_.front());
     queue_.pop_front();
@@ -116,15 +112,6 @@ void Monkey::next() {
 void Monkey::end(const QString& line) {
   ended_ = true;
   tell_(line);
-}
-
-void Monkey::keepFilesHere() {
-  auto* dialog = qobject_cast<QFileDialog*>(QApplication::activeWindow());
-  if (dialog == nullptr) return;
-  const QString here = QDir::currentPath();
-  if (!dialog->directory().canonicalPath().startsWith(here)) dialog->setDirectory(here);
-  auto* name = dialog->findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
-  if (name != nullptr && name->text().contains(QLatin1Char('/'))) name->clear();
 }
 
 bool Monkey::atHome() const {

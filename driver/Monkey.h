@@ -13,7 +13,7 @@ class QWindow;
 
 /// Works the till without much sense: random keys, clicks and texts in whatever window is in front,
 /// at times with the wish to get home to the main menu. The same seed does the same, as long as the
-/// till does. File dialogs are kept in the current folder.
+/// till does.
 class Monkey : public QObject {
  public:
   using Tell = std::function<void(const QString&)>;
@@ -27,7 +27,6 @@ class Monkey : public QObject {
  private:
   void next();
   void end(const QString& line);
-  void keepFilesHere();
   void playAround();
   void goHome();
   void leaveByMenu();

@@ -1,7 +1,6 @@
 #include "members/frmFMember.h"
 
 #include <QComboBox>
-#include <QDateEdit>
 #include <QGridLayout>
 #include <QHBoxLayout>
 #include <QLabel>
@@ -17,6 +16,7 @@
 #include "base/Text.h"
 #include "saleslib/CardNumber.h"
 #include "saleslib/ClsMember.h"
+#include "shell/DateField.h"
 #include "shell/Modal.h"
 
 namespace {
@@ -49,7 +49,7 @@ frmFMember::frmFMember(posMod& pos, QWidget* parent)
       txtPhone_(field("txtPhone")),
       txtOther_(field("txtOther")),
       zklb2_(made("zklb2", new QComboBox(this))),
-      DTPicker1_(made("DTPicker1", new QDateEdit(this))),
+      DTPicker1_(made("DTPicker1", new DateField(this))),
       card_(made("card", new QLineEdit("0", this))),
       password_(field("password")),
       lblStatus_(label("lblStatus", {})),
@@ -72,12 +72,7 @@ void frmFMember::init() {
 void frmFMember::setUpControls() {
   zklb2_->setEditable(true);
   zklb2_->setInsertPolicy(QComboBox::NoInsert);
-  DTPicker1_->setDisplayFormat("yyyy-MM-dd");
-  DTPicker1_->setButtonSymbols(QAbstractSpinBox::NoButtons);
-  // Its earliest date shows as nothing: a member's birthday is written, but not read back.
-  DTPicker1_->setSpecialValueText(" ");
-  const Date today = pos_.clock().date;
-  DTPicker1_->setDate(QDate(today.year, today.month, today.day));
+  DTPicker1_->setDate(pos_.clock().date);
   password_->setEchoMode(QLineEdit::Password);
   password_->setContextMenuPolicy(Qt::NoContextMenu);
   lblStatus_->setTextFormat(Qt::PlainText);
@@ -134,8 +129,11 @@ void frmFMember::chainControls() {
       {txtName_, txtOld_},     {txtOld_, OptBoy_},          {OptBoy_, txtAddress_},
       {OptGirl_, txtAddress_}, {txtAddress_, txtPostcode_}, {txtPostcode_, txtPhone_},
       {txtPhone_, txtOther_},  {txtOther_, cmdOk_},         {zklb2_, DTPicker1_},
-      {DTPicker1_, card_},     {card_, password_},          {password_, cmdOk_}};
+      {card_, password_},      {password_, cmdOk_}};
   for (const auto& [from, to] : steps) enterLeads(from, to);
+  onEnter(DTPicker1_, [this] {
+    if (DTPicker1_->check()) focusWhole(card_);
+  });
 }
 
 void frmFMember::enableEntry(bool enabled) {
@@ -184,8 +182,8 @@ void frmFMember::showMember() {
   txtPhone_->setText(shown(member_->Phone()));
   txtOther_->setText(shown(member_->Other()));
   zklb2_->setEditText(shown(generalNumber(member_->Discount())));
-  DTPicker1_->setDate(DTPicker1_->minimumDate());
-  for (QLineEdit* edit : {card_, password_}) edit->clear();
+  // Written for a new member, but not read back.
+  for (QLineEdit* edit : {card_, password_, static_cast<QLineEdit*>(DTPicker1_)}) edit->clear();
   cmdCancel_->setFocus();
   enableEntry(false);
   txtBh_->setEnabled(false);
@@ -222,12 +220,12 @@ void frmFMember::store() {
     report(wrong);
     return;
   }
+  if (!DTPicker1_->check()) return;
   member_->setName(textOf(txtName_));
   member_->setOther(textOf(txtOther_));
   member_->setPhone(halfWidth(textOf(txtPhone_)));
   member_->setTotalSpent(Currency());
-  const QDate birthday = DTPicker1_->date();
-  member_->setBirthday(Date{birthday.year(), birthday.month(), birthday.day()});
+  member_->setBirthday(DTPicker1_->date());
   if (const auto rate = classRate()) member_->setDiscount(*rate);
   member_->setEnabled(true);
   member_->setPassword(textOf(password_));

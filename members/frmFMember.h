@@ -7,9 +7,9 @@
 #include "shell/KeyDrivenDialog.h"
 
 class ClsMember;
+class DateField;
 class posMod;
 class QComboBox;
-class QDateEdit;
 class QLayout;
 class QRadioButton;
 
@@ -52,7 +52,7 @@ class frmFMember : public KeyDrivenDialog {
   QLineEdit* txtPhone_;
   QLineEdit* txtOther_;
   QComboBox* zklb2_;
-  QDateEdit* DTPicker1_;
+  DateField* DTPicker1_;
   QLineEdit* card_;
   QLineEdit* password_;
   QLabel* lblStatus_;

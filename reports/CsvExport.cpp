@@ -12,8 +12,11 @@ namespace {
 constexpr const char* kByteOrderMark = "\xEF\xBB\xBF";
 constexpr const char* kLineEnd = "\r\n";
 
+/// In quotes. A text that a spreadsheet would calculate, and so could be made to run, gets the sign
+/// before it that makes it a text there.
 std::string quotedField(const std::string& text) {
-  return '"' + replaced(text, "\"", "\"\"") + '"';
+  const bool isFormula = text.find_first_of("=+-@\t\r\n") == 0;
+  return (isFormula ? "\"'" : "\"") + replaced(text, "\"", "\"\"") + '"';
 }
 
 std::string headings() {

@@ -4,7 +4,8 @@
 
 class UnfinishedFile;
 
-/// The table as CSV (RFC 4180) in UTF-8 with a byte order mark. Texts are quoted and otherwise as
-/// they are; numbers and times are bare. False when it was stopped. Throws ExportError.
+/// The table as CSV (RFC 4180) in UTF-8 with a byte order mark. Texts are quoted, and those that
+/// begin as a formula made none; numbers and times are bare. False when it was stopped. Throws
+/// ExportError.
 [[nodiscard]] bool writeCsv(const UnfinishedFile& file, const ExportTable& table,
                             const ExportProgress& goOn);

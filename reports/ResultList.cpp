@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "base/Discount.h"
+#include "base/Failure.h"
 #include "base/NumberText.h"
 #include "base/Text.h"
 
@@ -13,10 +14,28 @@ namespace {
 
 /// Costs and profits are nobody's business at the till.
 constexpr const char* kMasked = "***";
+constexpr const char* kTooLarge = "超出范围";
 
 template <class Number>
 std::string shown(const std::optional<Number>& number) {
   return number ? generalNumber(*number) : std::string();
+}
+
+/// Adds to a sum; one that does not fit is nothing from then on.
+void add(std::optional<std::int64_t>& sum, double quantity) {
+  try {
+    if (sum && __builtin_add_overflow(*sum, wholeHalfEven(quantity), &*sum)) sum.reset();
+  } catch (const Overflow&) {
+    sum.reset();
+  }
+}
+
+void add(std::optional<Currency>& sum, Currency money) {
+  try {
+    if (sum) *sum += money;
+  } catch (const Overflow&) {
+    sum.reset();
+  }
 }
 
 std::string SoldGoods::*goodsText(ResultColumn column) {
@@ -40,8 +59,8 @@ std::string SoldGoods::*goodsText(ResultColumn column) {
 
 void ResultList::append(SoldPage page) {
   for (const SoldLine& line : page.lines) {
-    if (line.quantity) totalQuantity_ += wholeHalfEven(*line.quantity);
-    if (line.money) totalMoney_ += *line.money;
+    if (line.quantity) add(totalQuantity_, *line.quantity);
+    if (line.money) add(totalMoney_, *line.money);
     order_.push_back(static_cast<std::uint32_t>(order_.size()));
   }
   lines_.insert(lines_.end(), page.lines.begin(), page.lines.end());
@@ -56,8 +75,9 @@ std::string ResultList::text(std::size_t row, ResultColumn column) const {
   const bool masked = column == kColumnCost || column == kColumnProfit;
   if (isTotals(row)) {
     if (column == kColumnTime) return "合计";
-    if (column == kColumnQuantity) return std::to_string(totalQuantity_);
-    if (column == kColumnMoney) return generalNumber(totalMoney_);
+    if (column == kColumnQuantity)
+      return totalQuantity_ ? std::to_string(*totalQuantity_) : kTooLarge;
+    if (column == kColumnMoney) return totalMoney_ ? generalNumber(*totalMoney_) : kTooLarge;
     return masked ? kMasked : "";
   }
   const SoldLine& found = line(row);

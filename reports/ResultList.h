@@ -2,6 +2,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -13,7 +14,6 @@
 /// lines are there.
 class ResultList {
  public:
-  /// Throws Overflow when the amounts do not fit.
   void append(SoldPage page);
   /// All lines are there: the totals row joins them.
   void complete();
@@ -26,11 +26,13 @@ class ResultList {
   const SoldLine& line(std::size_t row) const { return lines_[order_[row]]; }
   const std::vector<SoldGoods>& goods() const { return goods_; }
 
-  /// Each line's quantity rounded to a whole number, halves to even, a missing one as 0.
-  std::int64_t totalQuantity() const { return totalQuantity_; }
-  Currency totalMoney() const { return totalMoney_; }
+  /// Each line's quantity rounded to a whole number, halves to even, a missing one as 0. Nothing
+  /// when the sum does not fit.
+  std::optional<std::int64_t> totalQuantity() const { return totalQuantity_; }
+  /// Nothing when the sum does not fit.
+  std::optional<Currency> totalMoney() const { return totalMoney_; }
 
-  /// A cell as shown; a missing value is empty.
+  /// A cell as shown; a missing value is empty, a sum that does not fit is said.
   std::string text(std::size_t row, ResultColumn column) const;
 
   /// Sorts the lines: times as times, numbers as numbers, texts without regard to ASCII case; a
@@ -49,6 +51,6 @@ class ResultList {
   std::vector<SoldGoods> goods_;
   std::vector<std::uint32_t> order_;  ///< lines by row
   bool complete_ = false;
-  std::int64_t totalQuantity_ = 0;
-  Currency totalMoney_;
+  std::optional<std::int64_t> totalQuantity_ = 0;
+  std::optional<Currency> totalMoney_ = Currency();
 };

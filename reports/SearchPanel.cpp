@@ -1,15 +1,17 @@
 #include "reports/SearchPanel.h"
 
-#include <QCalendarWidget>
 #include <QComboBox>
-#include <QDateEdit>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
 #include <QProgressBar>
 #include <QPushButton>
 #include <QRadioButton>
-#include <QTimeEdit>
+#include <algorithm>
+
+#include "reports/LastBill.h"
+#include "shell/DateField.h"
+#include "shell/TimeField.h"
 
 namespace {
 
@@ -22,20 +24,11 @@ Control* named(Control* control, const char* name) {
   return control;
 }
 
-QDateEdit* datePicker(const char* name) {
-  auto* picker = named(new QDateEdit, name);
-  picker->setDisplayFormat("yyyy-MM-dd");
-  picker->setDateRange(QDate(1, 1, 1), QDate(9999, 12, 31));
-  picker->setCalendarPopup(true);
-  // Dates are typed in the field. Typed in the calendar they would leak when it is closed on them.
-  picker->calendarWidget()->setDateEditEnabled(false);
-  return picker;
-}
-
-QTimeEdit* timePicker(const char* name, const QTime& time) {
-  auto* picker = named(new QTimeEdit(time), name);
-  picker->setDisplayFormat("HH:mm:ss");
-  return picker;
+/// As wide as its text.
+template <class Field>
+Field* picker(Field* field, const char* name) {
+  field->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+  return named(field, name);
 }
 
 /// A control with its share of the room that is left over.
@@ -69,27 +62,29 @@ SearchPanel::SearchPanel(QWidget* parent) : QFrame(parent) {
   period->addStretch();
   period->addWidget(Option1);
   period->addWidget(Option2);
+  QLabel* billCaption = label("Label5", tr("按单号查询(&N)"));
+  billCaption->setBuddy(numberSerch);
   auto* layout = new QVBoxLayout(this);
   layout->addLayout(period);
   layout->addLayout(row({{label("Label3", tr("助记码/条码"))},
                          {zjmtm, 3},
                          {label("Label4", tr("销售数量<="))},
                          {xssl, 1},
-                         {label("Label5", tr("按单号查询"))},
+                         {billCaption},
                          {numberSerch, 2},
                          {Combo1, 3}}));
-  layout->addLayout(row(
-      {{cmdSearch}, {Command1}, {Command2}, {Command3}, {Command4}, {lblState, 1}, {prgState, 1}}));
+  layout->addLayout(row({{cmdSearch}, {Command1}, {Command2}, {Command3}, {cmdLast}, {Command4}}));
+  layout->addLayout(row({{lblState, 2}, {prgState, 1}}));
 }
 
 void SearchPanel::makeControls() {
-  DtBegin = datePicker("DtBegin");
-  DTPBeginTime = timePicker("DTPBeginTime", QTime(0, 0, 0));
-  Dtfinish = datePicker("Dtfinish");
-  DtfinishTime = timePicker("DtfinishTime", QTime(23, 59, 59));
-  Option1 = named(new QRadioButton(tr("按单品查看")), "Option1");
+  DtBegin = picker(new DateField, "DtBegin");
+  DTPBeginTime = picker(new TimeField(0, 0, 0), "DTPBeginTime");
+  Dtfinish = picker(new DateField, "Dtfinish");
+  DtfinishTime = picker(new TimeField(23, 59, 59), "DtfinishTime");
+  Option1 = named(new QRadioButton(tr("按单品查看(&I)")), "Option1");
   Option1->setChecked(true);
-  Option2 = named(new QRadioButton(tr("按分类查看")), "Option2");
+  Option2 = named(new QRadioButton(tr("按分类查看(&C)")), "Option2");
   zjmtm = named(new QLineEdit, "zjmtm");
   xssl = named(new QLineEdit("0"), "xssl");
   numberSerch = named(new QLineEdit, "numberSerch");
@@ -103,11 +98,12 @@ void SearchPanel::makeControls() {
 }
 
 void SearchPanel::makeButtons() {
-  cmdSearch = named(new QPushButton(tr("查询")), "cmdSearch");
-  Command1 = named(new QPushButton(tr("导出excel")), "Command1");
-  Command2 = named(new QPushButton(tr("用小票打印报表")), "Command2");
-  Command3 = named(new QPushButton(tr("补打小票")), "Command3");
-  Command4 = named(new QPushButton(tr("退出")), "Command4");
+  cmdSearch = named(new QPushButton(tr("查询(&Q)")), "cmdSearch");
+  Command1 = named(new QPushButton(tr("导出excel(&E)")), "Command1");
+  Command2 = named(new QPushButton(tr("用小票打印报表(&R)")), "Command2");
+  Command3 = named(new QPushButton(tr("补打小票(&P)")), "Command3");
+  cmdLast = named(new QPushButton(tr("补打上一单(&L)")), "cmdLast");
+  Command4 = named(new QPushButton(tr("退出(&X)")), "Command4");
   lblState = label("lblState", {});
   lblState->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);  // pushes no button
   prgState = named(new QProgressBar, "prgState");
@@ -119,4 +115,53 @@ QLabel* SearchPanel::label(const char* name, const QString& text) {
   auto* made = named(new QLabel(text), name);
   made->setTextFormat(Qt::PlainText);
   return made;
+}
+
+bool SearchPanel::check() {
+  const std::initializer_list<CheckedField*> fields = {DtBegin, DTPBeginTime, Dtfinish,
+                                                       DtfinishTime};
+  return std::all_of(fields.begin(), fields.end(), [](auto* field) { return field->check(); });
+}
+
+DateTime SearchPanel::start() const {
+  return DTPBeginTime->on(DtBegin->date());
+}
+
+DateTime SearchPanel::end() const {
+  return DtfinishTime->on(Dtfinish->date());
+}
+
+SearchCriteria SearchPanel::criteria() const {
+  SearchCriteria wanted;
+  wanted.start = start();
+  wanted.end = end();
+  if (wanted.start == wanted.end) wanted.end.date = plusDays(wanted.end.date, 1);
+  wanted.byCategory = Option2->isChecked();
+  wanted.code = zjmtm->text().toStdString();
+  wanted.billNo = numberSerch->text().toStdString();
+  wanted.category = Combo1->currentText().toStdString();
+  return wanted;
+}
+
+// A line is found when it is later than the start, which may be midnight.
+void SearchPanel::lookFor(const LastBill& bill) {
+  DtBegin->setDate(plusDays(bill.firstDay, -1));
+  DTPBeginTime->setTime(23, 59, 59);
+  Dtfinish->setDate(bill.lastDay);
+  DtfinishTime->setTime(23, 59, 59);
+  Option1->setChecked(true);
+  zjmtm->clear();
+  numberSerch->setText(QString::number(bill.number));
+}
+
+void SearchPanel::showWork(const QString& what, int done, int all) {
+  lblState->setText(what);
+  prgState->setRange(0, all);
+  prgState->setValue(done);
+  prgState->show();
+}
+
+void SearchPanel::showIdle(const QString& what) {
+  lblState->setText(what);
+  prgState->hide();
 }

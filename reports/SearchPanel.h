@@ -2,14 +2,17 @@
 
 #include <QFrame>
 
+#include "reports/SearchCriteria.h"
+
+class DateField;
 class QComboBox;
-class QDateEdit;
 class QLabel;
 class QLineEdit;
 class QProgressBar;
 class QPushButton;
 class QRadioButton;
-class QTimeEdit;
+class TimeField;
+struct LastBill;
 
 /// What stands above the list of the sales query: the criteria, the buttons, and what is going on.
 class SearchPanel : public QFrame {
@@ -18,10 +21,24 @@ class SearchPanel : public QFrame {
  public:
   explicit SearchPanel(QWidget* parent);
 
-  QDateEdit* DtBegin;
-  QTimeEdit* DTPBeginTime;
-  QDateEdit* Dtfinish;
-  QTimeEdit* DtfinishTime;
+  /// Whether dates and times are some; else the first that is none is said and has the focus. What
+  /// follows is of those that were some at the last check.
+  [[nodiscard]] bool check();
+  DateTime start() const;
+  DateTime end() const;
+  /// As typed; an empty period is the day from its start on.
+  SearchCriteria criteria() const;
+  /// Criteria that find this bill.
+  void lookFor(const LastBill& bill);
+
+  /// Tells that something goes on; `all` 0: nobody knows how much there is to do.
+  void showWork(const QString& what, int done, int all);
+  void showIdle(const QString& what);
+
+  DateField* DtBegin;
+  TimeField* DTPBeginTime;
+  DateField* Dtfinish;
+  TimeField* DtfinishTime;
   QRadioButton* Option1;   ///< by item
   QRadioButton* Option2;   ///< by category
   QLineEdit* zjmtm;        ///< barcode or code fragment
@@ -32,6 +49,7 @@ class SearchPanel : public QFrame {
   QPushButton* Command1;  ///< export
   QPushButton* Command2;  ///< report
   QPushButton* Command3;  ///< reprint
+  QPushButton* cmdLast;   ///< reprint of the last bill
   QPushButton* Command4;  ///< exit
   QLabel* lblState;
   QProgressBar* prgState;

@@ -180,9 +180,13 @@ void writeTotals(Sheet& sheet, const ResultList& list) {
   const auto text = [&](ResultColumn column) {
     sheet.writeText(column, list.text(row, column), sheet.totals());
   };
+  const auto sum = [&](ResultColumn column, const auto& value) {
+    if (!value) return text(column);
+    sheet.writeNumber(column, asNumber(*value), sheet.totals());
+  };
   text(kColumnTime);
-  sheet.writeNumber(kColumnQuantity, asNumber(list.totalQuantity()), sheet.totals());
-  sheet.writeNumber(kColumnMoney, asNumber(list.totalMoney()), sheet.totals());
+  sum(kColumnQuantity, list.totalQuantity());
+  sum(kColumnMoney, list.totalMoney());
   text(kColumnCost);
   text(kColumnProfit);
 }

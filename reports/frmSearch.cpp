@@ -1,32 +1,29 @@
 #include "reports/frmSearch.h"
 
 #include <QCloseEvent>
-#include <QComboBox>
-#include <QDateEdit>
-#include <QHeaderView>
 #include <QKeyEvent>
-#include <QLabel>
 #include <QLineEdit>
-#include <QProgressBar>
 #include <QPushButton>
-#include <QRadioButton>
-#include <QScrollBar>
-#include <QTableView>
-#include <QTimeEdit>
 #include <algorithm>
+#include <utility>
 
 #include "app/posMod.h"
+#include "base/Failure.h"
 #include "base/NumberText.h"
+#include "platform/KeyName.h"
 #include "platform/PortError.h"
 #include "platform/Twips.h"
 #include "platform/VirtualKey.h"
-#include "reports/ExportName.h"
+#include "reports/ExportDialog.h"
+#include "reports/ExportFolder.h"
 #include "reports/KeyPreview.h"
+#include "reports/LastBill.h"
 #include "reports/LineQuery.h"
 #include "reports/QueryPrints.h"
-#include "reports/ResultModel.h"
+#include "reports/ResultList.h"
+#include "reports/ResultTable.h"
 #include "reports/SearchPanel.h"
-#include "reports/TableLook.h"
+#include "shell/DateField.h"
 #include "shell/Modal.h"
 
 namespace {
@@ -34,18 +31,15 @@ namespace {
 // In twips.
 constexpr int kWidth = 14235;
 constexpr int kHeight = 7755;
-constexpr int kAround = 24;         // pixels left free around the form, which else fills the screen
-constexpr int kColumnAir = 12;      // pixels beside the widest text of a column
-constexpr int kWidestColumn = 320;  // pixels
-constexpr int kFittedRows = 200;    // rows looked at for a column's width
 constexpr int kEdge = 100;
 
+constexpr int kAround = 24;    // pixels left free around the form, which else fills the screen
 constexpr int kBlankKey = 32;  // virtual-key code
 
-DateTime joined(const QDateEdit& dateEdit, const QTimeEdit& timeEdit) {
-  const QDate date = dateEdit.date();
-  const QTime time = timeEdit.time();
-  return {{date.year(), date.month(), date.day()}, time.hour(), time.minute(), time.second()};
+/// The key as people call it; its code when it has no name.
+QString shownKey(int key) {
+  const QString name = keyName(key);
+  return name.isEmpty() ? QString::number(key) : name;
 }
 
 }  // namespace
@@ -54,8 +48,7 @@ frmSearch::frmSearch(posMod& pos, QWidget* parent)
     : QDialog(parent),
       pos_(pos),
       Frame5_(new SearchPanel(this)),
-      ListView1_(new QTableView(this)),
-      model_(new ResultModel(this)),
+      ListView1_(new ResultTable(this)),
       query_(new LineQuery(pos.gConn->source())) {
   query_->setParent(this);
   setObjectName("frmSearch");
@@ -73,32 +66,27 @@ frmSearch::frmSearch(posMod& pos, QWidget* parent)
 
 void frmSearch::build() {
   ListView1_->setObjectName("ListView1");
-  ListView1_->setModel(model_);
-  lookLikeReport(*ListView1_);
-  QHeaderView* headings = ListView1_->horizontalHeader();
-  for (int column = 0; column < kResultColumns; ++column)
-    headings->resizeSection(column, pixels(resultColumns()[column].width));
-  headings->setSectionsClickable(true);
-  headings->setResizeContentsPrecision(kFittedRows);
-  connect(headings, &QHeaderView::sectionClicked, this, &frmSearch::sortBy);
+  connect(ListView1_, &ResultTable::headingClicked, this, &frmSearch::sortBy);
   for (QPushButton* button : Frame5_->findChildren<QPushButton*>()) button->setAutoDefault(false);
   connect(Frame5_->cmdSearch, &QPushButton::clicked, this, &frmSearch::search);
   connect(Frame5_->Command1, &QPushButton::clicked, this, &frmSearch::exportList);
   connect(Frame5_->Command2, &QPushButton::clicked, this, &frmSearch::printReport);
   connect(Frame5_->Command3, &QPushButton::clicked, this, &frmSearch::printReceipt);
+  connect(Frame5_->cmdLast, &QPushButton::clicked, this, &frmSearch::reprintLastBill);
   connect(Frame5_->Command4, &QPushButton::clicked, this, &QDialog::close);
 }
 
 void frmSearch::load() {
   const Date today = pos_.clock().date;
-  const QDate shown(today.year, today.month, today.day);
-  Frame5_->DtBegin->setDate(shown);
-  Frame5_->Dtfinish->setDate(shown);
+  Frame5_->DtBegin->setDate(today);
+  Frame5_->Dtfinish->setDate(today);
   const Recordset categories = pos_.gConn->Open("select  SPLBMC from SP_LB order by SPLB_ID");
   const QString choose = Frame5_->Combo1->currentText();
   for (std::size_t row = 0; row < categories.count(); ++row)
     Frame5_->Combo1->addItem(QString::fromStdString(categories.row(row).text("SPLBMC")));
   Frame5_->Combo1->setEditText(choose);
+  const KeyBoard& keys = pos_.gKeyBoard;
+  Frame5_->showIdle(tr("%1：查询　%2：退出").arg(shownKey(keys.mEnter), shownKey(keys.mEsc)));
 }
 
 void frmSearch::connectQuery() {
@@ -156,27 +144,7 @@ bool frmSearch::keyTaken(int key) {
   return false;
 }
 
-DateTime frmSearch::shownStart() const {
-  return joined(*Frame5_->DtBegin, *Frame5_->DTPBeginTime);
-}
-
-DateTime frmSearch::shownEnd() const {
-  return joined(*Frame5_->Dtfinish, *Frame5_->DtfinishTime);
-}
-
-SearchCriteria frmSearch::criteria() const {
-  SearchCriteria wanted;
-  wanted.start = shownStart();
-  wanted.end = shownEnd();
-  if (wanted.start == wanted.end) wanted.end.date = plusDays(wanted.end.date, 1);
-  wanted.byCategory = Frame5_->Option2->isChecked();
-  wanted.code = Frame5_->zjmtm->text().toStdString();
-  wanted.billNo = Frame5_->numberSerch->text().toStdString();
-  wanted.category = Frame5_->Combo1->currentText().toStdString();
-  return wanted;
-}
-
-void frmSearch::checkPeriod(const SearchCriteria& wanted) {
+void frmSearch::checkOrder(const SearchCriteria& wanted) {
   if (wanted.start <= wanted.end) return;
   messageBox(this, tr("起止时间不对！"), tr("注意"), BoxIcon::kInformation);
   Frame5_->Dtfinish->setFocus();
@@ -189,10 +157,11 @@ void frmSearch::checkQuantityLimit() {
 }
 
 void frmSearch::search() {
-  if (export_.isRunning()) return;
+  printWhenFound_ = false;
+  if (export_.isRunning() || !Frame5_->check()) return;
   stopQuery();
-  const SearchCriteria wanted = criteria();
-  checkPeriod(wanted);
+  const SearchCriteria wanted = Frame5_->criteria();
+  checkOrder(wanted);
   checkQuantityLimit();
   const std::optional<std::string> statement = searchStatement(wanted);
   if (!statement) {
@@ -201,85 +170,74 @@ void frmSearch::search() {
     return;
   }
   asked_ = wanted;
-  showWork(tr("正在查询…按 Esc 停止"), 0, 0);
+  Frame5_->showWork(tr("正在查询…") + howToStop(), 0, 0);
   query_->start(*statement);
 }
 
 void frmSearch::addPage(const SoldPage& page) {
-  if (!placeBefore_) {
-    const QModelIndex current = ListView1_->currentIndex();
-    placeBefore_ = Place{current.row(), current.column(), ListView1_->verticalScrollBar()->value()};
-  }
-  const bool isFirst = model_->rowCount() == 0;
-  model_->append(page);
-  if (isFirst) fitColumns();
-  showWork(tr("已找到 %L1 行，按 Esc 停止").arg(model_->rowCount()), 0, 0);
+  ListView1_->append(page);
+  Frame5_->showWork(tr("已找到 %L1 行，").arg(ListView1_->lineCount()) + howToStop(), 0, 0);
 }
 
 void frmSearch::showAll() {
-  model_->complete();
-  fitColumns();
-  if (!ListView1_->currentIndex().isValid()) ListView1_->setCurrentIndex(model_->index(0, 0));
-  placeBefore_.reset();
+  ListView1_->complete();
   found_ = asked_;
-  ListView1_->horizontalHeader()->setSortIndicatorShown(false);
-  showIdle(tr("共 %L1 行，空格键排序").arg(model_->list()->lineCount()));
-}
-
-// The columns start at the widths of their design; what they hold says better how wide they must be
-// for a bill's line to be read without scrolling sideways. The totals are known only at the end.
-void frmSearch::fitColumns() {
-  ListView1_->resizeColumnsToContents();
-  QHeaderView* headings = ListView1_->horizontalHeader();
-  for (int column = 0; column < kResultColumns; ++column) {
-    const int fitting = headings->sectionSize(column) + kColumnAir;
-    headings->resizeSection(column, std::min(fitting, kWidestColumn));
-  }
+  Frame5_->showIdle(tr("共 %L1 行。在列表中按空格键排序。").arg(ListView1_->lineCount()));
+  if (std::exchange(printWhenFound_, false)) printReceipt();
 }
 
 void frmSearch::stopQuery() {
   if (!query_->isRunning()) return;
   query_->stop();
-  model_->restore();
-  if (placeBefore_) {
-    ListView1_->setCurrentIndex(model_->index(placeBefore_->row, placeBefore_->column));
-    ListView1_->verticalScrollBar()->setValue(placeBefore_->scrolled);
-    placeBefore_.reset();
-  }
-  showIdle(tr("查询已停止"));
+  ListView1_->restore();
+  Frame5_->showIdle(tr("查询已停止"));
 }
 
 void frmSearch::showFailure(const QString& why) {
-  model_->restore();
-  placeBefore_.reset();
-  showIdle({});
+  ListView1_->restore();
+  Frame5_->showIdle({});
   messageBox(this, why);
 }
 
 void frmSearch::sortBy(int column) {
-  if (query_->isRunning() || export_.isRunning() || !model_->list()) return;
-  model_->sortBy(column);
-  ListView1_->horizontalHeader()->setSortIndicatorShown(true);
-  ListView1_->horizontalHeader()->setSortIndicator(
-      column, model_->isDescending() ? Qt::DescendingOrder : Qt::AscendingOrder);
+  if (query_->isRunning() || export_.isRunning() || !ListView1_->list()) return;
+  ListView1_->sortBy(column);
+}
+
+QString frmSearch::howToStop() const {
+  return tr("按 %1 停止").arg(shownKey(pos_.gKeyBoard.mEsc));
 }
 
 /// Whether there is a whole list to work on; else says so.
 bool frmSearch::hasList(const QString& otherwise) {
   if (query_->isRunning() || export_.isRunning()) return false;
-  if (!model_->list()) messageBox(this, otherwise);
-  return model_->list() != nullptr;
+  if (!ListView1_->list()) messageBox(this, otherwise);
+  return ListView1_->list() != nullptr;
 }
 
 void frmSearch::printReport() {
-  if (!hasList(tr("没有可打印的内容！"))) return;
-  print(reportPage(*model_->list(), shownStart(), shownEnd(), pos_.clock()));
+  if (!hasList(tr("没有可打印的内容！")) || !Frame5_->check()) return;
+  print(reportPage(*ListView1_->list(), Frame5_->start(), Frame5_->end(), pos_.clock()));
 }
 
 void frmSearch::printReceipt() {
   if (!hasList(tr("没有可打印的内容！"))) return;
-  print(reprintPage(*model_->list(), Frame5_->numberSerch->text().toStdString(), pos_.gSysParam,
+  print(reprintPage(*ListView1_->list(), Frame5_->numberSerch->text().toStdString(), pos_.gSysParam,
                     pos_.clock()));
+}
+
+// The query shows what is printed, so that the cashier sees which bill it was.
+void frmSearch::reprintLastBill() {
+  if (export_.isRunning()) return;
+  try {
+    const std::optional<LastBill> bill = lastBill(*pos_.gConn);
+    if (!bill) return messageBox(this, tr("还没有可以补打的单据！"));
+    Frame5_->lookFor(*bill);
+    search();
+    printWhenFound_ = true;
+  } catch (const Failure& failure) {
+    messageBox(this, QString::fromUtf8(failure.what()));
+  }
 }
 
 void frmSearch::print(const PageDocument& page) {
@@ -293,37 +251,26 @@ void frmSearch::print(const PageDocument& page) {
 void frmSearch::exportList() {
   if (!hasList(tr("没有可导出的内容！"))) return;
   const QString today = QString::fromStdString(dateText(pos_.clock().date));
-  const QString file = askExportName(this, tr("商品查询 %1.xlsx").arg(today));
-  if (!file.isEmpty()) exportTo(file);
+  ExportDialog dialog(pos_.gKeyBoard, exportFolder(pos_), tr("商品查询 %1").arg(today), this);
+  if (dialog.exec() == QDialog::Accepted) exportTo(dialog.file());
 }
 
-void frmSearch::exportTo(const QString& file) {
+void frmSearch::exportTo(const std::filesystem::path& file) {
   std::vector<std::string> above = criteriaText(found_);
   above.insert(above.begin(), windowTitle().toStdString());
-  const std::shared_ptr<const ResultList> list = model_->list();
+  const std::shared_ptr<const ResultList> list = ListView1_->list();
   const int all = static_cast<int>(list->rowCount());
   const auto show = [&](std::size_t rows) {
-    showWork(tr("正在导出…按 Esc 停止"), static_cast<int>(rows), all);
+    Frame5_->showWork(tr("正在导出…") + howToStop(), static_cast<int>(rows), all);
   };
   show(0);
   try {
-    const bool isWhole = export_.write(file.toStdString(), {above, *list}, show);
-    showIdle(isWhole ? tr("已导出 %1").arg(QFileInfo(file).fileName()) : tr("导出已停止"));
-  } catch (const ExportError& error) {
-    showIdle({});
+    makeExportFolder(file.parent_path());
+    const bool isWhole = export_.write(file, {above, *list}, show);
+    const QString shown = QString::fromStdString(file.string());
+    Frame5_->showIdle(isWhole ? tr("已导出 %1").arg(shown) : tr("导出已停止"));
+  } catch (const Failure& error) {
+    Frame5_->showIdle({});
     messageBox(this, QString::fromUtf8(error.what()));
   }
-}
-
-/// `all` 0: nobody knows how much there is to do.
-void frmSearch::showWork(const QString& what, int done, int all) {
-  Frame5_->lblState->setText(what);
-  Frame5_->prgState->setRange(0, all);
-  Frame5_->prgState->setValue(done);
-  Frame5_->prgState->show();
-}
-
-void frmSearch::showIdle(const QString& what) {
-  Frame5_->lblState->setText(what);
-  Frame5_->prgState->hide();
 }

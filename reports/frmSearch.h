@@ -1,16 +1,13 @@
 #pragma once
 
 #include <QDialog>
-#include <functional>
-#include <optional>
+#include <filesystem>
 
-#include "base/DateTime.h"
 #include "reports/ExportRun.h"
 #include "reports/SearchCriteria.h"
 
 class LineQuery;
-class QTableView;
-class ResultModel;
+class ResultTable;
 class SearchPanel;
 class posMod;
 struct PageDocument;
@@ -22,7 +19,7 @@ struct SoldPage;
 /// A long query or export runs beside the form, which says so; the mapped Esc key stops it and
 /// leaves the list as it was, and else closes the form. The mapped Enter key presses the button
 /// that has the focus, or searches from the criteria. In the list the blank key sorts by the
-/// current column.
+/// current column. A button prints the last bill's receipt again at once.
 class frmSearch : public QDialog {
   Q_OBJECT
 
@@ -40,38 +37,30 @@ class frmSearch : public QDialog {
   void connectQuery();
   bool keyTaken(int key);
 
-  DateTime shownStart() const;
-  DateTime shownEnd() const;
-  SearchCriteria criteria() const;
-  void checkPeriod(const SearchCriteria& wanted);
+  void checkOrder(const SearchCriteria& wanted);
   void checkQuantityLimit();
   void search();
   void addPage(const SoldPage& page);
   void showAll();
-  void fitColumns();
   void stopQuery();
   void showFailure(const QString& why);
   void sortBy(int column);
+  QString howToStop() const;
 
   bool hasList(const QString& otherwise);
   void printReport();
   void printReceipt();
+  void reprintLastBill();
   void print(const PageDocument& page);
   void exportList();
-  void exportTo(const QString& file);
-  void showWork(const QString& what, int done, int all);
-  void showIdle(const QString& what);
+  void exportTo(const std::filesystem::path& file);
 
   posMod& pos_;
   SearchPanel* Frame5_;
-  QTableView* ListView1_;
-  ResultModel* model_;
+  ResultTable* ListView1_;
   LineQuery* query_;
   ExportRun export_;
-  SearchCriteria asked_;  ///< by the query that runs
-  SearchCriteria found_;  ///< by the query that filled the list
-  struct Place {
-    int row, column, scrolled;
-  };
-  std::optional<Place> placeBefore_;  ///< in the list that a running query replaces
+  SearchCriteria asked_;         ///< by the query that runs
+  SearchCriteria found_;         ///< by the query that filled the list
+  bool printWhenFound_ = false;  ///< a receipt of what the running query finds
 };

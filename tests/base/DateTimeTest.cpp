@@ -31,6 +31,23 @@ TEST(DateTime, ReadsWhatPeopleTypeAndRefusesTheRest) {
   }
 }
 
+TEST(DateTime, ReadsDatesAndTimesTypedInAnyOrderlyForm) {
+  const Date day = kSunday.date;
+  for (const char* text : {"20261122", "2026-11-22", "2026/11/22", " 2026.11.22 ", "1122", "11.22",
+                           "２０２６－１１－２２"})
+    EXPECT_EQ(parseTypedDate(text, 2026), day) << text;
+  for (const char* text : {"", "2026", "261122", "26-11-22", "2025-02-29", "20261301", "0010-1-1",
+                           "2026-11-22 9:05", "11-22-", "-11-22", "112", "2026-11-22-1"})
+    EXPECT_EQ(parseTypedDate(text, 2026), std::nullopt) << text;
+  for (const char* text : {"090503", "90503", "09:05:03", "9.5.3", "９：０５：０３"})
+    EXPECT_EQ(parseTypedTime(text, day), kSunday) << text;
+  for (const char* text : {"905", "9:05", "0905", "9.5"})
+    EXPECT_EQ(parseTypedTime(text, day), (DateTime{day, 9, 5})) << text;
+  EXPECT_EQ(parseTypedTime("9", day), (DateTime{day, 9}));
+  for (const char* text : {"", "24", "960", "0905036", "9:05:", "9-05", "9:05:03:00", "x"})
+    EXPECT_EQ(parseTypedTime(text, day), std::nullopt) << text;
+}
+
 TEST(DateTime, PlusDaysFollowsTheCalendar) {
   EXPECT_EQ(plusDays({2024, 2, 28}, 2), (Date{2024, 3, 1}));
   EXPECT_EQ(plusDays({2026, 1, 1}, -1), (Date{2025, 12, 31}));

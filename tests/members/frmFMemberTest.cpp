@@ -1,7 +1,6 @@
 #include "members/frmFMember.h"
 
 #include <QComboBox>
-#include <QDateEdit>
 #include <QRadioButton>
 
 #include "MembersTill.h"
@@ -33,10 +32,10 @@ TEST_F(frmFMemberTest, ASwipedNewCardBecomesAMemberByKeyboardAlone) {
         {"txtPhone", "１３９ "},
         {"txtPostcode", "12"},
         {"password", "Pw'1"},
-        {"card", "88.5"}};
+        {"card", "88.5"},
+        {"DTPicker1", "19900228"}};
     for (const auto& [name, text] : typed) field(shown, name)->setText(text);
     shown.findChild<QComboBox*>("zklb2")->setCurrentText("银卡");
-    shown.findChild<QDateEdit*>("DTPicker1")->setDate(QDate(1990, 2, 28));
     shown.findChild<QRadioButton*>("OptGirl")->setFocus();
     Hands::pressNow(Qt::Key_Space);
     okNow(shown);

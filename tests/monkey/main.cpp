@@ -22,7 +22,7 @@ class MonkeyTest {
       : options_(options), home_(till_.folder() / "home"), figures_(*till_.open()) {
     fs::create_directories(home_);
     writeWords();
-    // Whatever the monkey exports, it exports here.
+    // What the toolkit keeps for its user, it keeps here.
     for (const char* name : {"HOME", "XDG_RUNTIME_DIR", "XDG_CONFIG_HOME", "XDG_DATA_HOME"}) {
       setenv(name, home_.c_str(), 1);
     }
@@ -74,7 +74,8 @@ class MonkeyTest {
 
   /// The settings as they were, and what was printed and exported gone.
   void clearAway() {
-    fs::remove_all(till_.folder() / "printed");
+    for (const fs::path& made : {till_.folder() / "printed", till_.program() / "Exports"})
+      fs::remove_all(made);
     fs::remove_all(home_);
     fs::create_directories(home_);
     fs::current_path(home_);

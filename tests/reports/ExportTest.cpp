@@ -41,7 +41,7 @@ class ExportTest : public testing::Test {
   TemporaryFolder folder_;
 };
 
-TEST_F(ExportTest, CsvHoldsTheListAsShown) {
+TEST_F(ExportTest, CsvHoldsTheListAsShownAndNoFormulas) {
   ASSERT_TRUE(write("a.CSV"));
   std::ifstream file(folder_.file("a.CSV"), std::ios::binary);
   EXPECT_EQ(
@@ -49,9 +49,9 @@ TEST_F(ExportTest, CsvHoldsTheListAsShown) {
       "\xEF\xBB\xBF\"商品查询\"\r\n\"条件：+1\"\r\n"
       "\"日期\",\"单号\",\"编码\",\"商品名称\",\"单位\",\"数量\",\"零售价\",\"折扣\","
       "\"金额小计\",\"成本单价\",\"成本金额\",\"销售毛利\",\"商品条码\",\"商品类别\"\r\n"
-      "2026-11-22 09:05:03,12,\"0012\",\"=cmd|'x'!A1\",\"a\"\"b\",2.5,1.99,0.9,4.48,"
-      "\"***\",\"***\",\"***\",\"-69\",\"@饮料\"\r\n"
-      ",,\"0012\",\"=cmd|'x'!A1\",\"a\"\"b\",,,,,\"***\",\"***\",\"***\",\"-69\",\"@饮料\"\r\n"
+      "2026-11-22 09:05:03,12,\"0012\",\"'=cmd|'x'!A1\",\"a\"\"b\",2.5,1.99,0.9,4.48,"
+      "\"***\",\"***\",\"***\",\"'-69\",\"'@饮料\"\r\n"
+      ",,\"0012\",\"'=cmd|'x'!A1\",\"a\"\"b\",,,,,\"***\",\"***\",\"***\",\"'-69\",\"'@饮料\"\r\n"
       "\"合计\",,,,,2,,,4.48,,\"***\",\"***\",,\r\n");
 }
 

@@ -65,6 +65,14 @@ TEST(ResultListTest, ShowsLinesAndTotals) {
                                         "***", "***", "", ""));
 }
 
+TEST(ResultListTest, SaysSumsThatDoNotFit) {
+  const auto huge = sold(1, "2026-11-22 09:00:00", "面", 9e18, 9e14, "690");
+  ResultList list;
+  list.append(pageOf({huge, huge, sold(2, "2026-11-22 09:00:01", "水", 1, 1, "691")}));
+  list.complete();
+  EXPECT_EQ(list.text(3, kColumnQuantity) + list.text(3, kColumnMoney), "超出范围超出范围");
+}
+
 TEST(ResultListTest, SortsEachColumnByWhatItIsAndKeepsTheTotalsLast) {
   ResultList found;
   found.append(pageOf({sold(10, "2026-11-22 09:00:00", "b", 10, 9.5, "10"),

@@ -8,6 +8,7 @@
 #include "Hands.h"
 #include "TestShop.h"
 #include "base/Gbk.h"
+#include "reports/ResultColumns.h"
 #include "reports/frmCount.h"
 #include "reports/frmSearch.h"
 
@@ -142,22 +143,88 @@ TEST_F(frmSearchTest, WhatCannotBeSearchedOrWrittenIsSaid) {
   type("numberSerch", "eins");
   press("numberSerch");
   EXPECT_EQ(rows(*form_), 2) << "the list stays";
-  hands.at("dlgExport", [](QWidget& dialog) {
-    auto* edit = dialog.findChild<QLineEdit*>("fileNameEdit");
-    edit->setText("/proc/found.csv");
-    QTest::keyClick(edit, Key_Return);
-  });
-  hands.at("messageBox", [](QWidget& box) {
-    EXPECT_TRUE(boxText(box).contains("/proc/found.csv"));
-    Hands::pressNow(Key_Return);
-  });
-  press("Command1");
   form_->findChild<QLineEdit*>("numberSerch")->clear();
   press("DtBegin", Key_Up);
   answer(hands, "起止时间不对！");
   press("cmdSearch");
   EXPECT_EQ(form_->focusWidget()->objectName(), "Dtfinish");
   ASSERT_TRUE(showsRows(1)) << "an inverted period finds nothing";
+}
+
+TEST_F(frmSearchTest, TheLastBillIsPrintedAgainByOneKeyWithItsAmountsInSight) {
+  shop_.sell(2, "2026-11-20 00:00:00", "A1", 2, "2.5", "5");
+  shop_.sell(3, "2026-11-22 09:00:00", "A1", 2, "2.5", "5");
+  shop_.settle(2, "2026-11-20 00:00:00", 2, "5");
+  shop_.store().run("update sellProducts set name = ?", std::string(60, 'W'));
+  open();
+  form_->resize(1000, 740);
+  QTest::keyClick(form_.get(), Key_L, Qt::AltModifier);
+  ASSERT_TRUE(showsRows(2));
+  EXPECT_EQ(shop_.papersPrinted(), 1u);
+  EXPECT_EQ(form_->findChild<QLineEdit*>("numberSerch")->text() + at(0, 8), "25");
+  const auto* list = form_->findChild<QTableView*>("ListView1");
+  EXPECT_LE(list->columnViewportPosition(kColumnUnitCost), list->viewport()->width());
+}
+
+TEST_F(frmSearchTest, DatesAndTimesAreTakenAsTypedAndImpossibleOnesSaid) {
+  shop_.sell(1, "2026-11-21 07:00:00", "A1", 2, "2.5", "5");
+  shop_.sell(2, "2026-11-22 08:30:01", "A1", 2, "2.5", "5");
+  open();
+  const auto typeNow = [&](const char* text) { QTest::keyClicks(form_->focusWidget(), text); };
+  tabTo(*form_, "DTPBeginTime");
+  typeNow("08:30:01");
+  Hands::pressNow(Key_Return);
+  ASSERT_TRUE(showsRows(1));
+  typeNow("083000");
+  Hands::pressNow(Key_Return);
+  ASSERT_TRUE(showsRows(2)) << "a second typing is not taken";
+  tabTo(*form_, "DtBegin");
+  typeNow("2026-11-21");
+  Hands::pressNow(Key_Tab);
+  EXPECT_EQ(form_->focusWidget()->objectName(), "DTPBeginTime");
+  typeNow("6.59");
+  Hands::pressNow(Key_Return);
+  ASSERT_TRUE(showsRows(3));
+  Hands hands;
+  for (const Qt::Key leaving : {Key_Tab, Key_Return}) {
+    typeNow("24:00");
+    answer(hands, "没有“24:00”这个时间！请按 08:30:00 或 083000 的样子输入。");
+    Hands::pressNow(leaving);
+    ASSERT_TRUE(QTest::qWaitFor(
+        [&] { return QApplication::activeModalWidget() == form_.get() && hands.idle(); }));
+    EXPECT_EQ(form_->focusWidget()->objectName(), "DTPBeginTime");
+  }
+  EXPECT_EQ(rows(*form_), 3) << "searched all the same";
+}
+
+TEST_F(frmSearchTest, ExportsGoToANameInTheOwnersFolderAndNowhereElse) {
+  open();
+  press("zjmtm");
+  ASSERT_TRUE(showsRows(1));
+  Hands hands;
+  const auto name = [&](const QString& text) {
+    hands.type("dlgExport", text).press("dlgExport", {Key_Return});
+  };
+  for (const char* refused : {"../x", "/tmp/x", "..", "data\\POS.mdb", " "}) {
+    name(refused);
+    hands.press("messageBox", {Key_Return});
+  }
+  name("x");
+  press("Command1");
+  const auto file = shop_.pos().folder / "Exports" / "x.xlsx";
+  EXPECT_TRUE(exists(file));
+  EXPECT_TRUE(state().contains("x.xlsx"));
+  std::ofstream(file) << "old";
+  name("x");
+  answer(hands, "文件已经存在，要覆盖吗？\nx.xlsx");
+  name("x.csv");
+  press("Command1");
+  EXPECT_EQ(file_size(file), 3u) << "replaced without a question";
+  EXPECT_TRUE(exists(shop_.pos().folder / "Exports" / "x.csv"));
+  shop_.pos().configIni.write("Till", "ExportFolder", "/proc/none");
+  name("x");
+  answer(hands, "不能新建导出文件夹 /proc/none，请检查设置和权限。");
+  press("Command1");
 }
 
 TEST_F(frmSearchTest, AStoppedQueryLeavesTheListAsItWas) {

@@ -1,0 +1,21 @@
+#include "reports/ExportFolder.h"
+
+#include "app/posMod.h"
+#include "base/Failure.h"
+#include "base/FileName.h"
+#include "base/OwnerOnly.h"
+
+namespace fs = std::filesystem;
+
+fs::path exportFolder(const posMod& pos) {
+  const std::string set = pos.configIni.read("Till", "ExportFolder").value_or("");
+  return findIgnoringCase((pos.folder / (set.empty() ? "Exports" : set)).string());
+}
+
+// A folder that somebody else made keeps its rights: it may be a memory stick's.
+void makeExportFolder(const fs::path& folder) {
+  std::error_code failed;
+  if (fs::is_directory(folder, failed)) return;
+  const bool isMade = fs::create_directories(folder, failed) && makeOwnerOnly(folder);
+  if (!isMade) throw Failure("不能新建导出文件夹 " + folder.string() + "，请检查设置和权限。");
+}

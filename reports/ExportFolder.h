@@ -1,0 +1,11 @@
+#pragma once
+
+#include <filesystem>
+
+class posMod;
+
+/// Where exports go: `ExportFolder` of section Till, where a relative one starts at the program's
+/// folder; a folder Exports there when nothing is set.
+std::filesystem::path exportFolder(const posMod& pos);
+/// Makes the folder, for its owner only, unless it is there. Throws Failure.
+void makeExportFolder(const std::filesystem::path& folder);
