@@ -2,9 +2,8 @@
 
 #include "reports/ListExport.h"
 
-class UnfinishedFile;
+class WholeFile;
 
 /// The table as CSV (RFC 4180) in UTF-8 with a byte order mark. Texts are quoted and otherwise as
-/// they are; numbers and times are bare. False when it was stopped. Throws ExportError.
-[[nodiscard]] bool writeCsv(const UnfinishedFile& file, const ExportTable& table,
-                            const ExportProgress& goOn);
+/// they are; numbers and times are bare. False when it was stopped. Throws FileError.
+[[nodiscard]] bool writeCsv(WholeFile& file, const ExportTable& table, const ExportProgress& goOn);

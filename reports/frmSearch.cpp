@@ -16,6 +16,7 @@
 #include <algorithm>
 
 #include "app/posMod.h"
+#include "base/FileError.h"
 #include "base/NumberText.h"
 #include "platform/PortError.h"
 #include "platform/Twips.h"
@@ -309,7 +310,7 @@ void frmSearch::exportTo(const QString& file) {
   try {
     const bool isWhole = export_.write(file.toStdString(), {above, *list}, show);
     showIdle(isWhole ? tr("已导出 %1").arg(QFileInfo(file).fileName()) : tr("导出已停止"));
-  } catch (const ExportError& error) {
+  } catch (const FileError& error) {
     showIdle({});
     messageBox(this, QString::fromUtf8(error.what()));
   }
