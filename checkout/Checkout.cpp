@@ -61,6 +61,10 @@ void Checkout::SettleBill() {
     screen_.ShowMessage(tr("没有商品，无需结账！"));
     return;
   }
+  if (const std::string fault = pos_.dataFileFault(); !fault.empty()) {
+    screen_.messageBox(shown(fault));
+    return;
+  }
   if (state_.curLine) commitLine();
   if (!takePayment()) return;
   if (storeSettled(pos_, *state_.curBill)) {

@@ -148,7 +148,7 @@ void frmMain::changeOperator() {
 void frmMain::endProgram() {
   pos_.logOff();
   try {
-    if (pos_.gSysParam.BackupOnExit()) pos_.backUp();
+    if (pos_.wantsBackUp()) pos_.backUp();
   } catch (const Failure& failure) {
     messageBox(this, tr("数据没有备份。") + QString::fromUtf8(failure.what()), {},
                BoxIcon::kExclamation);
