@@ -6,6 +6,7 @@
 
 #include "Owner.h"
 #include "saleslib/ClsLogin.h"
+#include "store/DataFileLock.h"
 
 namespace {
 
@@ -92,6 +93,31 @@ TEST_F(Command, ABackupThatDoesNotReadIsNotTaken) {
   EXPECT_THAT(owner.err, HasSubstr("没有采用"));
   EXPECT_EQ(std::filesystem::file_size(copy), 15U);
   EXPECT_EQ(filesLeft(), 2) << "the shop and the older backup";
+}
+
+TEST_F(Command, ARestoredBackupIsNotMixedWithTheOldLog) {
+  const std::string backup = owner.folder.file("backup.mdb");
+  ASSERT_EQ(owner.run({"backup", owner.shop, backup}), 0) << owner.err;
+  Owner crashed;
+  {
+    const std::unique_ptr<Connection> till = owner.open();
+    till->run("insert into stock values ('late', 1)");
+    const DataFileLock lock(owner.shop);
+    EXPECT_EQ(owner.run({"restore", backup, owner.shop}), 1);
+    EXPECT_THAT(owner.err, HasSubstr("已经打开"));
+    for (const char* part : {"", "-wal"})
+      std::filesystem::copy(owner.shop + part, crashed.shop + part);
+  }
+  EXPECT_EQ(crashed.run({"restore", crashed.shop, backup}), 1);
+  EXPECT_THAT(crashed.err, HasSubstr("日志"));
+  std::ofstream(crashed.folder.file("noise")) << "no backup";
+  EXPECT_EQ(crashed.run({"restore", crashed.folder.file("noise"), crashed.shop}), 1);
+  EXPECT_THAT(crashed.err, HasSubstr("没有恢复"));
+  ASSERT_EQ(crashed.run({"restore", backup, crashed.shop}), 0) << crashed.err;
+  EXPECT_EQ(crashed.value("select count(*) as value from stock"), "0");
+  const std::string old = crashed.folder.file("POS.mdb.old-20261122-090503");
+  EXPECT_THAT(crashed.out, HasSubstr(old));
+  EXPECT_EQ(openDataFile({old, ""})->Open("select * from stock where spbm='late'").count(), 1U);
 }
 
 TEST_F(Command, OperatorsComeAndGo) {
