@@ -83,7 +83,7 @@ std::string posMod::dataFileFault() const {
 }
 
 bool posMod::wantsBackUp() const {
-  return gSysParam.BackupOnExit() || !dataFileFault().empty();
+  return !dataFileFault().empty() || gSysParam.BackupOnExit();
 }
 
 void posMod::backUp() {

@@ -58,10 +58,10 @@ FileIdentity FileIdentity::of(const fs::path& dataFile) {
 void requireSameDataFile(const fs::path& path, const FileIdentity& opened) {
   struct stat now {};
   if (stat(path.c_str(), &now) != 0 || FileIdentity{now.st_dev, now.st_ino} != opened) {
-    throw StoreError("数据文件 " + path.string() +
-                     " 在使用中被删除、移走或换成了别的文件，不能再保存。请把原来的文件放回原处；"
-                     "放不回时请退出程序：退出时的备份里有到此为止的账目，可用 tilladmin restore "
-                     "恢复。");
+    throw StoreError(
+        "数据文件 " + path.string() +
+        " 在使用中被删除、移走或换成了别的文件，不能再保存。请把原来的文件放回原处。"
+        "放不回时请退出程序，退出时会备份到此为止的账目，可用 tilladmin restore 恢复。");
   }
   requireOneName(path, now.st_nlink);
 }

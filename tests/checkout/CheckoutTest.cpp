@@ -86,9 +86,12 @@ TEST_F(CheckoutTest, noPaymentIsTakenIntoAFileThatLostItsName) {
   enter("水", "1.00");
   std::filesystem::rename(file, folder.file("away"));
   screen.pay = [](Settlement&) { ADD_FAILURE() << "the cashier is asked for money"; };
+  screen.answersYes = false;
   checkout.SettleBill();
+  EXPECT_TRUE(std::exchange(screen.ended, false));
   EXPECT_THAT(screen.said(), HasSubstr("删除、移走"));
-  std::filesystem::rename(folder.file("away"), file);
+  screen.answersYes = true;
+  screen.asked = [&] { std::filesystem::rename(folder.file("away"), file); };
   payCash("1");
   EXPECT_EQ(stored("state as v from sell where id=1"), "1");
 }
