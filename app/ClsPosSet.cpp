@@ -2,6 +2,7 @@
 
 #include <array>
 #include <variant>
+#include <vector>
 
 #include "app/SettingNumber.h"
 #include "platform/IniFile.h"
@@ -56,10 +57,12 @@ void ClsPosSet::LoadSet(const IniFile& file) {
 }
 
 void ClsPosSet::SaveSet(const IniFile& file) const {
+  std::vector<IniFile::Entry> entries;
   for (const Setting& setting : settings()) {
     const Text* text = std::get_if<Text>(&setting.field);
-    const std::string value =
-        text ? this->**text : std::to_string(this->*std::get<Number>(setting.field));
-    file.write(setting.section, setting.key, value);
+    entries.push_back(
+        {setting.section, setting.key,
+         text ? this->**text : std::to_string(this->*std::get<Number>(setting.field))});
   }
+  file.write(entries);
 }

@@ -2,6 +2,7 @@
 
 #include <cstddef>
 #include <optional>
+#include <vector>
 
 #include "app/SettingNumber.h"
 #include "base/NumberText.h"
@@ -71,12 +72,15 @@ void KeyBoard::ReSetQk() {
 }
 
 void KeyBoard::SaveSet(const IniFile& file) const {
-  for (const Key& key : keys()) file.write(kKeySection, key.name, std::to_string(this->*key.field));
+  std::vector<IniFile::Entry> entries;
+  for (const Key& key : keys())
+    entries.push_back({kKeySection, key.name, std::to_string(this->*key.field)});
   for (std::size_t position = 0; quickKeyText(file, position); ++position)
-    file.write(kQuickKeySection, quickKeyName(position), "");
+    entries.push_back({kQuickKeySection, quickKeyName(position), ""});
   for (std::size_t position = 0; position < QK.size(); ++position) {
     const clsQk& quickKey = QK[position];
-    file.write(kQuickKeySection, quickKeyName(position),
-               std::to_string(quickKey.QK_int) + ";" + quickKey.QK_Bm);
+    entries.push_back({kQuickKeySection, quickKeyName(position),
+                       std::to_string(quickKey.QK_int) + ";" + quickKey.QK_Bm});
   }
+  file.write(entries);
 }

@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <iterator>
-#include <system_error>
 #include <utility>
 #include <vector>
 
@@ -31,10 +30,7 @@ DataSource posMod::dataSource() const {
 std::string posMod::OpenDataStore() {
   try {
     const DataSource source = dataSource();
-    std::error_code ignored;
-    // Where there is no data file there is nothing to lock, and opening it says what is wrong.
-    if (std::filesystem::is_regular_file(source.path, ignored))
-      lock_ = std::make_unique<DataFileLock>(source.path);
+    lock_ = std::make_unique<DataFileLock>(source.path);
     gConn = openDataFile(source);
     return {};
   } catch (const Failure& failure) {
@@ -70,20 +66,28 @@ void posMod::ShowMouse(bool show) {
 }
 
 void posMod::logOff() {
+  gConn->requireItsFile();
   if (!gOperator) return;
   gOperator->setOnline(0);
   gOperator->Save();
   gOperator.reset();
 }
 
+std::string posMod::dataFileFault() const {
+  try {
+    gConn->requireItsFile();
+    return {};
+  } catch (const Failure& failure) {
+    return failure.what();
+  }
+}
+
+bool posMod::wantsBackUp() const {
+  return !dataFileFault().empty() || gSysParam.BackupOnExit();
+}
+
 void posMod::backUp() {
-  const auto source = findIgnoringCase((folder / "data/pos.mdb").string());
-  const auto target = backupPath();
-  std::error_code ignored;
-  if (gConn && std::filesystem::equivalent(source, gConn->source().path, ignored))
-    copyDataFile(*gConn, target);
-  else
-    copyClosedDataFile(source, target);
+  copyDataFile(*gConn, backupPath());
 }
 
 std::filesystem::path posMod::backupPath() const {

@@ -44,8 +44,8 @@ class posMod {
   /// folder/data/POS.mdb with the built-in password. An empty text, or why it could not, for a
   /// message box.
   [[nodiscard]] std::string OpenDataStore();
-  /// Makes what holds secrets readable by its owner only: the data file with its logs, its lock and
-  /// its backup, and Config.ini when the data file's password is in it. An empty text, or which
+  /// Makes what holds secrets readable by its owner only: the data file with its logs and its
+  /// backup, and Config.ini when the data file's password is in it. An empty text, or which
   /// files others keep rights on, for a message. Needs the data file open.
   [[nodiscard]] std::string protectFiles() const;
   /// Binds the services to the data file and loads keyboard map and terminal settings; hides the
@@ -53,11 +53,18 @@ class posMod {
   void start();
   /// Forces the mouse pointer visible or hidden.
   void ShowMouse(bool show);
-  /// Logs the operator off, if one is logged in.
+  /// Logs the operator off, if one is logged in. Throws StoreError, for a data file that has been
+  /// deleted, replaced or linked even when nobody is.
   void logOff();
-  /// Copies folder/data/pos.mdb over folder/data/pos3.mdb, whole and consistent although it is
-  /// open; the copy is readable by its owner only. It is this file even when Path names another
-  /// one. Throws StoreError; an earlier copy is then as it was.
+  /// An empty text, or why the open data file is no longer the one of its name (deleted, replaced,
+  /// linked), for a message.
+  [[nodiscard]] std::string dataFileFault() const;
+  /// Whether the end of the program makes a backup: as the shop has it, and in any case when what
+  /// was stored last is in a file that lost its name.
+  [[nodiscard]] bool wantsBackUp() const;
+  /// Copies the data file that is open, whichever name it has by now, over folder/data/pos3.mdb,
+  /// whole and consistent; the copy is readable by its owner only. Throws Failure; an earlier copy
+  /// is then as it was.
   void backUp();
 
  private:

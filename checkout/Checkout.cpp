@@ -61,6 +61,7 @@ void Checkout::SettleBill() {
     screen_.ShowMessage(tr("没有商品，无需结账！"));
     return;
   }
+  if (!canStore()) return screen_.endProgram();
   if (state_.curLine) commitLine();
   if (!takePayment()) return;
   if (storeSettled(pos_, *state_.curBill)) {
@@ -71,6 +72,17 @@ void Checkout::SettleBill() {
     dropUnstored();
   }
   PrepareNextBill();
+}
+
+// Nothing else can be done with such a file either, not even cancelling the bill: it stays open in
+// the copy that the end of the program makes.
+bool Checkout::canStore() {
+  while (true) {
+    const std::string fault = pos_.dataFileFault();
+    if (fault.empty()) return true;
+    const QString question = tr("%1\n文件已经放好，继续收款吗？选“否”将退出程序。");
+    if (!screen_.askYesNo(question.arg(shown(fault)), {}, true)) return false;
+  }
 }
 
 void Checkout::commitLine() {

@@ -23,6 +23,8 @@ class Checkout {
   /// Takes payment for the open bill, stores it and credits the member in one transaction, prints,
   /// opens the next bill. A bill that cannot be stored is dropped and its stock put back; nothing
   /// is printed for it then, and a stored-value charge stays, which is told with the card's number.
+  /// Takes no payment into a data file that has been deleted, replaced or linked since its opening:
+  /// asks until it is back, or ends the program.
   void SettleBill();
   /// Empties the screen and opens the next bill. While the data file takes no bill it asks whether
   /// to try again; after a No the program ends, and there is no curBill. Ends the program when the
@@ -40,6 +42,7 @@ class Checkout {
   void ShowMemberInfo();
 
  private:
+  bool canStore();
   void commitLine();
   bool takePayment();
   void dropUnstored();

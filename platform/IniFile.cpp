@@ -1,13 +1,10 @@
 #include "platform/IniFile.h"
 
-#include <fcntl.h>
-#include <unistd.h>
-
 #include <QFile>
-#include <QSaveFile>
 #include <utility>
 
 #include "base/FileName.h"
+#include "base/WholeFile.h"
 #include "platform/IniText.h"
 
 namespace {
@@ -39,24 +36,19 @@ bool isWriteProtected(const fs::path& path) {
   return !missing && (status.permissions() & fs::perms::owner_write) == fs::perms::none;
 }
 
-/// Without this a power cut could undo the renaming.
-void syncFolder(const fs::path& folder) {
-  const int descriptor = ::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
-  if (descriptor < 0) return;
-  ::fsync(descriptor);
-  ::close(descriptor);
-}
-
-/// QSaveFile writes beside the file, syncs, keeps the permissions and renames.
+/// A link stays one: what it leads to is replaced.
 bool replaceContent(const fs::path& path, const std::string& bytes) {
-  QSaveFile file(nameOf(path));
-  const bool isNew = !QFile::exists(nameOf(path));
-  if (!file.open(QIODevice::WriteOnly)) return false;
-  if (isNew) file.setPermissions(QFile::ReadOwner | QFile::WriteOwner);
-  file.write(bytes.data(), static_cast<qint64>(bytes.size()));
-  if (!file.commit()) return false;
-  syncFolder(path.has_parent_path() ? path.parent_path() : ".");
-  return true;
+  std::error_code isNew;
+  const fs::path real = fs::canonical(path, isNew);
+  try {
+    WholeFile file(isNew ? path : real);
+    file.append(bytes);
+    if (!isNew) file.keepRightsOf(real);
+    file.finish();
+    return true;
+  } catch (const FileError&) {
+    return false;
+  }
 }
 
 }  // namespace
@@ -70,12 +62,15 @@ std::optional<std::string> IniFile::read(std::string_view section, std::string_v
 }
 
 bool IniFile::write(std::string_view section, std::string_view key, std::string_view value) const {
+  return write({{std::string(section), std::string(key), std::string(value)}});
+}
+
+bool IniFile::write(const std::vector<Entry>& entries) const {
   const fs::path path = findIgnoringCase(path_.string());
   const auto content = contentOf(path);
   if (!content || isWriteProtected(path)) return false;
   IniText text(*content);
-  text.setValue(section, key, value);
+  for (const Entry& entry : entries) text.setValue(entry.section, entry.key, entry.value);
   const std::string bytes = text.bytes();
-  // Saving all settings mostly changes one or two of them; the others cost no sync.
   return bytes == *content || replaceContent(path, bytes);
 }

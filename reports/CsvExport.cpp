@@ -1,11 +1,8 @@
 #include "reports/CsvExport.h"
 
-#include <cerrno>
-#include <fstream>
-
 #include "base/Text.h"
+#include "base/WholeFile.h"
 #include "reports/ResultList.h"
-#include "reports/UnfinishedFile.h"
 
 namespace {
 
@@ -45,16 +42,18 @@ std::string rowLine(const ResultList& list, std::size_t row) {
 
 }  // namespace
 
-bool writeCsv(const UnfinishedFile& file, const ExportTable& table, const ExportProgress& goOn) {
-  std::ofstream out(file.path(), std::ios::binary);
-  out << kByteOrderMark;
-  for (const std::string& line : table.above) out << quotedField(line) << kLineEnd;
-  out << headings() << kLineEnd;
-  for (std::size_t row = 0; row < table.list.rowCount() && out; ++row) {
-    if (row % kRowsPerProgress == 0 && !goOn(row)) return false;
-    out << rowLine(table.list, row) << kLineEnd;
+bool writeCsv(WholeFile& file, const ExportTable& table, const ExportProgress& goOn) {
+  std::string text = kByteOrderMark;
+  for (const std::string& line : table.above) text += quotedField(line) + kLineEnd;
+  text += headings() + kLineEnd;
+  for (std::size_t row = 0; row < table.list.rowCount(); ++row) {
+    if (row % kRowsPerProgress == 0) {
+      if (!goOn(row)) return false;
+      file.append(text);
+      text.clear();
+    }
+    text += rowLine(table.list, row) + kLineEnd;
   }
-  out.close();
-  if (!out) file.failWith(errno);
+  file.append(text);
   return true;
 }

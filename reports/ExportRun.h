@@ -12,7 +12,7 @@ class ExportRun {
  public:
   /// Writes the list (see exportList) in a thread of its own, while events go on; returns when that
   /// has ended. `show` is called some times a second with the rows written so far. Nobody changes
-  /// the list meanwhile. Throws ExportError.
+  /// the list meanwhile. Throws FileError.
   [[nodiscard]] bool write(const std::filesystem::path& file, const ExportTable& table,
                            const std::function<void(std::size_t rows)>& show);
   void stop() { stopped_ = true; }

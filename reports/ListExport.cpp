@@ -1,13 +1,13 @@
 #include "reports/ListExport.h"
 
 #include "base/Text.h"
+#include "base/WholeFile.h"
 #include "reports/CsvExport.h"
-#include "reports/UnfinishedFile.h"
 #include "reports/XlsxExport.h"
 
 bool exportList(const std::filesystem::path& file, const ExportTable& table,
                 const ExportProgress& goOn) {
-  UnfinishedFile unfinished(file);
+  WholeFile unfinished(file);
   const bool isCsv = equalIgnoringCase(file.extension().string(), ".csv");
   const bool isWhole =
       isCsv ? writeCsv(unfinished, table, goOn) : writeXlsx(unfinished, table, goOn);

@@ -6,15 +6,7 @@
 #include <string>
 #include <vector>
 
-#include "base/Failure.h"
-
 class ResultList;
-
-/// A list that could not be written; the text says where and why.
-class ExportError : public Failure {
- public:
-  using Failure::Failure;
-};
 
 /// What a file holds: lines of text, below them the list's headings, its lines and its totals row.
 struct ExportTable {
@@ -28,6 +20,6 @@ using ExportProgress = std::function<bool(std::size_t rows)>;
 inline constexpr std::size_t kRowsPerProgress = 512;
 
 /// Writes the list as a spreadsheet, or as CSV when the name ends in ".csv". The file stands under
-/// its name only when it is whole. False when it was stopped. Throws ExportError.
+/// its name only when it is whole, for its owner only. False when it was stopped. Throws FileError.
 [[nodiscard]] bool exportList(const std::filesystem::path& file, const ExportTable& table,
                               const ExportProgress& goOn);

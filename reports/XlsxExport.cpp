@@ -10,8 +10,8 @@
 
 #include "base/Discount.h"
 #include "base/Gbk.h"
+#include "base/WholeFile.h"
 #include "reports/ResultList.h"
-#include "reports/UnfinishedFile.h"
 
 namespace {
 
@@ -41,16 +41,16 @@ lxw_datetime spreadsheetTime(const DateTime& time) {
 /// One workbook with one sheet, whose rows go to the disk as they are written.
 class Sheet {
  public:
-  Sheet(const UnfinishedFile& file, std::size_t rows) : file_(file) {
+  Sheet(WholeFile& file, std::size_t rows) : file_(file) {
     if (rows > LXW_ROW_MAX) {
       file_.fail("表格文件最多 " + std::to_string(LXW_ROW_MAX) + " 行，请改存为 .csv 文件。");
     }
     lxw_workbook_options options{};
     options.constant_memory = LXW_TRUE;
     book_.reset(workbook_new_opt(file.path().c_str(), &options));
-    if (!book_) file_.fail("内存不足");
+    if (!book_) file_.fail("内存不足。");
     sheet_ = workbook_add_worksheet(book_.get(), "商品查询");
-    if (!sheet_) file_.fail("内存不足");
+    if (!sheet_) file_.fail("内存不足。");
     makeFormats();
   }
 
@@ -103,10 +103,10 @@ class Sheet {
   }
 
   void check(lxw_error error) const {
-    if (error != LXW_NO_ERROR) file_.fail(lxw_strerror(error));
+    if (error != LXW_NO_ERROR) file_.fail("表格组件出错（" + std::to_string(error) + "）。");
   }
 
-  const UnfinishedFile& file_;
+  WholeFile& file_;
   std::unique_ptr<lxw_workbook, BookCloser> book_;
   lxw_worksheet* sheet_ = nullptr;
   lxw_format* heading_ = nullptr;
@@ -193,7 +193,7 @@ void writeTotals(Sheet& sheet, const ResultList& list) {
 
 }  // namespace
 
-bool writeXlsx(const UnfinishedFile& file, const ExportTable& table, const ExportProgress& goOn) {
+bool writeXlsx(WholeFile& file, const ExportTable& table, const ExportProgress& goOn) {
   const ResultList& list = table.list;
   Sheet sheet(file, table.above.size() + 1 + list.rowCount());
   lxw_col_t column = 0;

@@ -131,8 +131,14 @@ void frmMain::theMenu_MenuClick(const MenuItem& Menu) {
   if (screen != screens_.end()) openScreen(screen->second);
 }
 
+// What a screen reads or stores to open can fail for a moment, when another program has the data
+// file. The menu comes again then.
 void frmMain::openScreen(const Screen& screen) {
-  if (!screen.needsLogin || someoneLoggedIn()) screen.open();
+  try {
+    if (!screen.needsLogin || someoneLoggedIn()) screen.open();
+  } catch (const Failure& failure) {
+    messageBox(this, QString::fromUtf8(failure.what()), {}, BoxIcon::kExclamation);
+  }
 }
 
 bool frmMain::someoneLoggedIn() {
@@ -148,7 +154,7 @@ void frmMain::changeOperator() {
 void frmMain::endProgram() {
   pos_.logOff();
   try {
-    if (pos_.gSysParam.BackupOnExit()) pos_.backUp();
+    if (pos_.wantsBackUp()) pos_.backUp();
   } catch (const Failure& failure) {
     messageBox(this, tr("数据没有备份。") + QString::fromUtf8(failure.what()), {},
                BoxIcon::kExclamation);

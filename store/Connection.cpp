@@ -1,15 +1,10 @@
 #include "store/Connection.h"
 
-#include <fcntl.h>
 #include <unistd.h>
 
-#include <cerrno>
 #include <cstring>
-#include <fstream>
 #include <utility>
 
-#include "base/FileName.h"
-#include "store/DataFilePath.h"
 #include "store/Dialect.h"
 #include "store/Engine.h"
 #include "store/FragmentPieces.h"
@@ -21,22 +16,15 @@ namespace {
 
 constexpr int kBusyMilliseconds = 2000;  // a cashier waits for another program no longer than this
 
-// Made before the engine sees it, so that it is at no instant readable by others; the engine gives
-// its log files the permissions of the data file.
-void makeEmptyFile(const std::filesystem::path& path) {
-  const int file = open(path.c_str(), O_CREAT | O_EXCL | O_WRONLY | O_CLOEXEC, 0600);
-  if (file < 0) {
-    if (errno == EEXIST) throw StoreError("已经有这个文件，不会覆盖：" + path.string());
-    throw StoreError("不能建立数据文件 " + path.string() + "：" + fileFault(errno));
-  }
-  close(file);
-}
-
-bool beginsAsPlainFile(const std::filesystem::path& path) {
+// Read through the engine's handle: closing one of our own would give up the locks of every other
+// connection that this program has to the file.
+bool beginsAsPlainFile(sqlite3* engine) {
   static constexpr char kPlainBeginning[] = "SQLite format 3";
   char beginning[sizeof kPlainBeginning] = {};
-  std::ifstream(path, std::ios::binary).read(beginning, sizeof beginning);
-  return std::memcmp(beginning, kPlainBeginning, sizeof beginning) == 0;
+  sqlite3_file* file = nullptr;
+  check(engine, sqlite3_file_control(engine, "main", SQLITE_FCNTL_FILE_POINTER, &file));
+  const int code = file->pMethods->xRead(file, beginning, sizeof beginning, 0);
+  return code == SQLITE_OK && std::memcmp(beginning, kPlainBeginning, sizeof beginning) == 0;
 }
 
 void execute(sqlite3* engine, const char* statements) {
@@ -80,38 +68,42 @@ void Connection::EngineCloser::operator()(sqlite3* engine) const {
 }
 
 Connection::Connection(const DataSource& source, Mode mode) : source_(source) {
-  source_.path = mode == Mode::kCreate ? findIgnoringCase(source.path.string())
-                                       : existingDataFile(source.path);
-  if (mode == Mode::kCreate) makeEmptyFile(source_.path);
+  source_.path = existingDataFile(source.path);
+  if (mode == Mode::kExisting) file_ = FileIdentity::of(source_.path);
   try {
-    openEngine();
+    openEngine(mode);
   } catch (const StoreError& error) {
     engine_.reset();
-    if (mode == Mode::kCreate) unlink(source_.path.c_str());
     throw StoreError("数据文件 " + source_.path.string() + " 打不开：" + error.what());
   }
   statements_ = std::make_unique<StatementCache>(engine_.get());
 }
 
 // One thread uses the connection, so the engine need not lock its own calls.
-void Connection::openEngine() {
-  if (!source_.password.empty() && beginsAsPlainFile(source_.path)) {
-    throw StoreError("这个数据文件没有密码，请在设置中去掉密码部分。");
-  }
+void Connection::openEngine(Mode mode) {
   sqlite3* opened = nullptr;
   const int code = sqlite3_open_v2(source_.path.c_str(), &opened,
                                    SQLITE_OPEN_READWRITE | SQLITE_OPEN_NOMUTEX, nullptr);
   engine_.reset(opened);
   check(opened, code);
+  if (mode == Mode::kNameless) unlink(source_.path.c_str());
+  if (!source_.password.empty() && beginsAsPlainFile(opened)) {
+    throw StoreError("这个数据文件没有密码，请在设置中去掉密码部分。");
+  }
   sqlite3_extended_result_codes(opened, 1);
   sqlite3_busy_timeout(opened, kBusyMilliseconds);
   addFragmentPieces(opened);
   unlock(opened, source_);
   requireWritable(opened);
   configure(opened);
+  if (mode == Mode::kNameless) execute(opened, "pragma journal_mode = memory");
 }
 
 Connection::~Connection() = default;
+
+void Connection::requireItsFile() const {
+  if (file_) requireSameDataFile(source_.path, *file_);
+}
 
 std::int64_t Connection::Execute(const std::string& statement) {
   EngineStatement engineForm = translate(statement);
@@ -188,6 +180,7 @@ std::shared_ptr<Statement> Connection::prepared(std::string_view text, std::vect
 }
 
 std::int64_t Connection::runToEnd(std::string_view text, std::vector<Value> values) {
+  if (transactionDepth_ == 0) requireItsFile();
   const int changesBefore = sqlite3_total_changes(engine_.get());
   const std::shared_ptr<Statement> running = prepared(text, std::move(values));
   const Rows ended(running);

@@ -3,11 +3,13 @@
 #include <cstdint>
 #include <functional>
 #include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
 
 #include "store/DataFile.h"
+#include "store/DataFilePath.h"
 #include "store/Recordset.h"
 #include "store/Rows.h"
 #include "store/Value.h"
@@ -25,16 +27,21 @@ struct sqlite3;
 /// literals count as values, so that a thousand barcodes are one prepared statement.
 class Connection {
  public:
-  enum class Mode { kExisting, kCreate };
+  enum class Mode { kExisting, kNameless };
 
-  /// Opens the file as it is, without looking at its tables (see openDataFile). kCreate makes a new
-  /// file, readable by its owner only, and refuses one that exists.
+  /// Opens the file as it is, without looking at its tables (see openDataFile). kNameless takes the
+  /// file's name away as soon as it is open, and keeps all that belongs to it in memory or in the
+  /// file: it goes with the connection, even when the program is killed.
   Connection(const DataSource& source, Mode mode);
   ~Connection();
   Connection(const Connection&) = delete;
   Connection& operator=(const Connection&) = delete;
 
   const DataSource& source() const { return source_; }
+  /// Throws StoreError, with a text for people, when the file has been deleted, moved, replaced or
+  /// linked since it was opened: what is written now would be lost. So do Execute, run and a
+  /// transaction's beginning.
+  void requireItsFile() const;
 
   /// Runs a statement that returns no rows; gives the number of rows changed.
   std::int64_t Execute(const std::string& statement);
@@ -75,7 +82,7 @@ class Connection {
  private:
   friend class Snapshot;
   friend class Transaction;
-  friend void copyDataFile(Connection& connection, const std::filesystem::path& target);
+  friend class FileReading;
   friend void backUpDataFile(Connection& connection, const std::filesystem::path& target);
   Rows queryBound(const char* text, std::vector<Value> values);
 
@@ -83,12 +90,13 @@ class Connection {
     void operator()(sqlite3* engine) const;
   };
 
-  void openEngine();
+  void openEngine(Mode mode);
   void requireTransaction() const;
   std::shared_ptr<Statement> prepared(std::string_view text, std::vector<Value> values);
   std::int64_t runToEnd(std::string_view text, std::vector<Value> values);
 
   DataSource source_;
+  std::optional<FileIdentity> file_;  ///< none while nameless
   std::unique_ptr<sqlite3, EngineCloser> engine_;
   std::unique_ptr<StatementCache> statements_;
   std::function<bool()> stopAsked_;

@@ -2,9 +2,12 @@
 
 #include <string>
 
+#include "base/FileName.h"
 #include "base/OwnerOnly.h"
 #include "base/Text.h"
+#include "base/WholeFile.h"
 #include "store/Connection.h"
+#include "store/FileReading.h"
 #include "store/FragmentIndex.h"
 #include "store/Schema.h"
 #include "store/StoreError.h"
@@ -30,10 +33,14 @@ void quickenLookUps(Connection& connection) {
   }
 }
 
-void removeFiles(const std::filesystem::path& path) {
-  for (const char* part : {"", "-wal", "-shm", "-journal"}) {
-    std::error_code ignored;
-    std::filesystem::remove(path.string() + part, ignored);
+// A log that lies beside a missing file may hold a shop's last sales, and the engine would replay
+// it into the new file.
+void requireFreePlace(const std::filesystem::path& path) {
+  for (const char* part : {"", "-wal", "-journal"}) {
+    const std::string file = path.string() + part;
+    std::error_code unreadable;
+    if (std::filesystem::exists(file, unreadable))
+      throw StoreError("已经有这个文件，不会覆盖：" + file);
   }
 }
 
@@ -56,25 +63,36 @@ std::unique_ptr<Connection> openDataFile(const DataSource& source) {
   return connection;
 }
 
+// The engine names the answer of the shorter check like that of the longer one.
+void requireSoundDataFile(const DataSource& source, Soundness depth) {
+  Connection opened(source, Connection::Mode::kExisting);
+  requireShopFile(opened);
+  Rows rows = opened.query(depth == Soundness::kEveryPage ? "pragma quick_check(1)"
+                                                          : "pragma integrity_check(1)");
+  if (!rows.next() || rows.text("integrity_check") != "ok") throw StoreError("文件已损坏。");
+}
+
 std::vector<std::filesystem::path> protectDataFile(const std::filesystem::path& path) {
   std::vector<std::filesystem::path> exposed;
-  for (const char* part : {"", "-wal", "-shm", "-journal", ".lock"}) {
+  for (const char* part : {"", "-wal", "-shm", "-journal"}) {
     const std::filesystem::path file = path.string() + part;
     if (!makeOwnerOnly(file)) exposed.push_back(file);
   }
   return exposed;
 }
 
-std::unique_ptr<Connection> createDataFile(const DataSource& source) {
-  auto connection = std::make_unique<Connection>(source, Connection::Mode::kCreate);
-  try {
-    upgradeSchema(*connection, true);
-    useWriteAheadLog(*connection);
-  } catch (...) {
-    const std::filesystem::path made = connection->source().path;
-    connection.reset();
-    removeFiles(made);
-    throw;
+std::unique_ptr<Connection> createDataFile(const DataSource& source,
+                                           const std::function<void(Connection&)>& fill) {
+  const DataSource target{findIgnoringCase(source.path.string()), source.password};
+  requireFreePlace(target.path);
+  WholeFile made(target.path);
+  {
+    WholeFile place(target.path);
+    Connection building({place.path(), source.password}, Connection::Mode::kNameless);
+    upgradeSchema(building, true);
+    fill(building);
+    FileReading(building).appendTo(made);
   }
-  return connection;
+  if (!made.finishAsNew()) requireFreePlace(target.path);
+  return openDataFile(target);
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <filesystem>
+#include <functional>
 #include <memory>
 #include <optional>
 #include <string>
@@ -29,10 +30,19 @@ struct DataSource {
 /// on the files are taken away as far as they can be.
 std::unique_ptr<Connection> openDataFile(const DataSource& source);
 
-/// Makes a new data file with empty tables, readable by its owner only; refuses one that exists.
-/// A failure leaves no file behind.
-std::unique_ptr<Connection> createDataFile(const DataSource& source);
+/// Makes a new data file, readable by its owner only, and opens it; refuses one that exists. It has
+/// its name only when its tables are made and `fill` has written what it holds from the beginning:
+/// neither a failure nor a kill leaves anything behind. Throws Failure.
+std::unique_ptr<Connection> createDataFile(
+    const DataSource& source, const std::function<void(Connection&)>& fill = [](Connection&) {});
 
-/// Makes the data file and the files that stand beside it under its name (logs, lock) readable by
-/// their owner only. Gives those that others keep rights on.
+/// How much of a data file is read: each page and the tables' structure, or the indexes' entries
+/// too.
+enum class Soundness { kEveryPage, kEveryEntry };
+/// Throws StoreError unless it is a shop's data file of a version that this program knows, and
+/// sound. Changes nothing in it.
+void requireSoundDataFile(const DataSource& source, Soundness depth);
+
+/// Makes the data file and the files that stand beside it under its name (logs) readable by their
+/// owner only. Gives those that others keep rights on.
 std::vector<std::filesystem::path> protectDataFile(const std::filesystem::path& path);

@@ -1,38 +1,67 @@
 #include "store/DataFilePath.h"
 
+#include <sys/stat.h>
+
 #include <cerrno>
-#include <cstring>
+#include <string>
+#include <system_error>
 
 #include "base/FileName.h"
 #include "store/StoreError.h"
 
-std::filesystem::path existingDataFile(const std::filesystem::path& path) {
-  std::filesystem::path found = findIgnoringCase(path.string());
-  std::error_code unreadable;  // counts as missing
-  const std::filesystem::file_status status = std::filesystem::status(found, unreadable);
-  if (std::filesystem::is_regular_file(status)) return found;
-  if (std::filesystem::is_directory(status)) {
+namespace fs = std::filesystem;
+
+namespace {
+
+void requireOneName(const fs::path& dataFile, std::uintmax_t names) {
+  if (names <= 1) return;
+  throw StoreError("数据文件 " + dataFile.string() +
+                   " 在磁盘上另有一个名字（硬链接）。两个名字同时使用会丢失数据，请只留一个。");
+}
+
+}  // namespace
+
+fs::path existingDataFile(const fs::path& path) {
+  fs::path found = findIgnoringCase(path.string());
+  std::error_code fault;
+  const fs::file_status status = fs::status(found, fault);
+  if (fs::is_regular_file(status)) {
+    requireOneName(found, fs::hard_link_count(found, fault));
+    return found;
+  }
+  if (fs::is_directory(status)) {
     throw StoreError("数据文件的位置是一个文件夹：" + found.string());
   }
-  if (std::filesystem::exists(status)) {
+  if (fs::exists(status)) {
     throw StoreError("数据文件的位置不是普通文件：" + found.string());
+  }
+  if (fault == std::errc::permission_denied) {
+    throw StoreError("没有权限进入数据文件所在的文件夹：" + found.string());
   }
   throw StoreError("找不到数据文件：" + found.string());
 }
 
-std::string fileFault(int errorNumber) {
-  switch (errorNumber) {
-    case ENOENT:
-      return "文件夹不存在。";
-    case EACCES:
-    case EPERM:
-      return "没有写入这个文件夹的权限。";
-    case EROFS:
-      return "磁盘是只读的。";
-    case ENOSPC:
-    case EDQUOT:
-      return "磁盘已满。";
-    default:
-      return std::strerror(errorNumber);
+void removeLogs(const fs::path& dataFile) {
+  for (const char* part : {"-wal", "-shm", "-journal"}) {
+    std::error_code ignored;
+    fs::remove(dataFile.string() + part, ignored);
   }
+}
+
+FileIdentity FileIdentity::of(const fs::path& dataFile) {
+  struct stat status {};
+  if (stat(dataFile.c_str(), &status) != 0)
+    throw StoreError("找不到数据文件：" + dataFile.string());
+  return {status.st_dev, status.st_ino};
+}
+
+void requireSameDataFile(const fs::path& path, const FileIdentity& opened) {
+  struct stat now {};
+  if (stat(path.c_str(), &now) != 0 || FileIdentity{now.st_dev, now.st_ino} != opened) {
+    throw StoreError(
+        "数据文件 " + path.string() +
+        " 在使用中被删除、移走或换成了别的文件，不能再保存。请把原来的文件放回原处。"
+        "放不回时请退出程序，退出时会备份到此为止的账目，可用 tilladmin restore 恢复。");
+  }
+  requireOneName(path, now.st_nlink);
 }

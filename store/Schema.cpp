@@ -262,11 +262,6 @@ void setPragma(Connection& connection, const std::string& name, std::int64_t val
   connection.runScript("pragma " + name + " = " + std::to_string(value));
 }
 
-void requireShopFile(Connection& connection) {
-  if (pragma(connection, "application_id") == kApplicationMark) return;
-  throw StoreError("这不是本系统的数据文件：" + connection.source().path.string());
-}
-
 /// Number of steps that the file has seen.
 std::size_t stepsDone(Connection& connection) {
   const std::int64_t version = pragma(connection, "user_version");
@@ -282,6 +277,12 @@ std::size_t stepsDone(Connection& connection) {
 const std::vector<std::string>& schemaSteps() {
   static const std::vector<std::string> steps = {kFirstStep, kSecondStep};
   return steps;
+}
+
+void requireShopFile(Connection& connection) {
+  if (pragma(connection, "application_id") != kApplicationMark)
+    throw StoreError("这不是本系统的数据文件：" + connection.source().path.string());
+  static_cast<void>(stepsDone(connection));
 }
 
 void upgradeSchema(Connection& connection, bool isNew) {

@@ -1,14 +1,12 @@
 #include "tools/BackupCommand.h"
 
 #include <CLI/CLI.hpp>
-#include <filesystem>
 #include <memory>
 #include <string>
 
 #include "store/Connection.h"
 #include "store/DataFileCopy.h"
 #include "tools/DataFileOptions.h"
-#include "tools/Refusal.h"
 
 namespace {
 
@@ -19,10 +17,6 @@ struct Options {
 
 void backUp(const Options& options, Console& console) {
   const std::unique_ptr<Connection> connection = openDataFile(options.file.source(console));
-  std::error_code ignored;
-  if (std::filesystem::equivalent(connection->source().path, options.target, ignored)) {
-    throw Refusal("不能备份到数据文件自己。");
-  }
   backUpDataFile(*connection, options.target);
   console.out << "已备份到 " << options.target << "，并已打开检查过。\n";
 }

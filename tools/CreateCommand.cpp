@@ -14,26 +14,10 @@ struct Options {
   bool demo = false;
 };
 
-// A file that could not be filled is taken away again: the next attempt finds nothing in its way.
-void fillOrRemove(const Options& options, Console& console) {
-  std::unique_ptr<Connection> connection = createDataFile(options.file.newSource(console));
-  const std::filesystem::path path = connection->source().path;
-  try {
-    fillDemoShop(*connection, console.clock);
-  } catch (...) {
-    connection.reset();
-    std::error_code ignored;
-    std::filesystem::remove(path, ignored);
-    throw;
-  }
-}
-
 void create(const Options& options, Console& console) {
-  if (options.demo) {
-    fillOrRemove(options, console);
-  } else {
-    createDataFile(options.file.newSource(console));
-  }
+  createDataFile(options.file.newSource(console), [&](Connection& made) {
+    if (options.demo) fillDemoShop(made, console.clock);
+  });
   console.out << "已建立" << (options.demo ? "演示店铺的" : "") << "数据文件 " << options.file.path
               << '\n';
 }

@@ -15,6 +15,7 @@
 #include "tools/ImportCommand.h"
 #include "tools/OperatorCommand.h"
 #include "tools/ParamCommand.h"
+#include "tools/RestoreCommand.h"
 
 namespace {
 
@@ -88,6 +89,7 @@ int runTool(int count, const char* const* arguments, Console& console) {
   addImportCommand(app, console);
   addExportCommand(app, console);
   addBackupCommand(app, console);
+  addRestoreCommand(app, console);
   addCheckCommand(app, console, exitCode);
   groupInChinese(app);
   try {

@@ -1,5 +1,8 @@
 #include <gmock/gmock.h>
+#include <sys/inotify.h>
+#include <unistd.h>
 
+#include <array>
 #include <fstream>
 
 #include "TemporaryFolder.h"
@@ -45,7 +48,14 @@ TEST_F(SettingsTest, QuickKeysEndAtTheFirstGapAndAShorterListLeavesEmptyOnesBehi
             "6901234567892||a;b");
   keys.ReSetQk();
   keys.QK = {{70, "7"}, {71, "8"}};
+  const int watch = inotify_init1(IN_NONBLOCK);
+  inotify_add_watch(watch, folder_.path().c_str(), IN_MOVED_TO);
   keys.SaveSet(file_);
+  alignas(inotify_event) std::array<char, 4096> events{};
+  const ssize_t read = ::read(watch, events.data(), events.size());
+  const auto* first = reinterpret_cast<const inotify_event*>(events.data());
+  EXPECT_EQ(read, static_cast<ssize_t>(sizeof *first + first->len)) << "not saved in one step";
+  close(watch);
   EXPECT_EQ(file_.read("QK", "1QK"), "71;8");
   for (const char* gone : {"2QK", "3QK", "4QK"}) EXPECT_EQ(file_.read("QK", gone), "") << gone;
 }

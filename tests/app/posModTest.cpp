@@ -40,17 +40,6 @@ TEST_F(posModTest, OpensTheConfiguredDataFileOrSaysWhyNot) {
   EXPECT_THAT(openingFault(), HasSubstr("密码"));
 }
 
-TEST_F(posModTest, RefusesASecondTillUntilTheFirstIsGone) {
-  makeShop("data/POS.mdb");
-  {
-    posMod first(folder_.path());
-    ASSERT_EQ(first.OpenDataStore(), "");
-    first.backUp();
-    EXPECT_NE(openingFault(), "") << "the copying gave up the till's lock";
-  }
-  EXPECT_EQ(openingFault(), "");
-}
-
 TEST_F(posModTest, BackUpIsTheWholeFileAndAFailingOneLeavesTheEarlierCopy) {
   makeShop("data/POS.mdb");
   const std::string copy = folder_.file("data/pos3.mdb");
@@ -60,6 +49,7 @@ TEST_F(posModTest, BackUpIsTheWholeFileAndAFailingOneLeavesTheEarlierCopy) {
   pos.start();
   ASSERT_EQ(pos.gSysParam.set("ShopName", "小店"), "");
   pos.backUp();
+  EXPECT_THAT(openingFault(), HasSubstr("已经打开"));
   EXPECT_EQ(fs::status(copy).permissions(), fs::perms::owner_read | fs::perms::owner_write);
   {
     const auto reader = openDataFile({folder_.file("data/POS.mdb"), kBuiltInPassword});
@@ -71,7 +61,8 @@ TEST_F(posModTest, BackUpIsTheWholeFileAndAFailingOneLeavesTheEarlierCopy) {
   ClsSysParam copied;
   copied.Conn(*openDataFile({copy, kBuiltInPassword}));
   EXPECT_EQ(copied.ShopName(), "小店");
-  EXPECT_FALSE(fs::exists(copy + ".part"));
+  const fs::directory_iterator files(folder_.path() / "data");
+  EXPECT_EQ(std::distance(begin(files), end(files)), 4) << "shop, its two logs and the copy";
 }
 
 TEST_F(posModTest, WhatHoldsSecretsIsItsOwnersAlone) {
@@ -93,15 +84,22 @@ TEST_F(posModTest, WhatHoldsSecretsIsItsOwnersAlone) {
   }
 }
 
-TEST_F(posModTest, BackUpTakesTheDefaultFileWhenAnotherOneIsConfigured) {
-  makeShop("two.mdb");
-  configure("two.mdb;Jet OLEDB:Database password=kvrnex");
+TEST_F(posModTest, BackUpTakesTheFileThatIsOpenWhateverElseIsSpelledAlike) {
+  makeShop("data/POS.mdb");
+  makeShop("data/another.mdb", "another one's");
+  fs::rename(folder_.file("data/another.mdb"), folder_.file("data/pos.mdb"));
   posMod pos(folder_.path());
   ASSERT_EQ(pos.OpenDataStore(), "");
-  EXPECT_THROW(pos.backUp(), StoreError);
-  makeShop("data/POS.mdb", "the default one's");
-  pos.backUp();
-  EXPECT_NO_THROW(openDataFile({folder_.file("data/pos3.mdb"), "the default one's"}));
+  pos.start();
+  for (const bool isLost : {false, true}) {
+    if (isLost) fs::rename(folder_.file("data/pos.mdb"), folder_.file("data/POS.mdb"));
+    EXPECT_EQ(pos.wantsBackUp(), isLost);
+    pos.backUp();
+    EXPECT_NO_THROW(openDataFile({folder_.file("data/pos3.mdb"), kBuiltInPassword}));
+    fs::remove(folder_.file("data/pos3.mdb"));
+  }
+  fs::create_symlink(pos.gConn->source().path, folder_.file("data/pos3.mdb"));
+  EXPECT_THAT([&] { pos.backUp(); }, testing::ThrowsMessage<StoreError>(HasSubstr("自己")));
 }
 
 }  // namespace

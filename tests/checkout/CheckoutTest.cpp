@@ -81,6 +81,21 @@ TEST_F(CheckoutTest, aPaidBillThatCannotBeStoredIsWithdrawnBeforeAnythingElseIsS
   EXPECT_EQ(pagesPrinted(), 0U);
 }
 
+TEST_F(CheckoutTest, noPaymentIsTakenIntoAFileThatLostItsName) {
+  const std::filesystem::path file = pos.gConn->source().path;
+  enter("水", "1.00");
+  std::filesystem::rename(file, folder.file("away"));
+  screen.pay = [](Settlement&) { ADD_FAILURE() << "the cashier is asked for money"; };
+  screen.answersYes = false;
+  checkout.SettleBill();
+  EXPECT_TRUE(std::exchange(screen.ended, false));
+  EXPECT_THAT(screen.said(), HasSubstr("删除、移走"));
+  screen.answersYes = true;
+  screen.asked = [&] { std::filesystem::rename(folder.file("away"), file); };
+  payCash("1");
+  EXPECT_EQ(stored("state as v from sell where id=1"), "1");
+}
+
 TEST_F(CheckoutTest, pageReceiptsFollowTheMode) {
   const struct {
     const char *port, *mode;

@@ -86,9 +86,13 @@ TEST_F(IniFileTest, SurvivesWhatIsNoWritableFile) {
   EXPECT_FALSE(ini_.write("POS", "a", "2"));
   EXPECT_EQ(ini_.read("POS", "a"), "1");
   fs::permissions(path_, fs::perms::owner_all | fs::perms::group_read);
-  EXPECT_TRUE(ini_.write("POS", "a", "2"));
+  fs::rename(path_, folder_.file("real"));
+  fs::create_symlink(folder_.file("real"), path_);
+  EXPECT_TRUE(ini_.write({{"POS", "a", "2"}, {"POS", "b", "3"}}));
+  EXPECT_EQ(content(), "[POS]\r\na=2\r\nb=3\r\n");
+  EXPECT_TRUE(fs::is_symlink(path_));
   EXPECT_EQ(fs::status(path_).permissions(), fs::perms::owner_all | fs::perms::group_read);
-  EXPECT_EQ(std::distance(fs::directory_iterator(folder_.path()), {}), 1) << "a stray file stayed";
+  EXPECT_EQ(std::distance(fs::directory_iterator(folder_.path()), {}), 2) << "a stray file stayed";
 }
 
 }  // namespace

@@ -6,6 +6,7 @@
 
 #include "Hands.h"
 #include "TestTill.h"
+#include "base/Failure.h"
 
 namespace {
 
@@ -16,10 +17,14 @@ class frmMainTest : public testing::Test {
  protected:
   void open() {
     const auto note = [this](const char* name) { return [this, name] { opened_ += name; }; };
+    const auto fail = [this] {
+      opened_ += "keyset ";
+      throw Failure("locked");
+    };
     window_ = std::make_unique<frmMain>(
         till_.pos, std::map<QString, frmMain::Screen>{{"sell", {true, note("sell ")}},
                                                       {"editpwd", {false, note("editpwd ")}},
-                                                      {"keyset", {true, note("keyset ")}}});
+                                                      {"keyset", {true, fail}}});
     window_->show();
   }
   void runUntilEnd() {
@@ -61,6 +66,8 @@ TEST_F(frmMainTest, TheFurtherMenuOpensItsScreensAndChangesTheOperator) {
   hands_.press("frmMenu", {Key_Return});
   logIn();
   hands_.press("frmMenu", {Key_Menu}).press("frmMenu", {Key_Return});  // keyset
+  std::vector<std::string> said;
+  hands_.confirm(said);                                                // the program goes on
   hands_.press("frmMenu", {Key_Menu}).press("frmMenu", {Key_Escape});  // the main menu again
   hands_.at("frmMenu", [](QWidget& menu) { QTest::mouseClick(&menu, Qt::RightButton); });
   hands_.press("frmMenu", {Key_Down, Key_Return});  // another operator

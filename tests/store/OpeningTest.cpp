@@ -1,5 +1,7 @@
+#include <fcntl.h>
 #include <gmock/gmock.h>
 #include <sys/stat.h>
+#include <unistd.h>
 
 #include <filesystem>
 #include <fstream>
@@ -11,6 +13,7 @@
 #include "store/DataFileLock.h"
 #include "store/Schema.h"
 #include "store/StoreError.h"
+#include "store/Transaction.h"
 
 using testing::HasSubstr;
 using testing::ThrowsMessage;
@@ -82,8 +85,7 @@ TEST_F(OpeningTest, RightsOfOthersAreTakenAway) {
   const DataSource source{folder_.file("pos.mdb"), ""};
   const auto till = createDataFile(source);
   till->run("insert into stock values ('kept', 2)");
-  const DataFileLock lock(source.path);
-  const char* const names[] = {"pos.mdb", "pos.mdb-wal", "pos.mdb-shm", "pos.mdb.lock"};
+  const char* const names[] = {"pos.mdb", "pos.mdb-wal", "pos.mdb-shm"};
   for (const char* name : names) ASSERT_EQ(chmod(folder_.file(name).c_str(), 0664), 0);
   const auto opened = openDataFile(source);
   for (const char* name : names) EXPECT_EQ(permissions(folder_.file(name)), 0600U) << name;
@@ -97,7 +99,8 @@ TEST_F(OpeningTest, SaysWhyAFileCannotBeOpenedAndLeavesItAsItIs) {
   std::filesystem::create_directory(folder_.file("folder.mdb"));
   createDataFile({folder_.file("secret.mdb"), "right"});
   createDataFile({folder_.file("plain.mdb"), ""});
-  Connection({folder_.file("foreign.mdb"), ""}, Connection::Mode::kCreate)
+  write("foreign.mdb", "");
+  Connection({folder_.file("foreign.mdb"), ""}, Connection::Mode::kExisting)
       .runScript("create table customers (name); pragma user_version = 1");
 
   struct Case {
@@ -125,7 +128,8 @@ TEST_F(OpeningTest, BringsAnOlderFileUpToDateInOneTransactionAndRefusesANewerOne
   const DataSource source{folder_.file("older.mdb"), kBuiltInPassword};
   const std::string mark = pragma(*createDataFile({folder_.file("new.mdb"), ""}), "application_id");
   // The table that is already there makes the first step fail in its middle.
-  Connection(source, Connection::Mode::kCreate)
+  write("older.mdb", "");
+  Connection(source, Connection::Mode::kExisting)
       .runScript("create table stock (spbm); pragma application_id = " + mark);
   EXPECT_THROW(openDataFile(source), StoreError);
   {
@@ -146,19 +150,64 @@ TEST_F(OpeningTest, BringsAnOlderFileUpToDateInOneTransactionAndRefusesANewerOne
   EXPECT_THAT([&] { openDataFile(source); }, ThrowsMessage<StoreError>(HasSubstr("更新版本")));
 }
 
+TEST_F(OpeningTest, AFileIsThereOnlyWhenItIsWhole) {
+  const DataSource source{folder_.file("pos.mdb"), kBuiltInPassword};
+  const auto nothingLies = [&] { return std::filesystem::is_empty(folder_.path()); };
+  const auto failing = [&](Connection& made) {
+    made.run("insert into stock values ('begun', 2)");
+    EXPECT_TRUE(nothingLies()) << "a kill would leave it behind";
+    throw StoreError("no more");
+  };
+  EXPECT_THAT([&] { createDataFile(source, failing); }, ThrowsMessage<StoreError>("no more"));
+  EXPECT_TRUE(nothingLies());
+  write("pos.mdb-wal", "an old log");
+  EXPECT_THAT([&] { createDataFile(source); }, ThrowsMessage<StoreError>(HasSubstr("mdb-wal")));
+}
+
+// The engine's own lock tells other programs that the log is in use. Another connection of the same
+// program, as the sales query has one, must not give it up.
 TEST_F(OpeningTest, OneTillHoldsAFileWhileOthersMayRead) {
-  const DataSource source{folder_.file("pos.mdb"), ""};
+  const DataSource source{folder_.file("pos.mdb"), kBuiltInPassword};
   EXPECT_THAT([&] { DataFileLock lock(source.path); },
               ThrowsMessage<StoreError>(HasSubstr("找不到数据文件")));
   createDataFile(source);
+  const int file = open(source.path.c_str(), O_RDWR | O_CLOEXEC);
   {
     const DataFileLock till(source.path);
-    EXPECT_EQ(permissions(folder_.file("pos.mdb.lock")), 0600U);
-    EXPECT_THAT([&] { DataFileLock second(folder_.file("POS.mdb")); },
+    std::filesystem::create_symlink(source.path, folder_.file("link.mdb"));
+    EXPECT_THAT([&] { DataFileLock second(folder_.file("LINK.mdb")); },
                 ThrowsMessage<StoreError>(HasSubstr("已经打开")));
-    EXPECT_NO_THROW(openDataFile(source));
+    const auto selling = openDataFile(source);
+    openDataFile(source);
+    struct flock engines {};
+    engines.l_type = F_WRLCK;
+    engines.l_start = 0x40000002;
+    engines.l_len = 510;
+    ASSERT_EQ(fcntl(file, F_OFD_GETLK, &engines), 0);
+    EXPECT_EQ(engines.l_type, F_RDLCK) << "the last one to close would delete the till's log";
   }
   EXPECT_NO_THROW(DataFileLock(source.path));
+  close(file);
+}
+
+TEST_F(OpeningTest, NothingIsWrittenToAFileThatLostItsName) {
+  const DataSource source{folder_.file("pos.mdb"), ""};
+  const auto till = createDataFile(source);
+  const std::string other = folder_.file("other.mdb");
+  const auto refuses = [&](const char* why) {
+    EXPECT_THAT([&] { till->Execute("delete from stock"); },
+                ThrowsMessage<StoreError>(HasSubstr(why)));
+    EXPECT_THAT([&] { Transaction begun(*till); }, ThrowsMessage<StoreError>(HasSubstr(why)));
+  };
+  std::filesystem::create_hard_link(source.path, other);
+  refuses("硬链接");
+  EXPECT_THAT([&] { openDataFile({other, ""}); }, ThrowsMessage<StoreError>(HasSubstr("硬链接")));
+  std::filesystem::remove(source.path);
+  refuses("删除");
+  write("pos.mdb", contents(other));
+  refuses("换成了");
+  std::filesystem::rename(other, source.path);
+  EXPECT_NO_THROW(till->Execute("delete from stock"));
 }
 
 }  // namespace

@@ -6,6 +6,7 @@
 
 #include "Owner.h"
 #include "saleslib/ClsLogin.h"
+#include "store/DataFileLock.h"
 
 namespace {
 
@@ -20,6 +21,9 @@ struct Command : testing::Test {
                                       number,     "--name", "张三"};
     words.insert(words.end(), more.begin(), more.end());
     return owner.run(words);
+  }
+  std::ptrdiff_t filesLeft() const {
+    return std::distance(std::filesystem::directory_iterator(owner.folder.path()), {});
   }
   bool canLogIn(const char* number, const char* password) {
     const std::unique_ptr<Connection> connection = owner.open();
@@ -73,7 +77,6 @@ TEST_F(Command, ABackupIsMadeWhileTheTillSells) {
     till->run("commit");
   }
   EXPECT_EQ(std::filesystem::status(copy).permissions(), std::filesystem::perms(0600));
-  EXPECT_FALSE(std::filesystem::exists(copy + ".part"));
   EXPECT_EQ(openDataFile({copy, ""})->Open("select * from operators").count(), 1U);
 
   EXPECT_EQ(owner.run({"backup", owner.shop, owner.shop}), 1);
@@ -89,8 +92,32 @@ TEST_F(Command, ABackupThatDoesNotReadIsNotTaken) {
   EXPECT_EQ(owner.run({"backup", owner.shop, copy}), 1);
   EXPECT_THAT(owner.err, HasSubstr("没有采用"));
   EXPECT_EQ(std::filesystem::file_size(copy), 15U);
-  for (const char* rest : {".part", ".part-wal", ".part-shm"})
-    EXPECT_FALSE(std::filesystem::exists(copy + rest)) << rest;
+  EXPECT_EQ(filesLeft(), 2) << "the shop and the older backup";
+}
+
+TEST_F(Command, ARestoredBackupIsNotMixedWithTheOldLog) {
+  const std::string backup = owner.folder.file("backup.mdb");
+  ASSERT_EQ(owner.run({"backup", owner.shop, backup}), 0) << owner.err;
+  Owner crashed;
+  {
+    const std::unique_ptr<Connection> till = owner.open();
+    till->run("insert into stock values ('late', 1)");
+    const DataFileLock lock(owner.shop);
+    EXPECT_EQ(owner.run({"restore", backup, owner.shop}), 1);
+    EXPECT_THAT(owner.err, HasSubstr("已经打开"));
+    for (const char* part : {"", "-wal"})
+      std::filesystem::copy(owner.shop + part, crashed.shop + part);
+  }
+  EXPECT_EQ(crashed.run({"restore", crashed.shop, backup}), 1);
+  EXPECT_THAT(crashed.err, HasSubstr("日志"));
+  std::ofstream(crashed.folder.file("noise")) << "no backup";
+  EXPECT_EQ(crashed.run({"restore", crashed.folder.file("noise"), crashed.shop}), 1);
+  EXPECT_THAT(crashed.err, HasSubstr("没有恢复"));
+  ASSERT_EQ(crashed.run({"restore", backup, crashed.shop}), 0) << crashed.err;
+  EXPECT_EQ(crashed.value("select count(*) as value from stock"), "0");
+  const std::string old = crashed.folder.file("POS.mdb.old-20261122-090503");
+  EXPECT_THAT(crashed.out, HasSubstr(old));
+  EXPECT_EQ(openDataFile({old, ""})->Open("select * from stock where spbm='late'").count(), 1U);
 }
 
 TEST_F(Command, OperatorsComeAndGo) {

@@ -1,0 +1,43 @@
+#include "tools/RestoreCommand.h"
+
+#include <CLI/CLI.hpp>
+#include <array>
+#include <cstdio>
+#include <filesystem>
+#include <memory>
+#include <string>
+
+#include "store/DataFileRestore.h"
+#include "tools/DataFileOptions.h"
+
+namespace {
+
+struct Options {
+  std::string backup;
+  DataFileOptions file;
+};
+
+std::string markOf(const DateTime& time) {
+  std::array<char, 32> mark{};
+  std::snprintf(mark.data(), mark.size(), "%04d%02d%02d-%02d%02d%02d", time.date.year,
+                time.date.month, time.date.day, time.hour, time.minute, time.second);
+  return mark.data();
+}
+
+void restore(const Options& options, Console& console) {
+  const std::filesystem::path aside = restoreDataFile(options.backup, options.file.source(console),
+                                                      "old-" + markOf(console.clock()));
+  console.out << "已用 " << options.backup << " 恢复 " << options.file.path << "。\n";
+  if (!aside.empty()) console.out << "原来的文件留在 " << aside.string() << "。\n";
+}
+
+}  // namespace
+
+void addRestoreCommand(CLI::App& app, Console& console) {
+  CLI::App* command = app.add_subcommand(
+      "restore", "检查备份，用它代替数据文件；原来的文件改名留下。收款程序必须先退出");
+  const auto options = std::make_shared<Options>();
+  command->add_option("BACKUP", options->backup, "备份文件")->required();
+  options->file.addTo(*command);
+  command->callback([options, &console] { restore(*options, console); });
+}
