@@ -81,7 +81,7 @@ void Checkout::commitLine() {
 }
 
 bool Checkout::takePayment() {
-  Currency amount = state_.curBill->Amount();
+  Currency amount = state_.curBill->GoodsAmount();
   const auto due = Currency::parse(myCStr(amount, pos_.gSysParam));
   ensure(due.has_value(), "the amount due reads back as money");
   state_.curBill->setAmount(*due);

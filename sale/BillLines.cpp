@@ -242,7 +242,7 @@ BillLines::Shown BillLines::shownLine() const {
 QString BillLines::statusText(std::int64_t figure) const {
   const ClsSell& bill = *state_.curBill;
   const ClsSellItem& line = *state_.curLine;
-  Currency due = bill.Amount() + line.Money();
+  Currency due = bill.GoodsAmount() + line.Money();
   const std::string dueText = myCStr(due, pos_.gSysParam);
   return text(generalNumber(roundedQuantity(bill.Quantity() + line.Quantity()))) +
          tr("件商品，原价合计") + QString::number(figure) + tr("   合计") + text(dueText) +

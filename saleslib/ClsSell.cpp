@@ -150,7 +150,7 @@ void ClsSell::AddItem(std::shared_ptr<ClsSellItem> line) {
   if (items_.empty() && state_ == kOpen) sellTime_ = clock_();
   quantity_ = roundedQuantity(quantity_ + line->Quantity());
   goodsAmount_ += money;
-  amount_ += money;
+  amount_ = goodsAmount_;
   items_.push_back(std::move(line));
 }
 

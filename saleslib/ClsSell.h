@@ -15,7 +15,7 @@ class Row;
 class Rows;
 
 /// One bill. Amount and Quantity are sums over the committed lines until the settlement writes the
-/// rounded amount due.
+/// rounded amount due; a line that then joins or leaves an open bill makes them sums again.
 class ClsSell {
  public:
   using Items_t = std::vector<std::shared_ptr<ClsSellItem>>;
@@ -44,7 +44,8 @@ class ClsSell {
   /// amount are worked out from them; a settled or paid bill whose lines do not add up to it throws
   /// StoreError, naming the bill: the data file is damaged.
   void LoadLines();
-  /// Adds a committed line of this bill (ensure): amount and quantity grow by the line's.
+  /// Adds a committed line of this bill (ensure): quantity and amount are the sums over its lines
+  /// again, whatever the settlement rounded the amount to before.
   void AddItem(std::shared_ptr<ClsSellItem> line);
   /// Takes a line off an open bill; quantity and amount follow. The line's row is the caller's.
   void RemoveItem(const ClsSellItem& line);
