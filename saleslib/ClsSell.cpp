@@ -147,7 +147,7 @@ void ClsSell::LoadLines() {
 void ClsSell::AddItem(std::shared_ptr<ClsSellItem> line) {
   ensure(line != nullptr && line->BillNo() == billNo_, "a line joins its own bill");
   const Currency money = line->Money();
-  if (items_.empty() && state_ == kOpen) sellTime_ = clock_();
+  if (items_.empty() && state_ == kOpen) sellTime_ = std::max(sellTime_, line->EntryTime());
   quantity_ = roundedQuantity(quantity_ + line->Quantity());
   goodsAmount_ += money;
   amount_ = goodsAmount_;

@@ -58,9 +58,9 @@ class ClsSell {
   void setAmount(Currency amount) { amount_ = amount; }
   Currency Cash() const { return cash_; }
   void setCash(Currency cash) { cash_ = cash; }
-  /// When the bill was made: opened, and from its first line on the time that line was added, so
+  /// When the bill was made: opened, and from its first line on the time that line was entered, so
   /// that the first sale of a morning is not dated back to the evening before, when its bill was
-  /// opened.
+  /// opened. It never moves back: a bill that was open when the clock was set back shows that.
   DateTime SellTime() const { return sellTime_; }
   const Items_t& Items() const { return items_; }
   std::int32_t OperatorId() const { return operatorId_; }

@@ -105,9 +105,8 @@ TEST_F(CheckoutTest, pageReceiptsFollowTheMode) {
 }
 
 TEST_F(CheckoutTest, clockBehindTheLastBillEndsTheProgram) {
-  enter("水", "1.00");
-  commitCurrentLine(state, receipt);  // dates the bill
   now.date.day = 21;
+  enter("水", "1.00");
   checkout.SettleBill();
   EXPECT_TRUE(screen.ended);
   EXPECT_EQ(screen.said(), "日期或时间错误！将退出销售，请与管理员联系");
