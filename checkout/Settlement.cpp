@@ -89,7 +89,13 @@ QString Settlement::change(const QString& cash, const QString& favorable,
 
 void Settlement::confirmCash(const QString& cash) {
   if (settled_) return;
+  const Currency before = bill_.Cash();
   if (const auto amount = money(cash)) bill_.setCash(*amount);
+  if (!bill_.FiguresFit()) {
+    bill_.setCash(before);
+    say_(tr("没有收款：金额太大，找零算不出来。"));
+    return;
+  }
   settled_ = bill_.SavePaid();
   if (!settled_) {
     say_(tr("没有收款，请再确认一次：%1").arg(shown(bill_.ErrText())));
@@ -128,7 +134,7 @@ Settlement::CardResult Settlement::payByCard(const QString& number, const QStrin
     if (result == CardResult::kWrongPassword) say_(tr("储值卡密码错误,请重输"));
     if (result == CardResult::kTooLittle) say_(tr("储值卡余额不够,请先充值"));
     return result;
-  } catch (const StoreError& error) {
+  } catch (const Failure& error) {
     bill_ = unpaid;
     say_(tr("储值卡没有扣款：%1").arg(QString::fromUtf8(error.what())));
     return CardResult::kFailed;
@@ -155,6 +161,7 @@ Settlement::CardResult Settlement::charge(const std::string& number, const std::
   bill_.setCardPay(due);
   bill_.setCash(Currency());
   bill_.setCardNo(number);
+  if (!bill_.FiguresFit()) throw Overflow(tr("金额太大，找零算不出来。").toStdString());
   if (!bill_.SavePaid()) throw StoreError(bill_.ErrText());
   charging.commit();
 

@@ -46,8 +46,9 @@ class Settlement {
 
   /// Confirms with the cash text; a text that is no number leaves the bill's cash figure. The
   /// figures become durable with the mark of a paid bill (see ClsSell::SavePaid); then the cash is
-  /// shown on the display and the footer printed. What cannot be made durable is said, and payment
-  /// is not confirmed (see settled). Once confirmed, does nothing more.
+  /// shown on the display and the footer printed. What cannot be made durable, or has a change that
+  /// does not fit, is said, and payment is not confirmed (see settled). Once confirmed, does
+  /// nothing more.
   void confirmCash(const QString& cash);
   /// Whether a usable stored-value card of that number exists; says why not. A query that fails
   /// counts as an unknown card.

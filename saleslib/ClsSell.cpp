@@ -87,6 +87,17 @@ void ClsSell::read(const Row& row) {
   memberId_ = whole32(row, "member_id");
 }
 
+bool ClsSell::FiguresFit() const {
+  try {
+    static_cast<void>(Change());
+    static_cast<void>(cash_ - amount_);
+    static_cast<void>(amount_ - favorable_);
+    return true;
+  } catch (const Overflow&) {
+    return false;
+  }
+}
+
 bool ClsSell::Save() {
   ensure(totalsOf(items_) == Totals{quantity_, goodsAmount_}, "a bill's lines add up to the bill");
   errText_.clear();

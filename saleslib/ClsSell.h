@@ -84,8 +84,11 @@ class ClsSell {
 
   /// Sum of the lines' amounts, before the shop's rounding.
   Currency GoodsAmount() const { return goodsAmount_; }
-  /// Cash + bank card + stored-value card + discount - amount due.
+  /// Cash + bank card + stored-value card + discount - amount due. Throws Overflow.
   Currency Change() const { return cash_ + bankCard_ + cardPay_ + favorable_ - amount_; }
+  /// Whether all that screens and receipts work out from the payment fits. A data file may hold
+  /// settled bills of which it does not.
+  [[nodiscard]] bool FiguresFit() const;
 
  private:
   static constexpr std::int16_t kOpen = 0;

@@ -39,23 +39,44 @@ TEST_F(CheckoutTest, leftDialogKeepsTheBillWithItsFigures) {
 
 TEST_F(CheckoutTest, memberIsCreditedWithTheSale) {
   const struct {
-    const char *unit, *price, *credited;     ///< points and purchases afterwards
-  } cases[] = {{"10", "95.00", "12 95"},     // 9.5 + 3: halves to even
-               {"0", "5.00", "12 100"},      // no points without a unit
-               {"1", "40000", "12 40100"}};  // more than points can hold
+    const char *unit, *price, *credited;               ///< points and purchases afterwards
+  } cases[] = {{"10", "95.00", "12 95"},               // 9.5 + 3: halves to even
+               {"0", "5.00", "12 100"},                // no points without a unit
+               {"1", "40000", "12 40100"},             // more than points can hold
+               {"1", "922337203685477", "12 40100"}};  // or purchases
   for (const auto& each : cases) {
     setParameter("PointUnit", each.unit);
     attachMember();
     enter("酒", each.price);
     checkout.SettleBill();
     EXPECT_EQ(stored("points || ' ' || total_spent as v from member"), each.credited);
-    EXPECT_EQ(state.curMember, nullptr);
+    EXPECT_EQ(screen.said(), "") << "a sale is not lost with its points";
   }
   breakStore("update on member");
   attachMember();
   enter("酒", "95.00");
   checkout.SettleBill();
-  EXPECT_EQ(stored("state as v from sell where id=4"), "1") << "a sale is not lost with its points";
+  EXPECT_EQ(stored("state as v from sell where id=5"), "1");
+}
+
+TEST_F(CheckoutTest, figuresThatDoNotFitAreRefusedAndThoseOfTheFileSaid) {
+  const char* const huge = "900000000000000";
+  enter("水", "1.00");
+  screen.pay = [&](Settlement& s) {
+    EXPECT_EQ(s.favorableChanged(huge), huge);
+    s.confirmCash(huge);
+    EXPECT_EQ(s.bankCardChanged(huge), huge);
+    EXPECT_EQ(s.payByCard("8001", "Pw1"), Settlement::CardResult::kFailed);
+  };
+  checkout.SettleBill();
+  EXPECT_EQ(screen.said(),
+            "没有收款：金额太大，找零算不出来。|储值卡没有扣款：金额太大，找零算不出来。");
+  EXPECT_EQ(stored("paid || ' ' || (select card from member) as v from sell"), "0 88.5");
+
+  state.lastBill = std::make_shared<ClsSell>(*state.curBill);  // as an earlier program stored it
+  state.lastBill->setCash(Currency::parse(huge).value());
+  checkout.PrepareNextBill();
+  EXPECT_THAT(screen.title3, HasSubstr("找零超出范围"));
 }
 
 TEST_F(CheckoutTest, aPaidBillThatCannotBeStoredIsWithdrawnBeforeAnythingElseIsStored) {
