@@ -127,6 +127,10 @@ std::string Settlement::cardRefusal(const std::string& number) const {
 Settlement::CardResult Settlement::payByCard(const QString& number, const QString& password) {
   if (settled_) return CardResult::kPaid;
   if (!checkCard(number)) return CardResult::kUnknownCard;
+  if (bill_.Amount() < Currency()) {
+    say_(tr("应收是负数，不能用储值卡付款。"));
+    return CardResult::kFailed;
+  }
   const ClsSell unpaid = bill_;
   try {
     const CardResult result = charge(number.toStdString(), password.toStdString());

@@ -55,8 +55,8 @@ class Settlement {
   [[nodiscard]] bool checkCard(const QString& number);
   enum class CardResult { kPaid, kUnknownCard, kWrongPassword, kTooLittle, kFailed };
   /// Takes the whole amount due from the card, whatever the other fields hold: the balance and the
-  /// paid bill in one transaction, which confirms payment. Says every refusal; nothing is charged
-  /// and the bill is as it was then.
+  /// paid bill in one transaction, which confirms payment. A negative amount would load the card
+  /// and is refused. Says every refusal; nothing is charged and the bill is as it was then.
   [[nodiscard]] CardResult payByCard(const QString& number, const QString& password);
   /// After kPaid: says the new balance, shows and prints.
   void sayCardPaid();

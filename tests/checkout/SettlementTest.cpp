@@ -82,6 +82,9 @@ TEST_F(SettlementTest, refusedCardsChargeNothing) {
     EXPECT_EQ(settlement.payByCard(each.number, each.password), each.result) << each.number;
     EXPECT_EQ(screen.said(), each.said);
   }
+  state.curBill->setAmount(Currency::fromYuan(-5));
+  EXPECT_EQ(settlement.payByCard("8001", "Pw1"), kFailed);
+  EXPECT_EQ(screen.said(), "应收是负数，不能用储值卡付款。");
   EXPECT_FALSE(settlement.settled());
   EXPECT_EQ(stored("sum(card) as v from member"), "676.99");
 }
