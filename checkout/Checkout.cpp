@@ -97,8 +97,7 @@ bool Checkout::takePayment() {
     return false;
   }
   state_.curBill->setAmount(*due);
-  Settlement settlement(pos_, *state_.curBill, display_, receipt_,
-                        [this](const QString& text) { screen_.messageBox(text); });
+  Settlement settlement(pos_, *state_.curBill, display_, receipt_, screen_);
   return screen_.settle(settlement);
 }
 

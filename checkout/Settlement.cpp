@@ -3,7 +3,9 @@
 #include "app/posMod.h"
 #include "base/NumberText.h"
 #include "checkout/CustomerDisplay.h"
+#include "checkout/FigureCheck.h"
 #include "checkout/LineReceipt.h"
+#include "checkout/SaleScreen.h"
 #include "saleslib/ClsSell.h"
 #include "store/Literal.h"
 #include "store/StoreError.h"
@@ -24,8 +26,8 @@ std::optional<Currency> money(const QString& text) {
 }  // namespace
 
 Settlement::Settlement(posMod& pos, ClsSell& bill, CustomerDisplay& display, LineReceipt& receipt,
-                       std::function<void(const QString&)> say)
-    : pos_(pos), bill_(bill), display_(display), receipt_(receipt), say_(std::move(say)) {}
+                       SaleScreen& screen)
+    : pos_(pos), bill_(bill), display_(display), receipt_(receipt), screen_(screen) {}
 
 void Settlement::begin() {
   display_.clientView(bill_.Amount(), CustomerDisplay::kTotal);
@@ -87,18 +89,25 @@ QString Settlement::change(const QString& cash, const QString& favorable,
   }
 }
 
+void Settlement::say(const QString& text) {
+  screen_.messageBox(text);
+}
+
+bool Settlement::mayBePaid(const ClsSell& paid, const QString& cash) {
+  if (paid.FiguresFit()) return FigureCheck(pos_.gSysParam, screen_).payment(paid, cash);
+  say(tr("没有收款：金额太大，找零算不出来。"));
+  return false;
+}
+
 void Settlement::confirmCash(const QString& cash) {
   if (settled_) return;
-  const Currency before = bill_.Cash();
-  if (const auto amount = money(cash)) bill_.setCash(*amount);
-  if (!bill_.FiguresFit()) {
-    bill_.setCash(before);
-    say_(tr("没有收款：金额太大，找零算不出来。"));
-    return;
-  }
+  ClsSell paid = bill_;
+  if (const auto amount = money(cash)) paid.setCash(*amount);
+  if (!mayBePaid(paid, cash)) return;
+  bill_.setCash(paid.Cash());
   settled_ = bill_.SavePaid();
   if (!settled_) {
-    say_(tr("没有收款，请再确认一次：%1").arg(shown(bill_.ErrText())));
+    say(tr("没有收款，请再确认一次：%1").arg(shown(bill_.ErrText())));
     return;
   }
   showAndPrint();
@@ -106,7 +115,7 @@ void Settlement::confirmCash(const QString& cash) {
 
 bool Settlement::checkCard(const QString& number) {
   const std::string refusal = cardRefusal(number.toStdString());
-  if (!refusal.empty()) say_(shown(refusal));
+  if (!refusal.empty()) say(shown(refusal));
   return refusal.empty();
 }
 
@@ -127,30 +136,39 @@ std::string Settlement::cardRefusal(const std::string& number) const {
 Settlement::CardResult Settlement::payByCard(const QString& number, const QString& password) {
   if (settled_) return CardResult::kPaid;
   if (!checkCard(number)) return CardResult::kUnknownCard;
+  const ClsSell unpaid = bill_;
+  const CardResult result = tryToCharge(number.toStdString(), password.toStdString());
+  settled_ = result == CardResult::kPaid;
+  if (!settled_) bill_ = unpaid;
+  if (result == CardResult::kWrongPassword) say(tr("储值卡密码错误,请重输"));
+  if (result == CardResult::kTooLittle) say(tr("储值卡余额不够,请先充值"));
+  return result;
+}
+
+Settlement::CardResult Settlement::tryToCharge(const std::string& number,
+                                               const std::string& password) {
   if (bill_.Amount() < Currency()) {
-    say_(tr("应收是负数，不能用储值卡付款。"));
+    say(tr("应收是负数，不能用储值卡付款。"));
     return CardResult::kFailed;
   }
-  const ClsSell unpaid = bill_;
+  bill_.setCardPay(roundedToFen(bill_.Amount()));
+  bill_.setCash(Currency());
+  bill_.setCardNo(number);
+  if (!mayBePaid(bill_, "0")) return CardResult::kFailed;
   try {
-    const CardResult result = charge(number.toStdString(), password.toStdString());
-    settled_ = result == CardResult::kPaid;
-    if (result == CardResult::kWrongPassword) say_(tr("储值卡密码错误,请重输"));
-    if (result == CardResult::kTooLittle) say_(tr("储值卡余额不够,请先充值"));
-    return result;
-  } catch (const Failure& error) {
-    bill_ = unpaid;
-    say_(tr("储值卡没有扣款：%1").arg(QString::fromUtf8(error.what())));
+    return charge(password);
+  } catch (const StoreError& error) {
+    say(tr("储值卡没有扣款：%1").arg(QString::fromUtf8(error.what())));
     return CardResult::kFailed;
   }
 }
 
 // Reads and writes the balance in one transaction, and the statement itself refuses to overdraw:
 // two tills that charge one card at the same moment cannot both spend the same money.
-Settlement::CardResult Settlement::charge(const std::string& number, const std::string& password) {
+Settlement::CardResult Settlement::charge(const std::string& password) {
   const std::string where =
-      " where bh=" + quotedText(number) + " and password=" + quotedText(password);
-  const Currency due = roundedToFen(bill_.Amount());
+      " where bh=" + quotedText(bill_.CardNo()) + " and password=" + quotedText(password);
+  const Currency due = bill_.CardPay();
 
   Transaction charging(*pos_.gConn);
   const Recordset found = pos_.gConn->Open("select card from member" + where);
@@ -162,10 +180,6 @@ Settlement::CardResult Settlement::charge(const std::string& number, const std::
                           " and card>=" + literal(due)) != 1) {
     return CardResult::kTooLittle;
   }
-  bill_.setCardPay(due);
-  bill_.setCash(Currency());
-  bill_.setCardNo(number);
-  if (!bill_.FiguresFit()) throw Overflow(tr("金额太大，找零算不出来。").toStdString());
   if (!bill_.SavePaid()) throw StoreError(bill_.ErrText());
   charging.commit();
 
@@ -175,7 +189,7 @@ Settlement::CardResult Settlement::charge(const std::string& number, const std::
 
 void Settlement::sayCardPaid() {
   ensure(settled_, "the card has paid before it is said");
-  say_(tr(" 储值卡消费成功！余额：%1 ").arg(shown(generalNumber(cardBalance_))));
+  say(tr(" 储值卡消费成功！余额：%1 ").arg(shown(generalNumber(cardBalance_))));
   showAndPrint();
 }
 

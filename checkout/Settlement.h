@@ -2,7 +2,6 @@
 
 #include <QCoreApplication>
 #include <QString>
-#include <functional>
 #include <string>
 
 #include "base/Currency.h"
@@ -11,6 +10,7 @@ class ClsSell;
 class CustomerDisplay;
 class LineReceipt;
 class posMod;
+class SaleScreen;
 
 /// Taking payment for one bill, without its window: what each figure typed means, the change, and
 /// the two ways to confirm. Figures typed go into the bill at once, also when the dialog is then
@@ -19,9 +19,9 @@ class Settlement {
   Q_DECLARE_TR_FUNCTIONS(Settlement)
 
  public:
-  /// `say` shows a message box with an OK button.
+  /// Messages and questions come in the screen's message boxes.
   Settlement(posMod& pos, ClsSell& bill, CustomerDisplay& display, LineReceipt& receipt,
-             std::function<void(const QString&)> say);
+             SaleScreen& screen);
 
   /// The dialog opens: shows the amount due on the customer display.
   void begin();
@@ -44,11 +44,11 @@ class Settlement {
   [[nodiscard]] QString change(const QString& cash, const QString& favorable,
                                const QString& bankCard) const;
 
-  /// Confirms with the cash text; a text that is no number leaves the bill's cash figure. The
-  /// figures become durable with the mark of a paid bill (see ClsSell::SavePaid); then the cash is
-  /// shown on the display and the footer printed. What cannot be made durable, or has a change that
-  /// does not fit, is said, and payment is not confirmed (see settled). Once confirmed, does
-  /// nothing more.
+  /// Confirms with the cash text; a text that is no number leaves the bill's cash figure. What
+  /// looks mistyped is asked for first (see FigureCheck), and a No confirms nothing. The figures
+  /// become durable with the mark of a paid bill (see ClsSell::SavePaid); then the cash is shown on
+  /// the display and the footer printed. What cannot be made durable, or has a change that does not
+  /// fit, is said, and payment is not confirmed (see settled). Once confirmed, does nothing more.
   void confirmCash(const QString& cash);
   /// Whether a usable stored-value card of that number exists; says why not. A query that fails
   /// counts as an unknown card.
@@ -65,15 +65,18 @@ class Settlement {
   bool settled() const { return settled_; }
 
  private:
+  void say(const QString& text);
+  bool mayBePaid(const ClsSell& paid, const QString& cash);
   std::string cardRefusal(const std::string& number) const;
-  CardResult charge(const std::string& number, const std::string& password);
+  CardResult tryToCharge(const std::string& number, const std::string& password);
+  CardResult charge(const std::string& password);
   void showAndPrint();
 
   posMod& pos_;
   ClsSell& bill_;
   CustomerDisplay& display_;
   LineReceipt& receipt_;
-  std::function<void(const QString&)> say_;
+  SaleScreen& screen_;
   Currency cardBalance_;  ///< left on the card after payByCard
   bool settled_ = false;
 };

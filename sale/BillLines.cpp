@@ -11,6 +11,7 @@
 #include "checkout/Checkout.h"
 #include "checkout/CurrentLine.h"
 #include "checkout/CustomerDisplay.h"
+#include "checkout/FigureCheck.h"
 #include "checkout/LineReceipt.h"
 #include "checkout/SaleScreen.h"
 #include "checkout/SaleState.h"
@@ -133,7 +134,7 @@ void BillLines::changeQuantity(const QString& typed) {
 
 void BillLines::changeDiscount(const QString& typed) {
   const auto factor = parseNumber(typed.toStdString());
-  if (!factor || *factor < 0) {
+  if (!factor || *factor < 0 || !FigureCheck(pos_.gSysParam, screen_).discount(Discount(*factor))) {
     screen_.setInput({});
     return;
   }

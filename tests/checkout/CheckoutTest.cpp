@@ -70,7 +70,7 @@ TEST_F(CheckoutTest, figuresThatDoNotFitAreRefusedAndThoseOfTheFileSaid) {
   };
   checkout.SettleBill();
   EXPECT_EQ(screen.said(),
-            "没有收款：金额太大，找零算不出来。|储值卡没有扣款：金额太大，找零算不出来。");
+            "没有收款：金额太大，找零算不出来。|没有收款：金额太大，找零算不出来。");
   EXPECT_EQ(stored("paid || ' ' || (select card from member) as v from sell"), "0 88.5");
 
   state.lastBill = std::make_shared<ClsSell>(*state.curBill);  // as an earlier program stored it
