@@ -113,12 +113,14 @@ void frmEndSell::connectFields() {
   connect(cash_, &QLineEdit::textChanged, this, &frmEndSell::showChange);
   connect(favorable_, &QLineEdit::textChanged, this, [this](const QString& text) {
     showAccepted(*favorable_, settlement_->favorableChanged(text));
+    showChange();
   });
   connect(salesman_, &QLineEdit::textChanged, this, [this](const QString& text) {
     showAccepted(*salesman_, settlement_->salesmanChanged(text));
   });
   connect(bankCard_, &QLineEdit::textChanged, this, [this](const QString& text) {
     showAccepted(*bankCard_, settlement_->bankCardChanged(text));
+    showChange();
   });
 }
 
@@ -201,7 +203,11 @@ bool frmEndSell::cashKey(int key) {
 
 void frmEndSell::confirmCash() {
   settlement_->confirmCash(cash_->text());
-  if (settlement_->settled()) close();
+  if (settlement_->settled()) {
+    close();
+  } else {
+    cash_->selectAll();
+  }
 }
 
 void frmEndSell::checkCard() {

@@ -63,6 +63,7 @@ TEST_F(EndSell, otherFieldsAreReachedByTabAndLeftByEnter) {
     press(Qt::Key_Backspace);
     EXPECT_EQ(fieldText("favorable"), "0");
     type("3");
+    EXPECT_EQ(labelText("lbl1"), "3.0") << "the change follows";
     press(Qt::Key_Escape);
     EXPECT_TRUE(dialog.isVisible());
     press(Qt::Key_Enter);
