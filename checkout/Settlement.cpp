@@ -2,10 +2,12 @@
 
 #include "app/posMod.h"
 #include "base/NumberText.h"
+#include "base/Text.h"
 #include "checkout/CustomerDisplay.h"
 #include "checkout/FigureCheck.h"
 #include "checkout/LineReceipt.h"
 #include "checkout/SaleScreen.h"
+#include "saleslib/CardNumber.h"
 #include "saleslib/ClsSell.h"
 #include "store/Literal.h"
 #include "store/StoreError.h"
@@ -13,14 +15,22 @@
 
 namespace {
 
-constexpr const char* kUnknownCardText = "储值卡号错误,请重输";
-
 QString shown(const std::string& text) {
   return QString::fromStdString(text);
 }
 
 std::optional<Currency> money(const QString& text) {
   return Currency::parse(text.toStdString());
+}
+
+/// Under which a typed or swiped number is looked up, in this order: as typed, because a number may
+/// hold what is cleaned away. Only a swiped track loses its letters: "vip10" is not the card 10.
+std::vector<std::string> cardNumbers(const std::string& typed) {
+  std::vector<std::string> numbers = {typed, memberNumber(typed)};
+  if (halfWidth(typed).find_first_of(";?") != std::string::npos) {
+    numbers.push_back(storedCardNumber(typed));
+  }
+  return numbers;
 }
 
 }  // namespace
@@ -113,31 +123,32 @@ void Settlement::confirmCash(const QString& cash) {
   showAndPrint();
 }
 
-bool Settlement::checkCard(const QString& number) {
-  const std::string refusal = cardRefusal(number.toStdString());
-  if (!refusal.empty()) say(shown(refusal));
-  return refusal.empty();
-}
-
 // A disabled card (lost, say) pays as little as it can be attached to a bill.
-std::string Settlement::cardRefusal(const std::string& number) const {
+QString Settlement::checkCard(const QString& number) {
   try {
-    const Recordset found = pos_.gConn->Open(
-        "select card, bh, name, enabled from member where bh=" + quotedText(number));
-    if (found.count() == 0) return kUnknownCardText;
-    const Row& card = found.row(0);
-    if (card.whole("enabled").value_or(0) != 0) return {};
-    return "会员卡被禁用！卡号：" + card.text("bh") + "，持卡人：" + card.text("name");
+    for (const std::string& each : cardNumbers(number.toStdString())) {
+      const Recordset found =
+          pos_.gConn->Open("select bh, name, enabled from member where bh=" + quotedText(each));
+      if (found.count() == 0) continue;
+      const Row& card = found.row(0);
+      if (card.whole("enabled").value_or(0) != 0) return shown(card.text("bh"));
+      say(tr("会员卡被禁用！卡号：%1，持卡人：%2")
+              .arg(shown(card.text("bh")), shown(card.text("name"))));
+      return {};
+    }
   } catch (const StoreError&) {
-    return kUnknownCardText;
+    // counts as a card that is not known
   }
+  say(tr("储值卡号错误,请重输"));
+  return {};
 }
 
 Settlement::CardResult Settlement::payByCard(const QString& number, const QString& password) {
   if (settled_) return CardResult::kPaid;
-  if (!checkCard(number)) return CardResult::kUnknownCard;
+  const QString card = checkCard(number);
+  if (card.isNull()) return CardResult::kUnknownCard;
   const ClsSell unpaid = bill_;
-  const CardResult result = tryToCharge(number.toStdString(), password.toStdString());
+  const CardResult result = tryToCharge(card.toStdString(), password.toStdString());
   settled_ = result == CardResult::kPaid;
   if (!settled_) bill_ = unpaid;
   if (result == CardResult::kWrongPassword) say(tr("储值卡密码错误,请重输"));

@@ -50,9 +50,10 @@ class Settlement {
   /// the display and the footer printed. What cannot be made durable, or has a change that does not
   /// fit, is said, and payment is not confirmed (see settled). Once confirmed, does nothing more.
   void confirmCash(const QString& cash);
-  /// Whether a usable stored-value card of that number exists; says why not. A query that fails
-  /// counts as an unknown card.
-  [[nodiscard]] bool checkCard(const QString& number);
+  /// The number of the usable stored-value card that was typed or swiped, blanks, full-width
+  /// characters and the reader's own ones cleaned away where the text as typed is no card's.
+  /// Nothing (null) when there is none, and says why. A query that fails counts as an unknown card.
+  [[nodiscard]] QString checkCard(const QString& number);
   enum class CardResult { kPaid, kUnknownCard, kWrongPassword, kTooLittle, kFailed };
   /// Takes the whole amount due from the card, whatever the other fields hold: the balance and the
   /// paid bill in one transaction, which confirms payment. A negative amount would load the card
@@ -67,7 +68,6 @@ class Settlement {
  private:
   void say(const QString& text);
   bool mayBePaid(const ClsSell& paid, const QString& cash);
-  std::string cardRefusal(const std::string& number) const;
   CardResult tryToCharge(const std::string& number, const std::string& password);
   CardResult charge(const std::string& password);
   void showAndPrint();

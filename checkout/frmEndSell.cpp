@@ -211,9 +211,10 @@ void frmEndSell::confirmCash() {
 }
 
 void frmEndSell::checkCard() {
-  const bool known = settlement_->checkCard(cardNumber_->text());
-  (known ? password_ : cardNumber_)->setFocus();
-  if (!known) cardNumber_->selectAll();
+  const QString card = settlement_->checkCard(cardNumber_->text());
+  if (!card.isNull()) cardNumber_->setText(card);
+  (card.isNull() ? cardNumber_ : password_)->setFocus();
+  if (card.isNull()) cardNumber_->selectAll();
 }
 
 void frmEndSell::payByCard() {

@@ -88,6 +88,18 @@ TEST_F(SettlementTest, asksOnceBeforeAPaymentThatLooksMistyped) {
   }
 }
 
+TEST_F(SettlementTest, aCardIsFoundAsTypedThenAsSwiped) {
+  pos.gConn->run(
+      "insert into member (bh, name, enabled, join_date) values ('vip9', '李雷', 1, ''),"
+      " ('9', '韩梅', 1, '')");
+  const std::pair<const char*, const char*> cases[] = {{"vip9", "vip9"},
+                                                       {" ８００１ ", "8001"},
+                                                       {";8001?", "8001"},
+                                                       {";a8001?", "8001"},
+                                                       {"vip8001", ""}};
+  for (const auto& [typed, card] : cases) EXPECT_EQ(settlement.checkCard(typed), card) << typed;
+}
+
 TEST_F(SettlementTest, refusedCardsChargeNothing) {
   pos.gConn->run(
       "insert into member (bh, name, card, password, enabled, join_date) values "
