@@ -5,8 +5,8 @@
 #include <QStyle>
 
 #include "base/NumberText.h"
+#include "platform/KeyName.h"
 #include "platform/VirtualKey.h"
-#include "settings/KeyName.h"
 
 namespace {
 

@@ -4,7 +4,7 @@
 #include <algorithm>
 #include <utility>
 
-#include "settings/KeyName.h"
+#include "platform/KeyName.h"
 
 QuickKeyModel::QuickKeyModel(std::vector<clsQk> quickKeys, QObject* parent)
     : QAbstractTableModel(parent), quickKeys_(std::move(quickKeys)) {}

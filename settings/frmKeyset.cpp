@@ -11,10 +11,10 @@
 
 #include "app/posMod.h"
 #include "base/NumberText.h"
+#include "platform/KeyName.h"
 #include "settings/DialogKeys.h"
 #include "settings/KeyBox.h"
 #include "settings/KeyFunctions.h"
-#include "settings/KeyName.h"
 #include "settings/QuickKeyModel.h"
 #include "shell/Modal.h"
 

@@ -1,4 +1,4 @@
-#include "settings/KeyName.h"
+#include "platform/KeyName.h"
 
 #include <QCoreApplication>
 #include <algorithm>
