@@ -9,6 +9,7 @@
 
 #include "app/KeyBoard.h"
 #include "checkout/Settlement.h"
+#include "platform/KeyName.h"
 #include "platform/Twips.h"
 #include "platform/VirtualKey.h"
 #include "shell/Modal.h"
@@ -35,6 +36,7 @@ frmEndSell::frmEndSell(const KeyBoard& keys, QWidget* parent)
       count_(label("PCount")),
       money_(label("Money", tr("0000.00"))),
       change_(label("lbl1", tr("0.00"))),
+      hint_(label("lblHint")),
       cash_(field("txtInMoney")),
       favorable_(field("favorable")),
       salesman_(field("salesman")),
@@ -53,6 +55,7 @@ frmEndSell::frmEndSell(const KeyBoard& keys, QWidget* parent)
   all->addWidget(count_);
   all->addWidget(amountFrame());
   all->addWidget(otherFrame());
+  all->addWidget(hint_, 0, Qt::AlignHCenter);
   all->setSizeConstraint(QLayout::SetFixedSize);
   connectFields();
 }
@@ -144,6 +147,8 @@ void frmEndSell::showSettlement() {
   cash_->setText(settlement_->cashText());
   cardNumber_->clear();
   password_->clear();
+  hint_->setText(tr("现金栏：%1 收款，%2 返回单据；Tab 转到优惠、业务员、银行卡、储值卡")
+                     .arg(keyName(keys_.mEnter), keyName(keys_.mEsc)));
   showChange();
 }
 

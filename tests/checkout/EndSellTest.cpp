@@ -84,6 +84,7 @@ TEST_F(EndSell, mappedKeysCountAndTheEnterKeyAlwaysDoes) {
   EXPECT_FALSE(show([this] {
     press(Qt::Key_Escape);
     EXPECT_TRUE(dialog.isVisible());
+    EXPECT_TRUE(labelText("lblHint").startsWith("现金栏：小键盘 + 收款，F9 返回单据"));
     press(Qt::Key_F9);
   }));
   EXPECT_TRUE(
