@@ -171,9 +171,9 @@ std::shared_ptr<ClsSell> Checkout::openNextBill() {
 
 std::shared_ptr<ClsSell> Checkout::openBill() {
   auto bill = std::make_shared<ClsSell>();
-  const bool opened = bill->Open(*pos_.gConn, 0, pos_.gOperator->Id(), pos_.clock);
-  ensure(opened, "a new bill always opens");
-  return bill;
+  const ClsOperator& cashier = *pos_.gOperator;
+  if (bill->Open(*pos_.gConn, 0, cashier.Id(), pos_.clock)) return bill;
+  throw StoreError(tr("操作员“%1”已被删除，不能再开单。").arg(shown(cashier.Name())).toStdString());
 }
 
 void Checkout::emptyList() {

@@ -35,8 +35,7 @@ bool ClsSell::Open(Connection& connection, std::int32_t billNo, std::int32_t ope
   connection_ = &connection;
   clock_ = clock;
   if (billNo == 0) {
-    start(operatorId);
-    return true;
+    return start(operatorId);
   }
   return load(connection.query("select * from sell where id = ?", billNo));
 }
@@ -55,12 +54,15 @@ std::shared_ptr<ClsSell> ClsSell::fromRow(Connection& connection, const Row& row
   return bill;
 }
 
-void ClsSell::start(std::int32_t operatorId) {
+bool ClsSell::start(std::int32_t operatorId) {
   operatorId_ = operatorId;
   sellTime_ = clock_();
-  connection_->run("insert into sell (sell_time, operator_id) values (?, ?)", sellTime_,
-                   operatorId);
+  const std::int64_t opened = connection_->run(
+      "insert into sell (sell_time, operator_id) select ?, id from operators where id = ?",
+      sellTime_, operatorId);
+  if (opened == 0) return false;
   billNo_ = key32(connection_->lastRowId());
+  return true;
 }
 
 bool ClsSell::load(Rows rows) {

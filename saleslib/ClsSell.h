@@ -21,7 +21,8 @@ class ClsSell {
   using Items_t = std::vector<std::shared_ptr<ClsSellItem>>;
 
   /// Binds. Bill number 0 starts a new open bill of that operator: its row, number and time are
-  /// stored at once. Otherwise loads the stored bill; false when there is none. Throws StoreError.
+  /// stored at once; false when the operator was removed. Otherwise loads the stored bill; false
+  /// when there is none. Throws StoreError.
   [[nodiscard]] bool Open(Connection& connection, std::int32_t billNo, std::int32_t operatorId,
                           const Clock& clock = localTime);
   /// Loads the member's latest settled bill; false when there is none.
@@ -93,7 +94,7 @@ class ClsSell {
  private:
   static constexpr std::int16_t kOpen = 0;
 
-  void start(std::int32_t operatorId);
+  bool start(std::int32_t operatorId);
   bool load(Rows rows);
   void read(const Row& row);
   void store();

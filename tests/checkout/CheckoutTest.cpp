@@ -69,8 +69,7 @@ TEST_F(CheckoutTest, figuresThatDoNotFitAreRefusedAndThoseOfTheFileSaid) {
     EXPECT_EQ(s.payByCard("8001", "Pw1"), Settlement::CardResult::kFailed);
   };
   checkout.SettleBill();
-  EXPECT_EQ(screen.said(),
-            "没有收款：金额太大，找零算不出来。|没有收款：金额太大，找零算不出来。");
+  EXPECT_EQ(screen.said(), "没有收款：金额太大，找零算不出来。|没有收款：金额太大，找零算不出来。");
   EXPECT_EQ(stored("paid || ' ' || (select card from member) as v from sell"), "0 88.5");
 
   state.lastBill = std::make_shared<ClsSell>(*state.curBill);  // as an earlier program stored it
@@ -99,6 +98,16 @@ TEST_F(CheckoutTest, aPaidBillThatCannotBeStoredIsWithdrawnBeforeAnythingElseIsS
   EXPECT_EQ(stored("group_concat(id || ':' || paid) as v from sell"), "2:0");
   EXPECT_EQ(stock() + " " + stored("card as v from member"), "100 52.5");
   EXPECT_EQ(pagesPrinted(), 0U);
+}
+
+TEST_F(CheckoutTest, anOperatorRemovedMeanwhileSettlesAndOpensNoFurtherBill) {
+  enter("水", "1.00");
+  pos.gConn->runScript("delete from operators where id = 1");
+  screen.answersYes = false;
+  checkout.SettleBill();
+  EXPECT_THAT(screen.said(), HasSubstr("不能开始下一单：操作员“张三”已被删除，不能再开单。"));
+  EXPECT_EQ(stored("group_concat(id || ':' || state) as v from sell"), "1:1");
+  EXPECT_TRUE(screen.ended);
 }
 
 TEST_F(CheckoutTest, pageReceiptsFollowTheMode) {
