@@ -15,7 +15,9 @@ TEST_F(BillTest, ABillLivesFromItsOpeningToItsReload) {
   water->Save();
   now = {{2026, 11, 24}, 0, 0, 8};
   bill.AddItem(water);
+  bill.setAmount(yuan("2"));
   ring(bill, "10.05", 0.333);
+  EXPECT_EQ(bill.Amount(), yuan("6.05")) << "what the settlement rounded stayed in the bill";
   bill.setAmount(yuan("6"));
   bill.setCash(yuan("4"));
   bill.setBankCard(yuan("1"));
