@@ -74,6 +74,10 @@ std::string twoDecimals(Currency value) {
   return fixedPoint(static_cast<std::int64_t>(dividedHalfAway(value.scaled(), 100)), 2);
 }
 
+std::string sumText(const std::optional<Currency>& sum) {
+  return sum ? twoDecimals(*sum) : kDoesNotFit;
+}
+
 std::string oneDecimal(Currency value) {
   return fixedPoint(static_cast<std::int64_t>(dividedHalfAway(value.scaled(), 1000)), 1);
 }

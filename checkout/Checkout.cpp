@@ -28,9 +28,19 @@ std::string statusText(const ClsSell& bill) {
 }
 
 std::string lastBillText(const ClsSell& bill) {
+  const std::string change = bill.FiguresFit() ? oneDecimal(bill.Change()) : kDoesNotFit;
   return "上一单：金额 " + oneDecimal(bill.Amount()) + "实收现金" + oneDecimal(bill.Cash()) +
          "银行卡" + oneDecimal(bill.BankCard()) + "储值卡" + oneDecimal(bill.CardPay()) + "找零" +
-         oneDecimal(bill.Change()) + "  优惠" + generalNumber(bill.Favorable());
+         change + "  优惠" + generalNumber(bill.Favorable());
+}
+
+std::optional<Currency> amountDue(const ClsSell& bill, const ClsSysParam& rules) {
+  try {
+    Currency amount = bill.GoodsAmount();
+    return Currency::parse(myCStr(amount, rules));
+  } catch (const Overflow&) {
+    return std::nullopt;
+  }
 }
 
 std::string memberText(const ClsMember& member) {
@@ -93,12 +103,13 @@ void Checkout::commitLine() {
 }
 
 bool Checkout::takePayment() {
-  Currency amount = state_.curBill->Amount();
-  const auto due = Currency::parse(myCStr(amount, pos_.gSysParam));
-  ensure(due.has_value(), "the amount due reads back as money");
+  const auto due = amountDue(*state_.curBill, pos_.gSysParam);
+  if (!due) {
+    screen_.ShowMessage(tr("应收金额太大，不能结账。"));
+    return false;
+  }
   state_.curBill->setAmount(*due);
-  Settlement settlement(pos_, *state_.curBill, display_, receipt_,
-                        [this](const QString& text) { screen_.messageBox(text); });
+  Settlement settlement(pos_, *state_.curBill, display_, receipt_, screen_);
   return screen_.settle(settlement);
 }
 
@@ -172,9 +183,9 @@ std::shared_ptr<ClsSell> Checkout::openNextBill() {
 
 std::shared_ptr<ClsSell> Checkout::openBill() {
   auto bill = std::make_shared<ClsSell>();
-  const bool opened = bill->Open(*pos_.gConn, 0, pos_.gOperator->Id(), pos_.clock);
-  ensure(opened, "a new bill always opens");
-  return bill;
+  const ClsOperator& cashier = *pos_.gOperator;
+  if (bill->Open(*pos_.gConn, 0, cashier.Id(), pos_.clock)) return bill;
+  throw StoreError(tr("操作员“%1”已被删除，不能再开单。").arg(shown(cashier.Name())).toStdString());
 }
 
 void Checkout::emptyList() {
@@ -204,7 +215,9 @@ void Checkout::ShowBillNo() {
 bool Checkout::showLastBill() {
   const ClsSell& last = *state_.lastBill;
   screen_.setTitle3(shown(lastBillText(last)));
-  display_.clientView(last.Cash() - last.Amount(), CustomerDisplay::kChange);
+  if (last.FiguresFit()) {
+    display_.clientView(last.Cash() - last.Amount(), CustomerDisplay::kChange);
+  }
   if (last.SellTime().date <= state_.curBill->SellTime().date) return true;
   screen_.ShowMessage(tr("日期或时间错误！将退出销售，请与管理员联系"));
   screen_.endProgram();

@@ -31,7 +31,8 @@ class Checkout {
   /// clock is behind the previous bill.
   void PrepareNextBill();
   /// The same in two steps, for a caller that opens the next bill in a transaction of its own: a
-  /// new bill of the operator, stored at once; and the screen with it.
+  /// new bill of the operator, stored at once; and the screen with it. Throws StoreError, also when
+  /// the operator was removed.
   [[nodiscard]] std::shared_ptr<ClsSell> openBill();
   void ShowNextBill(std::shared_ptr<ClsSell> next);
   /// Writes number and cashier of the open bill into the second line.

@@ -21,7 +21,11 @@ void creditMember(posMod& pos, const ClsSell& bill) {
   if (bill.MemberId() == 0) return;
   const auto member = pos.gMemberSvc.GetMemberById(bill.MemberId());
   if (!member) return;
-  member->setTotalSpent(member->TotalSpent() + bill.Amount());
+  try {
+    member->setTotalSpent(member->TotalSpent() + bill.Amount());
+  } catch (const Overflow&) {
+    return;
+  }
   const auto points = pointsAfter(bill.Amount(), pos.gSysParam.PointUnit(), member->Points());
   if (points) member->setPoints(*points);
   static_cast<void>(member->Save());
@@ -61,7 +65,7 @@ void completePaidBills(posMod& pos, SaleScreen& screen) {
     try {
       bill->LoadLines();
       (storeSettled(pos, *bill) ? stored : waiting).append(billText(*bill));
-    } catch (const StoreError& error) {
+    } catch (const Failure& error) {
       waiting.append(billText(*bill) + "：" + QString::fromUtf8(error.what()));
     }
   }

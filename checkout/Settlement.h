@@ -2,7 +2,6 @@
 
 #include <QCoreApplication>
 #include <QString>
-#include <functional>
 #include <string>
 
 #include "base/Currency.h"
@@ -11,6 +10,7 @@ class ClsSell;
 class CustomerDisplay;
 class LineReceipt;
 class posMod;
+class SaleScreen;
 
 /// Taking payment for one bill, without its window: what each figure typed means, the change, and
 /// the two ways to confirm. Figures typed go into the bill at once, also when the dialog is then
@@ -19,9 +19,9 @@ class Settlement {
   Q_DECLARE_TR_FUNCTIONS(Settlement)
 
  public:
-  /// `say` shows a message box with an OK button.
+  /// Messages and questions come in the screen's message boxes.
   Settlement(posMod& pos, ClsSell& bill, CustomerDisplay& display, LineReceipt& receipt,
-             std::function<void(const QString&)> say);
+             SaleScreen& screen);
 
   /// The dialog opens: shows the amount due on the customer display.
   void begin();
@@ -44,18 +44,20 @@ class Settlement {
   [[nodiscard]] QString change(const QString& cash, const QString& favorable,
                                const QString& bankCard) const;
 
-  /// Confirms with the cash text; a text that is no number leaves the bill's cash figure. The
-  /// figures become durable with the mark of a paid bill (see ClsSell::SavePaid); then the cash is
-  /// shown on the display and the footer printed. What cannot be made durable is said, and payment
-  /// is not confirmed (see settled). Once confirmed, does nothing more.
+  /// Confirms with the cash text; a text that is no number leaves the bill's cash figure. What
+  /// looks mistyped is asked for first (see FigureCheck), and a No confirms nothing. The figures
+  /// become durable with the mark of a paid bill (see ClsSell::SavePaid); then the cash is shown on
+  /// the display and the footer printed. What cannot be made durable, or has a change that does not
+  /// fit, is said, and payment is not confirmed (see settled). Once confirmed, does nothing more.
   void confirmCash(const QString& cash);
-  /// Whether a usable stored-value card of that number exists; says why not. A query that fails
-  /// counts as an unknown card.
-  [[nodiscard]] bool checkCard(const QString& number);
+  /// The number of the usable stored-value card that was typed or swiped, blanks, full-width
+  /// characters and the reader's own ones cleaned away where the text as typed is no card's.
+  /// Nothing (null) when there is none, and says why. A query that fails counts as an unknown card.
+  [[nodiscard]] QString checkCard(const QString& number);
   enum class CardResult { kPaid, kUnknownCard, kWrongPassword, kTooLittle, kFailed };
   /// Takes the whole amount due from the card, whatever the other fields hold: the balance and the
-  /// paid bill in one transaction, which confirms payment. Says every refusal; nothing is charged
-  /// and the bill is as it was then.
+  /// paid bill in one transaction, which confirms payment. A negative amount would load the card
+  /// and is refused. Says every refusal; nothing is charged and the bill is as it was then.
   [[nodiscard]] CardResult payByCard(const QString& number, const QString& password);
   /// After kPaid: says the new balance, shows and prints.
   void sayCardPaid();
@@ -64,15 +66,17 @@ class Settlement {
   bool settled() const { return settled_; }
 
  private:
-  std::string cardRefusal(const std::string& number) const;
-  CardResult charge(const std::string& number, const std::string& password);
+  void say(const QString& text);
+  bool mayBePaid(const ClsSell& paid, const QString& cash);
+  CardResult tryToCharge(const std::string& number, const std::string& password);
+  CardResult charge(const std::string& password);
   void showAndPrint();
 
   posMod& pos_;
   ClsSell& bill_;
   CustomerDisplay& display_;
   LineReceipt& receipt_;
-  std::function<void(const QString&)> say_;
+  SaleScreen& screen_;
   Currency cardBalance_;  ///< left on the card after payByCard
   bool settled_ = false;
 };

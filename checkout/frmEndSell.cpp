@@ -9,6 +9,7 @@
 
 #include "app/KeyBoard.h"
 #include "checkout/Settlement.h"
+#include "platform/KeyName.h"
 #include "platform/Twips.h"
 #include "platform/VirtualKey.h"
 #include "shell/Modal.h"
@@ -35,6 +36,7 @@ frmEndSell::frmEndSell(const KeyBoard& keys, QWidget* parent)
       count_(label("PCount")),
       money_(label("Money", tr("0000.00"))),
       change_(label("lbl1", tr("0.00"))),
+      hint_(label("lblHint")),
       cash_(field("txtInMoney")),
       favorable_(field("favorable")),
       salesman_(field("salesman")),
@@ -53,6 +55,7 @@ frmEndSell::frmEndSell(const KeyBoard& keys, QWidget* parent)
   all->addWidget(count_);
   all->addWidget(amountFrame());
   all->addWidget(otherFrame());
+  all->addWidget(hint_, 0, Qt::AlignHCenter);
   all->setSizeConstraint(QLayout::SetFixedSize);
   connectFields();
 }
@@ -113,12 +116,14 @@ void frmEndSell::connectFields() {
   connect(cash_, &QLineEdit::textChanged, this, &frmEndSell::showChange);
   connect(favorable_, &QLineEdit::textChanged, this, [this](const QString& text) {
     showAccepted(*favorable_, settlement_->favorableChanged(text));
+    showChange();
   });
   connect(salesman_, &QLineEdit::textChanged, this, [this](const QString& text) {
     showAccepted(*salesman_, settlement_->salesmanChanged(text));
   });
   connect(bankCard_, &QLineEdit::textChanged, this, [this](const QString& text) {
     showAccepted(*bankCard_, settlement_->bankCardChanged(text));
+    showChange();
   });
 }
 
@@ -142,6 +147,8 @@ void frmEndSell::showSettlement() {
   cash_->setText(settlement_->cashText());
   cardNumber_->clear();
   password_->clear();
+  hint_->setText(tr("现金栏：%1 收款，%2 返回单据；Tab 转到优惠、业务员、银行卡、储值卡")
+                     .arg(keyName(keys_.mEnter), keyName(keys_.mEsc)));
   showChange();
 }
 
@@ -201,13 +208,18 @@ bool frmEndSell::cashKey(int key) {
 
 void frmEndSell::confirmCash() {
   settlement_->confirmCash(cash_->text());
-  if (settlement_->settled()) close();
+  if (settlement_->settled()) {
+    close();
+  } else {
+    cash_->selectAll();
+  }
 }
 
 void frmEndSell::checkCard() {
-  const bool known = settlement_->checkCard(cardNumber_->text());
-  (known ? password_ : cardNumber_)->setFocus();
-  if (!known) cardNumber_->selectAll();
+  const QString card = settlement_->checkCard(cardNumber_->text());
+  if (!card.isNull()) cardNumber_->setText(card);
+  (card.isNull() ? cardNumber_ : password_)->setFocus();
+  if (card.isNull()) cardNumber_->selectAll();
 }
 
 void frmEndSell::payByCard() {

@@ -50,6 +50,7 @@ class frmEndSell : public QDialog {
   QLabel* count_;
   QLabel* money_;
   QLabel* change_;
+  QLabel* hint_;  ///< what the keys do, as they are mapped
   QLineEdit* cash_;
   QLineEdit* favorable_;
   QLineEdit* salesman_;

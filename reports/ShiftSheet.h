@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstddef>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -10,7 +11,7 @@
 struct ShiftSheet {
   std::size_t bills = 0;
   double quantity = 0;
-  Currency money;
+  std::optional<Currency> money;  ///< nothing when the sum does not fit
 
   /// The sheet line by line: the figures, and two lines to sign on.
   std::vector<std::string> lines() const;

@@ -121,7 +121,7 @@ void frmCount::show(const ClsDayStat& day) {
   lblMsg_->setText(tr("今日累计发生 [%1] 笔交易，共交易 [%2] 件商品，交易额 [%3] 元")
                        .arg(QString::number(day.Sells().size()),
                             QString::fromStdString(generalNumber(day.SumQuantity())),
-                            QString::fromStdString(twoDecimals(day.SumMoney()))));
+                            QString::fromStdString(sumText(day.SumMoney()))));
 }
 
 void frmCount::printSheet() {

@@ -11,6 +11,7 @@
 #include "checkout/Checkout.h"
 #include "checkout/CurrentLine.h"
 #include "checkout/CustomerDisplay.h"
+#include "checkout/FigureCheck.h"
 #include "checkout/LineReceipt.h"
 #include "checkout/SaleScreen.h"
 #include "checkout/SaleState.h"
@@ -141,7 +142,7 @@ void BillLines::changeQuantity(const QString& typed) {
 
 void BillLines::changeDiscount(const QString& typed) {
   const auto factor = parseNumber(typed.toStdString());
-  if (!factor || *factor < 0) {
+  if (!factor || *factor < 0 || !FigureCheck(pos_.gSysParam, screen_).discount(Discount(*factor))) {
     screen_.setInput({});
     return;
   }
@@ -236,7 +237,7 @@ BillLines::Shown BillLines::shownLine() const {
 QString BillLines::statusText(std::int64_t figure) const {
   const ClsSell& bill = *state_.curBill;
   const ClsSellItem& line = *state_.curLine;
-  Currency due = bill.Amount() + line.Money();
+  Currency due = bill.GoodsAmount() + line.Money();
   const std::string dueText = myCStr(due, pos_.gSysParam);
   return text(generalNumber(roundedQuantity(bill.Quantity() + line.Quantity()))) +
          tr("件商品，原价合计") + QString::number(figure) + tr("   合计") + text(dueText) +

@@ -6,6 +6,7 @@
 #include "base/Failure.h"
 #include "base/NumberText.h"
 #include "base/Text.h"
+#include "checkout/FigureCheck.h"
 #include "checkout/SaleScreen.h"
 #include "checkout/SaleState.h"
 #include "sale/Pricing.h"
@@ -117,8 +118,10 @@ void ItemLookup::setPrice(ClsSellItem& line, const Price& price) {
 // A negative price would pay the customer for taking the goods, so it counts as no answer.
 Currency ItemLookup::askPrice() {
   while (true) {
-    const auto price = Currency::parse(screen_.prompt({}, {}).toStdString());
-    if (price && *price >= Currency()) return *price;
+    const QString typed = screen_.prompt({}, {});
+    const auto price = Currency::parse(typed.toStdString());
+    if (!price || *price < Currency()) continue;
+    if (FigureCheck(pos_.gSysParam, screen_).price(typed, *price)) return *price;
   }
 }
 

@@ -1,5 +1,6 @@
 #include "saleslib/ClsDayStat.h"
 
+#include "base/Failure.h"
 #include "base/NumberText.h"
 #include "store/Connection.h"
 
@@ -43,8 +44,12 @@ double ClsDayStat::SumQuantity() const {
   return sum;
 }
 
-Currency ClsDayStat::SumMoney() const {
-  Currency sum;
-  for (const auto& bill : sells_) sum += bill->Amount();
-  return sum;
+std::optional<Currency> ClsDayStat::SumMoney() const {
+  try {
+    Currency sum;
+    for (const auto& bill : sells_) sum += bill->Amount();
+    return sum;
+  } catch (const Overflow&) {
+    return std::nullopt;
+  }
 }

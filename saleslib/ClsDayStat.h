@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <memory>
+#include <optional>
 #include <vector>
 
 #include "base/Currency.h"
@@ -32,7 +33,8 @@ class ClsDayStat {
 
   const Sells_t& Sells() const { return sells_; }
   double SumQuantity() const;
-  Currency SumMoney() const;
+  /// Nothing when the sum does not fit.
+  std::optional<Currency> SumMoney() const;
 
  private:
   void select(Connection& connection, Rows rows);

@@ -35,8 +35,7 @@ bool ClsSell::Open(Connection& connection, std::int32_t billNo, std::int32_t ope
   connection_ = &connection;
   clock_ = clock;
   if (billNo == 0) {
-    start(operatorId);
-    return true;
+    return start(operatorId);
   }
   return load(connection.query("select * from sell where id = ?", billNo));
 }
@@ -55,12 +54,15 @@ std::shared_ptr<ClsSell> ClsSell::fromRow(Connection& connection, const Row& row
   return bill;
 }
 
-void ClsSell::start(std::int32_t operatorId) {
+bool ClsSell::start(std::int32_t operatorId) {
   operatorId_ = operatorId;
   sellTime_ = clock_();
-  connection_->run("insert into sell (sell_time, operator_id) values (?, ?)", sellTime_,
-                   operatorId);
+  const std::int64_t opened = connection_->run(
+      "insert into sell (sell_time, operator_id) select ?, id from operators where id = ?",
+      sellTime_, operatorId);
+  if (opened == 0) return false;
   billNo_ = key32(connection_->lastRowId());
+  return true;
 }
 
 bool ClsSell::load(Rows rows) {
@@ -85,6 +87,17 @@ void ClsSell::read(const Row& row) {
   cardNo_ = row.text("card_no");
   salesman_ = whole16(row, "salesman");
   memberId_ = whole32(row, "member_id");
+}
+
+bool ClsSell::FiguresFit() const {
+  try {
+    static_cast<void>(Change());
+    static_cast<void>(cash_ - amount_);
+    static_cast<void>(amount_ - favorable_);
+    return true;
+  } catch (const Overflow&) {
+    return false;
+  }
 }
 
 bool ClsSell::Save() {
@@ -147,10 +160,10 @@ void ClsSell::LoadLines() {
 void ClsSell::AddItem(std::shared_ptr<ClsSellItem> line) {
   ensure(line != nullptr && line->BillNo() == billNo_, "a line joins its own bill");
   const Currency money = line->Money();
-  if (items_.empty() && state_ == kOpen) sellTime_ = clock_();
+  if (items_.empty() && state_ == kOpen) sellTime_ = std::max(sellTime_, line->EntryTime());
   quantity_ = roundedQuantity(quantity_ + line->Quantity());
   goodsAmount_ += money;
-  amount_ += money;
+  amount_ = goodsAmount_;
   items_.push_back(std::move(line));
 }
 

@@ -15,13 +15,14 @@ class Row;
 class Rows;
 
 /// One bill. Amount and Quantity are sums over the committed lines until the settlement writes the
-/// rounded amount due.
+/// rounded amount due; a line that then joins or leaves an open bill makes them sums again.
 class ClsSell {
  public:
   using Items_t = std::vector<std::shared_ptr<ClsSellItem>>;
 
   /// Binds. Bill number 0 starts a new open bill of that operator: its row, number and time are
-  /// stored at once. Otherwise loads the stored bill; false when there is none. Throws StoreError.
+  /// stored at once; false when the operator was removed. Otherwise loads the stored bill; false
+  /// when there is none. Throws StoreError.
   [[nodiscard]] bool Open(Connection& connection, std::int32_t billNo, std::int32_t operatorId,
                           const Clock& clock = localTime);
   /// Loads the member's latest settled bill; false when there is none.
@@ -44,7 +45,8 @@ class ClsSell {
   /// amount are worked out from them; a settled or paid bill whose lines do not add up to it throws
   /// StoreError, naming the bill: the data file is damaged.
   void LoadLines();
-  /// Adds a committed line of this bill (ensure): amount and quantity grow by the line's.
+  /// Adds a committed line of this bill (ensure): quantity and amount are the sums over its lines
+  /// again, whatever the settlement rounded the amount to before.
   void AddItem(std::shared_ptr<ClsSellItem> line);
   /// Takes a line off an open bill; quantity and amount follow. The line's row is the caller's.
   void RemoveItem(const ClsSellItem& line);
@@ -57,9 +59,9 @@ class ClsSell {
   void setAmount(Currency amount) { amount_ = amount; }
   Currency Cash() const { return cash_; }
   void setCash(Currency cash) { cash_ = cash; }
-  /// When the bill was made: opened, and from its first line on the time that line was added, so
+  /// When the bill was made: opened, and from its first line on the time that line was entered, so
   /// that the first sale of a morning is not dated back to the evening before, when its bill was
-  /// opened.
+  /// opened. It never moves back: a bill that was open when the clock was set back shows that.
   DateTime SellTime() const { return sellTime_; }
   const Items_t& Items() const { return items_; }
   std::int32_t OperatorId() const { return operatorId_; }
@@ -83,13 +85,16 @@ class ClsSell {
 
   /// Sum of the lines' amounts, before the shop's rounding.
   Currency GoodsAmount() const { return goodsAmount_; }
-  /// Cash + bank card + stored-value card + discount - amount due.
+  /// Cash + bank card + stored-value card + discount - amount due. Throws Overflow.
   Currency Change() const { return cash_ + bankCard_ + cardPay_ + favorable_ - amount_; }
+  /// Whether all that screens and receipts work out from the payment fits. A data file may hold
+  /// settled bills of which it does not.
+  [[nodiscard]] bool FiguresFit() const;
 
  private:
   static constexpr std::int16_t kOpen = 0;
 
-  void start(std::int32_t operatorId);
+  bool start(std::int32_t operatorId);
   bool load(Rows rows);
   void read(const Row& row);
   void store();

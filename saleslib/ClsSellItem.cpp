@@ -21,6 +21,7 @@ ClsSellItem ClsSellItem::fromRow(Connection& connection, const Row& row) {
   line.billNo_ = whole32(row, "sellId");
   line.id_ = whole32(row, "id");
   line.inserted_ = line.saved_ = kFromFile;
+  line.entryTime_ = row.dateTime("insert_Date").value_or(DateTime());
   line.price_ = money(row, "price");
   line.cost_ = money(row, "in_price");
   line.quantity_ = row.number("amount").value_or(0);
@@ -46,11 +47,12 @@ void ClsSellItem::Save() {
 }
 
 void ClsSellItem::insert() {
+  entryTime_ = clock_();
   connection_->run(
       "insert into sellProducts (sellId, insert_Date, bm, name, unit, amount, price, discount,"
       " money, in_price, splbmc, entry_code, ratio, origin)"
       " values (?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?)",
-      billNo_, clock_(), spCode_, spName_, unit_, quantity_, price_, discount_, Money(), cost_,
+      billNo_, entryTime_, spCode_, spName_, unit_, quantity_, price_, discount_, Money(), cost_,
       category_, entryCode_, ratio_, origin_);
   id_ = key32(connection_->lastRowId());
   inserted_ = connection_->writeMark();

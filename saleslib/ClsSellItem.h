@@ -57,6 +57,8 @@ class ClsSellItem {
   void setCategory(std::string category) { change(category_, std::move(category)); }
 
   std::int32_t BillNo() const { return billNo_; }
+  /// When the line's row was first stored; the beginning of the calendar until then.
+  DateTime EntryTime() const { return entryTime_; }
   /// Quantity x ratio: what the line takes out of stock.
   double StockQuantity() const;
 
@@ -73,6 +75,7 @@ class ClsSellItem {
   Clock clock_ = localTime;
   std::int32_t billNo_ = 0;
   std::int32_t id_ = 0;
+  DateTime entryTime_;
   WriteMark inserted_ = kNotWritten;
   WriteMark saved_ = kNotWritten;
   Currency price_, cost_;

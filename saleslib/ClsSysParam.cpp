@@ -67,14 +67,15 @@ constexpr Kind kStockRule = {readStockRule, "只能是 0（可以负库存）或
 constexpr Kind kRate = {readRate, "只能是大于 0、不超过 10 的数"};
 
 constexpr std::array kDefinitions = {
-    Definition{"ShopName", &kText, ""},     Definition{"ReceiptText1", &kText, ""},
-    Definition{"ReceiptText2", &kText, ""}, Definition{"ReceiptText3", &kText, ""},
-    Definition{"ReceiptText4", &kText, ""}, Definition{"ReceiptText5", &kText, ""},
-    Definition{"ReceiptText6", &kText, ""}, Definition{"StockRule", &kStockRule, "0"},
-    Definition{"RoundJiao", &kSwitch, "0"}, Definition{"RoundYuan", &kSwitch, "0"},
-    Definition{"PointUnit", &kWhole, "10"}, Definition{"GeneralRate", &kRate, "1"},
-    Definition{"VipRate", &kRate, "1"},     Definition{"SilverRate", &kRate, "1"},
-    Definition{"GoldRate", &kRate, "1"},    Definition{"BackupOnExit", &kSwitch, "0"},
+    Definition{"ShopName", &kText, ""},        Definition{"ReceiptText1", &kText, ""},
+    Definition{"ReceiptText2", &kText, ""},    Definition{"ReceiptText3", &kText, ""},
+    Definition{"ReceiptText4", &kText, ""},    Definition{"ReceiptText5", &kText, ""},
+    Definition{"ReceiptText6", &kText, ""},    Definition{"StockRule", &kStockRule, "0"},
+    Definition{"RoundJiao", &kSwitch, "0"},    Definition{"RoundYuan", &kSwitch, "0"},
+    Definition{"PointUnit", &kWhole, "10"},    Definition{"GeneralRate", &kRate, "1"},
+    Definition{"VipRate", &kRate, "1"},        Definition{"SilverRate", &kRate, "1"},
+    Definition{"GoldRate", &kRate, "1"},       Definition{"BackupOnExit", &kSwitch, "0"},
+    Definition{"CheckPayment", &kSwitch, "0"},
 };
 
 const Definition* find(std::string_view name) {
@@ -188,4 +189,7 @@ Currency ClsSysParam::GoldRate() const {
 }
 bool ClsSysParam::BackupOnExit() const {
   return isOn("BackupOnExit");
+}
+bool ClsSysParam::CheckPayment() const {
+  return isOn("CheckPayment");
 }

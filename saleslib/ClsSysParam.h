@@ -34,6 +34,7 @@ class ClsSysParam {
   Currency SilverRate() const;     ///< of 银卡; 1
   Currency GoldRate() const;       ///< of 金卡; 1
   bool BackupOnExit() const;       ///< off
+  bool CheckPayment() const;       ///< ask before figures that are likely mistyped; off
 
   /// A parameter as the owner's tool lists it.
   struct Parameter {

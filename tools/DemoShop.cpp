@@ -39,6 +39,7 @@ constexpr DemoParameter kParameters[] = {
     {"VipRate", "0.9"},
     {"SilverRate", "0.98"},
     {"GoldRate", "0.95"},
+    {"CheckPayment", "1"},
 };
 
 struct DemoMember {

@@ -18,7 +18,7 @@ class EndSell : public CheckoutFixture {
 
   /// Shows the dialog, lets the cashier act, and gives whether payment was confirmed.
   bool show(const std::function<void()>& cashier) {
-    Settlement settlement(pos, *state.curBill, display, receipt, report);
+    Settlement settlement(pos, *state.curBill, display, receipt, screen);
     QTimer::singleShot(0, &dialog, [&] {
       EXPECT_TRUE(QTest::qWaitForWindowActive(&dialog));
       EXPECT_EQ(focused(), "txtInMoney");
@@ -63,6 +63,7 @@ TEST_F(EndSell, otherFieldsAreReachedByTabAndLeftByEnter) {
     press(Qt::Key_Backspace);
     EXPECT_EQ(fieldText("favorable"), "0");
     type("3");
+    EXPECT_EQ(labelText("lbl1"), "3.0") << "the change follows";
     press(Qt::Key_Escape);
     EXPECT_TRUE(dialog.isVisible());
     press(Qt::Key_Enter);
@@ -83,6 +84,7 @@ TEST_F(EndSell, mappedKeysCountAndTheEnterKeyAlwaysDoes) {
   EXPECT_FALSE(show([this] {
     press(Qt::Key_Escape);
     EXPECT_TRUE(dialog.isVisible());
+    EXPECT_TRUE(labelText("lblHint").startsWith("现金栏：小键盘 + 收款，F9 返回单据"));
     press(Qt::Key_F9);
   }));
   EXPECT_TRUE(

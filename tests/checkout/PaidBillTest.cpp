@@ -25,13 +25,13 @@ class PaidBill : public CheckoutFixture {
 
 TEST_F(PaidBill, OfAnotherOperatorIsCompletedOnceWithItsRoundingAndNotVoided) {
   setParameter("RoundJiao", "1");
-  pos.gOperator->Init(*pos.gConn, 7);
+  pos.gOperator->Init(*pos.gConn, 2);
   checkout.PrepareNextBill();
   enter("水", "12.33");
   enter("茶", "4.00");
   cutAfterCash("1.3");
   ClsDayStat unpaid;
-  unpaid.OpenQuery(*pos.gConn, 7);
+  unpaid.OpenQuery(*pos.gConn, 2);
   EXPECT_THAT(unpaid.Sells(), SizeIs(0)) << "what is open and unpaid is voided";
 
   pos.gOperator->Init(*pos.gConn, 1);

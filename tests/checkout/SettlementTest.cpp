@@ -12,7 +12,7 @@ class SettlementTest : public CheckoutFixture {
   }
   std::string balance() { return stored("card as v from member where bh='8001'"); }
 
-  Settlement settlement{pos, *state.curBill, display, receipt, report};
+  Settlement settlement{pos, *state.curBill, display, receipt, screen};
 };
 
 TEST_F(SettlementTest, amountDueFollowsTheShopsRounding) {
@@ -64,6 +64,42 @@ TEST_F(SettlementTest, cashTextThatIsNoNumberLeavesTheFigure) {
   EXPECT_EQ(ports.shown, "\x1Bs3\x1BQA7.00\r");
 }
 
+TEST_F(SettlementTest, asksOnceBeforeAPaymentThatLooksMistyped) {
+  const struct {
+    const char *favorable, *bankCard, *cash, *question;
+  } cases[] = {
+      {"0", "0", "88", "收款不够，还差 0.50 元。"},
+      {"0.5", "0", "八", "现金“八”不是数字，将按 0.00 元收款。\n收款不够，还差 88.00 元。"},
+      {"0", "0", "10088.51", "找零有 10000.01 元。"},
+      {"0.5", "0", "10088", ""},
+      {"0", "88.5", "0", ""}};
+  for (const char* wanted : {"1", "0"}) {
+    setParameter("CheckPayment", wanted);
+    for (const auto& each : cases) {
+      Settlement fresh{pos, *state.curBill, display, receipt, screen};
+      static_cast<void>(fresh.favorableChanged(each.favorable));
+      static_cast<void>(fresh.bankCardChanged(each.bankCard));
+      state.curBill->setCash(Currency());
+      fresh.confirmCash(each.cash);
+      const std::string question = *wanted == '1' ? each.question : "";
+      EXPECT_EQ(screen.said(), question.empty() ? "" : ":" + question + "\n确定这样收款吗？ 否");
+      EXPECT_EQ(fresh.settled(), question.empty()) << each.cash;
+    }
+  }
+}
+
+TEST_F(SettlementTest, aCardIsFoundAsTypedThenAsSwiped) {
+  pos.gConn->run(
+      "insert into member (bh, name, enabled, join_date) values ('vip9', '李雷', 1, ''),"
+      " ('9', '韩梅', 1, '')");
+  const std::pair<const char*, const char*> cases[] = {{"vip9", "vip9"},
+                                                       {" ８００１ ", "8001"},
+                                                       {";8001?", "8001"},
+                                                       {";a8001?", "8001"},
+                                                       {"vip8001", ""}};
+  for (const auto& [typed, card] : cases) EXPECT_EQ(settlement.checkCard(typed), card) << typed;
+}
+
 TEST_F(SettlementTest, refusedCardsChargeNothing) {
   pos.gConn->run(
       "insert into member (bh, name, card, password, enabled, join_date) values "
@@ -82,6 +118,9 @@ TEST_F(SettlementTest, refusedCardsChargeNothing) {
     EXPECT_EQ(settlement.payByCard(each.number, each.password), each.result) << each.number;
     EXPECT_EQ(screen.said(), each.said);
   }
+  state.curBill->setAmount(Currency::fromYuan(-5));
+  EXPECT_EQ(settlement.payByCard("8001", "Pw1"), kFailed);
+  EXPECT_EQ(screen.said(), "应收是负数，不能用储值卡付款。");
   EXPECT_FALSE(settlement.settled());
   EXPECT_EQ(stored("sum(card) as v from member"), "676.99");
 }

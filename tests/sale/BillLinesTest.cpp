@@ -37,6 +37,7 @@ TEST_F(BillLinesTest, rowsAndStatusTellTheBill) {
 
 // What Enter does by length of the text, selected row and edited column.
 TEST_F(BillLinesTest, enterByLengthRowAndColumn) {
+  setParameter("CheckPayment", "1");
   struct Case {
     const char* typed;
     int rights;  // -1: on the entry row, else so many columns right of the quantity
@@ -54,6 +55,7 @@ TEST_F(BillLinesTest, enterByLengthRowAndColumn) {
            {"123456", 0, "正在修改商品行，“123456”没有录入。请重新录入。", "1 1"},
            {"0.9", 1, "", "1 0.9"},
            {"0", 1, "", "1 0"},
+           {"8", 1, ":折扣 8 大于 1，会比原价贵，确定吗？ 否", "1 1", false},
            {"-1", 1, "", "1 1", false},
            {"abc", 1, "", "1 1", false},
        }) {

@@ -39,10 +39,12 @@ TEST_F(ItemLookupTest, letsTheCashierChooseAmongSeveral) {
   EXPECT_EQ(till.said(), "没有找到条码为：6900000000029的商品");
   EXPECT_EQ(line(), "none") << "the line before was committed";
   till.choice = 1;
-  till.answers = {"", "十元", "-3", QString(10'000, '9'), "３.5"};
+  setParameter("CheckPayment", "1");
+  till.answers = {"", "十元", "-3", QString(10'000, '9'), "０0001234", "100000", "３.5"};
   enter("-0");
   EXPECT_EQ(line(), "2002/橡皮/XP-02");
   EXPECT_EQ(cell(1, BillRow::kPrice), "3.50") << "asked for until it is a price";
+  EXPECT_EQ(till.said(), ":单价是 1234.00 元，确定吗？ 否|:单价是 100000.00 元，确定吗？ 否");
 }
 
 TEST_F(ItemLookupTest, saysWhyAFieldCannotBeReadAndFindsNothing) {

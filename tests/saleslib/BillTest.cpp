@@ -7,15 +7,17 @@ using BillTest = Shop;
 
 TEST_F(BillTest, ABillLivesFromItsOpeningToItsReload) {
   ClsSell bill = openBill(7);
-  now = {{2026, 11, 23}, 10, 5, 3};  // opened the evening before, dated by its first line
+  now = {{2026, 11, 23}, 23, 59, 54};  // opened the day before, dated by its first line's entry
   const auto water = newLine(bill, "1.5", 2);
   water->setDiscount(Discount(0.9));
   water->setEntryCode("6901");
   water->setRatio(12);
   water->Save();
+  now = {{2026, 11, 24}, 0, 0, 8};
   bill.AddItem(water);
-  now.hour = 11;
+  bill.setAmount(yuan("2"));
   ring(bill, "10.05", 0.333);
+  EXPECT_EQ(bill.Amount(), yuan("6.05")) << "what the settlement rounded stayed in the bill";
   bill.setAmount(yuan("6"));
   bill.setCash(yuan("4"));
   bill.setBankCard(yuan("1"));
@@ -25,7 +27,7 @@ TEST_F(BillTest, ABillLivesFromItsOpeningToItsReload) {
   bill.setSalesman(3);
   bill.setMemberId(5);
   settle(bill);
-  EXPECT_EQ(stored("select insert_Date from sellProducts limit 1"), "2026-11-23 10:05:03");
+  EXPECT_EQ(stored("select insert_Date from sellProducts limit 1"), "2026-11-23 23:59:54");
 
   // Read back and stored again, whatever of it is not read is lost.
   ClsSell again;
@@ -36,7 +38,7 @@ TEST_F(BillTest, ABillLivesFromItsOpeningToItsReload) {
   EXPECT_EQ(stored("select sell_time || ' ' || operator_id || ' ' || salesman || ', ' || quantity"
                    " || ' for ' || goods_amount || ', ' || amount || ' by ' || cash || ' ' ||"
                    " bank_card || ' ' || card_pay || ' ' || card_no || ' ' || favorable from sell"),
-            "2026-11-23 10:05:03 7 3, 2.333 for 6.05, 6 by 4 1 0.5 88 1");
+            "2026-11-23 23:59:54 7 3, 2.333 for 6.05, 6 by 4 1 0.5 88 1");
   EXPECT_EQ(stored("select group_concat(name || entry_code || ' ' || amount || ' x ' || price ||"
                    " ' x ' || discount || ' = ' || money || ' / ' || ratio, '; ')"
                    " from sellProducts"),

@@ -28,10 +28,12 @@ TEST_F(DayStatTest, ADayHoldsTheOperatorsSettledBillsOfThatDate) {
   const auto found = [&day] {
     std::string numbers;
     for (const auto& bill : day.Sells()) numbers += std::to_string(bill->BillNo()) + " ";
-    return numbers + generalNumber(day.SumQuantity()) + " " + generalNumber(day.SumMoney());
+    return numbers + generalNumber(day.SumQuantity()) + " " + sumText(day.SumMoney());
   };
   day.DayQuery(connection, {2026, 11, 22}, 0, 1);
   EXPECT_EQ(found(), "2 5 2.5 2.76");
+  for (const auto& bill : day.Sells()) bill->setAmount(yuan("900000000000000"));
+  EXPECT_EQ(found(), "2 5 2.5 超出范围");
   day.OpenQuery(connection, 1);
   EXPECT_EQ(found(), "4 1.25 1.38") << "from the lines: its row was never stored";
 

@@ -16,6 +16,7 @@ class Shop : public testing::Test {
   const Clock clock = [this] { return now; };
 
   ClsSell openBill(std::int32_t operatorId = 1) {
+    connection.run("insert or ignore into operators values (?, '张三', '01', '-', 0)", operatorId);
     ClsSell bill;
     EXPECT_TRUE(bill.Open(connection, 0, operatorId, clock));
     return bill;

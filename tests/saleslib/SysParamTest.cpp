@@ -11,7 +11,7 @@ TEST_F(SysParamTest, EveryParameterHasASoundValueWhenNoneIsSet) {
   shop.Conn(connection);
   EXPECT_EQ(shop.ShopName() + shop.ReceiptText1() + shop.ReceiptText6(), "");
   EXPECT_EQ(shop.StockRule(), 0);
-  EXPECT_FALSE(shop.RoundJiao() || shop.RoundYuan() || shop.BackupOnExit());
+  EXPECT_FALSE(shop.RoundJiao() || shop.RoundYuan() || shop.BackupOnExit() || shop.CheckPayment());
   EXPECT_EQ(shop.PointUnit(), 10);
   EXPECT_EQ(shop.GeneralRate(), 1.0);
   EXPECT_EQ(shop.GoldRate(), yuan("1"));
