@@ -4,20 +4,19 @@
 #include "app/DeviceBytes.h"
 #include "app/Ports.h"
 #include "checkout/CustomerDisplay.h"
-#include "checkout/SaleState.h"
 #include "platform/PortError.h"
 
-CashDrawer::CashDrawer(const Ports& ports, const ClsPosSet& settings, const SaleState& state,
-                       CustomerDisplay& display, Outage::Report report)
-    : ports_(ports),
-      settings_(settings),
-      state_(state),
-      display_(display),
-      outage_(std::move(report)) {}
+CashDrawer::CashDrawer(const Ports& ports, const ClsPosSet& settings, CustomerDisplay& display,
+                       Outage::Report report)
+    : ports_(ports), settings_(settings), display_(display), outage_(std::move(report)) {}
+
+bool CashDrawer::isThere() const {
+  return !settings_.MBPort.empty();
+}
 
 void CashDrawer::OpenDrawer() {
-  if (!state_.hasDrawer) return;
-  const bool onDisplay = settings_.MBPort == settings_.CVProt && state_.hasDisplay;
+  if (!isThere()) return;
+  const bool onDisplay = settings_.MBPort == settings_.CVProt;
   if (onDisplay && display_.kickDrawer()) return;
   try {
     ports_.portFile(settings_.MBPort)->send(device::kDrawerPulse);

@@ -3,18 +3,18 @@
 #include "app/ClsPosSet.h"
 #include "app/DeviceBytes.h"
 #include "app/Ports.h"
-#include "checkout/SaleState.h"
 #include "platform/ByteSink.h"
 #include "platform/PortError.h"
 
-CustomerDisplay::CustomerDisplay(const Ports& ports, const ClsPosSet& settings, SaleState& state,
+CustomerDisplay::CustomerDisplay(const Ports& ports, const ClsPosSet& settings,
                                  Outage::Report report)
-    : ports_(ports), settings_(settings), state_(state), outage_(std::move(report)) {}
+    : ports_(ports), settings_(settings), outage_(std::move(report)) {}
 
 CustomerDisplay::~CustomerDisplay() = default;
 
 void CustomerDisplay::OpenDisplayPort() {
-  if (!device::isKnownDisplay(settings_.CVModel)) return;
+  isOn_ = !settings_.CVProt.empty();
+  if (!isOn_ || !device::isKnownDisplay(settings_.CVModel)) return;
   try {
     close();
     line_ = ports_.serialLine(device::displayPort(settings_.CVProt));
@@ -25,7 +25,7 @@ void CustomerDisplay::OpenDisplayPort() {
 }
 
 void CustomerDisplay::clientView(Currency money, int mode) {
-  if (!state_.hasDisplay || !device::isKnownDisplay(settings_.CVModel)) return;
+  if (!isOn_ || !device::isKnownDisplay(settings_.CVModel)) return;
   send(device::displayFigure(money, mode));
 }
 
@@ -50,6 +50,6 @@ bool CustomerDisplay::send(std::string_view bytes) {
 
 void CustomerDisplay::switchOff(const PortError& reason) {
   close();
-  state_.hasDisplay = false;
+  isOn_ = false;
   outage_.failed(QString::fromUtf8(reason.what()));
 }

@@ -7,8 +7,8 @@
 #include "base/Gbk.h"
 #include "base/NumberText.h"
 #include "checkout/CashDrawer.h"
-#include "checkout/SaleState.h"
 #include "platform/PortError.h"
+#include "saleslib/ClsSell.h"
 
 namespace {
 
@@ -29,29 +29,39 @@ std::string pointsText(Currency amount, std::int16_t unit, std::int16_t points) 
 
 }  // namespace
 
-LineReceipt::LineReceipt(posMod& pos, SaleState& state, CashDrawer& drawer, Outage::Report report)
-    : pos_(pos), state_(state), drawer_(drawer), outage_(std::move(report)) {}
+LineReceipt::LineReceipt(posMod& pos, CashDrawer& drawer, Outage::Report report)
+    : pos_(pos), drawer_(drawer), outage_(std::move(report)) {}
 
-void LineReceipt::PrintHeader() {
-  if (state_.linePrint) print(headerLines());
+bool LineReceipt::isPossible() const {
+  return !pos_.gPosSet.PPort.empty() && pos_.gPosSet.PPort != "USB";
 }
 
-void LineReceipt::PrintLine() {
-  if (state_.linePrint) print({lineText()});
+void LineReceipt::start() {
+  isOn_ = isPossible();
+  if (!pos_.gPosSet.PPort.empty()) widths_ = ReceiptColumns::forModel(pos_.gPosSet.PModel);
 }
 
-void LineReceipt::PrintFoot() {
-  if (!state_.linePrint) {
+void LineReceipt::PrintHeader(const ClsSell& bill) {
+  if (isOn_) print(bill.BillNo(), headerLines());
+}
+
+void LineReceipt::PrintLine(const ClsSellItem& line) {
+  if (isOn_) print(line.BillNo(), {lineText(line)});
+}
+
+void LineReceipt::PrintFoot(const ClsSell& bill, const ClsMember* member,
+                            std::int64_t originalPrice) {
+  if (!isOn_) {
     unsent_.clear();
     drawer_.OpenDrawer();
     return;
   }
   failedBill_ = 0;
-  const std::vector<std::string> foot = footLines();
+  const std::vector<std::string> foot = footLines(bill, member, originalPrice);
   // The drawer opens while the paper still moves, so that the cashier does not wait for the texts.
-  const auto rest = foot.begin() + (state_.hasDrawer ? 2 : 0);
-  if (state_.hasDrawer) {
-    print({foot.begin(), rest});
+  const auto rest = foot.begin() + (drawer_.isThere() ? 2 : 0);
+  if (drawer_.isThere()) {
+    print(bill.BillNo(), {foot.begin(), rest});
     const bool onThisPort = pos_.gPosSet.MBPort == pos_.gPosSet.PPort;
     if (unsent_.empty() || !onThisPort) drawer_.OpenDrawer();
   }
@@ -61,16 +71,16 @@ void LineReceipt::PrintFoot() {
   lines.resize(lines.size() + 4);
   const std::vector<std::string> nextHeader = headerLines();
   lines.insert(lines.end(), nextHeader.begin(), nextHeader.end());
-  print(lines);
+  print(bill.BillNo(), lines);
   if (!unsent_.empty()) unsent_ = nextHeader;
 }
 
-void LineReceipt::FeedLines() {
-  if (state_.linePrint) print({"", ""});
+void LineReceipt::FeedLines(const ClsSell& bill) {
+  if (isOn_) print(bill.BillNo(), {"", ""});
 }
 
 std::vector<std::string> LineReceipt::headerLines() const {
-  const ReceiptColumns& widths = state_.receiptCols;
+  const ReceiptColumns& widths = widths_;
   std::string titles = "商品名称 单价";
   if (widths.name >= 14) titles = gbk::centred("商品名称", columns(widths.name - 4)) + "单价";
   titles += widths.quantity < 6 ? " 数量" : blanks(columns(widths.quantity - 4)) + "数量";
@@ -81,9 +91,8 @@ std::vector<std::string> LineReceipt::headerLines() const {
           gbk::centred(titles, line)};
 }
 
-std::string LineReceipt::lineText() const {
-  const ReceiptColumns& widths = state_.receiptCols;
-  const ClsSellItem& line = *state_.curLine;
+std::string LineReceipt::lineText(const ClsSellItem& line) const {
+  const ReceiptColumns& widths = widths_;
   const std::string price = twoDecimals(line.Price());
   const std::size_t forName = columns(widths.name) - std::min(columns(widths.name), price.size());
   const std::string name = gbk::cut(line.SpName(), forName);
@@ -92,15 +101,15 @@ std::string LineReceipt::lineText() const {
          gbk::right(twoDecimals(line.Money()), columns(widths.amount));
 }
 
-std::vector<std::string> LineReceipt::footLines() const {
-  const ClsSell& bill = *state_.curBill;
+std::vector<std::string> LineReceipt::footLines(const ClsSell& bill, const ClsMember* member,
+                                                std::int64_t originalPrice) const {
   const Date date = bill.SellTime().date;
-  const std::size_t width = columns(state_.receiptCols.line);
-  return {totalText(),
+  const std::size_t width = columns(widths_.line);
+  return {totalText(bill, member),
           "日期：" + std::to_string(date.month) + "-" + std::to_string(date.day) + " 流水号：" +
               std::to_string(bill.BillNo()) + " 收银员：" + pos_.gOperator->Code(),
           gbk::centred("销售时刻(" + shortTime(bill.SellTime()) + ")", width, '-'),
-          "原价总计:" + std::to_string(state_.origTotal) + "应收" + oneDecimal(bill.Amount()) +
+          "原价总计:" + std::to_string(originalPrice) + "应收" + oneDecimal(bill.Amount()) +
               "现金" + oneDecimal(bill.Cash()) + "银行卡" + oneDecimal(bill.BankCard()) + "储值卡" +
               oneDecimal(bill.CardPay()) + "找零" + oneDecimal(bill.Change()),
           gbk::centred("-----------------", width, '-'),
@@ -108,22 +117,21 @@ std::vector<std::string> LineReceipt::footLines() const {
           pos_.gSysParam.ReceiptText3()};
 }
 
-std::string LineReceipt::totalText() const {
-  const ReceiptColumns& widths = state_.receiptCols;
-  const ClsSell& bill = *state_.curBill;
+std::string LineReceipt::totalText(const ClsSell& bill, const ClsMember* member) const {
+  const ReceiptColumns& widths = widths_;
   std::string text = gbk::centred("总    计", columns(widths.name)) +
                      gbk::right(generalNumber(bill.Quantity()), columns(widths.quantity)) +
                      gbk::right(twoDecimals(bill.Amount()), columns(widths.amount));
-  if (const auto& member = state_.curMember) {
+  if (member != nullptr) {
     text += "\r\n会员卡：" + member->Bh() + "，累计积分：" +
             pointsText(bill.Amount(), pos_.gSysParam.PointUnit(), member->Points());
   }
   return text;
 }
 
-void LineReceipt::print(const std::vector<std::string>& lines) {
+void LineReceipt::print(std::int32_t billNo, const std::vector<std::string>& lines) {
   unsent_.insert(unsent_.end(), lines.begin(), lines.end());
-  if (failedBill_ == state_.curBill->BillNo()) return;
+  if (failedBill_ == billNo) return;
   std::string bytes;
   for (const std::string& line : unsent_) bytes += gbk::encode(line) + "\r\n";
   try {
@@ -131,7 +139,7 @@ void LineReceipt::print(const std::vector<std::string>& lines) {
     unsent_.clear();
     outage_.worked();
   } catch (const PortError& error) {
-    failedBill_ = state_.curBill->BillNo();
+    failedBill_ = billNo;
     outage_.failed(QString::fromUtf8(error.what()));
   }
 }

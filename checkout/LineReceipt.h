@@ -5,10 +5,13 @@
 #include <vector>
 
 #include "checkout/Outage.h"
+#include "checkout/ReceiptColumns.h"
 
 class CashDrawer;
+class ClsMember;
+class ClsSell;
+class ClsSellItem;
 class posMod;
-struct SaleState;
 
 /// The receipt on a line printer, printed while the sale goes on. Texts are GBK on the wire, each
 /// line followed by CR LF; the port is opened for each procedure and closed after it.
@@ -19,32 +22,43 @@ struct SaleState;
 /// starts again with the next bill's heading.
 class LineReceipt {
  public:
-  LineReceipt(posMod& pos, SaleState& state, CashDrawer& drawer, Outage::Report report);
+  LineReceipt(posMod& pos, CashDrawer& drawer, Outage::Report report);
 
-  /// The heading of the next receipt. Only when line printing is on.
-  void PrintHeader();
-  /// The current line. Only when line printing is on.
-  void PrintLine();
-  /// Totals and payment of the open bill, and the heading of the next receipt; the drawer opens
-  /// after the first two lines. Without line printing it only opens the drawer.
-  void PrintFoot();
+  /// Prints or not, and how wide, as the settings say.
+  void start();
+  /// Whether lines can be printed at all.
+  bool isPossible() const;
+  bool isOn() const { return isOn_; }
+  void turn(bool on) { isOn_ = on && isPossible(); }
+  const ReceiptColumns& widths() const { return widths_; }
+
+  /// The heading of that bill's receipt. Only when line printing is on.
+  void PrintHeader(const ClsSell& bill);
+  /// A line of a bill. Only when line printing is on.
+  void PrintLine(const ClsSellItem& line);
+  /// Totals and payment of a bill with its original-price figure, and the heading of the next
+  /// receipt; the drawer opens after the first two lines. Without line printing it only opens the
+  /// drawer.
+  void PrintFoot(const ClsSell& bill, const ClsMember* member, std::int64_t originalPrice);
   /// Two empty lines, so that a bill put aside stands apart. Only when line printing is on.
-  void FeedLines();
+  void FeedLines(const ClsSell& bill);
 
-  /// The texts of these procedures, without line ends, for paper of the state's widths. The
+  /// The texts of these procedures, without line ends, for paper of those widths. The
   /// footer's first text holds a line end of its own when a member is attached; its empty texts are
   /// not printed.
   std::vector<std::string> headerLines() const;
-  std::string lineText() const;
-  std::vector<std::string> footLines() const;
+  std::string lineText(const ClsSellItem& line) const;
+  std::vector<std::string> footLines(const ClsSell& bill, const ClsMember* member,
+                                     std::int64_t originalPrice) const;
 
  private:
-  std::string totalText() const;
+  std::string totalText(const ClsSell& bill, const ClsMember* member) const;
   /// Prints what is unsent and these lines, unless this bill's print has already failed.
-  void print(const std::vector<std::string>& lines);
+  void print(std::int32_t billNo, const std::vector<std::string>& lines);
 
   posMod& pos_;
-  SaleState& state_;
+  bool isOn_ = false;
+  ReceiptColumns widths_;
   CashDrawer& drawer_;
   Outage outage_;
   std::vector<std::string> unsent_;  ///< lines that a failing printer has not taken yet

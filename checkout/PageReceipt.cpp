@@ -7,7 +7,8 @@
 #include "base/Gbk.h"
 #include "base/NumberText.h"
 #include "base/Text.h"
-#include "checkout/SaleState.h"
+#include "checkout/ReceiptColumns.h"
+#include "saleslib/ClsSell.h"
 
 namespace {
 
@@ -33,28 +34,33 @@ struct RowLayout {
   bool figuresBelow;
 };
 
-std::optional<RowLayout> rowLayout(const std::string& setting, const BillRow& row) {
-  const std::string& name = row.cells[BillRow::kName];
+std::optional<RowLayout> rowLayout(const std::string& setting, const ClsSellItem& line) {
+  const std::string& name = line.SpName();
   if (setting == "打印商品前7个字简称") return RowLayout{firstCharacters(name, 7) + " ", false};
   if (setting == "打印编码+商品全称") {
-    return RowLayout{row.cells[BillRow::kSpCode] + "  " + name, true};
+    return RowLayout{line.SpCode() + "  " + name, true};
   }
   if (setting == "打印商品全称") return RowLayout{name + " ", true};
   if (setting == "打印商品全称+折扣") {
-    return RowLayout{name + " 折扣:" + row.cells[BillRow::kDiscount], true};
+    return RowLayout{name + " 折扣:" + generalNumber(line.Discount()), true};
   }
   return std::nullopt;
 }
 
-std::string oneDecimalOf(const std::string& cell) {
-  return oneDecimal(Currency::parse(cell).value_or(Currency()));
+/// Of an amount as the bill shows it.
+std::string oneDecimalOf(Currency amount) {
+  return oneDecimal(roundedToFen(amount));
 }
 
 /// One receipt while it is being laid out from top to bottom.
 class Layout {
  public:
-  Layout(posMod& pos, const SaleState& state)
-      : pos_(pos), state_(state), bill_(*state.lastBill), width_(columns(state.receiptCols.line)) {
+  Layout(posMod& pos, const ClsSell& bill, const ReceiptColumns& widths, std::int64_t originalPrice)
+      : pos_(pos),
+        widths_(widths),
+        bill_(bill),
+        originalPrice_(originalPrice),
+        width_(columns(widths.line)) {
     page_.name = std::to_string(bill_.BillNo());
     page_.paperWidthMm = pos.gPosSet.PModel == 1 ? 80 : 58;
   }
@@ -94,21 +100,20 @@ class Layout {
 
   /// Over the rows' columns, which are as wide as narrow paper on either paper.
   std::string titles() const {
-    if (state_.receiptCols.name >= 26) return "商品名称          单价 数量 金额";
-    return gbk::centred("商品名称", columns(state_.receiptCols.name - 4)) + "单价 数量 金额";
+    if (widths_.name >= 26) return "商品名称          单价 数量 金额";
+    return gbk::centred("商品名称", columns(widths_.name - 4)) + "单价 数量 金额";
   }
 
   void rows() {
-    for (std::size_t r = 1; r < state_.rows.size(); ++r) {
-      const BillRow& row = state_.rows[r - 1];
-      const auto layout = rowLayout(pos_.gPosSet.printOption, row);
+    for (std::size_t r = 1; r <= bill_.Items().size(); ++r) {
+      const ClsSellItem& line = *bill_.Items()[r - 1];
+      const auto layout = rowLayout(pos_.gPosSet.printOption, line);
       if (!layout) return;
       const int block = static_cast<int>(r) * kRowPitch;
       const int figures = block + (layout->figuresBelow ? kSecondLine : kFirstLine);
       place(kLeft, block + kFirstLine, layout->firstText);
-      place(kPrice, figures, " " + oneDecimalOf(row.cells[BillRow::kPrice]) + " ");
-      placeSum(figures, row.cells[BillRow::kQuantity],
-               oneDecimalOf(row.cells[BillRow::kMoney]) + " ");
+      place(kPrice, figures, " " + oneDecimalOf(line.Price()) + " ");
+      placeSum(figures, generalNumber(line.Quantity()), oneDecimalOf(line.Money()) + " ");
     }
   }
 
@@ -131,7 +136,7 @@ class Layout {
   }
 
   void payment() {
-    const Currency original = Currency::fromYuan(state_.origTotal);
+    const Currency original = Currency::fromYuan(originalPrice_);
     footer("原价总计" + oneDecimal(original) + "   应收" + oneDecimal(bill_.Amount()));
     if (bill_.Favorable() > Currency()) {
       footer("优惠后实收" + oneDecimal(bill_.Amount() - bill_.Favorable()));
@@ -163,8 +168,9 @@ class Layout {
   }
 
   posMod& pos_;
-  const SaleState& state_;
+  const ReceiptColumns& widths_;
   const ClsSell& bill_;
+  std::int64_t originalPrice_;
   std::size_t width_;
   PageDocument page_;
   int bottom_ = 0;  ///< below everything placed so far
@@ -172,6 +178,7 @@ class Layout {
 
 }  // namespace
 
-PageDocument pageReceipt(posMod& pos, const SaleState& state) {
-  return Layout(pos, state).receipt();
+PageDocument pageReceipt(posMod& pos, const ClsSell& bill, const ReceiptColumns& widths,
+                         std::int64_t originalPrice) {
+  return Layout(pos, bill, widths, originalPrice).receipt();
 }

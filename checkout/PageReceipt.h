@@ -1,10 +1,13 @@
 #pragma once
 
+#include <cstdint>
+
 #include "platform/PagePrinter.h"
 
 class posMod;
-struct SaleState;
+class ClsSell;
+struct ReceiptColumns;
 
-/// The receipt of the bill just settled (state.lastBill) for the page printer, laid out from the
-/// rows that the screen still shows.
-PageDocument pageReceipt(posMod& pos, const SaleState& state);
+/// The receipt of a settled bill with its original-price figure, for the page printer.
+PageDocument pageReceipt(posMod& pos, const ClsSell& bill, const ReceiptColumns& widths,
+                         std::int64_t originalPrice);

@@ -6,7 +6,7 @@
 #include "app/posMod.h"
 #include "base/NumberText.h"
 #include "checkout/AmountDue.h"
-#include "checkout/SaleScreen.h"
+#include "checkout/Messages.h"
 #include "saleslib/ClsDayStat.h"
 #include "store/StoreError.h"
 #include "store/Transaction.h"
@@ -37,7 +37,7 @@ QString billText(const ClsSell& bill) {
       .arg(QString::fromStdString(twoDecimals(bill.Amount())));
 }
 
-void tell(SaleScreen& screen, const char* what, const QStringList& bills) {
+void tell(Messages& screen, const char* what, const QStringList& bills) {
   if (bills.isEmpty()) return;
   screen.ShowMessage(QCoreApplication::translate("PaidBill", what) + "\n" + bills.join("\n"));
 }
@@ -45,19 +45,23 @@ void tell(SaleScreen& screen, const char* what, const QStringList& bills) {
 }  // namespace
 
 bool storeSettled(posMod& pos, ClsSell& bill) {
+  const std::int16_t before = bill.State();
   bill.setState(kSettled);
   try {
     Transaction sale(*pos.gConn);
-    if (!bill.Save()) return false;
-    creditMember(pos, bill);
-    sale.commit();
-    return true;
+    if (bill.Save()) {
+      creditMember(pos, bill);
+      sale.commit();
+      return true;
+    }
   } catch (const Failure&) {
-    return false;
+    // not stored
   }
+  bill.setState(before);
+  return false;
 }
 
-void completePaidBills(posMod& pos, SaleScreen& screen) {
+void completePaidBills(posMod& pos, Messages& screen) {
   ClsDayStat paid;
   paid.PaidQuery(*pos.gConn);
   QStringList stored, waiting;

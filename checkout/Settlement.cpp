@@ -5,8 +5,7 @@
 #include "base/Text.h"
 #include "checkout/CustomerDisplay.h"
 #include "checkout/FigureCheck.h"
-#include "checkout/LineReceipt.h"
-#include "checkout/SaleScreen.h"
+#include "checkout/Messages.h"
 #include "saleslib/CardNumber.h"
 #include "saleslib/ClsSell.h"
 #include "store/Literal.h"
@@ -35,9 +34,9 @@ std::vector<std::string> cardNumbers(const std::string& typed) {
 
 }  // namespace
 
-Settlement::Settlement(posMod& pos, ClsSell& bill, CustomerDisplay& display, LineReceipt& receipt,
-                       SaleScreen& screen)
-    : pos_(pos), bill_(bill), display_(display), receipt_(receipt), screen_(screen) {}
+Settlement::Settlement(posMod& pos, ClsSell& bill, CustomerDisplay& display, Messages& screen,
+                       std::function<void()> paid)
+    : pos_(pos), bill_(bill), display_(display), screen_(screen), paid_(std::move(paid)) {}
 
 void Settlement::begin() {
   display_.clientView(bill_.Amount(), CustomerDisplay::kTotal);
@@ -206,5 +205,5 @@ void Settlement::sayCardPaid() {
 
 void Settlement::showAndPrint() {
   display_.clientView(bill_.Cash(), CustomerDisplay::kReceived);
-  receipt_.PrintFoot();
+  paid_();
 }

@@ -2,15 +2,15 @@
 
 #include <QCoreApplication>
 #include <QString>
+#include <functional>
 #include <string>
 
 #include "base/Currency.h"
 
 class ClsSell;
 class CustomerDisplay;
-class LineReceipt;
 class posMod;
-class SaleScreen;
+class Messages;
 
 /// Taking payment for one bill, without its window: what each figure typed means, the change, and
 /// the two ways to confirm. Figures typed go into the bill at once, also when the dialog is then
@@ -19,9 +19,9 @@ class Settlement {
   Q_DECLARE_TR_FUNCTIONS(Settlement)
 
  public:
-  /// Messages and questions come in the screen's message boxes.
-  Settlement(posMod& pos, ClsSell& bill, CustomerDisplay& display, LineReceipt& receipt,
-             SaleScreen& screen);
+  /// `paid` is called once, when the payment is durable and shown.
+  Settlement(posMod& pos, ClsSell& bill, CustomerDisplay& display, Messages& screen,
+             std::function<void()> paid);
 
   /// The dialog opens: shows the amount due on the customer display.
   void begin();
@@ -75,8 +75,8 @@ class Settlement {
   posMod& pos_;
   ClsSell& bill_;
   CustomerDisplay& display_;
-  LineReceipt& receipt_;
-  SaleScreen& screen_;
+  Messages& screen_;
+  std::function<void()> paid_;
   Currency cardBalance_;  ///< left on the card after payByCard
   bool settled_ = false;
 };

@@ -100,8 +100,12 @@ bool ClsSell::FiguresFit() const {
   }
 }
 
+bool ClsSell::AddsUp() const {
+  return totalsOf(items_) == Totals{quantity_, goodsAmount_};
+}
+
 bool ClsSell::Save() {
-  ensure(totalsOf(items_) == Totals{quantity_, goodsAmount_}, "a bill's lines add up to the bill");
+  ensure(AddsUp(), "a bill's lines add up to the bill");
   errText_.clear();
   try {
     Transaction transaction(*connection_);
@@ -151,7 +155,7 @@ void ClsSell::LoadLines() {
   }
   if (state_ == kOpen && !Paid()) {
     Recalculate();
-  } else if (totalsOf(items_) != Totals{quantity_, goodsAmount_}) {
+  } else if (!AddsUp()) {
     throw StoreError("单据 " + std::to_string(billNo_) +
                      " 的商品明细与合计不符，数据文件可能已损坏，请与管理员联系！");
   }

@@ -83,6 +83,8 @@ class ClsSell {
   void setCardNo(std::string number) { cardNo_ = std::move(number); }
   const std::string& ErrText() const { return errText_; }
 
+  /// Whether the lines add up to quantity and goods amount, which Save wants (see there).
+  [[nodiscard]] bool AddsUp() const;
   /// Sum of the lines' amounts, before the shop's rounding.
   Currency GoodsAmount() const { return goodsAmount_; }
   /// Cash + bank card + stored-value card + discount - amount due. Throws Overflow.

@@ -4,7 +4,7 @@
 #include <QScreen>
 #include <utility>
 
-#include "checkout/frmUnSell.h"
+#include "returns/frmUnSell.h"
 #include "members/cardStored.h"
 #include "members/frmFMember.h"
 #include "reports/frmCount.h"

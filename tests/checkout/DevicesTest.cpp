@@ -14,18 +14,17 @@ TEST_F(Devices, displayTakesModeAndFigureAtThePortOfTheSetting) {
   EXPECT_EQ(ports.shown, "\x1Bs1\x1BQA12.50\r\x1Bs4\x1BQA-88.50\r\x1BQA0.00\r");
 
   showOn("一号口");
-  EXPECT_FALSE(state.hasDisplay);
   EXPECT_NE(screen.said(), "");
 }
 
 TEST_F(Devices, drawerOpensThroughItsPortOrTheDisplay) {
   const std::string pulse("\x1B\x70\x00\x3C\xFF\r\n", 7);
   showOn("COM1");
-  openDrawerOn("LPT1");
+  pos.gPosSet.MBPort = "LPT1";
   drawer.OpenDrawer();
   EXPECT_EQ(fileBytes(folder.file("lpt1")), pulse);
 
-  openDrawerOn("COM1");
+  pos.gPosSet.MBPort = "COM1";
   drawer.OpenDrawer();
   EXPECT_EQ(ports.shown, "\x02M");
   EXPECT_EQ(fileBytes(folder.file("lpt1")), pulse);

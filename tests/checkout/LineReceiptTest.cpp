@@ -8,8 +8,8 @@ class LinePrinter : public CheckoutFixture {
  protected:
   void printOn(int paperModel) {
     pos.gPosSet.PPort = "LPT1";
-    state.linePrint = true;
-    state.receiptCols = ReceiptColumns::forModel(paperModel);
+    pos.gPosSet.PModel = paperModel;
+    receipt.start();
   }
   /// What is on the paper, a pulse of the drawer as "<drawer>".
   std::string paper() const {
@@ -21,10 +21,10 @@ class LinePrinter : public CheckoutFixture {
 
 TEST_F(LinePrinter, wideReceiptWithMemberAndDrawer) {
   printOn(1);
-  openDrawerOn("LPT1");
-  state.origTotal = 89;
+  pos.gPosSet.MBPort = "LPT1";
+  originalPrice = 89;
   attachMember();
-  receipt.PrintHeader();
+  receipt.PrintHeader(*bill);
   enter("矿泉水550毫升", "2.00", 3);
   enter("特别特别特别长的名字的饼干😀", "12.50", 0.5);
   enter("😀表情巧克力", "76.25");
@@ -53,7 +53,7 @@ TEST_F(LinePrinter, wideReceiptWithMemberAndDrawer) {
 
 TEST_F(LinePrinter, narrowReceipt) {
   printOn(2);
-  receipt.PrintHeader();
+  receipt.PrintHeader(*bill);
   enter("矿泉水", "2.00", 3);
   enter("特别特别特别长名字的饼干", "12.50");
   payCash("20");
@@ -74,10 +74,10 @@ TEST_F(LinePrinter, narrowReceipt) {
 
 TEST_F(LinePrinter, withoutLinePrintingOnlyTheDrawerOpens) {
   pos.gPosSet.PPort = "USB";
-  openDrawerOn("LPT1");
+  pos.gPosSet.MBPort = "LPT1";
   enter("水", "1");
   payCash("1");
-  receipt.FeedLines();
+  receipt.FeedLines(*bill);
   EXPECT_EQ(paper(), "<drawer>\n");
 }
 

@@ -7,12 +7,11 @@ class SettlementTest : public CheckoutFixture {
  protected:
   SettlementTest() {
     enter("水", "88.50");
-    commitCurrentLine(state, receipt);
     showOn("COM1");
   }
   std::string balance() { return stored("card as v from member where bh='8001'"); }
 
-  Settlement settlement{pos, *state.curBill, display, receipt, screen};
+  Settlement settlement = CheckoutFixture::settlement();
 };
 
 TEST_F(SettlementTest, amountDueFollowsTheShopsRounding) {
@@ -45,9 +44,9 @@ TEST_F(SettlementTest, figuresTypedGoIntoTheBillAtOnce) {
     EXPECT_EQ(settlement.favorableChanged(each.typed), each.accepted);
     EXPECT_EQ(settlement.bankCardChanged(each.typed), each.accepted);
     EXPECT_EQ(settlement.salesmanChanged(each.typed), each.accepted);
-    EXPECT_EQ(generalNumber(state.curBill->Favorable()), each.amount);
-    EXPECT_EQ(generalNumber(state.curBill->BankCard()), each.amount);
-    EXPECT_EQ(state.curBill->Salesman(), each.salesman);
+    EXPECT_EQ(generalNumber(bill->Favorable()), each.amount);
+    EXPECT_EQ(generalNumber(bill->BankCard()), each.amount);
+    EXPECT_EQ(bill->Salesman(), each.salesman);
   }
 }
 
@@ -58,7 +57,7 @@ TEST_F(SettlementTest, changeIsOneDecimalOrNothing) {
 }
 
 TEST_F(SettlementTest, cashTextThatIsNoNumberLeavesTheFigure) {
-  state.curBill->setCash(Currency::fromYuan(7));
+  bill->setCash(Currency::fromYuan(7));
   for (const char* typed : {"七", "100"}) settlement.confirmCash(typed);  // the first one settles
   EXPECT_EQ(stored("paid || ' ' || cash as v from sell"), "1 7");
   EXPECT_EQ(ports.shown, "\x1Bs3\x1BQA7.00\r");
@@ -76,10 +75,10 @@ TEST_F(SettlementTest, asksOnceBeforeAPaymentThatLooksMistyped) {
   for (const char* wanted : {"1", "0"}) {
     setParameter("CheckPayment", wanted);
     for (const auto& each : cases) {
-      Settlement fresh{pos, *state.curBill, display, receipt, screen};
+      Settlement fresh = CheckoutFixture::settlement();
       static_cast<void>(fresh.favorableChanged(each.favorable));
       static_cast<void>(fresh.bankCardChanged(each.bankCard));
-      state.curBill->setCash(Currency());
+      bill->setCash(Currency());
       fresh.confirmCash(each.cash);
       const std::string question = *wanted == '1' ? each.question : "";
       EXPECT_EQ(screen.said(), question.empty() ? "" : ":" + question + "\n确定这样收款吗？ 否");
@@ -118,7 +117,7 @@ TEST_F(SettlementTest, refusedCardsChargeNothing) {
     EXPECT_EQ(settlement.payByCard(each.number, each.password), each.result) << each.number;
     EXPECT_EQ(screen.said(), each.said);
   }
-  state.curBill->setAmount(Currency::fromYuan(-5));
+  bill->setAmount(Currency::fromYuan(-5));
   EXPECT_EQ(settlement.payByCard("8001", "Pw1"), kFailed);
   EXPECT_EQ(screen.said(), "应收是负数，不能用储值卡付款。");
   EXPECT_FALSE(settlement.settled());
@@ -126,8 +125,8 @@ TEST_F(SettlementTest, refusedCardsChargeNothing) {
 }
 
 TEST_F(SettlementTest, cardPaysTheWholeAmountDueOnce) {
-  state.curBill->setFavorable(Currency::fromYuan(5));
-  state.curBill->setCash(Currency::fromYuan(100));
+  bill->setFavorable(Currency::fromYuan(5));
+  bill->setCash(Currency::fromYuan(100));
   for (const char* left : {"0", "200"}) {
     EXPECT_EQ(settlement.payByCard("8001", "Pw1"), kPaid);
     EXPECT_EQ(balance(), left);

@@ -140,7 +140,7 @@ class TypedTextTest : public WithSpy, public TillFixture {
   }
   void ring(const std::string& text) {
     enter(QString::fromStdString(text));
-    if (session.state.curLine) press(115);
+    if (session.sale().line()) press(115);
   }
   // With goods on the bill, so that the card is asked for and charged.
   void pay(const std::string& number, const std::string& password) {

@@ -2,6 +2,7 @@
 
 #include <gmock/gmock.h>
 
+#include <QString>
 #include <filesystem>
 #include <fstream>
 #include <functional>
@@ -13,13 +14,6 @@
 
 #include "TemporaryFolder.h"
 #include "app/posMod.h"
-#include "checkout/CashDrawer.h"
-#include "checkout/Checkout.h"
-#include "checkout/CustomerDisplay.h"
-#include "checkout/LineReceipt.h"
-#include "checkout/SaleScreen.h"
-#include "checkout/SaleState.h"
-#include "checkout/Settlement.h"
 #include "platform/PortError.h"
 #include "store/DataFile.h"
 
@@ -49,19 +43,11 @@ class RecordingPorts : public Ports {
   };
 };
 
-/// A sale screen without a window: remembers what it was told, answers as the test says.
-class FakeScreen : public SaleScreen {
+/// A screen without a window, as far as messages go: remembers what it was told, answers as the
+/// test says.
+template <class Screen>
+class Told : public Screen {
  public:
-  explicit FakeScreen(SaleState& state) : state_(state) {}
-
-  void rowsChanged() override {}
-  void PlaceEditor() override { state_.clearOnKey = true; }
-  QString input() const override { return text; }
-  void setInput(const QString& value) override { text = value; }
-  void setTitle1(const QString& value) override { title1 = value.toStdString(); }
-  void setTitle3(const QString& value) override { title3 = value.toStdString(); }
-  void setStatus(const QString& value) override { status = value.toStdString(); }
-  void setMemberInfo(const QString& value) override { memberInfo = value.toStdString(); }
   void ShowMessage(const QString& value) override { messages.push_back(value.toStdString()); }
   void messageBox(const QString& value, const QString&) override {
     messages.push_back(value.toStdString());
@@ -71,28 +57,10 @@ class FakeScreen : public SaleScreen {
     asked();
     return answersYes.value_or(yesPreselected);
   }
-  QString prompt(const QString&, const QString&) override { return promptAnswer; }
-  int choose(int, const std::function<QString(int)>&) override { return choice; }
-  std::int32_t chooseHeldBill(const std::vector<std::shared_ptr<ClsSell>>& bills) override {
-    const auto position = static_cast<std::size_t>(choice);
-    return choice < 0 ? 0 : bills.at(position)->BillNo();
-  }
-  bool settle(Settlement& settlement) override {
-    settlement.begin();
-    pay(settlement);
-    return settlement.settled();
-  }
-  void endProgram() override { ended = true; }
 
-  QString text, promptAnswer;
-  std::string title1, title3, status, memberInfo;
   std::vector<std::string> messages;    ///< of the message window, message boxes and questions
   std::optional<bool> answersYes;       ///< to a question; else the preselected answer
   std::function<void()> asked = [] {};  ///< what happens while the question is shown
-  int choice = -1;
-  /// What the cashier does in the settlement dialog.
-  std::function<void(Settlement&)> pay = [](Settlement& s) { s.confirmCash(s.cashText()); };
-  bool ended = false;
 
   /// All that was told since it was last asked for.
   std::string said() {
@@ -102,17 +70,13 @@ class FakeScreen : public SaleScreen {
     }
     return all;
   }
-
- private:
-  SaleState& state_;
 };
 
 /// A shop with its till at 9:05 on a Sunday: operator 1, two goods in stock, one member with a
-/// stored-value card, receipt texts, and everything between the sale's state and its devices. LPT1
-/// is a file, the page printer a folder.
-class SaleFixture : public testing::Test {
+/// stored-value card, and receipt texts. LPT1 is a file, the page printer a folder.
+class ShopFixture : public testing::Test {
  protected:
-  SaleFixture() {
+  ShopFixture() {
     std::filesystem::create_directories(folder.path() / "data");
     std::filesystem::create_directories(folder.path() / "pdf");
     std::ofstream(folder.file("Config.ini"))
@@ -170,12 +134,5 @@ class SaleFixture : public testing::Test {
   TemporaryFolder folder;
   DateTime now{{2026, 11, 22}, 9, 5, 3};
   posMod pos{folder.path(), [this] { return now; }};
-  SaleState state;
-  FakeScreen screen{state};
   RecordingPorts ports{pos.configIni};
-  const Outage::Report report = [this](const QString& text) { screen.ShowMessage(text); };
-  CustomerDisplay display{ports, pos.gPosSet, state, report};
-  CashDrawer drawer{ports, pos.gPosSet, state, display, report};
-  LineReceipt receipt{pos, state, drawer, report};
-  Checkout checkout{pos, state, screen, display, receipt};
 };

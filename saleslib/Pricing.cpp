@@ -1,4 +1,4 @@
-#include "sale/Pricing.h"
+#include "saleslib/Pricing.h"
 
 #include "saleslib/ClsMember.h"
 #include "store/Row.h"

@@ -3,22 +3,20 @@
 #include <QCoreApplication>
 #include <memory>
 
-#include "checkout/Outage.h"
-
+class BillBooks;
+class ClsOperator;
 class ClsSell;
-class CustomerDisplay;
-class LineReceipt;
 class posMod;
+class Sale;
+class SaleDevices;
 class SaleScreen;
-struct SaleState;
 
 /// From the settle key to the next empty bill.
 class Checkout {
   Q_DECLARE_TR_FUNCTIONS(Checkout)
 
  public:
-  Checkout(posMod& pos, SaleState& state, SaleScreen& screen, CustomerDisplay& display,
-           LineReceipt& receipt);
+  Checkout(posMod& pos, Sale& sale, BillBooks& books, SaleScreen& screen, SaleDevices& devices);
 
   /// Takes payment for the open bill, stores it and credits the member in one transaction, prints,
   /// opens the next bill. A bill that cannot be stored is dropped and its stock put back; nothing
@@ -26,41 +24,36 @@ class Checkout {
   /// Takes no payment into a data file that has been deleted, replaced or linked since its opening:
   /// asks until it is back, or ends the program.
   void SettleBill();
+  /// Adds the current line to the bill and prints it.
+  void commitLine();
   /// Empties the screen and opens the next bill. While the data file takes no bill it asks whether
-  /// to try again; after a No the program ends, and there is no curBill. Ends the program when the
+  /// to try again; after a No the program ends, and there is no bill. Ends the program when the
   /// clock is behind the previous bill.
   void PrepareNextBill();
-  /// The same in two steps, for a caller that opens the next bill in a transaction of its own: a
-  /// new bill of the operator, stored at once; and the screen with it. Throws StoreError, also when
-  /// the operator was removed.
-  [[nodiscard]] std::shared_ptr<ClsSell> openBill();
-  void ShowNextBill(std::shared_ptr<ClsSell> next);
-  /// Writes number and cashier of the open bill into the second line.
-  void ShowBillNo();
-  /// Prints the receipt of lastBill on the page printer. A printer that fails is reported once.
-  void printOurP();
-  /// Shows the member attached to the bill, or nobody.
-  void ShowMemberInfo();
+  /// The previous bill's change on the display; ends the program when the clock is behind that
+  /// bill. For a bill that has just begun.
+  void followLastBill();
+  /// Who sells. Needs an operator logged in.
+  const ClsOperator& cashier() const;
+  /// What a bill cannot be opened for, when its operator was removed.
+  QString operatorGone() const;
+  /// Tells of goods whose stock could not be put back.
+  void tell(const std::vector<struct StockOutcome>& refusals);
 
  private:
   bool canStore();
-  void commitLine();
   bool takePayment();
   void dropUnstored();
   void withdrawDropped();
   std::shared_ptr<ClsSell> openNextBill();
-  void emptyList();
-  void printPageReceipts();
-  bool showLastBill();
 
   posMod& pos_;
-  SaleState& state_;
+  Sale& sale_;
+  BillBooks& books_;
   SaleScreen& screen_;
-  CustomerDisplay& display_;
-  LineReceipt& receipt_;
-  Outage pagePrinter_;
+  SaleDevices& devices_;
   /// Paid, but could not be stored; still in the data file until it can be voided there. Nothing is
   /// stored before that, so that the bill is not both completed at the next opening and entered
   /// again.
-  std::shared_ptr<ClsSell> dropped_;
+  std::unique_ptr<ClsSell> dropped_;
 };

@@ -3,7 +3,7 @@
 #include <QDialog>
 
 #include "base/Currency.h"
-#include "checkout/Returns.h"
+#include "returns/Returns.h"
 #include "shell/KeyDrivenDialog.h"
 
 class QLayout;

@@ -1,4 +1,4 @@
-#include "checkout/frmUnSell.h"
+#include "returns/frmUnSell.h"
 
 #include <QGridLayout>
 #include <QHBoxLayout>
@@ -12,7 +12,7 @@
 #include "app/posMod.h"
 #include "base/Failure.h"
 #include "base/NumberText.h"
-#include "checkout/ReturnLines.h"
+#include "returns/ReturnLines.h"
 #include "saleslib/ClsSell.h"
 #include "shell/Modal.h"
 #include "shell/frmMsg.h"

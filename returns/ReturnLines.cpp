@@ -1,4 +1,4 @@
-#include "checkout/ReturnLines.h"
+#include "returns/ReturnLines.h"
 
 #include "base/NumberText.h"
 #include "saleslib/ClsSell.h"

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "CheckoutFixture.h"
-#include "checkout/Returns.h"
+#include "returns/Returns.h"
 
 /// The till with a settled bill: 3 x 10 at 0.9 sold under the code 6901 (two stock units each) and
 /// 1 x 5 under A7, to the member of the fixture, paid with 32.

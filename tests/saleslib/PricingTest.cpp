@@ -1,7 +1,7 @@
 #include <gmock/gmock.h>
 
 #include "base/NumberText.h"
-#include "sale/Pricing.h"
+#include "saleslib/Pricing.h"
 #include "saleslib/ClsMember.h"
 #include "store/Recordset.h"
 

@@ -1,4 +1,4 @@
-#include "checkout/frmUnSell.h"
+#include "returns/frmUnSell.h"
 
 #include <QLabel>
 #include <QLineEdit>

@@ -1,4 +1,4 @@
-#include "checkout/Returns.h"
+#include "returns/Returns.h"
 
 #include <algorithm>
 #include <optional>

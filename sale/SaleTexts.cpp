@@ -1,0 +1,85 @@
+#include "sale/SaleTexts.h"
+
+#include <QCoreApplication>
+#include <QStringList>
+
+#include "base/Failure.h"
+#include "base/NumberText.h"
+#include "sale/Sale.h"
+
+namespace sale_texts {
+
+namespace {
+
+QString tr(const char* text) {
+  return QCoreApplication::translate("SaleTexts", text);
+}
+
+template <class Number>
+QString general(const Number& number) {
+  return of(generalNumber(number));
+}
+
+QString oneDigit(Currency amount) {
+  return of(oneDecimal(amount));
+}
+
+}  // namespace
+
+QString of(const std::string& utf8) {
+  return QString::fromStdString(utf8);
+}
+
+QString billTitle(const ClsSell& bill, const std::string& cashier) {
+  return tr("流水号：%1   收银员：%2").arg(QString::number(bill.BillNo()), of(cashier));
+}
+
+QString previousBill(const ClsSell& bill) {
+  return tr("上一单：金额 %1实收现金%2银行卡%3储值卡%4找零%5  优惠%6")
+      .arg(oneDigit(bill.Amount()), oneDigit(bill.Cash()), oneDigit(bill.BankCard()),
+           oneDigit(bill.CardPay()), bill.FiguresFit() ? oneDigit(bill.Change()) : of(kDoesNotFit),
+           general(bill.Favorable()));
+}
+
+QString rung(const SaleFigures& figures, const std::string& due) {
+  return tr("%1件商品，原价合计%2   合计%3元")
+      .arg(general(figures.quantity), QString::number(figures.originalPrice), of(due));
+}
+
+QString removed(const ClsSell& bill, const SaleFigures& figures) {
+  return tr("%1件商品，原价总计%2合计%3元")
+      .arg(general(bill.Quantity()), QString::number(figures.originalPrice),
+           general(bill.Amount()));
+}
+
+QString settled(const ClsSell& bill) {
+  return tr("应收%1 现金%2银行卡%3储值卡%4优惠%5找零%6元")
+      .arg(general(bill.Amount()), general(bill.Cash()), general(bill.BankCard()),
+           general(bill.CardPay()), general(bill.Favorable()), general(bill.Change()));
+}
+
+QString recalled(const ClsSell& bill) {
+  return tr("%1件商品，合计%2元").arg(general(bill.Quantity()), general(bill.Amount()));
+}
+
+QString memberInfo(const ClsMember& member, const ClsSell* latest) {
+  const QString about = tr("会员：%1，办卡日期：%2，累计消费：%3")
+                            .arg(of(member.Name()), of(dateText(member.JoinDate())),
+                                 of(twoDecimals(member.TotalSpent())));
+  if (latest == nullptr) return about;
+  QStringList goods;
+  for (const auto& line : latest->Items()) goods << of(line->SpName());
+  return about + "\n" +
+         tr("最近消费时间：%1，金额：%2\n最近购买商品：%3")
+             .arg(of(generalText(latest->SellTime())), of(twoDecimals(latest->Amount())),
+                  goods.join(tr("、")));
+}
+
+QString refusal(const StockOutcome& outcome) {
+  ensure(!outcome.done(), "a refusal has a reason");
+  const QString goods = of(outcome.goods);
+  if (outcome.kind == StockOutcome::kOutOfRange) return tr("数量超出范围：%1").arg(goods);
+  return tr("库存不足：%1现有库存 %2").arg(goods, general(outcome.left));
+}
+
+}  // namespace sale_texts
