@@ -101,7 +101,7 @@ void frmMenu::placeOnScreen() {
 
 // Every key is compared with the map in this order, so that of two meanings the first one wins.
 void frmMenu::keyPressEvent(QKeyEvent* event) {
-  const int key = virtualKey(*event);
+  const int key = keys_.meaning(virtualKey(*event));
   if (key == 0) return;
   if (key == keys_.mUp) {
     moveHighlight(-1);

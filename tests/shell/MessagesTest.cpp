@@ -5,12 +5,9 @@
 #include <QScreen>
 
 #include "Hands.h"
-#include "app/KeyBoard.h"
 #include "shell/FocusReturn.h"
-#include "shell/HeldKeys.h"
 #include "shell/Modal.h"
 #include "shell/Style.h"
-#include "shell/frmMenu.h"
 #include "shell/frmMsg.h"
 
 namespace {
@@ -67,39 +64,6 @@ TEST(FocusReturnTest, TheWindowUnderAClosedOneHasTheKeyboardAgain) {
     window.close();
   });
   below.exec();
-}
-
-// X11 repeats a key by a release and a press of one moment, which are not always marked as repeats.
-TEST(HeldKeysTest, RepeatsChooseAndConfirmNothing) {
-  const HeldKeys heldKeys(qApp);
-  const KeyBoard keys;
-  frmMenu menu(keys);
-  menu.AddMenu("退出", "end");
-  quint64 now = 1000;
-  const auto send = [&now](QEvent::Type type) {
-    QKeyEvent key(type, Qt::Key_Return, {}, 36, 0xff0d, 0, "\r");
-    key.setTimestamp(now);
-    QCoreApplication::sendEvent(QApplication::activeModalWidget()->windowHandle(), &key);
-  };
-  const auto pressAnew = [&](QWidget&) {
-    send(QEvent::KeyRelease);
-    ++now;
-    send(QEvent::KeyPress);
-  };
-  const auto holdAndPressAnew = [&](QWidget& shown) {
-    for (int repeats = 0; repeats < 3; ++repeats, ++now) {
-      send(QEvent::KeyRelease);
-      send(QEvent::KeyPress);
-      ASSERT_TRUE(shown.isVisible()) << shown.objectName().toStdString();
-    }
-    pressAnew(shown);
-  };
-  Hands hands;
-  hands.at("frmMenu", pressAnew);
-  EXPECT_EQ(menu.ShowMenu(0), "end");
-  menu.MenuClick = [](const MenuItem&) { EXPECT_TRUE(askYesNo(nullptr, "退出吗？", "", true)); };
-  hands.at("frmMenu", holdAndPressAnew).at("messageBox", holdAndPressAnew);
-  EXPECT_EQ(menu.ShowMenu(0), "end");
 }
 
 TEST(frmMsgTest, AnyKeyOrClickClosesItButNotAKeyHeldDown) {

@@ -59,11 +59,11 @@ TEST_F(frmLoginTest, ThePasswordIsNotCopied) {
   EXPECT_EQ(password.contextMenuPolicy(), Qt::NoContextMenu);
 }
 
-TEST_F(frmLoginTest, KeysFollowTheMap) {
+TEST_F(frmLoginTest, KeysFollowTheMapAndThePlainEnterIsTheMappedOne) {
   till_.pos.gKeyBoard.mEnter = 'E';
   till_.pos.gKeyBoard.mEsc = 'Q';
-  hands_.type("frmLogin", "1").press("frmLogin", {Qt::Key_Return, Qt::Key_Escape, Qt::Key_E});
-  hands_.type("frmLogin", "111").press("frmLogin", {Qt::Key_E});
+  hands_.type("frmLogin", "1").press("frmLogin", {Qt::Key_Escape, Qt::Key_E});
+  hands_.type("frmLogin", "111").press("frmLogin", {Qt::Key_Return});
   EXPECT_EQ(login_.goLogin(), frmLogin::kAccepted);
   ASSERT_TRUE(till_.pos.gOperator);
   EXPECT_EQ(till_.pos.gOperator->Id(), 1);
