@@ -71,8 +71,9 @@ void posMod::ShowMouse(bool show) {
 
 void posMod::logOff() {
   if (!gOperator) return;
-  gOperator->setOnline(0);
-  gOperator->Save();
+  ClsOperator leaving = *gOperator;  // whoever cannot be logged off stays as he was
+  leaving.setOnline(0);
+  leaving.Save();
   gOperator.reset();
 }
 

@@ -53,7 +53,7 @@ class posMod {
   void start();
   /// Forces the mouse pointer visible or hidden.
   void ShowMouse(bool show);
-  /// Logs the operator off, if one is logged in.
+  /// Logs the operator off, if one is logged in. Throws Failure; he is logged in then as before.
   void logOff();
   /// Copies folder/data/pos.mdb over folder/data/pos3.mdb, whole and consistent although it is
   /// open; the copy is readable by its owner only. It is this file even when Path names another

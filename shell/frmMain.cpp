@@ -1,7 +1,7 @@
 #include "shell/frmMain.h"
 
+#include <QApplication>
 #include <QCloseEvent>
-#include <QCoreApplication>
 #include <QDate>
 #include <QGuiApplication>
 #include <QLabel>
@@ -126,7 +126,7 @@ void frmMain::showFurtherMenu() {
 void frmMain::theMenu_MenuClick(const MenuItem& Menu) {
   const QScopedValueRollback running(showMenu_, false);
   if (Menu.Key == kExit) return changeOperator();
-  if (Menu.Key == kEnd) return endProgram();
+  if (Menu.Key == kEnd) return void(close());
   const auto screen = screens_.find(Menu.Key);
   if (screen != screens_.end()) openScreen(screen->second);
 }
@@ -141,28 +141,47 @@ bool frmMain::someoneLoggedIn() {
 }
 
 void frmMain::changeOperator() {
-  pos_.logOff();
+  try {
+    pos_.logOff();
+  } catch (const Failure& failure) {
+    return messageBox(this, QString::fromUtf8(failure.what()), {}, BoxIcon::kExclamation);
+  }
   login_->goLogin();
 }
 
-void frmMain::endProgram() {
-  pos_.logOff();
-  try {
-    if (pos_.gSysParam.BackupOnExit()) pos_.backUp();
-  } catch (const Failure& failure) {
-    messageBox(this, tr("数据没有备份。") + QString::fromUtf8(failure.what()), {},
-               BoxIcon::kExclamation);
-  }
-  close();
-}
-
+// However the program is ended, and whatever of it fails, all of it is tried, once.
 void frmMain::closeEvent(QCloseEvent* event) {
-  if (pos_.gPosSet.VMouse == 0) pos_.ShowMouse(true);
+  event->accept();
+  if (ended_) return;
   ended_ = true;
   furtherMenu_->reject();
   theMenu_->reject();
-  event->accept();
+  endOfWork();
+  if (pos_.gPosSet.VMouse == 0) pos_.ShowMouse(true);
   QCoreApplication::exit(0);  // ends every modal loop; quit() would ask the windows first
+}
+
+void frmMain::endOfWork() {
+  QStringList done, notDone;
+  const auto attempt = [&](const QString& name, const auto& step) {
+    try {
+      if (step()) done += tr("%1已完成。").arg(name);
+    } catch (const Failure& failure) {
+      notDone += tr("%1没有完成：%2").arg(name, QString::fromUtf8(failure.what()));
+    }
+  };
+  attempt(tr("操作员注销"), [this] {
+    const bool someone = pos_.gOperator != nullptr;
+    pos_.logOff();
+    return someone;
+  });
+  attempt(tr("数据备份"), [this] {
+    const bool wanted = pos_.gSysParam.BackupOnExit();
+    if (wanted) pos_.backUp();
+    return wanted;
+  });
+  if (notDone.isEmpty()) return;
+  messageBox(QApplication::activeWindow(), (notDone + done).join('\n'), {}, BoxIcon::kExclamation);
 }
 
 void frmMain::paintEvent(QPaintEvent*) {

@@ -15,7 +15,8 @@ class posMod;
 
 /// The main window: the main menu over a quiet background, and one help line. It opens screens
 /// through a table of openers given to it, and asks for a login before each protected one. The menu
-/// comes back after every action; closing the window, however it happens, ends the program.
+/// comes back after every action; closing the window, however it happens, ends the program with the
+/// log-off and the backup.
 class frmMain : public QWidget {
   Q_OBJECT
 
@@ -48,7 +49,8 @@ class frmMain : public QWidget {
   void openScreen(const Screen& screen);
   bool someoneLoggedIn();
   void changeOperator();
-  void endProgram();
+  /// Logs the operator off and makes the backup, and says what of it could not be done.
+  void endOfWork();
 
   posMod& pos_;
   std::map<QString, Screen> screens_;

@@ -30,10 +30,12 @@ class frmLoginTest : public testing::Test {
   std::vector<std::string> said_;
 };
 
-TEST_F(frmLoginTest, ARefusalKeepsTheTextsAndCancelLogsNobodyIn) {
+TEST_F(frmLoginTest, ARefusalKeepsTheTextsUntilTypedOverAndCancelLogsNobodyIn) {
   enter("1' or '1'='1", "wrong").confirm(said_);
   hands_.at("frmLogin", [&](QWidget&) {
     EXPECT_EQ(field("txtNumber") + " " + field("txtPassword"), "1' or '1'='1 wrong");
+    Hands::pressNow(Qt::Key_2);
+    EXPECT_EQ(field("txtPassword"), "2");
     Hands::pressNow(Qt::Key_Escape);
   });
   EXPECT_EQ(login_.goLogin(), frmLogin::kCancelled);

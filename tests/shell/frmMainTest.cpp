@@ -86,7 +86,25 @@ TEST_F(frmMainTest, TheEndBacksUpWhenAskedToAndSaysWhenItCannot) {
   chooseEnd();
   hands_.confirm(said);
   runUntilEnd();
-  EXPECT_TRUE(said.at(0).starts_with("数据没有备份。")) << said[0];
+  EXPECT_TRUE(said.at(0).starts_with("数据备份没有完成：")) << said[0];
+}
+
+TEST_F(frmMainTest, ALogOffThatCannotBeStoredIsSaidAndTheEndBacksUpAllTheSame) {
+  ASSERT_EQ(till_.pos.gSysParam.set("BackupOnExit", "1"), "");
+  till_.pos.gOperator = std::make_shared<ClsOperator>();
+  till_.pos.gOperator->Init(*till_.pos.gConn, 1);
+  till_.pos.gConn->run("delete from operators where id = 1");
+  std::vector<std::string> said;
+  hands_.press("frmMenu", {Key_Menu}).press("frmMenu", {Key_Down, Key_Return}).confirm(said);
+  hands_.at("frmMenu", [this](QWidget&) {
+    EXPECT_TRUE(till_.pos.gOperator) << "nobody else is asked for";
+    window_->windowHandle()->close();  // as from its title bar
+  });
+  hands_.confirm(said);
+  runUntilEnd();
+  EXPECT_NE(said.at(0).find("操作员 1 已被删除"), std::string::npos) << said[0];
+  EXPECT_EQ(said.at(1), "操作员注销没有完成：" + said[0] + "\n数据备份已完成。");
+  EXPECT_TRUE(std::filesystem::exists(till_.folder.path() / "data/pos3.mdb"));
 }
 
 TEST_F(frmMainTest, ClosingTheMenuWindowEndsTheProgramAndBringsThePointerBack) {
