@@ -61,7 +61,7 @@ TEST_F(frmMainTest, TheFurtherMenuOpensItsScreensAndChangesTheOperator) {
   hands_.press("frmMenu", {Key_Return});
   logIn();
   hands_.press("frmMenu", {Key_Menu}).press("frmMenu", {Key_Return});  // keyset
-  hands_.press("frmMenu", {Key_Menu}).press("frmMenu", {Key_Escape});  // the main menu again
+  hands_.press("frmMenu", {Key_F10}).press("frmMenu", {Key_Escape});   // the main menu again
   hands_.at("frmMenu", [](QWidget& menu) { QTest::mouseClick(&menu, Qt::RightButton); });
   hands_.press("frmMenu", {Key_Down, Key_Return});  // another operator
   hands_.at("frmLogin", [this](QWidget&) {
