@@ -24,7 +24,10 @@ DataSource posMod::dataSource() const {
   DataSource source = configured && !configured->empty()
                           ? DataSource::parse(*configured)
                           : DataSource{"data/POS.mdb", kBuiltInPassword};
-  source.path = findIgnoringCase((folder / source.path).string());
+  source.path = folder / source.path;
+  const std::filesystem::path found = findIgnoringCase(source.path.string());
+  // What is not there is said as it was typed.
+  if (std::error_code unreadable; std::filesystem::exists(found, unreadable)) source.path = found;
   return source;
 }
 

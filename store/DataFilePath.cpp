@@ -17,7 +17,7 @@ std::filesystem::path existingDataFile(const std::filesystem::path& path) {
   if (std::filesystem::exists(status)) {
     throw StoreError("数据文件的位置不是普通文件：" + found.string());
   }
-  throw StoreError("找不到数据文件：" + found.string());
+  throw StoreError("找不到数据文件：" + path.string());
 }
 
 std::string fileFault(int errorNumber) {
