@@ -87,12 +87,4 @@ TEST_F(frmMenuTest, NoCaptionIsCutOffWhereThereIsRoom) {
   menu_.ShowMenu(0);
 }
 
-TEST_F(frmMenuTest, ClosingTheWindowChoosesNothing) {
-  fill(2);
-  Hands hands;
-  hands.at("frmMenu", [](QWidget& shown) { shown.close(); });
-  EXPECT_EQ(menu_.ShowMenu(1), "");
-  EXPECT_EQ(clicked_, "");
-}
-
 }  // namespace
