@@ -23,7 +23,10 @@ DataSource posMod::dataSource() const {
   DataSource source = configured && !configured->empty()
                           ? DataSource::parse(*configured)
                           : DataSource{"data/POS.mdb", kBuiltInPassword};
-  source.path = findIgnoringCase((folder / source.path).string());
+  source.path = folder / source.path;
+  const std::filesystem::path found = findIgnoringCase(source.path.string());
+  // What is not there is said as it was typed.
+  if (std::error_code unreadable; std::filesystem::exists(found, unreadable)) source.path = found;
   return source;
 }
 
@@ -68,8 +71,9 @@ void posMod::ShowMouse(bool show) {
 void posMod::logOff() {
   gConn->requireItsFile();
   if (!gOperator) return;
-  gOperator->setOnline(0);
-  gOperator->Save();
+  ClsOperator leaving = *gOperator;  // whoever cannot be logged off stays as he was
+  leaving.setOnline(0);
+  leaving.Save();
   gOperator.reset();
 }
 

@@ -53,8 +53,8 @@ class posMod {
   void start();
   /// Forces the mouse pointer visible or hidden.
   void ShowMouse(bool show);
-  /// Logs the operator off, if one is logged in. Throws StoreError, for a data file that has been
-  /// deleted, replaced or linked even when nobody is.
+  /// Logs the operator off, if one is logged in. Throws Failure, for a data file that has been
+  /// deleted, replaced or linked even when nobody is; whoever was logged in still is then.
   void logOff();
   /// An empty text, or why the open data file is no longer the one of its name (deleted, replaced,
   /// linked), for a message.

@@ -129,7 +129,7 @@ bool frmSearch::keyTaken(int key) {
     return true;
   }
   const bool inList = focusWidget() == ListView1_;
-  if ((key == keys.mEnter || key == vk::kEnter) && !inList) {
+  if (keys.meaning(key) == keys.mEnter && !inList) {
     if (auto* button = qobject_cast<QPushButton*>(focusWidget())) {
       button->click();
     } else {

@@ -148,7 +148,7 @@ bool SaleSession::key(int code) {
   if (std::find(std::begin(kModifiers), std::end(kModifiers), code) != std::end(kModifiers))
     return false;
   textComing();
-  if (code == vk::kEnter) code = pos_.gKeyBoard.mEnter;
+  code = pos_.gKeyBoard.meaning(code);
   if (const KeyCommand* command = commandFor(commands_, pos_.gKeyBoard, code)) {
     if (command->run()) state.clearOnKey = true;
     return true;

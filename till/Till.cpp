@@ -13,6 +13,7 @@
 #include "settings/frmColor.h"
 #include "settings/frmKeyset.h"
 #include "settings/frmPosSet.h"
+#include "shell/ControlKeys.h"
 #include "shell/Modal.h"
 #include "shell/frmEditPwd.h"
 
@@ -29,6 +30,7 @@ bool Till::Main() {
   if (!exposed.empty())
     messageBox(nullptr, QString::fromStdString(exposed), {}, BoxIcon::kExclamation);
   pos_.start();
+  controlKeys_ = std::make_unique<ControlKeys>(qApp, pos_.gKeyBoard);
   frmSell_ = std::make_unique<frmSell>(pos_, saleScreens(), [this] { frmMain_->close(); });
   frmMain_ = std::make_unique<frmMain>(pos_, screens());
   // Without a window manager nobody else makes it large or gives it the keyboard.

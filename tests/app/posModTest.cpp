@@ -33,6 +33,8 @@ TEST_F(posModTest, OpensTheConfiguredDataFileOrSaysWhyNot) {
   EXPECT_TRUE(fs::is_empty(folder_.path() / "data")) << "no new empty shop";
   makeShop("data/pos.MDB");
   EXPECT_EQ(openingFault(), "");
+  configure("D:\\shop\\POS.mdb");
+  EXPECT_THAT(openingFault(), HasSubstr("D:\\shop\\POS.mdb"));
   makeShop("two.mdb", "secret");
   configure(folder_.file("TWO.mdb;Jet OLEDB:Database password=secret"));
   EXPECT_EQ(openingFault(), "");
