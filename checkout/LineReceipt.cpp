@@ -20,6 +20,19 @@ std::size_t columns(int width) {
   return static_cast<std::size_t>(width);
 }
 
+/// Ends in its column, and is never cut: wider, with the blank before it, it begins further left.
+std::string figure(const std::string& text, int width) {
+  return blanks(std::max(columns(width), text.size() + 1) - text.size()) + text;
+}
+
+/// The name's beginning that stands before a figure without being read as a part of it.
+std::string beforeFigure(const std::string& name, std::size_t room) {
+  const std::string cut = gbk::cut(name, room);
+  const bool endsInAscii = !cut.empty() && static_cast<unsigned char>(cut.back()) < 0x80;
+  const bool touches = endsInAscii && gbk::width(cut) == room;
+  return touches ? gbk::cut(cut, room - 1) : cut;
+}
+
 /// Points as they will be once the amount is credited, with one decimal.
 std::string pointsText(Currency amount, std::int16_t unit, std::int16_t points) {
   const Currency held = Currency::fromYuan(points);
@@ -82,14 +95,22 @@ std::vector<std::string> LineReceipt::headerLines() const {
 }
 
 std::string LineReceipt::lineText() const {
-  const ReceiptColumns& widths = state_.receiptCols;
   const ClsSellItem& line = *state_.curLine;
   const std::string price = twoDecimals(line.Price());
-  const std::size_t forName = columns(widths.name) - std::min(columns(widths.name), price.size());
-  const std::string name = gbk::cut(line.SpName(), forName);
-  return name + blanks(forName - gbk::width(name)) + price +
-         gbk::right(generalNumber(line.Quantity()), columns(widths.quantity)) +
-         gbk::right(twoDecimals(line.Money()), columns(widths.amount));
+  const std::string sum = figures(line.Quantity(), line.Money());
+  const std::size_t room = roomBeside(price + sum);
+  const std::string name = beforeFigure(line.SpName(), room);
+  return name + blanks(room - gbk::width(name)) + price + sum;
+}
+
+std::string LineReceipt::figures(double quantity, Currency amount) const {
+  return figure(generalNumber(quantity), state_.receiptCols.quantity) +
+         figure(twoDecimals(amount), state_.receiptCols.amount);
+}
+
+std::size_t LineReceipt::roomBeside(const std::string& figures) const {
+  const std::size_t line = columns(state_.receiptCols.line);
+  return line - std::min(line, figures.size());
 }
 
 std::vector<std::string> LineReceipt::footLines() const {
@@ -109,11 +130,11 @@ std::vector<std::string> LineReceipt::footLines() const {
 }
 
 std::string LineReceipt::totalText() const {
-  const ReceiptColumns& widths = state_.receiptCols;
   const ClsSell& bill = *state_.curBill;
-  std::string text = gbk::centred("总    计", columns(widths.name)) +
-                     gbk::right(generalNumber(bill.Quantity()), columns(widths.quantity)) +
-                     gbk::right(twoDecimals(bill.Amount()), columns(widths.amount));
+  const std::string sum = figures(bill.Quantity(), bill.Amount());
+  const std::size_t room = roomBeside(sum);
+  std::string text = gbk::centred("总    计", room);
+  text += blanks(room - std::min(room, gbk::width(text))) + sum;
   if (const auto& member = state_.curMember) {
     text += "\r\n会员卡：" + member->Bh() + "，累计积分：" +
             pointsText(bill.Amount(), pos_.gSysParam.PointUnit(), member->Points());

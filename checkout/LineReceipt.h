@@ -4,6 +4,7 @@
 #include <string>
 #include <vector>
 
+#include "base/Currency.h"
 #include "checkout/Outage.h"
 
 class CashDrawer;
@@ -40,6 +41,11 @@ class LineReceipt {
 
  private:
   std::string totalText() const;
+  /// Quantity and amount, each in its column with a blank before it; longer than the two columns
+  /// when a figure needs it.
+  std::string figures(double quantity, Currency amount) const;
+  /// Columns that these figures leave of a line; none when they fill it.
+  std::size_t roomBeside(const std::string& figures) const;
   /// Prints what is unsent and these lines, unless this bill's print has already failed.
   void print(const std::vector<std::string>& lines);
 
