@@ -34,4 +34,4 @@ void storeTopUp(Connection& connection, const TopUp& topUp);
 struct SlipTexts {
   std::string cardNumber, balanceBefore, paid, credited, balanceAfter;
 };
-PageDocument topUpSlip(const ClsSysParam& shop, int paperModel, const SlipTexts& texts);
+PageDocument topUpSlip(const ClsSysParam& shop, const SlipTexts& texts);

@@ -40,7 +40,7 @@ ShiftSheet sheetOf(const ClsDayStat& day) {
 void print(const posMod& pos, const ShiftSheet& sheet) {
   const std::string& port = pos.gPosSet.PPort;
   if (port == "USB") {
-    pos.ports.pagePrinter()->print(pageOfLines("交班表", sheet.lines()));
+    pos.ports.pagePrinter(pos.gPosSet.PModel)->print(pageOfLines("交班表", sheet.lines()));
   } else {
     pos.ports.portFile(port)->send(linePrinterBytes(sheet.lines()));
   }

@@ -52,9 +52,8 @@ QString DeviceTest::tryPrinter() const {
   if (settings_.PPort == "USB") {
     PageDocument page;
     page.name = "打印测试";
-    page.paperWidthMm = wide ? 80 : 58;
     page.texts.push_back({0, 0, line});
-    ports_.pagePrinter()->print(page);
+    ports_.pagePrinter(settings_.PModel)->print(page);
     return tr("测试行已送到系统打印机");
   }
   // Four empty lines move the test line out from under the cover.
