@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <iterator>
 
+#include "app/DeviceBytes.h"
 #include "app/posMod.h"
 #include "base/Gbk.h"
 #include "base/NumberText.h"
@@ -60,16 +61,16 @@ void LineReceipt::PrintFoot() {
     return;
   }
   failedBill_ = 0;
-  const std::vector<std::string> foot = footLines();
   // The drawer opens while the paper still moves, so that the cashier does not wait for the texts.
-  const auto rest = foot.begin() + (state_.hasDrawer ? 2 : 0);
+  std::vector<std::string> lines = totalLines();
   if (state_.hasDrawer) {
-    print({foot.begin(), rest});
+    print(lines);
+    lines.clear();
     const bool onThisPort = pos_.gPosSet.MBPort == pos_.gPosSet.PPort;
     if (unsent_.empty() || !onThisPort) drawer_.OpenDrawer();
   }
-  std::vector<std::string> lines;
-  std::copy_if(rest, foot.end(), std::back_inserter(lines),
+  const std::vector<std::string> payment = paymentLines();
+  std::copy_if(payment.begin(), payment.end(), std::back_inserter(lines),
                [](const std::string& line) { return !line.empty(); });
   lines.resize(lines.size() + 4);
   const std::vector<std::string> nextHeader = headerLines();
@@ -113,42 +114,39 @@ std::size_t LineReceipt::roomBeside(const std::string& figures) const {
   return line - std::min(line, figures.size());
 }
 
-std::vector<std::string> LineReceipt::footLines() const {
-  const ClsSell& bill = *state_.curBill;
-  const Date date = bill.SellTime().date;
-  const std::size_t width = columns(state_.receiptCols.line);
-  return {totalText(),
-          "日期：" + std::to_string(date.month) + "-" + std::to_string(date.day) + " 流水号：" +
-              std::to_string(bill.BillNo()) + " 收银员：" + pos_.gOperator->Code(),
-          gbk::centred("销售时刻(" + shortTime(bill.SellTime()) + ")", width, '-'),
-          "原价总计:" + std::to_string(state_.origTotal) + "应收" + oneDecimal(bill.Amount()) +
-              "现金" + oneDecimal(bill.Cash()) + "银行卡" + oneDecimal(bill.BankCard()) + "储值卡" +
-              oneDecimal(bill.CardPay()) + "找零" + oneDecimal(bill.Change()),
-          gbk::centred("-----------------", width, '-'),
-          pos_.gSysParam.ReceiptText2(),
-          pos_.gSysParam.ReceiptText3()};
-}
-
-std::string LineReceipt::totalText() const {
+std::vector<std::string> LineReceipt::totalLines() const {
   const ClsSell& bill = *state_.curBill;
   const std::string sum = figures(bill.Quantity(), bill.Amount());
   const std::size_t room = roomBeside(sum);
-  std::string text = gbk::centred("总    计", room);
-  text += blanks(room - std::min(room, gbk::width(text))) + sum;
+  const std::string title = gbk::centred("总    计", room);
+  std::vector<std::string> lines = {title + blanks(room - std::min(room, gbk::width(title))) + sum};
   if (const auto& member = state_.curMember) {
-    text += "\r\n会员卡：" + member->Bh() + "，累计积分：" +
-            pointsText(bill.Amount(), pos_.gSysParam.PointUnit(), member->Points());
+    lines.push_back("会员卡：" + member->Bh() + "，累计积分：" +
+                    pointsText(bill.Amount(), pos_.gSysParam.PointUnit(), member->Points()));
   }
-  return text;
+  const Date date = bill.SellTime().date;
+  lines.push_back("日期：" + std::to_string(date.month) + "-" + std::to_string(date.day) +
+                  " 流水号：" + std::to_string(bill.BillNo()) + " 收银员：" +
+                  pos_.gOperator->Code());
+  return lines;
+}
+
+std::vector<std::string> LineReceipt::paymentLines() const {
+  const ClsSell& bill = *state_.curBill;
+  const std::size_t width = columns(state_.receiptCols.line);
+  return {gbk::centred("销售时刻(" + shortTime(bill.SellTime()) + ")", width, '-'),
+          "原价总计:" + std::to_string(state_.origTotal) + "应收" + oneDecimal(bill.Amount()) +
+              "现金" + oneDecimal(bill.Cash()) + "银行卡" + oneDecimal(bill.BankCard()) + "储值卡" +
+              oneDecimal(bill.CardPay()) + "找零" + oneDecimal(bill.Change()),
+          gbk::centred("-----------------", width, '-'), pos_.gSysParam.ReceiptText2(),
+          pos_.gSysParam.ReceiptText3()};
 }
 
 void LineReceipt::print(const std::vector<std::string>& lines) {
   unsent_.insert(unsent_.end(), lines.begin(), lines.end());
   if (failedBill_ == state_.curBill->BillNo()) return;
-  std::string bytes;
-  for (const std::string& line : unsent_) bytes += gbk::encode(line) + "\r\n";
   try {
-    pos_.ports.portFile(pos_.gPosSet.PPort)->send(bytes);
+    pos_.ports.portFile(pos_.gPosSet.PPort)->send(device::printedLines(unsent_));
     unsent_.clear();
     outage_.worked();
   } catch (const PortError& error) {

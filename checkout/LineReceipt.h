@@ -32,15 +32,14 @@ class LineReceipt {
   /// Two empty lines, so that a bill put aside stands apart. Only when line printing is on.
   void FeedLines();
 
-  /// The texts of these procedures, without line ends, for paper of the state's widths. The
-  /// footer's first text holds a line end of its own when a member is attached; its empty texts are
-  /// not printed.
+ private:
+  // The texts of these procedures, without line ends, for paper of the state's widths.
   std::vector<std::string> headerLines() const;
   std::string lineText() const;
-  std::vector<std::string> footLines() const;
-
- private:
-  std::string totalText() const;
+  /// Down to the date; the drawer opens after it.
+  std::vector<std::string> totalLines() const;
+  /// Below it; empty texts are not printed.
+  std::vector<std::string> paymentLines() const;
   /// Quantity and amount, each in its column with a blank before it; longer than the two columns
   /// when a figure needs it.
   std::string figures(double quantity, Currency amount) const;

@@ -8,6 +8,7 @@
 #include <QTableView>
 #include <QVBoxLayout>
 
+#include "app/DeviceBytes.h"
 #include "app/posMod.h"
 #include "base/NumberText.h"
 #include "platform/PortError.h"
@@ -42,7 +43,7 @@ void print(const posMod& pos, const ShiftSheet& sheet) {
   if (port == "USB") {
     pos.ports.pagePrinter(pos.gPosSet.PModel)->print(pageOfLines("交班表", sheet.lines()));
   } else {
-    pos.ports.portFile(port)->send(linePrinterBytes(sheet.lines()));
+    pos.ports.portFile(port)->send(device::printedLines(sheet.lines()));
   }
 }
 

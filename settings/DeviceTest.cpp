@@ -57,7 +57,7 @@ QString DeviceTest::tryPrinter() const {
     return tr("测试行已送到系统打印机");
   }
   // Four empty lines move the test line out from under the cover.
-  ports_.portFile(settings_.PPort)->send(gbk::encode(line) + "\r\n\r\n\r\n\r\n\r\n");
+  ports_.portFile(settings_.PPort)->send(device::printedLines({line, "", "", "", ""}));
   return tr("测试行已送到 %1").arg(portText(settings_.PPort));
 }
 

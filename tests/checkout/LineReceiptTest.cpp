@@ -55,7 +55,7 @@ TEST_F(LinePrinter, wideReceiptWithMemberAndDrawer) {
 TEST_F(LinePrinter, narrowReceipt) {
   printOn(2);
   receipt.PrintHeader();
-  enter("矿泉水", "2.00", 3);
+  enter("矿\x1Bp\r\n水", "2.00", 3);  // no command to the printer, no line of its own
   enter("特别特别特别长名字的饼干", "12.50");
   enter("特别特别特别长名字的饼干", "1237.70");
   enter("散装大米", "4.00", 12.34);
@@ -67,7 +67,7 @@ TEST_F(LinePrinter, narrowReceipt) {
             "                                \n"
             "          好邻居便利店          \n"
             "     商品名称     单价 数量 金额\n"
-            "矿泉水            2.00   3  6.00\n"
+            "矿 p  水          2.00   3  6.00\n"
             "特别特别特别长名 12.50   1 12.50\n"
             "特别特别特别 1237.70   1 1237.70\n"
             "散装大米        4.00 12.34 49.36\n"
