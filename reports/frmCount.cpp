@@ -127,10 +127,8 @@ void frmCount::show(const ClsDayStat& day) {
 
 void frmCount::printSheet() {
   if (!canPrint(pos_.gPosSet.PPort)) return;
-  const ShiftSheet sheet = sheetOf(today());
-  if (sheet.bills == 0) return messageBox(this, tr("没有可打印的内容！"));
   try {
-    print(pos_, sheet);
+    print(pos_, sheetOf(today()));
   } catch (const PortError& error) {
     messageBox(this, QString::fromUtf8(error.what()));
   }

@@ -47,21 +47,20 @@ void answer(Hands& hands, const char* text) {
   });
 }
 
-TEST(frmCountTest, ShowsTheDayAndPrintsTheSheetUnlessThereIsNone) {
+TEST(frmCountTest, ShowsTheDayAndPrintsTheSheet) {
   TestShop shop;
   Hands hands;
-  hands.at("frmCount", [](QWidget& form) {
+  shop.pos().gPosSet.PModel = 2;
+  hands.at("frmCount", [&](QWidget& form) {
+    shop.pos().gPosSet.PPort = "LPT1";
     tabTo(form, "print1");
     Hands::pressNow(Key_Space);
     EXPECT_EQ(caption(form, "lblMsg"),
               "今日累计发生 [0] 笔交易，共交易 [0] 件商品，交易额 [0.00] 元");
     Hands::pressNow(Key_Escape);
   });
-  shop.pos().gPosSet.PPort = "USB";
-  answer(hands, "没有可打印的内容！");
   frmCount(shop.pos()).init();
-  EXPECT_TRUE(shop.paperWidthsMm().empty());
-  shop.pos().gPosSet.PModel = 2;
+  EXPECT_THAT(shop.bytes("lpt1"), HasSubstr(gbk::encode("[0] 笔交易\r\n共交易 [0] 件商品")));
 
   shop.settle(3, "2026-11-22 09:05:03", 1.25, "12");
   shop.settle(4, "2026-11-22 10:00:00", 2, "0.5");
