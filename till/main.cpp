@@ -3,6 +3,7 @@
 #include "base/Failure.h"
 #include "platform/CoreDumps.h"
 #include "shell/FocusReturn.h"
+#include "shell/ScreenFit.h"
 #include "shell/Style.h"
 #include "till/Till.h"
 #include "till/TillApplication.h"
@@ -14,6 +15,7 @@ int main(int argc, char** argv) {
   application.setQuitOnLastWindowClosed(false);  // dialogs come and go; the main window ends it
   applyStyle(application);
   new FocusReturn(&application);
+  new ScreenFit(&application);
   try {
     Till till(QCoreApplication::applicationDirPath().toStdString());
     return till.Main() ? application.exec() : 1;
