@@ -5,6 +5,7 @@
 #include "shell/FocusReturn.h"
 #include "shell/ScreenFit.h"
 #include "shell/Style.h"
+#include "shell/ToolkitTexts.h"
 #include "till/Till.h"
 #include "till/TillApplication.h"
 
@@ -13,6 +14,7 @@ int main(int argc, char** argv) {
   TillApplication application(argc, argv);
   application.setApplicationDisplayName(TillApplication::tr("前台收银"));
   application.setQuitOnLastWindowClosed(false);  // dialogs come and go; the main window ends it
+  loadToolkitTexts();
   applyStyle(application);
   new FocusReturn(&application);
   new ScreenFit(&application);
