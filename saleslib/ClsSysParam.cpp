@@ -24,7 +24,6 @@ struct Definition {
 };
 
 constexpr std::size_t kLongestText = 200;
-constexpr int kHighestRate = 10;
 
 std::optional<std::string> readText(std::string_view text) {
   for (const char c : text) {
@@ -56,7 +55,7 @@ std::optional<std::string> readStockRule(std::string_view text) {
 
 std::optional<std::string> readRate(std::string_view text) {
   const std::optional<Currency> rate = Currency::parse(text);
-  if (!rate || *rate <= Currency() || *rate > Currency::fromYuan(kHighestRate)) return std::nullopt;
+  if (!rate || *rate <= Currency() || *rate > Currency::fromYuan(1)) return std::nullopt;
   return generalNumber(*rate);
 }
 
@@ -64,7 +63,7 @@ constexpr Kind kText = {readText, "不能超过200个字符，也不能换行"};
 constexpr Kind kSwitch = {readSwitch, "只能是 0 或 1（否或是）"};
 constexpr Kind kWhole = {readWhole, "只能是 0 到 32767 的整数"};
 constexpr Kind kStockRule = {readStockRule, "只能是 0（可以负库存）或 1（不可以负库存）"};
-constexpr Kind kRate = {readRate, "只能是大于 0、不超过 10 的数"};
+constexpr Kind kRate = {readRate, "只能是大于 0、不超过 1 的数（九折写 0.9）"};
 
 constexpr std::array kDefinitions = {
     Definition{"ShopName", &kText, ""},     Definition{"ReceiptText1", &kText, ""},

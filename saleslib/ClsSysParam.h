@@ -44,7 +44,7 @@ class ClsSysParam {
   /// All parameters in a fixed order.
   std::vector<Parameter> list() const;
   /// Stores one parameter; its name counts without regard to case. A switch is 0, 1, true, false,
-  /// 是 or 否; a rate is more than 0 and at most 10; a text is one line of at most 200 characters.
+  /// 是 or 否; a rate is more than 0 and at most 1; a text is one line of at most 200 characters.
   /// Returns an empty text, or the reason why not (unknown name, wrong kind). Throws StoreError.
   [[nodiscard]] std::string set(std::string_view name, std::string_view value);
 
