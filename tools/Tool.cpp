@@ -8,6 +8,7 @@
 
 #include "base/Failure.h"
 #include "tools/BackupCommand.h"
+#include "tools/BillCommand.h"
 #include "tools/CheckCommand.h"
 #include "tools/CreateCommand.h"
 #include "tools/ExportCommand.h"
@@ -54,6 +55,7 @@ int runTool(int count, const char* const* arguments, Console& console) {
   addExportCommand(app, console);
   addBackupCommand(app, console);
   addCheckCommand(app, console, exitCode);
+  addBillCommand(app, console);
   groupInChinese(app);
   try {
     app.parse(wordsOf(count, arguments));
