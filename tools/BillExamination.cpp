@@ -219,6 +219,18 @@ void BillExamination::examineTime(const ClsSell& bill, const LineSums& lines) {
   }
 }
 
+// One till, one cashier: nobody begins two bills in one second.
+void examineDoubles(const Examination& books) {
+  Rows rows = books.connection.query(
+      "select min(id) as id, max(id) as other from sell where state = 1"
+      " group by sell_time having count(*) > 1 and min(amount) = max(amount)"
+      " and min(quantity) = max(quantity)");
+  while (rows.next()) {
+    books.remark("单据 " + rows.text("id") + " 和 " + rows.text("other") +
+                 " 的时间、数量和金额完全相同");
+  }
+}
+
 }  // namespace
 
 bool isFarFrom(const DateTime& bill, const DateTime& line) {
@@ -227,6 +239,7 @@ bool isFarFrom(const DateTime& bill, const DateTime& line) {
 
 void examineBills(const Examination& books) {
   BillExamination(books).run();
+  examineDoubles(books);
   Rows unowned = books.connection.query(
       "select id, operator_id from sell "
       "where state = 0 and operator_id not in (select id from operators)");

@@ -18,6 +18,7 @@ BooksSummary Books::check() {
       [this](std::int64_t bills) {
         progress_(static_cast<double>(bills) / static_cast<double>(found_.bills));
       }};
+  examineSchema(books);
   examineBills(books);
   examineLines(books);
   examineReturns(books);

@@ -1,6 +1,7 @@
 #include <cstdint>
 #include <optional>
 
+#include "base/Currency.h"
 #include "base/Failure.h"
 #include "base/NumberText.h"
 #include "store/Connection.h"
@@ -65,7 +66,8 @@ void examineItems(const Examination& books) {
 
 constexpr const char* kReturns =
     "select u.*, l.id as line, l.name as name, l.ratio as line_ratio, l.discount as line_discount,"
-    " l.in_price as line_cost, s.sell_time as bill_time, s.state as state from un_sell u"
+    " l.in_price as line_cost, l.price as price, s.sell_time as bill_time, s.state as state from "
+    "un_sell u"
     " left join sellProducts l on l.id = u.item_id and l.sellId = u.sell_id"
     " left join sell s on s.id = u.sell_id order by u.id";
 
@@ -89,6 +91,13 @@ void examineReturn(const Examination& books, const Row& row) {
   }
   const Currency refund = row.currency("money").value_or(Currency());
   if (refund < Currency()) books.fault(name + " 的退款是负的：" + twoDecimals(refund));
+  const Currency worth =
+      lineAmount(row.currency("price").value_or(Currency()), row.number("quantity").value_or(0),
+                 Discount(row.number("discount").value_or(1)));
+  if (refund > worth && worth >= Currency()) {
+    books.remark(name + " 退了 " + twoDecimals(refund) + "，所退的" + row.text("name") + "只值 " +
+                 twoDecimals(worth));
+  }
   if (const std::string term = wrongTerms(row); !term.empty()) {
     books.fault(name + " 的" + term + "与所退的商品行 " + row.text("line") + "（" +
                 row.text("name") + "）不同");
@@ -117,6 +126,13 @@ void examineReturns(const Examination& books) {
     } catch (const Failure& unreadable) {
       books.fault("退货 " + rows.text("id") + " 读不出来：" + unreadable.what());
     }
+  }
+  Rows twice = books.connection.query(
+      "select min(id) as id, max(id) as other from un_sell group by item_id, un_time"
+      " having count(*) > 1");
+  while (twice.next()) {
+    books.remark("退货 " + twice.text("id") + " 和 " + twice.text("other") +
+                 " 的商品行和时间完全相同");
   }
   // A return lowers its line: what is left below zero was never sold.
   Rows beyond = books.connection.query(

@@ -79,6 +79,11 @@ constexpr const char* kBalances =
     " join cardStored t on t.id = last.id join member m on m.bh = t.cardbh"
     " left join (select card_no, sum(card_pay) as paid from sell where card_no <> ''"
     "  group by card_no) p on p.card_no = m.bh order by m.bh";
+/// The top-ups of each card one after the other, each with all that the card ever paid.
+constexpr const char* kTopUps =
+    "select t.*, p.paid as paid from cardStored t"
+    " left join (select card_no, sum(card_pay) as paid from sell where card_no <> ''"
+    "  group by card_no) p on p.card_no = t.cardbh order by t.cardbh, t.id";
 
 // Since its last top-up a card can only have paid: where it began is not known, this is.
 void examineBalances(const Examination& books) {
@@ -105,7 +110,7 @@ void examineBalances(const Examination& books) {
 // The balance that a top-up leaves was worked out before it was confirmed: the amount may have been
 // changed after that.
 void examineTopUps(const Examination& books) {
-  Rows rows = books.connection.query("select * from cardStored order by cardbh, id");
+  Rows rows = books.connection.query(kTopUps);
   std::string card;
   Currency before;
   while (rows.next()) {
@@ -117,9 +122,11 @@ void examineTopUps(const Examination& books) {
         books.fault(name + " 的付款金额是负的：" + rows.text("inMoney"));
       }
       if (rows.text("cardbh") != card) before = after - credited;
-      if (before < Currency() || after > before + credited) {
+      const Currency spent = before + credited - after;  // since the top-up before
+      if (before < Currency() || spent < Currency() ||
+          spent > rows.currency("paid").value_or(Currency())) {
         books.remark(name + "：充值 " + twoDecimals(credited) + " 之后的余额是 " +
-                     twoDecimals(after) + "，与充值前的对不上");
+                     twoDecimals(after) + "，与前一次充值的对不上");
       }
       before = after;
     } catch (const Failure& unreadable) {

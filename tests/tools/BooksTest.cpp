@@ -104,6 +104,9 @@ TEST_F(Books, NameEachFault) {
       {"delete from un_sell", "退货记录少了 1 条"},
       {"insert into operators select 2, name, code, password, 0 from operators",
        "操作员 2 的密码是从操作员 1 那里抄来的"},
+      {"drop index member_key", "少了本程序要用的东西：member_key"},
+      {"create trigger extra after insert on sell begin delete from sellProducts; end",
+       "多了本程序没有的东西：trigger extra"},
       {"insert into operator_rights values (9, 'sell')", "权限 sell 属于不存在的操作员 9"},
   };
   const std::string right = owner.folder.file("right.mdb");
