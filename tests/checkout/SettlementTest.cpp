@@ -54,7 +54,7 @@ TEST_F(SettlementTest, figuresTypedGoIntoTheBillAtOnce) {
 TEST_F(SettlementTest, changeIsOneDecimalOrNothing) {
   EXPECT_EQ(settlement.change("50", "8.5", "40"), "10.0");
   EXPECT_TRUE(settlement.change("", "0", "0").isNull());
-  EXPECT_TRUE(settlement.change("922337203685477", "922337203685477", "0").isNull());
+  EXPECT_EQ(settlement.change("922337203685477", "922337203685477", "0"), "超出范围");
 }
 
 TEST_F(SettlementTest, cashTextThatIsNoNumberLeavesTheFigure) {
