@@ -7,6 +7,7 @@
 #include "app/SettingNumber.h"
 #include "base/NumberText.h"
 #include "platform/IniFile.h"
+#include "platform/VirtualKey.h"
 
 namespace {
 
@@ -56,6 +57,10 @@ const std::array<KeyBoard::Key, 18>& KeyBoard::keys() {
       {"Down", &KeyBoard::mDown},
   }};
   return all;
+}
+
+int KeyBoard::meaning(int code) const {
+  return code == vk::kEnter ? mEnter : code;
 }
 
 void KeyBoard::LoadSet(const IniFile& file) {

@@ -32,6 +32,9 @@ class KeyBoard {
   int mDown = 40;
   std::vector<clsQk> QK;  ///< in file order
 
+  /// What a key stands for: the plain Enter key is the mapped one, whatever that is; every other
+  /// key is itself.
+  int meaning(int code) const;
   /// Reads the keys, and appends the file's quick keys to QK. A key that is absent has its default,
   /// one with an empty value is 0, one that is no number keeps its default; a quick key without ";"
   /// or with a code that is no number is left out.

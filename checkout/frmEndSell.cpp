@@ -187,7 +187,7 @@ bool frmEndSell::keyPressed(const QObject* watched, int key) {
     watched == cardNumber_ ? checkCard() : payByCard();
     return true;
   }
-  if (key == vk::kEnter) key = keys_.mEnter;
+  key = keys_.meaning(key);
   if (watched == cash_) return cashKey(key);
   if (key != keys_.mEnter || key == 0) return false;
   cash_->setFocus();

@@ -23,6 +23,14 @@ namespace {
 constexpr int kWaitLimitMs = 20000;
 constexpr int kPollMs = 2;
 
+QtMessageHandler messagesBefore = nullptr;
+
+/// The platform without a screen says of each thing that only a screen could do that it cannot.
+void leaveOutMissingScreen(QtMsgType type, const QMessageLogContext& context, const QString& text) {
+  if (!text.startsWith(QLatin1String("This plugin does not support")))
+    messagesBefore(type, context, text);
+}
+
 /// Executes command lines from a socket inside the till's process, one after the other:
 ///   key NAME       a key click in the active window (names as QKeySequence knows them)
 ///   type TEXT      key clicks that type a text
@@ -192,6 +200,7 @@ class DriverPlugin : public QGenericPlugin {
 
  public:
   QObject* create(const QString&, const QString& socket) override {
+    messagesBefore = qInstallMessageHandler(leaveOutMissingScreen);
     return new Driver(socket.toInt());
   }
 };

@@ -8,6 +8,7 @@ inline constexpr int kTab = 9;
 inline constexpr int kEnter = 13;
 inline constexpr int kEscape = 27;
 inline constexpr int kMenu = 93;
+inline constexpr int kF10 = 121;
 }  // namespace vk
 
 /// The Windows virtual-key code of a key event, from its Qt::Key alone, so that a synthetic event

@@ -129,7 +129,7 @@ bool frmSearch::keyTaken(int key) {
     return true;
   }
   const bool inList = focusWidget() == ListView1_;
-  if ((key == keys.mEnter || key == vk::kEnter) && !inList) {
+  if (keys.meaning(key) == keys.mEnter && !inList) {
     if (auto* button = qobject_cast<QPushButton*>(focusWidget())) {
       button->click();
     } else {
@@ -242,7 +242,7 @@ void frmSearch::reprintLastBill() {
 
 void frmSearch::print(const PageDocument& page) {
   try {
-    pos_.ports.pagePrinter()->print(page);
+    pos_.ports.pagePrinter(pos_.gPosSet.PModel)->print(page);
   } catch (const PortError& error) {
     messageBox(this, QString::fromUtf8(error.what()));
   }

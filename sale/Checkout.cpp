@@ -50,9 +50,8 @@ void Checkout::SettleBill() {
 }
 
 void Checkout::commitLine() {
-  const ClsSellItem line = *sale_.line();
   sale_.join();
-  devices_.receipt.PrintLine(line);
+  devices_.receipt.PrintLine(*sale_.bill()->Items().back());
 }
 
 // Nothing else can be done with such a file either, not even cancelling the bill: it stays open in

@@ -49,7 +49,7 @@ void SaleDevices::printReceipts(const ClsSell& bill) {
   for (int i = 0; i < copies; ++i) {
     try {
       const PageDocument page = pageReceipt(pos_, bill, receipt.widths(), originalPrice(bill));
-      pos_.ports.pagePrinter()->print(page);
+      pos_.ports.pagePrinter(pos_.gPosSet.PModel)->print(page);
       pagePrinter_.worked();
     } catch (const Failure& error) {
       pagePrinter_.failed(QString::fromUtf8(error.what()));

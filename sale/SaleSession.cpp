@@ -4,6 +4,7 @@
 
 #include "app/posMod.h"
 #include "base/Failure.h"
+#include "base/NumberText.h"
 #include "checkout/PaidBill.h"
 #include "platform/VirtualKey.h"
 #include "sale/TopUpReport.h"
@@ -37,7 +38,7 @@ bool SaleSession::open() {
   checkout_.tell(books_.cancelOpen(pos_.gOperator->Id()));
   sale_.follow(books_.lastSettled());
   if (clockIsBehind()) {
-    screen_.messageBox(tr("电脑系统时间错误！"), tr("致命错误"));
+    screen_.messageBox(tr("电脑系统时间错误！") + "\n" + lastBillDated(), tr("致命错误"));
     screen_.endProgram();
     return false;
   }
@@ -48,6 +49,16 @@ bool SaleSession::open() {
 
 bool SaleSession::clockIsBehind() const {
   return sale_.last() && sale_.last()->SellTime().date > pos_.clock().date;
+}
+
+// One bill of a day when the clock was ahead would keep the shop closed until that day.
+QString SaleSession::lastBillDated() const {
+  return tr("单据 %1 的时间是 %2，今天却是 %3。\n请先看电脑的日期对不对；电脑对了，"
+            "就请店主改正这张单据：\ntilladmin bill redate %4 %1")
+      .arg(sale_.last()->BillNo())
+      .arg(QString::fromStdString(generalText(sale_.last()->SellTime())),
+           QString::fromStdString(dateText(pos_.clock().date)),
+           QString::fromStdString(pos_.gConn->source().path.string()));
 }
 
 // The order is the one in which a key mapped twice finds its command.
@@ -125,7 +136,7 @@ bool SaleSession::key(int code, const QString& text) {
 }
 
 bool SaleSession::run(int code) {
-  if (code == vk::kEnter) code = pos_.gKeyBoard.mEnter;
+  code = pos_.gKeyBoard.meaning(code);
   if (const KeyCommand* command = commandFor(commands_, pos_.gKeyBoard, code)) {
     if (command->run()) sale_.replaceInput();
     return true;

@@ -72,6 +72,7 @@ class SaleSession {
   };
 
   bool clockIsBehind() const;
+  QString lastBillDated() const;
   void fillCommands();
   void fillMenu();
   void addOpener(int KeyBoard::*key, const QString& screen);

@@ -44,15 +44,16 @@ bool DialogKeys::eventFilter(QObject* watched, QEvent* event) {
 bool DialogKeys::handleKey(QWidget* control, const QKeyEvent& event) {
   if (event.modifiers().testFlag(Qt::AltModifier) || typesCharacter(control, event)) return false;
   const int pressed = virtualKey(event);
-  const int key = pressed == vk::kEnter ? keys_.mEnter : pressed;
+  const bool inList = qobject_cast<QAbstractItemView*>(control) != nullptr;
+  const int key = keys_.meaning(pressed);
   if (key == 0) return pressed != 0;
   if (key == keys_.mEsc) {
     dialog_->reject();
   } else if (key == keys_.mEnter) {
     confirm(control);
-  } else if (key == keys_.mUp) {
+  } else if (key == keys_.mUp && !inList) {
     step(control, -1);
-  } else if (key == keys_.mDown) {
+  } else if (key == keys_.mDown && !inList) {
     step(control, 1);
   } else {
     // Otherwise the dialog would take the plain Esc key, whatever is mapped.
@@ -75,11 +76,6 @@ void DialogKeys::confirm(QWidget* control) {
 void DialogKeys::step(QWidget* control, int by) {
   if (auto* choices = qobject_cast<QComboBox*>(control)) {
     choices->setCurrentIndex(std::clamp(choices->currentIndex() + by, 0, choices->count() - 1));
-  } else if (auto* list = qobject_cast<QAbstractItemView*>(control)) {
-    const int last = list->model()->rowCount() - 1;
-    if (last < 0) return;
-    const int row = std::clamp(list->currentIndex().row() + by, 0, last);
-    list->setCurrentIndex(list->model()->index(row, 0));
   } else {
     focusFrom(control, by);
   }

@@ -10,7 +10,8 @@ class QWidget;
 
 /// Lets a dialog be used with the mapped keys alone. Esc cancels it; Enter presses a button,
 /// chooses a row of a list, and goes on to the next control from any other; Up and Down choose in
-/// lists and walk through the other controls. In a text box a key that types a character types it.
+/// drop-down lists and walk through the other controls, lists aside. In a text box a key that types
+/// a character types it.
 class DialogKeys : public QObject {
   Q_OBJECT
 

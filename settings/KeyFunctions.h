@@ -12,11 +12,13 @@ struct KeyFunction {
   const char* box;      ///< name of its box in the keyboard dialog
   const char* caption;  ///< with the access key: "会员卡(&2)："
   int KeyBoard::*field;
-  int row;  ///< its place in the dialog's grid, from 0
+  const char* effect;  ///< what it does on the sale screen: "取单"
+  int row;             ///< its place in the dialog's grid, from 0
   int column;
 
   QString label() const;  ///< the caption for its label
   QString name() const;   ///< for texts: "会员卡"
+  QString onSaleScreen() const;
 };
 
 /// The fifteen functions, in the order in which they are shown and stored.

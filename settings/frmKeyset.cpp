@@ -69,7 +69,11 @@ QWidget* frmKeyset::functionGrid() {
     connect(box, &QLineEdit::textChanged, this, &frmKeyset::showSharedKeys);
     auto* label = new QLabel(function.label());
     label->setBuddy(box);
-    grid->addWidget(label, function.row, 2 * function.column, Qt::AlignRight | Qt::AlignVCenter);
+    auto* caption = new QVBoxLayout;
+    caption->setSpacing(0);
+    caption->addWidget(label, 0, Qt::AlignRight);
+    caption->addWidget(named(new QLabel(function.onSaleScreen()), "lblEffect"), 0, Qt::AlignRight);
+    grid->addLayout(caption, function.row, 2 * function.column);
     grid->addWidget(box, function.row, 2 * function.column + 1);
     boxes_[i] = box;
   }

@@ -58,24 +58,19 @@ void KeyDrivenDialog::cancel() {
 }
 
 bool KeyDrivenDialog::handleKey(const QObject* watched, const QKeyEvent& event) {
-  const int key = virtualKey(event);
+  const bool isPlain = enterKey_ == EnterKey::kPlain;
+  const int key = isPlain ? virtualKey(event) : keys_.meaning(virtualKey(event));
   if (key == 0) return false;
   if (key == keys_.mEsc) {
     cancel();
     return true;
   }
-  if (!isEnter(key)) return false;
+  if (key != (isPlain ? vk::kEnter : keys_.mEnter)) return false;
   if (event.isAutoRepeat()) return true;
   const auto action = enterActions_.find(watched);
   if (action == enterActions_.end()) return false;
   action->second();
   return true;
-}
-
-bool KeyDrivenDialog::isEnter(int key) const {
-  const bool isMapped = key == keys_.mEnter && enterKey_ != EnterKey::kPlain;
-  const bool isPlain = key == vk::kEnter && enterKey_ != EnterKey::kMapped;
-  return isMapped || isPlain;
 }
 
 bool KeyDrivenDialog::eventFilter(QObject* watched, QEvent* event) {

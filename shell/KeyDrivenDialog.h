@@ -21,8 +21,9 @@ class KeyDrivenDialog : public QDialog {
   Q_OBJECT
 
  public:
-  /// Which key is Enter here: the one of the keyboard map, the one with code 13, or either.
-  enum class EnterKey { kMapped, kPlain, kEither };
+  /// Which key is Enter here: the one of the keyboard map, for which the plain Enter stands too, or
+  /// the plain one alone.
+  enum class EnterKey { kMapped, kPlain };
 
  protected:
   KeyDrivenDialog(const KeyBoard& keys, EnterKey enterKey, QWidget* parent);
@@ -56,7 +57,6 @@ class KeyDrivenDialog : public QDialog {
 
  private:
   void watch(QWidget* control);
-  bool isEnter(int key) const;
 
   const KeyBoard& keys_;
   EnterKey enterKey_;

@@ -12,7 +12,7 @@
 #include "shell/frmMsg.h"
 
 frmEditPwd::frmEditPwd(posMod& pos, QWidget* parent)
-    : KeyDrivenDialog(pos.gKeyBoard, EnterKey::kEither, parent),
+    : KeyDrivenDialog(pos.gKeyBoard, EnterKey::kMapped, parent),
       pos_(pos),
       txtNumber_(field("txtNumber")),
       txtPassword_(field("txtPassword")),

@@ -63,7 +63,7 @@ void frmInput::keyPressEvent(QKeyEvent* event) {
 }
 
 bool frmInput::handleKey(const QKeyEvent& event) {
-  const int key = virtualKey(event);
+  const int key = keys_.meaning(virtualKey(event));
   if (key == 0) return false;
   if (key == keys_.mEnter) {
     accept();

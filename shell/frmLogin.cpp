@@ -45,12 +45,14 @@ void frmLogin::check() {
   if (!login.Check(txtNumber_->text().toStdString(), txtPassword_->text().toStdString())) {
     messageBox(this, QString::fromStdString(login.ErrText()), {}, BoxIcon::kInformation);
     result_ = kFailed;
+    focusWhole(txtPassword_);  // behind dots nobody sees that typing would only add to it
     return;
   }
   result_ = kAccepted;
   const std::shared_ptr<ClsOperator> checked = login.Operator();
   if (!checked->Rights().HasRight(kRightSell)) {
     messageBox(this, tr("没有权限！"), {}, BoxIcon::kQuestion);
+    focusWhole(txtNumber_);
     return;
   }
   pos_.gOperator = checked;

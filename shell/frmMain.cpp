@@ -1,7 +1,7 @@
 #include "shell/frmMain.h"
 
+#include <QApplication>
 #include <QCloseEvent>
-#include <QCoreApplication>
 #include <QDate>
 #include <QGuiApplication>
 #include <QLabel>
@@ -12,6 +12,7 @@
 
 #include "app/posMod.h"
 #include "base/Failure.h"
+#include "base/Version.h"
 #include "platform/Twips.h"
 #include "shell/Modal.h"
 #include "shell/Style.h"
@@ -20,6 +21,9 @@
 
 namespace {
 
+constexpr int kDateInterval = 1000;  // milliseconds
+constexpr int kLongestName = 12;     // characters of the operator's name under the menu
+constexpr int kVersionPixels = 12;
 constexpr int kMenuGap = 12;  // between the main menu and the further one beside it
 const char* const kExit = "exit";
 const char* const kEnd = "end";
@@ -36,7 +40,7 @@ frmMain::frmMain(posMod& pos, std::map<QString, Screen> screens, QWidget* parent
       pos_(pos),
       screens_(std::move(screens)),
       login_(new frmLogin(pos, this)),
-      theMenu_(new frmMenu(pos.gKeyBoard, this)),
+      theMenu_(std::make_unique<frmMenu>(pos.gKeyBoard)),
       furtherMenu_(new frmMenu(pos.gKeyBoard, this)),
       Label1_(new QLabel(tr("使用光标键选择菜单,回车键执行,Esc键返回,Tab键移动选择焦点"))) {
   setObjectName("frmMain");
@@ -49,9 +53,15 @@ frmMain::frmMain(posMod& pos, std::map<QString, Screen> screens, QWidget* parent
   layout->addWidget(Label1_);
   fillMenus();
   applyColours();
+  startTimer(kDateInterval);
 }
 
+frmMain::~frmMain() = default;
+
+// The menu is always there, and this window must answer to its title bar all the same. So the menu
+// is modal to no window but itself; being in front is what FocusReturn sees to.
 void frmMain::fillMenus() {
+  theMenu_->setWindowModality(Qt::WindowModal);
   theMenu_->setAlignment(frmMenu::kCentre);
   addScreens(*theMenu_, {{tr("前 台 销 售"), "sell"},
                          {tr("销 售 统 计"), "count"},
@@ -106,6 +116,7 @@ void frmMain::showMenu() {
   {
     const QScopedValueRollback showing(menuShowing_, true);
     furtherChoice_ = {};
+    theMenu_->setFooter(menuFooter());
     theMenu_->ShowMenu(1);
     if (!furtherChoice_.Key.isEmpty()) theMenu_MenuClick(furtherChoice_);
   }
@@ -113,20 +124,36 @@ void frmMain::showMenu() {
   if (!ended_) queueMenu();
 }
 
+QString frmMain::menuFooter() const {
+  QString person = tr("尚未登录");
+  if (pos_.gOperator) {
+    QString name = QString::fromStdString(pos_.gOperator->Name());
+    if (name.size() > kLongestName) name = name.left(kLongestName - 1) + QChar(0x2026);
+    person = tr("操作员：%1").arg(name);
+  }
+  return tr("菜单键 / 右键：更多功能") + tr("（或 F10）") + "　" + person;
+}
+
 void frmMain::showFurtherMenu() {
   furtherMenu_->MenuClick = [this](const MenuItem& Menu) {
     furtherChoice_ = Menu;
     theMenu_->reject();
   };
+  // Side by side: the main menu makes room where the screen is too narrow.
+  const QPoint place = theMenu_->pos();
+  const int both = 2 * (theMenu_->width() + kMenuGap);
+  const int leftmost = theMenu_->screen()->availableGeometry().right() - both;
+  theMenu_->move(qBound(0, leftmost, place.x()), place.y());
   furtherMenu_->setBoxTop(theMenu_->BoxTop());
   furtherMenu_->setBoxLeft(theMenu_->BoxLeft() + twips(theMenu_->width() + kMenuGap));
   furtherMenu_->ShowMenu(0);
+  theMenu_->move(place);
 }
 
 void frmMain::theMenu_MenuClick(const MenuItem& Menu) {
   const QScopedValueRollback running(showMenu_, false);
   if (Menu.Key == kExit) return changeOperator();
-  if (Menu.Key == kEnd) return endProgram();
+  if (Menu.Key == kEnd) return void(close());
   const auto screen = screens_.find(Menu.Key);
   if (screen != screens_.end()) openScreen(screen->second);
 }
@@ -147,28 +174,47 @@ bool frmMain::someoneLoggedIn() {
 }
 
 void frmMain::changeOperator() {
-  pos_.logOff();
+  try {
+    pos_.logOff();
+  } catch (const Failure& failure) {
+    return messageBox(this, QString::fromUtf8(failure.what()), {}, BoxIcon::kExclamation);
+  }
   login_->goLogin();
 }
 
-void frmMain::endProgram() {
-  pos_.logOff();
-  try {
-    if (pos_.wantsBackUp()) pos_.backUp();
-  } catch (const Failure& failure) {
-    messageBox(this, tr("数据没有备份。") + QString::fromUtf8(failure.what()), {},
-               BoxIcon::kExclamation);
-  }
-  close();
-}
-
+// However the program is ended, and whatever of it fails, all of it is tried, once.
 void frmMain::closeEvent(QCloseEvent* event) {
-  if (pos_.gPosSet.VMouse == 0) pos_.ShowMouse(true);
+  event->accept();
+  if (ended_) return;
   ended_ = true;
   furtherMenu_->reject();
   theMenu_->reject();
-  event->accept();
+  endOfWork();
+  if (pos_.gPosSet.VMouse == 0) pos_.ShowMouse(true);
   QCoreApplication::exit(0);  // ends every modal loop; quit() would ask the windows first
+}
+
+void frmMain::endOfWork() {
+  QStringList done, notDone;
+  const auto attempt = [&](const QString& name, const auto& step) {
+    try {
+      if (step()) done += tr("%1已完成。").arg(name);
+    } catch (const Failure& failure) {
+      notDone += tr("%1没有完成：%2").arg(name, QString::fromUtf8(failure.what()));
+    }
+  };
+  attempt(tr("操作员注销"), [this] {
+    const bool someone = pos_.gOperator != nullptr;
+    pos_.logOff();
+    return someone;
+  });
+  attempt(tr("数据备份"), [this] {
+    const bool wanted = pos_.wantsBackUp();
+    if (wanted) pos_.backUp();
+    return wanted;
+  });
+  if (notDone.isEmpty()) return;
+  messageBox(QApplication::activeWindow(), (notDone + done).join('\n'), {}, BoxIcon::kExclamation);
 }
 
 void frmMain::paintEvent(QPaintEvent*) {
@@ -191,6 +237,20 @@ void frmMain::paintEvent(QPaintEvent*) {
 
   large.setPixelSize(height() / 36);
   painter.setFont(large);
-  painter.drawText(QRect(0, line, width(), height() / 15), Qt::AlignCenter,
-                   longDate(pos_.clock().date));
+  dateShown_ = pos_.clock().date;
+  painter.drawText(QRect(0, line, width(), height() / 15), Qt::AlignCenter, longDate(dateShown_));
+  paintVersion(painter);
+}
+
+void frmMain::paintVersion(QPainter& painter) const {
+  QFont small = font();
+  small.setPixelSize(kVersionPixels);
+  painter.setFont(small);
+  const QString version = QString::fromUtf8(tillVersion().data(), tillVersion().size());
+  painter.drawText(rect().adjusted(0, 0, -kMenuGap, -kMenuGap / 2),
+                   Qt::AlignRight | Qt::AlignBottom, tr("版本 %1").arg(version));
+}
+
+void frmMain::timerEvent(QTimerEvent*) {
+  if (dateShown_ != pos_.clock().date) update();
 }

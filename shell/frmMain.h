@@ -3,9 +3,11 @@
 #include <QWidget>
 #include <functional>
 #include <map>
+#include <memory>
 #include <utility>
 #include <vector>
 
+#include "base/DateTime.h"
 #include "shell/MenuItem.h"
 
 class QLabel;
@@ -15,7 +17,8 @@ class posMod;
 
 /// The main window: the main menu over a quiet background, and one help line. It opens screens
 /// through a table of openers given to it, and asks for a login before each protected one. The menu
-/// comes back after every action; closing the window, however it happens, ends the program.
+/// comes back after every action; closing the window, however it happens, ends the program with the
+/// log-off and the backup.
 class frmMain : public QWidget {
   Q_OBJECT
 
@@ -29,6 +32,7 @@ class frmMain : public QWidget {
   /// By menu key: "sell", "count", "search", "posset", "keyset", "addmen", "editpwd", "unsell". A
   /// menu entry whose screen is not in the table is not shown.
   frmMain(posMod& pos, std::map<QString, Screen> screens, QWidget* parent = nullptr);
+  ~frmMain() override;
 
   /// Dispatches a menu entry by its Key; an unknown key does nothing.
   void theMenu_MenuClick(const MenuItem& Menu);
@@ -37,6 +41,7 @@ class frmMain : public QWidget {
   bool event(QEvent* event) override;
   void closeEvent(QCloseEvent* event) override;
   void paintEvent(QPaintEvent* event) override;
+  void timerEvent(QTimerEvent* event) override;
 
  private:
   void fillMenus();
@@ -44,18 +49,22 @@ class frmMain : public QWidget {
   void queueMenu();
   void showMenu();
   void showFurtherMenu();
+  QString menuFooter() const;
   void applyColours();
+  void paintVersion(QPainter& painter) const;
   void openScreen(const Screen& screen);
   bool someoneLoggedIn();
   void changeOperator();
-  void endProgram();
+  /// Logs the operator off and makes the backup, and says what of it could not be done.
+  void endOfWork();
 
   posMod& pos_;
   std::map<QString, Screen> screens_;
   frmLogin* login_;
-  frmMenu* theMenu_;
+  std::unique_ptr<frmMenu> theMenu_;
   frmMenu* furtherMenu_;
-  QLabel* Label1_;        ///< the help line
+  QLabel* Label1_;  ///< the help line
+  Date dateShown_;
   bool showMenu_ = true;  ///< off while a chosen action runs
   bool menuQueued_ = false;
   bool menuShowing_ = false;

@@ -36,6 +36,7 @@ frmMenu::frmMenu(const KeyBoard& keys, QWidget* parent)
     : QDialog(parent, Qt::Dialog | Qt::FramelessWindowHint),
       keys_(keys),
       heading_(new QLabel),
+      footer_(new QLabel),
       entries_(new MenuEntries) {
   setObjectName("frmMenu");
   setContextMenuPolicy(Qt::PreventContextMenu);
@@ -48,6 +49,11 @@ frmMenu::frmMenu(const KeyBoard& keys, QWidget* parent)
   layout->setSpacing(0);
   layout->addWidget(heading_);
   layout->addWidget(entries_, 1);
+  footer_->setObjectName("lblMenuFooter");
+  footer_->setTextFormat(Qt::PlainText);
+  footer_->setAlignment(Qt::AlignCenter);
+  footer_->hide();
+  layout->addWidget(footer_);
   connect(entries_, &MenuEntries::pointedAt, entries_, &MenuEntries::setCurrent);
   connect(entries_, &MenuEntries::clicked, this, &frmMenu::choose);
 }
@@ -81,15 +87,23 @@ QString frmMenu::ShowMenu(int Mode) {
   return item.Key;
 }
 
+void frmMenu::setFooter(const QString& text) {
+  footer_->setText(text);
+  footer_->setVisible(!text.isEmpty());
+}
+
 void frmMenu::placeOnScreen() {
   const QRect room = screen()->availableGeometry().adjusted(kScreenMargin, kScreenMargin,
                                                             -kScreenMargin, -kScreenMargin);
   heading_->setText(windowTitle());
   heading_->setVisible(!windowTitle().isEmpty());
-  const int headingHeight = heading_->isHidden() ? 0 : heading_->sizeHint().height();
-  const QSize wanted = entries_->measure(room.width() - 2 * kBorder);
-  resize(wanted.width() + 2 * kBorder,
-         qMin(wanted.height() + headingHeight + 2 * kBorder, room.height()));
+  QSize wanted = entries_->measure(room.width() - 2 * kBorder);
+  for (const QLabel* label : {heading_, footer_}) {
+    if (label->isHidden()) continue;
+    const QSize size = label->sizeHint();
+    wanted = QSize(qMax(wanted.width(), size.width()), wanted.height() + size.height());
+  }
+  resize((wanted + QSize(2 * kBorder, 2 * kBorder)).boundedTo(room.size()));
   layout()->activate();
   QRect place(pos(), size());
   if (!placed_) place.moveCenter(room.center());
@@ -101,7 +115,7 @@ void frmMenu::placeOnScreen() {
 
 // Every key is compared with the map in this order, so that of two meanings the first one wins.
 void frmMenu::keyPressEvent(QKeyEvent* event) {
-  const int key = virtualKey(*event);
+  const int key = keys_.meaning(virtualKey(*event));
   if (key == 0) return;
   if (key == keys_.mUp) {
     moveHighlight(-1);
@@ -112,7 +126,7 @@ void frmMenu::keyPressEvent(QKeyEvent* event) {
     if (!event->isAutoRepeat()) choose(currentIndex());
   } else if (key == keys_.mEsc) {
     if (mode_ == 0) reject();
-  } else if (key == vk::kMenu && furtherMenu) {
+  } else if ((key == vk::kMenu || key == vk::kF10) && furtherMenu) {
     furtherMenu();
   }
 }

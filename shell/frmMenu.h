@@ -27,6 +27,8 @@ class frmMenu : public QDialog {
   /// reads, a caption is asked for when its entry comes into view, and the menu is as wide as the
   /// screen.
   void AddMenus(int count, const std::function<QString(int position)>& caption);
+  /// A small line under the entries.
+  void setFooter(const QString& text);
   /// Shows the menu modally and returns the chosen entry's key, "" when it was left with Esc.
   /// A Mode other than 0 makes it impossible to leave with Esc. Without entries: a message.
   QString ShowMenu(int Mode);
@@ -35,7 +37,7 @@ class frmMenu : public QDialog {
   std::function<void(const MenuItem& Menu)> MenuClick;
   /// Called when the window itself is closed, from the window manager's close button.
   std::function<void()> closed;
-  /// Called for the menu key or a right click while the menu shows; the menu stays.
+  /// Called for the menu key, F10 or a right click while the menu shows; the menu stays.
   std::function<void()> furtherMenu;
 
   enum Align { kLeft = 0, kRight = 1, kCentre = 2 };
@@ -72,6 +74,7 @@ class frmMenu : public QDialog {
 
   const KeyBoard& keys_;
   QLabel* heading_;
+  QLabel* footer_;
   MenuEntries* entries_;
   int mode_ = 0;
   int chosen_ = -1;  ///< position of the chosen entry while the menu is being left

@@ -59,8 +59,9 @@ class Connection {
   Rows query(const char* text, const Values&... values) {
     return queryBound(text, {toValue(values)...});
   }
-  /// As run, for a statement whose columns are known at run time only.
+  /// As run and query, for a statement whose columns are known at run time only.
   std::int64_t runBound(const char* text, std::vector<Value> values);
+  Rows queryBound(const char* text, std::vector<Value> values);
   /// The row key that the last insert gave.
   std::int64_t lastRowId() const;
 
@@ -84,7 +85,6 @@ class Connection {
   friend class Transaction;
   friend class FileReading;
   friend void backUpDataFile(Connection& connection, const std::filesystem::path& target);
-  Rows queryBound(const char* text, std::vector<Value> values);
 
   struct EngineCloser {
     void operator()(sqlite3* engine) const;

@@ -38,7 +38,7 @@ fs::path existingDataFile(const fs::path& path) {
   if (fault == std::errc::permission_denied) {
     throw StoreError("没有权限进入数据文件所在的文件夹：" + found.string());
   }
-  throw StoreError("找不到数据文件：" + found.string());
+  throw StoreError("找不到数据文件：" + path.string());
 }
 
 void removeLogs(const fs::path& dataFile) {

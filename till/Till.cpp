@@ -13,6 +13,7 @@
 #include "settings/frmColor.h"
 #include "settings/frmKeyset.h"
 #include "settings/frmPosSet.h"
+#include "shell/ControlKeys.h"
 #include "shell/Modal.h"
 #include "shell/frmEditPwd.h"
 
@@ -28,7 +29,11 @@ bool Till::Main() {
   const std::string exposed = pos_.protectFiles();
   if (!exposed.empty())
     messageBox(nullptr, QString::fromStdString(exposed), {}, BoxIcon::kExclamation);
+  const std::string missing = pos_.missingOperator();
+  if (!missing.empty())
+    messageBox(nullptr, QString::fromStdString(missing), {}, BoxIcon::kInformation);
   pos_.start();
+  controlKeys_ = std::make_unique<ControlKeys>(qApp, pos_.gKeyBoard);
   frmSell_ = std::make_unique<frmSell>(pos_, saleScreens(), [this] { frmMain_->close(); });
   frmMain_ = std::make_unique<frmMain>(pos_, screens());
   // Without a window manager nobody else makes it large or gives it the keyboard.

@@ -9,6 +9,7 @@
 #include "sale/SaleSession.h"
 #include "shell/frmMain.h"
 
+class ControlKeys;
 class frmSell;
 
 /// The whole program: the process-wide objects, the main window, and the table that says which
@@ -32,6 +33,7 @@ class Till {
   void show();
 
   posMod pos_;
+  std::unique_ptr<ControlKeys> controlKeys_;
   std::unique_ptr<frmSell> frmSell_;  ///< one instance for every opening
   std::unique_ptr<frmMain> frmMain_;
 };

@@ -29,10 +29,12 @@ class posModTest : public testing::Test {
 };
 
 TEST_F(posModTest, OpensTheConfiguredDataFileOrSaysWhyNot) {
-  EXPECT_THAT(openingFault(), HasSubstr("找不到"));
+  EXPECT_THAT(openingFault(), testing::AllOf(HasSubstr("找不到"), HasSubstr("tilladmin create")));
   EXPECT_TRUE(fs::is_empty(folder_.path() / "data")) << "no new empty shop";
   makeShop("data/pos.MDB");
   EXPECT_EQ(openingFault(), "");
+  configure("D:\\shop\\POS.mdb");
+  EXPECT_THAT(openingFault(), HasSubstr("D:\\shop\\POS.mdb"));
   makeShop("two.mdb", "secret");
   configure(folder_.file("TWO.mdb;Jet OLEDB:Database password=secret"));
   EXPECT_EQ(openingFault(), "");

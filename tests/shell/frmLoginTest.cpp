@@ -30,10 +30,12 @@ class frmLoginTest : public testing::Test {
   std::vector<std::string> said_;
 };
 
-TEST_F(frmLoginTest, ARefusalKeepsTheTextsAndCancelLogsNobodyIn) {
+TEST_F(frmLoginTest, ARefusalKeepsTheTextsUntilTypedOverAndCancelLogsNobodyIn) {
   enter("1' or '1'='1", "wrong").confirm(said_);
   hands_.at("frmLogin", [&](QWidget&) {
     EXPECT_EQ(field("txtNumber") + " " + field("txtPassword"), "1' or '1'='1 wrong");
+    Hands::pressNow(Qt::Key_2);
+    EXPECT_EQ(field("txtPassword"), "2");
     Hands::pressNow(Qt::Key_Escape);
   });
   EXPECT_EQ(login_.goLogin(), frmLogin::kCancelled);
@@ -59,11 +61,11 @@ TEST_F(frmLoginTest, ThePasswordIsNotCopied) {
   EXPECT_EQ(password.contextMenuPolicy(), Qt::NoContextMenu);
 }
 
-TEST_F(frmLoginTest, KeysFollowTheMap) {
+TEST_F(frmLoginTest, KeysFollowTheMapAndThePlainEnterIsTheMappedOne) {
   till_.pos.gKeyBoard.mEnter = 'E';
   till_.pos.gKeyBoard.mEsc = 'Q';
-  hands_.type("frmLogin", "1").press("frmLogin", {Qt::Key_Return, Qt::Key_Escape, Qt::Key_E});
-  hands_.type("frmLogin", "111").press("frmLogin", {Qt::Key_E});
+  hands_.type("frmLogin", "1").press("frmLogin", {Qt::Key_Escape, Qt::Key_E});
+  hands_.type("frmLogin", "111").press("frmLogin", {Qt::Key_Return});
   EXPECT_EQ(login_.goLogin(), frmLogin::kAccepted);
   ASSERT_TRUE(till_.pos.gOperator);
   EXPECT_EQ(till_.pos.gOperator->Id(), 1);

@@ -67,8 +67,8 @@ TEST_F(frmMainTest, TheFurtherMenuOpensItsScreensAndChangesTheOperator) {
   logIn();
   hands_.press("frmMenu", {Key_Menu}).press("frmMenu", {Key_Return});  // keyset
   std::vector<std::string> said;
-  hands_.confirm(said);                                                // the program goes on
-  hands_.press("frmMenu", {Key_Menu}).press("frmMenu", {Key_Escape});  // the main menu again
+  hands_.confirm(said);                                               // the program goes on
+  hands_.press("frmMenu", {Key_F10}).press("frmMenu", {Key_Escape});  // the main menu again
   hands_.at("frmMenu", [](QWidget& menu) { QTest::mouseClick(&menu, Qt::RightButton); });
   hands_.press("frmMenu", {Key_Down, Key_Return});  // another operator
   hands_.at("frmLogin", [this](QWidget&) {
@@ -80,20 +80,32 @@ TEST_F(frmMainTest, TheFurtherMenuOpensItsScreensAndChangesTheOperator) {
   EXPECT_EQ(opened_, "sell keyset ");
 }
 
-TEST_F(frmMainTest, TheEndBacksUpWhenAskedToAndSaysWhenItCannot) {
+TEST_F(frmMainTest, TheEndSaysWhenItCannotBackUp) {
   ASSERT_EQ(till_.pos.gSysParam.set("BackupOnExit", "1"), "");
-  chooseEnd();
-  runUntilEnd();
-  EXPECT_TRUE(std::filesystem::exists(till_.folder.path() / "data/pos3.mdb"));
-
-  std::filesystem::remove(till_.folder.path() / "data/pos3.mdb");
   std::filesystem::create_directory(till_.folder.path() / "data/pos3.mdb");
-  window_.reset();
   std::vector<std::string> said;
   chooseEnd();
   hands_.confirm(said);
   runUntilEnd();
-  EXPECT_TRUE(said.at(0).starts_with("数据没有备份。")) << said[0];
+  EXPECT_TRUE(said.at(0).starts_with("数据备份没有完成：")) << said[0];
+}
+
+TEST_F(frmMainTest, ALogOffThatCannotBeStoredIsSaidAndTheEndBacksUpAllTheSame) {
+  ASSERT_EQ(till_.pos.gSysParam.set("BackupOnExit", "1"), "");
+  till_.pos.gOperator = std::make_shared<ClsOperator>();
+  till_.pos.gOperator->Init(*till_.pos.gConn, 1);
+  till_.pos.gConn->run("delete from operators where id = 1");
+  std::vector<std::string> said;
+  hands_.press("frmMenu", {Key_Menu}).press("frmMenu", {Key_Down, Key_Return}).confirm(said);
+  hands_.at("frmMenu", [this](QWidget&) {
+    EXPECT_TRUE(till_.pos.gOperator) << "nobody else is asked for";
+    window_->windowHandle()->close();  // as from its title bar
+  });
+  hands_.confirm(said);
+  runUntilEnd();
+  EXPECT_NE(said.at(0).find("操作员 1 已被删除"), std::string::npos) << said[0];
+  EXPECT_EQ(said.at(1), "操作员注销没有完成：" + said[0] + "\n数据备份已完成。");
+  EXPECT_TRUE(std::filesystem::exists(till_.folder.path() / "data/pos3.mdb"));
 }
 
 TEST_F(frmMainTest, ClosingTheMenuWindowEndsTheProgramAndBringsThePointerBack) {
@@ -101,6 +113,7 @@ TEST_F(frmMainTest, ClosingTheMenuWindowEndsTheProgramAndBringsThePointerBack) {
   hands_.at("frmMenu", [](QWidget& menu) { menu.close(); });
   runUntilEnd();
   EXPECT_EQ(QGuiApplication::overrideCursor(), nullptr);
+  EXPECT_EQ(opened_, "");
 }
 
 }  // namespace

@@ -38,6 +38,9 @@ TEST_F(frmMenuTest, TheHighlightWrapsAndIsKeptBetweenShowings) {
   EXPECT_EQ(show({Key_Escape}), "");
   EXPECT_EQ(clicked_, "5512");
   EXPECT_EQ(show({Key_Escape, Key_Down, Key_Return}, 1), "3") << "mode 1 cannot be left";
+  keys_.mUp = 'W';
+  keys_.mEnter = 'E';
+  EXPECT_EQ(show({Key_W, Key_Up, Key_Return}), "2") << "the plain Enter is the mapped one";
 }
 
 TEST_F(frmMenuTest, ThePointerHighlightsAndClicks) {
@@ -82,14 +85,6 @@ TEST_F(frmMenuTest, NoCaptionIsCutOffWhereThereIsRoom) {
     Hands::pressNow(Qt::Key_Escape);
   });
   menu_.ShowMenu(0);
-}
-
-TEST_F(frmMenuTest, ClosingTheWindowChoosesNothing) {
-  fill(2);
-  Hands hands;
-  hands.at("frmMenu", [](QWidget& shown) { shown.close(); });
-  EXPECT_EQ(menu_.ShowMenu(1), "");
-  EXPECT_EQ(clicked_, "");
 }
 
 }  // namespace

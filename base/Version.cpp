@@ -1,0 +1,5 @@
+#include "base/Version.h"
+
+std::string_view tillVersion() {
+  return TILL_VERSION;
+}
