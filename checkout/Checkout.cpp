@@ -13,25 +13,13 @@
 #include "checkout/SaleScreen.h"
 #include "checkout/SaleState.h"
 #include "checkout/Settlement.h"
+#include "checkout/SettlementTexts.h"
 #include "store/StoreError.h"
 
 namespace {
 
 QString shown(const std::string& text) {
   return QString::fromStdString(text);
-}
-
-std::string statusText(const ClsSell& bill) {
-  return "应收" + generalNumber(bill.Amount()) + " 现金" + generalNumber(bill.Cash()) + "银行卡" +
-         generalNumber(bill.BankCard()) + "储值卡" + generalNumber(bill.CardPay()) + "优惠" +
-         generalNumber(bill.Favorable()) + "找零" + generalNumber(bill.Change()) + "元";
-}
-
-std::string lastBillText(const ClsSell& bill) {
-  const std::string change = bill.FiguresFit() ? oneDecimal(bill.Change()) : kDoesNotFit;
-  return "上一单：金额 " + oneDecimal(bill.Amount()) + "实收现金" + oneDecimal(bill.Cash()) +
-         "银行卡" + oneDecimal(bill.BankCard()) + "储值卡" + oneDecimal(bill.CardPay()) + "找零" +
-         change + "  优惠" + generalNumber(bill.Favorable());
 }
 
 std::optional<Currency> amountDue(const ClsSell& bill, const ClsSysParam& rules) {
@@ -75,7 +63,7 @@ void Checkout::SettleBill() {
   if (state_.curLine) commitLine();
   if (!takePayment()) return;
   if (storeSettled(pos_, *state_.curBill)) {
-    screen_.setStatus(shown(statusText(*state_.curBill)));
+    screen_.setStatus(statusText(*state_.curBill, pos_.gSysParam));
     state_.lastBill = std::move(state_.curBill);
     printPageReceipts();
   } else {
@@ -214,7 +202,7 @@ void Checkout::ShowBillNo() {
 
 bool Checkout::showLastBill() {
   const ClsSell& last = *state_.lastBill;
-  screen_.setTitle3(shown(lastBillText(last)));
+  screen_.setTitle3(lastBillText(last, pos_.gSysParam));
   if (last.FiguresFit()) {
     display_.clientView(last.Cash() - last.Amount(), CustomerDisplay::kChange);
   }

@@ -21,7 +21,7 @@ TEST_F(CheckoutTest, cashSaleIsStoredSummedUpAndFollowedByTheNextBill) {
 
 TEST_F(CheckoutTest, leftDialogKeepsTheBillWithItsFigures) {
   setParameter("RoundYuan", "1");
-  screen.pay = [](Settlement& s) { EXPECT_EQ(s.favorableChanged("2"), "2"); };
+  screen.pay = [](Settlement& s) { EXPECT_EQ(s.figureChanged(Tender::kFavorable, "2"), "2"); };
   for (const char* due : {"12", "25", "38", "50"}) {  // halves to even, of all lines each time
     enter("水", "12.50");
     state.onEntryRow = false;  // the cashier is changing the line's quantity
@@ -63,10 +63,10 @@ TEST_F(CheckoutTest, figuresThatDoNotFitAreRefusedAndThoseOfTheFileSaid) {
   const char* const huge = "900000000000000";
   enter("水", "1.00");
   screen.pay = [&](Settlement& s) {
-    EXPECT_EQ(s.favorableChanged(huge), huge);
+    EXPECT_EQ(s.figureChanged(Tender::kFavorable, huge), huge);
     s.confirmCash(huge);
-    EXPECT_EQ(s.bankCardChanged(huge), huge);
-    EXPECT_EQ(s.payByCard("8001", "Pw1"), Settlement::CardResult::kFailed);
+    EXPECT_EQ(s.figureChanged(Tender::kBankCard, huge), huge);
+    EXPECT_FALSE(s.payByCard("8001", "Pw1"));
   };
   checkout.SettleBill();
   EXPECT_EQ(screen.said(), "没有收款：金额太大，找零算不出来。|没有收款：金额太大，找零算不出来。");
@@ -84,9 +84,7 @@ TEST_F(CheckoutTest, aPaidBillThatCannotBeStoredIsWithdrawnBeforeAnythingElseIsS
   breakStore("update on sell when new.state = 1");
   breakStore("delete on sell", "stuck");
   enter("水", "12.00", 3);
-  screen.pay = [](Settlement& s) {
-    EXPECT_EQ(s.payByCard("8001", "Pw1"), Settlement::CardResult::kPaid);
-  };
+  screen.pay = [](Settlement& s) { EXPECT_EQ(s.payByCard("8001", "Pw1"), CardOutcome::kDone); };
   int asked = 0;
   screen.asked = [&] {
     EXPECT_EQ(stored("count(*) as v from sell"), "1") << "no other bill opened";

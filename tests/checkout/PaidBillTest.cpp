@@ -14,7 +14,7 @@ class PaidBill : public CheckoutFixture {
 
   void cutAfterCash(const char* favorable) {
     screen.pay = [&](Settlement& s) {
-      static_cast<void>(s.favorableChanged(favorable));
+      static_cast<void>(s.figureChanged(Tender::kFavorable, favorable));
       s.confirmCash("20");
       throw PowerCut();
     };
