@@ -81,7 +81,7 @@ QString Settlement::change(const QString& cash) const {
   if (!amount) return {};
   ClsSell paid = bill_;
   paid.setCash(*amount);
-  return paid.FiguresFit() ? shown(oneDecimal(paid.Change())) : QString();
+  return shown(paid.FiguresFit() ? oneDecimal(paid.Change()) : kDoesNotFit);
 }
 
 void Settlement::say(const QString& text) {

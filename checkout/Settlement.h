@@ -44,8 +44,8 @@ class Settlement {
   /// The code on the payer's slip was typed or scanned; gives what the field must show.
   [[nodiscard]] QString slipChanged(const QString& text);
 
-  /// The change, one decimal, for a cash text and the bill's other figures; nothing (null) when the
-  /// text is no number.
+  /// The change, one decimal, for a cash text and the bill's other figures, or that it does not
+  /// fit; nothing (null) when the text is no number.
   [[nodiscard]] QString change(const QString& cash) const;
 
   /// Confirms with the cash text; a text that is no number leaves the bill's cash figure. What
