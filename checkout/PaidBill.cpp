@@ -5,9 +5,9 @@
 
 #include "app/posMod.h"
 #include "base/NumberText.h"
-#include "checkout/AmountDue.h"
 #include "checkout/Messages.h"
 #include "saleslib/ClsDayStat.h"
+#include "saleslib/StoredCard.h"
 #include "store/StoreError.h"
 #include "store/Transaction.h"
 
@@ -15,20 +15,14 @@ namespace {
 
 constexpr std::int16_t kSettled = 1;
 
-// Read again here, not taken from the screen: what another sale has credited since the card was
-// attached is kept.
+// A member who cannot be credited costs points, not the sale.
 void creditMember(posMod& pos, const ClsSell& bill) {
   if (bill.MemberId() == 0) return;
-  const auto member = pos.gMemberSvc.GetMemberById(bill.MemberId());
-  if (!member) return;
   try {
-    member->setTotalSpent(member->TotalSpent() + bill.Amount());
-  } catch (const Overflow&) {
+    creditPurchase(*pos.gConn, bill.MemberId(), bill.Amount(), pos.gSysParam.PointUnit());
+  } catch (const StoreError&) {
     return;
   }
-  const auto points = pointsAfter(bill.Amount(), pos.gSysParam.PointUnit(), member->Points());
-  if (points) member->setPoints(*points);
-  static_cast<void>(member->Save());
 }
 
 QString billText(const ClsSell& bill) {

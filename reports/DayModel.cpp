@@ -4,7 +4,8 @@
 
 #include "base/NumberText.h"
 
-DayModel::DayModel(QObject* parent) : QAbstractTableModel(parent) {}
+DayModel::DayModel(std::vector<const TenderKind*> tenders, QObject* parent)
+    : QAbstractTableModel(parent), tenders_(std::move(tenders)) {}
 
 void DayModel::show(ClsDayStat::Sells_t bills, const QString& operatorName) {
   beginResetModel();
@@ -18,7 +19,7 @@ int DayModel::rowCount(const QModelIndex& parent) const {
 }
 
 int DayModel::columnCount(const QModelIndex& parent) const {
-  return parent.isValid() ? 0 : kColumns;
+  return parent.isValid() ? 0 : kColumns + static_cast<int>(tenders_.size());
 }
 
 QString DayModel::text(const ClsSell& bill, int column) const {
@@ -31,8 +32,10 @@ QString DayModel::text(const ClsSell& bill, int column) const {
       return QString::fromStdString(generalNumber(bill.Quantity()));
     case kTime:
       return QString::fromStdString(generalText(bill.SellTime()));
-    default:
+    case kOperator:
       return operatorName_;
+    default:
+      return QString::fromStdString(twoDecimals(bill.Tendered(tender(column).tender)));
   }
 }
 
@@ -40,7 +43,7 @@ QVariant DayModel::data(const QModelIndex& index, int role) const {
   if (!index.isValid()) return {};
   if (role == Qt::DisplayRole)
     return text(*bills_[static_cast<std::size_t>(index.row())], index.column());
-  if (role == Qt::TextAlignmentRole && index.column() <= kQuantity)
+  if (role == Qt::TextAlignmentRole && isFigure(index.column()))
     return int(Qt::AlignRight | Qt::AlignVCenter);
   return {};
 }
@@ -48,9 +51,10 @@ QVariant DayModel::data(const QModelIndex& index, int role) const {
 QVariant DayModel::headerData(int section, Qt::Orientation orientation, int role) const {
   const QString headers[kColumns] = {tr("流水号"), tr("金额"), tr("商品数量"), tr("时间"),
                                      tr("收银员")};
-  if (orientation != Qt::Horizontal || section < 0 || section >= kColumns) return {};
-  if (role == Qt::DisplayRole) return headers[section];
-  if (role == Qt::TextAlignmentRole && section <= kQuantity)
+  if (orientation != Qt::Horizontal || section < 0 || section >= columnCount()) return {};
+  if (role == Qt::DisplayRole)
+    return section < kColumns ? headers[section] : tr(tender(section).name);
+  if (role == Qt::TextAlignmentRole && isFigure(section))
     return int(Qt::AlignRight | Qt::AlignVCenter);
   return {};
 }

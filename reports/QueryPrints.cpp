@@ -28,6 +28,12 @@ std::string totalsLine(const ResultList& list) {
          list.text(totals, kColumnMoney) + " ";
 }
 
+std::vector<std::string> tenderLines(const ResultList& list) {
+  std::vector<std::string> lines;
+  for (const TenderSum& tender : list.tenders()) lines.push_back("其中" + tender.text());
+  return lines;
+}
+
 /// Adds lines below each other from `y` on; gives the place below the last one.
 int addLines(PageDocument& page, int y, const std::vector<std::string>& lines) {
   for (const std::string& line : lines) {
@@ -82,6 +88,7 @@ PageDocument reportPage(const ResultList& list, const DateTime& start, const Dat
     lines.emplace_back();
   }
   lines.push_back(totalsLine(list));
+  for (const std::string& line : tenderLines(list)) lines.push_back(line);
   return pageOfLines("库存报表", lines);
 }
 
@@ -94,9 +101,10 @@ PageDocument reprintPage(const ResultList& list, const std::string& billNo, cons
       page, 0,
       {"       " + shop.ShopName(), "**********补打小票********", "打印时间" + generalText(now),
        "单号：" + trimmed(billNo), "交易时间" + list.text(0, kColumnTime)});
-  const int y = addGoods(page, list);
+  int y = addLines(page, addGoods(page, list), {totalsLine(list)});
+  y = addLines(page, y, tenderLines(list));
   addLines(page, y,
-           {totalsLine(list), shop.ReceiptText2(), shop.ReceiptText1(), shop.ReceiptText3(),
-            shop.ReceiptText4(), shop.ReceiptText5(), shop.ReceiptText6()});
+           {shop.ReceiptText2(), shop.ReceiptText1(), shop.ReceiptText3(), shop.ReceiptText4(),
+            shop.ReceiptText5(), shop.ReceiptText6()});
   return page;
 }

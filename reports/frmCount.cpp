@@ -26,15 +26,17 @@ namespace {
 
 constexpr int kHeight = 7380;
 constexpr int kColumnWidths[] = {1764, 1764, 2540, 4410, 2540};
+constexpr int kTenderWidth = 1764;
 constexpr int kBesideList = 900;  // margins, frame and scroll bar
 
 // As wide as its columns: a cashier with large type should not have to scroll sideways.
-int formWidth() {
-  return std::accumulate(std::begin(kColumnWidths), std::end(kColumnWidths), kBesideList);
+int formWidth(int tenderColumns) {
+  return std::accumulate(std::begin(kColumnWidths), std::end(kColumnWidths),
+                         kBesideList + tenderColumns * kTenderWidth);
 }
 
-ShiftSheet sheetOf(const ClsDayStat& day) {
-  return {day.Sells().size(), day.SumQuantity(), day.SumMoney()};
+ShiftSheet sheetOf(const ClsDayStat& day, const ClsSysParam& rules) {
+  return {day.Sells().size(), day.SumQuantity(), day.SumMoney(), tenderSums(day, rules)};
 }
 
 /// Other ports have no sheet.
@@ -54,10 +56,11 @@ bool canPrint(const std::string& port) {
 }  // namespace
 
 frmCount::frmCount(posMod& pos, QWidget* parent)
-    : QDialog(parent), pos_(pos), model_(new DayModel(this)) {
+    : QDialog(parent), pos_(pos), model_(new DayModel(optionalTenders(pos.gSysParam), this)) {
   setObjectName("frmCount");
   setWindowTitle(tr("销售统计"));
-  resize(pixels(formWidth()), pixels(kHeight));
+  resize(pixels(formWidth(model_->columnCount() - static_cast<int>(std::size(kColumnWidths)))),
+         pixels(kHeight));
   build();
   new KeyPreview(this, [this](int key) {
     if (key == 0 || key != pos_.gKeyBoard.mEsc) return false;
@@ -77,6 +80,7 @@ void frmCount::build() {
   lookLikeReport(*listSell_);
   int column = 0;
   for (const int width : kColumnWidths) listSell_->setColumnWidth(column++, pixels(width));
+  while (column < model_->columnCount()) listSell_->setColumnWidth(column++, pixels(kTenderWidth));
   lblMsg_ = new QLabel;
   lblMsg_->setObjectName("lblMsg");
   lblMsg_->setWordWrap(true);
@@ -119,16 +123,20 @@ ClsDayStat frmCount::today() const {
 
 void frmCount::show(const ClsDayStat& day) {
   model_->show(day.Sells(), QString::fromStdString(pos_.gOperator->Name()));
-  lblMsg_->setText(tr("今日累计发生 [%1] 笔交易，共交易 [%2] 件商品，交易额 [%3] 元")
-                       .arg(QString::number(day.Sells().size()),
-                            QString::fromStdString(generalNumber(day.SumQuantity())),
-                            QString::fromStdString(sumText(day.SumMoney()))));
+  QString summary = tr("今日累计发生 [%1] 笔交易，共交易 [%2] 件商品，交易额 [%3] 元")
+                        .arg(QString::number(day.Sells().size()),
+                             QString::fromStdString(generalNumber(day.SumQuantity())),
+                             QString::fromStdString(sumText(day.SumMoney())));
+  for (const TenderSum& tender : tenderSums(day, pos_.gSysParam)) {
+    summary += tr("，其中%1").arg(QString::fromStdString(tender.text()));
+  }
+  lblMsg_->setText(summary);
 }
 
 void frmCount::printSheet() {
   if (!canPrint(pos_.gPosSet.PPort)) return;
   try {
-    print(pos_, sheetOf(today()));
+    print(pos_, sheetOf(today(), pos_.gSysParam));
   } catch (const PortError& error) {
     messageBox(this, QString::fromUtf8(error.what()));
   }

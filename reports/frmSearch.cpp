@@ -78,6 +78,7 @@ void frmSearch::build() {
 
 void frmSearch::load() {
   const Date today = pos_.clock().date;
+  if (takesSlips()) Frame5_->askForSlips();
   Frame5_->DtBegin->setDate(today);
   Frame5_->Dtfinish->setDate(today);
   const Recordset categories = pos_.gConn->Open("select  SPLBMC from SP_LB order by SPLB_ID");
@@ -160,7 +161,8 @@ void frmSearch::search() {
   printWhenFound_ = false;
   if (export_.isRunning() || !Frame5_->check()) return;
   stopQuery();
-  const SearchCriteria wanted = Frame5_->criteria();
+  SearchCriteria wanted = Frame5_->criteria();
+  wanted.takesSlips = takesSlips();
   checkOrder(wanted);
   checkQuantityLimit();
   const std::optional<std::string> statement = searchStatement(wanted);
@@ -171,7 +173,12 @@ void frmSearch::search() {
   }
   asked_ = wanted;
   Frame5_->showWork(tr("正在查询…") + howToStop(), 0, 0);
-  query_->start(*statement);
+  const auto kinds = optionalTenders(pos_.gSysParam);
+  query_->start({*statement, kinds, tenderStatement(wanted, kinds)});
+}
+
+bool frmSearch::takesSlips() const {
+  return pos_.gSysParam.Takes(tenderKind(Tender::kPhone));
 }
 
 void frmSearch::addPage(const SoldPage& page) {
@@ -182,7 +189,11 @@ void frmSearch::addPage(const SoldPage& page) {
 void frmSearch::showAll() {
   ListView1_->complete();
   found_ = asked_;
-  Frame5_->showIdle(tr("共 %L1 行。在列表中按空格键排序。").arg(ListView1_->lineCount()));
+  QString state = tr("共 %L1 行。在列表中按空格键排序。").arg(ListView1_->lineCount());
+  for (const TenderSum& tender : ListView1_->list()->tenders()) {
+    state += tr("其中%1。").arg(QString::fromStdString(tender.text()));
+  }
+  Frame5_->showIdle(state);
   if (std::exchange(printWhenFound_, false)) printReceipt();
 }
 
@@ -222,8 +233,11 @@ void frmSearch::printReport() {
 
 void frmSearch::printReceipt() {
   if (!hasList(tr("没有可打印的内容！"))) return;
-  print(reprintPage(*ListView1_->list(), Frame5_->numberSerch->text().toStdString(), pos_.gSysParam,
-                    pos_.clock()));
+  const ResultList& list = *ListView1_->list();
+  const bool bySlip = takesSlips() && list.lineCount() > 0;
+  const std::string number =
+      bySlip ? list.text(0, kColumnBill) : Frame5_->numberSerch->text().toStdString();
+  print(reprintPage(list, number, pos_.gSysParam, pos_.clock()));
 }
 
 // The query shows what is printed, so that the cashier sees which bill it was.
@@ -258,6 +272,9 @@ void frmSearch::exportList() {
 void frmSearch::exportTo(const std::filesystem::path& file) {
   std::vector<std::string> above = criteriaText(found_);
   above.insert(above.begin(), windowTitle().toStdString());
+  for (const TenderSum& tender : ListView1_->list()->tenders()) {
+    above.push_back("其中" + tender.text());
+  }
   const std::shared_ptr<const ResultList> list = ListView1_->list();
   const int all = static_cast<int>(list->rowCount());
   const auto show = [&](std::size_t rows) {

@@ -40,6 +40,7 @@ class frmSearch : public QDialog {
   void checkOrder(const SearchCriteria& wanted);
   void checkQuantityLimit();
   void search();
+  bool takesSlips() const;
   void addPage(const SoldPage& page);
   void showAll();
   void stopQuery();

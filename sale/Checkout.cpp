@@ -8,6 +8,7 @@
 #include "checkout/AmountDue.h"
 #include "checkout/PaidBill.h"
 #include "checkout/Settlement.h"
+#include "checkout/SettlementTexts.h"
 #include "sale/Sale.h"
 #include "sale/SaleDevices.h"
 #include "sale/SaleScreen.h"
@@ -40,7 +41,7 @@ void Checkout::SettleBill() {
   if (!takePayment()) return;
   ensure(sale_.bill()->Paid(), "a bill is stored as settled after its payment is durable");
   if (storeSettled(pos_, *sale_.bill())) {
-    sale_.settle();
+    sale_.settle(statusText(*sale_.bill(), pos_.gSysParam));
     screen_.show(sale_.picture());
     devices_.printReceipts(*sale_.last());
   } else {
@@ -144,6 +145,7 @@ QString Checkout::operatorGone() const {
 void Checkout::followLastBill() {
   if (!sale_.last()) return;
   const ClsSell& last = *sale_.last();
+  sale_.setPrevious(lastBillText(last, pos_.gSysParam));
   if (last.FiguresFit()) {
     devices_.display.clientView(last.Cash() - last.Amount(), CustomerDisplay::kChange);
   }

@@ -30,8 +30,8 @@ class Checkout {
   /// to try again; after a No the program ends, and there is no bill. Ends the program when the
   /// clock is behind the previous bill.
   void PrepareNextBill();
-  /// The previous bill's change on the display; ends the program when the clock is behind that
-  /// bill. For a bill that has just begun.
+  /// Tells of the bill before, and of its change on the display; ends the program when the clock is
+  /// behind that bill. For a bill that has just begun.
   void followLastBill();
   /// Who sells. Needs an operator logged in.
   const ClsOperator& cashier() const;

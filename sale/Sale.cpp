@@ -39,7 +39,6 @@ void Sale::begin(Bill bill, const std::string& cashier) {
   clear();
   bill_ = std::move(bill);
   title1_ = sale_texts::billTitle(*bill_, cashier);
-  if (last_) title3_ = sale_texts::previousBill(*last_);
   replaceInput_ = false;
   check();
 }
@@ -118,10 +117,10 @@ void Sale::recall(const BillBooks::Recalled& recalled, const std::string& cashie
   check();
 }
 
-void Sale::settle() {
+void Sale::settle(const QString& status) {
   ensure(bill_ && !line_ && bill_->State() == 1, "a settled bill has all its lines");
   last_ = bill_;
-  status_ = sale_texts::settled(*bill_);
+  status_ = status;
   check();
 }
 

@@ -46,7 +46,7 @@ class Sale {
   /// A held bill takes the place of the empty one; all its lines are committed.
   void recall(const BillBooks::Recalled& recalled, const std::string& cashier);
   /// The bill is settled and stays on the screen until the next one begins.
-  void settle();
+  void settle(const QString& status);
   /// The member that counts for the bill, or none, with the lines that tell of it.
   void attach(std::shared_ptr<ClsMember> member, const QString& info);
   /// The bill that was settled last, by whichever till.
@@ -76,6 +76,8 @@ class Sale {
   const QString& input() const { return input_; }
 
   void setStatus(const QString& text) { status_ = text; }
+  /// The heading that tells of the bill before.
+  void setPrevious(const QString& text) { title3_ = text; }
 
   // What there is
 

@@ -20,10 +20,6 @@ QString general(const Number& number) {
   return of(generalNumber(number));
 }
 
-QString oneDigit(Currency amount) {
-  return of(oneDecimal(amount));
-}
-
 }  // namespace
 
 QString of(const std::string& utf8) {
@@ -32,13 +28,6 @@ QString of(const std::string& utf8) {
 
 QString billTitle(const ClsSell& bill, const std::string& cashier) {
   return tr("流水号：%1   收银员：%2").arg(QString::number(bill.BillNo()), of(cashier));
-}
-
-QString previousBill(const ClsSell& bill) {
-  return tr("上一单：金额 %1实收现金%2银行卡%3储值卡%4找零%5  优惠%6")
-      .arg(oneDigit(bill.Amount()), oneDigit(bill.Cash()), oneDigit(bill.BankCard()),
-           oneDigit(bill.CardPay()), bill.FiguresFit() ? oneDigit(bill.Change()) : of(kDoesNotFit),
-           general(bill.Favorable()));
 }
 
 QString rung(const SaleFigures& figures, const std::string& due) {
@@ -50,12 +39,6 @@ QString removed(const ClsSell& bill, const SaleFigures& figures) {
   return tr("%1件商品，原价总计%2合计%3元")
       .arg(general(bill.Quantity()), QString::number(figures.originalPrice),
            general(bill.Amount()));
-}
-
-QString settled(const ClsSell& bill) {
-  return tr("应收%1 现金%2银行卡%3储值卡%4优惠%5找零%6元")
-      .arg(general(bill.Amount()), general(bill.Cash()), general(bill.BankCard()),
-           general(bill.CardPay()), general(bill.Favorable()), general(bill.Change()));
 }
 
 QString recalled(const ClsSell& bill) {

@@ -17,15 +17,13 @@ namespace sale_texts {
 
 QString of(const std::string& utf8);
 
-/// Headings: bill number and cashier; the bill before.
+/// Heading: bill number and cashier.
 QString billTitle(const ClsSell& bill, const std::string& cashier);
-QString previousBill(const ClsSell& bill);
 
-/// Status line, after a line was rung or changed, or removed; after a bill was settled, or
-/// recalled. `due` is the amount due after the shop's rounding.
+/// Status line, after a line was rung or changed, or removed; after a bill was recalled. `due` is
+/// the amount due after the shop's rounding.
 QString rung(const SaleFigures& figures, const std::string& due);
 QString removed(const ClsSell& bill, const SaleFigures& figures);
-QString settled(const ClsSell& bill);
 QString recalled(const ClsSell& bill);
 
 /// The member's lines; `latest` is the member's last purchase, or none.

@@ -18,3 +18,6 @@ std::string storedCardNumber(std::string_view typed);
 std::vector<std::string> memberNumbers(std::string_view typed);
 /// As memberNumbers, for a card that is to be topped up: at last without its small letters too.
 std::vector<std::string> storedCardNumbers(std::string_view typed);
+/// As memberNumbers, for a card that pays: only a swiped track loses its small letters, so that
+/// "vip10" is not the card 10.
+std::vector<std::string> payingCardNumbers(std::string_view typed);

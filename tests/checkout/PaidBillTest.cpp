@@ -12,7 +12,7 @@ class PaidBill : public CheckoutFixture {
  protected:
   void cutAfterCash(const char* favorable) {
     Settlement taken = settlement();
-    static_cast<void>(taken.favorableChanged(favorable));
+    static_cast<void>(taken.figureChanged(Tender::kFavorable, favorable));
     taken.confirmCash("20");
   }
 };

@@ -128,8 +128,7 @@ class BooksTest : public TillFixture {
     ShopModel::Member& payer = anyOf(shop.members);
     till.pay = [&payer](Settlement& payment) {
       if (payment.payByCard(QString::fromStdString(payer.card),
-                            QString::fromStdString(payer.password)) ==
-          Settlement::CardResult::kPaid) {
+                            QString::fromStdString(payer.password)) == CardOutcome::kDone) {
         payment.sayCardPaid();
       }
     };
@@ -162,7 +161,8 @@ class BooksTest : public TillFixture {
     shop.topUp(member, amount);
     storeTopUp(*pos.gConn,
                {member.card, Currency::fromScaled(amount * 100), Currency::fromScaled(amount * 100),
-                Currency::fromScaled(member.balance * 100), ""});
+                Currency::fromScaled(member.balance * 100), "",
+                Currency::fromScaled((member.balance - amount) * 100)});
   }
   /// The owner counts the goods and writes down what is there, which may be less than was thought.
   void countStock() {

@@ -42,7 +42,7 @@ TEST_F(CheckoutTest, cashSaleIsStoredSummedUpAndFollowedByTheNextBill) {
 
 TEST_F(CheckoutTest, leftDialogKeepsTheBillWithItsFigures) {
   setParameter("RoundYuan", "1");
-  till.pay = [](Settlement& s) { EXPECT_EQ(s.favorableChanged("2"), "2"); };
+  till.pay = [](Settlement& s) { EXPECT_EQ(s.figureChanged(Tender::kFavorable, "2"), "2"); };
   for (const char* due : {"12", "25", "38", "50"}) {  // halves to even, of all lines each time
     ring("12.50");
     press(kUp);  // the cashier is changing the line's quantity
@@ -82,10 +82,10 @@ TEST_F(CheckoutTest, figuresThatDoNotFitAreRefusedAndThoseOfTheFileSaid) {
   const char* const huge = "900000000000000";
   ring("1.00");
   till.pay = [&](Settlement& s) {
-    EXPECT_EQ(s.favorableChanged(huge), huge);
+    EXPECT_EQ(s.figureChanged(Tender::kFavorable, huge), huge);
     s.confirmCash(huge);
-    EXPECT_EQ(s.bankCardChanged(huge), huge);
-    EXPECT_EQ(s.payByCard("8001", "Pw1"), Settlement::CardResult::kFailed);
+    EXPECT_EQ(s.figureChanged(Tender::kBankCard, huge), huge);
+    EXPECT_FALSE(s.payByCard("8001", "Pw1"));
   };
   settle();
   EXPECT_EQ(till.said(), "没有收款：金额太大，找零算不出来。|没有收款：金额太大，找零算不出来。");
@@ -106,9 +106,7 @@ TEST_F(CheckoutTest, aPaidBillThatCannotBeStoredIsWithdrawnBeforeAnythingElseIsS
   breakStore("update on sell when new.state = 1");
   breakStore("delete on sell", "stuck");
   ring("12.00", 3);
-  till.pay = [](Settlement& s) {
-    EXPECT_EQ(s.payByCard("8001", "Pw1"), Settlement::CardResult::kPaid);
-  };
+  till.pay = [](Settlement& s) { EXPECT_EQ(s.payByCard("8001", "Pw1"), CardOutcome::kDone); };
   int asked = 0;
   till.asked = [&] {
     EXPECT_EQ(stored("count(*) as v from sell"), "1") << "no other bill opened";
