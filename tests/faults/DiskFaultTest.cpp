@@ -44,13 +44,13 @@ class DiskFaultTest : public FaultyTill, public testing::WithParamInterface<Faul
   /// The cashier rings, settles and goes on to the next bill. What was told is what counts.
   void sellOne(Tender tender, bool member) {
     const auto last = session.sale().last();
-    const std::int32_t bill = bill().BillNo();
+    const std::int32_t number = bill().BillNo();
     const std::size_t told = till.messages.size();
     ringGoods();
     if (member) attachMember();
     settle(tender);
     const bool done = session.sale().last() != last;
-    if (done) settledBills.push_back(bill);
+    if (done) settledBills.push_back(number);
     EXPECT_TRUE(done || till.messages.size() > told) << "the cashier is told";
     countChargeInVain(told, tender);
   }
