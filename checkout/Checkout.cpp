@@ -5,14 +5,14 @@
 #include "checkout/AmountDue.h"
 #include "checkout/BillStock.h"
 #include "checkout/CurrentLine.h"
-#include "checkout/CustomerDisplay.h"
 #include "checkout/LineReceipt.h"
 #include "checkout/PageReceipt.h"
 #include "checkout/PaidBill.h"
-#include "checkout/PrintMode.h"
+#include "checkout/ReceiptLines.h"
 #include "checkout/SaleScreen.h"
 #include "checkout/SaleState.h"
 #include "checkout/Settlement.h"
+#include "devices/Devices.h"
 #include "store/StoreError.h"
 
 namespace {
@@ -57,14 +57,9 @@ std::string purchaseText(const ClsSell& bill) {
 
 }  // namespace
 
-Checkout::Checkout(posMod& pos, SaleState& state, SaleScreen& screen, CustomerDisplay& display,
+Checkout::Checkout(posMod& pos, SaleState& state, SaleScreen& screen, Devices& devices,
                    LineReceipt& receipt)
-    : pos_(pos),
-      state_(state),
-      screen_(screen),
-      display_(display),
-      receipt_(receipt),
-      pagePrinter_([&screen](const QString& text) { screen.ShowMessage(text); }) {}
+    : pos_(pos), state_(state), screen_(screen), devices_(devices), receipt_(receipt) {}
 
 void Checkout::SettleBill() {
   if (!state_.curLine && state_.curBill->Items().empty()) {
@@ -109,7 +104,9 @@ bool Checkout::takePayment() {
     return false;
   }
   state_.curBill->setAmount(*due);
-  Settlement settlement(pos_, *state_.curBill, display_, receipt_, screen_);
+  ClsSell& bill = *state_.curBill;
+  Settlement settlement(pos_, bill, devices_.display(), screen_,
+                        [&] { receipt_.PrintFoot(bill, receiptFacts()); });
   return screen_.settle(settlement);
 }
 
@@ -137,9 +134,12 @@ void Checkout::withdrawDropped() {
   dropped_ = nullptr;
 }
 
+ReceiptFacts Checkout::receiptFacts() const {
+  return {pos_.gOperator->Code(), state_.curMember, state_.origTotal};
+}
+
 void Checkout::printPageReceipts() {
-  if (pos_.gPosSet.PPort != "USB") return;
-  const PrintMode mode = PrintMode::of(pos_.gPosSet.printAmount);
+  const PrintMode mode = devices_.printer().mode();
   int copies = mode.copies;
   if (mode.asks && screen_.askYesNo(tr("确定要打印吗"), tr("提示"), mode.yesPreselected))
     copies = 1;
@@ -148,12 +148,13 @@ void Checkout::printPageReceipts() {
 
 void Checkout::printOurP() {
   if (!state_.lastBill) return;
-  try {
-    pos_.ports.pagePrinter(pos_.gPosSet.PModel)->print(pageReceipt(pos_, state_));
-    pagePrinter_.worked();
-  } catch (const Failure& error) {
-    pagePrinter_.failed(QString::fromUtf8(error.what()));
-  }
+  const ClsSell& bill = *state_.lastBill;
+  devices_.print([&](ReceiptPrinter& printer) {
+    ReceiptFacts facts = receiptFacts();
+    facts.member = pos_.gMemberSvc.GetMemberById(bill.MemberId());  // with the points credited
+    printer.print(
+        pageReceipt(bill, facts, pos_.gSysParam, printer.paper(), pos_.gPosSet.printOption));
+  });
 }
 
 void Checkout::PrepareNextBill() {
@@ -216,7 +217,7 @@ bool Checkout::showLastBill() {
   const ClsSell& last = *state_.lastBill;
   screen_.setTitle3(shown(lastBillText(last)));
   if (last.FiguresFit()) {
-    display_.clientView(last.Cash() - last.Amount(), CustomerDisplay::kChange);
+    devices_.display().clientView(last.Cash() - last.Amount(), CustomerDisplay::kChange);
   }
   if (last.SellTime().date <= state_.curBill->SellTime().date) return true;
   screen_.ShowMessage(tr("日期或时间错误！将退出销售，请与管理员联系"));

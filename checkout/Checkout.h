@@ -3,13 +3,12 @@
 #include <QCoreApplication>
 #include <memory>
 
-#include "checkout/Outage.h"
-
 class ClsSell;
-class CustomerDisplay;
+class Devices;
 class LineReceipt;
 class posMod;
 class SaleScreen;
+struct ReceiptFacts;
 struct SaleState;
 
 /// From the settle key to the next empty bill.
@@ -17,7 +16,7 @@ class Checkout {
   Q_DECLARE_TR_FUNCTIONS(Checkout)
 
  public:
-  Checkout(posMod& pos, SaleState& state, SaleScreen& screen, CustomerDisplay& display,
+  Checkout(posMod& pos, SaleState& state, SaleScreen& screen, Devices& devices,
            LineReceipt& receipt);
 
   /// Takes payment for the open bill, stores it and credits the member in one transaction, prints,
@@ -44,6 +43,7 @@ class Checkout {
 
  private:
   bool canStore();
+  ReceiptFacts receiptFacts() const;
   void commitLine();
   bool takePayment();
   void dropUnstored();
@@ -56,9 +56,8 @@ class Checkout {
   posMod& pos_;
   SaleState& state_;
   SaleScreen& screen_;
-  CustomerDisplay& display_;
+  Devices& devices_;
   LineReceipt& receipt_;
-  Outage pagePrinter_;
   /// Paid, but could not be stored; still in the data file until it can be voided there. Nothing is
   /// stored before that, so that the bill is not both completed at the next opening and entered
   /// again.

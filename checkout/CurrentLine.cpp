@@ -29,6 +29,6 @@ void joinCurrentLine(SaleState& state) {
 
 void commitCurrentLine(SaleState& state, LineReceipt& receipt) {
   addToBill(state);
-  receipt.PrintLine();
+  receipt.PrintLine(*state.curLine);
   state.curLine = nullptr;
 }

@@ -6,7 +6,6 @@
 #include <string>
 #include <vector>
 
-#include "checkout/ReceiptColumns.h"
 #include "saleslib/ClsMember.h"
 #include "saleslib/ClsSell.h"
 #include "saleslib/ClsSellItem.h"
@@ -48,10 +47,6 @@ struct SaleState {
   bool clearOnKey = false;  ///< the next key press first empties the input line
   bool menuIdle = true;     ///< the function menu is not open
 
-  bool linePrint = false;  ///< print each committed line at once
-  ReceiptColumns receiptCols;
-  bool hasDrawer = false;
-  bool hasDisplay = false;
   std::int64_t origTotal = 0;  ///< original-price figure of the status line
 
   /// The column that the editor is on.

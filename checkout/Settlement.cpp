@@ -3,10 +3,9 @@
 #include "app/posMod.h"
 #include "base/NumberText.h"
 #include "base/Text.h"
-#include "checkout/CustomerDisplay.h"
 #include "checkout/FigureCheck.h"
-#include "checkout/LineReceipt.h"
 #include "checkout/SaleScreen.h"
+#include "devices/CustomerDisplay.h"
 #include "saleslib/CardNumber.h"
 #include "saleslib/ClsSell.h"
 #include "store/Literal.h"
@@ -35,9 +34,13 @@ std::vector<std::string> cardNumbers(const std::string& typed) {
 
 }  // namespace
 
-Settlement::Settlement(posMod& pos, ClsSell& bill, CustomerDisplay& display, LineReceipt& receipt,
-                       SaleScreen& screen)
-    : pos_(pos), bill_(bill), display_(display), receipt_(receipt), screen_(screen) {}
+Settlement::Settlement(posMod& pos, ClsSell& bill, CustomerDisplay& display, SaleScreen& screen,
+                       std::function<void()> printFoot)
+    : pos_(pos),
+      bill_(bill),
+      display_(display),
+      screen_(screen),
+      printFoot_(std::move(printFoot)) {}
 
 void Settlement::begin() {
   display_.clientView(bill_.Amount(), CustomerDisplay::kTotal);
@@ -206,5 +209,5 @@ void Settlement::sayCardPaid() {
 
 void Settlement::showAndPrint() {
   display_.clientView(bill_.Cash(), CustomerDisplay::kReceived);
-  receipt_.PrintFoot();
+  printFoot_();
 }

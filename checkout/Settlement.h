@@ -2,13 +2,13 @@
 
 #include <QCoreApplication>
 #include <QString>
+#include <functional>
 #include <string>
 
 #include "base/Currency.h"
 
 class ClsSell;
 class CustomerDisplay;
-class LineReceipt;
 class posMod;
 class SaleScreen;
 
@@ -19,9 +19,10 @@ class Settlement {
   Q_DECLARE_TR_FUNCTIONS(Settlement)
 
  public:
-  /// Messages and questions come in the screen's message boxes.
-  Settlement(posMod& pos, ClsSell& bill, CustomerDisplay& display, LineReceipt& receipt,
-             SaleScreen& screen);
+  /// Messages and questions come in the screen's message boxes. `printFoot` is called once payment
+  /// is durable and shown.
+  Settlement(posMod& pos, ClsSell& bill, CustomerDisplay& display, SaleScreen& screen,
+             std::function<void()> printFoot);
 
   /// The dialog opens: shows the amount due on the customer display.
   void begin();
@@ -76,8 +77,8 @@ class Settlement {
   posMod& pos_;
   ClsSell& bill_;
   CustomerDisplay& display_;
-  LineReceipt& receipt_;
   SaleScreen& screen_;
+  std::function<void()> printFoot_;
   Currency cardBalance_;  ///< left on the card after payByCard
   bool settled_ = false;
 };

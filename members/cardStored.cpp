@@ -12,6 +12,7 @@
 #include "base/Failure.h"
 #include "base/NumberText.h"
 #include "base/Text.h"
+#include "devices/ReceiptPrinter.h"
 #include "members/TopUpSlip.h"
 #include "platform/VirtualKey.h"
 #include "saleslib/CardNumber.h"
@@ -204,7 +205,7 @@ void cardStored::store() {
   }
   messageBox(this, tr("充值成功！本次充值%1,充值后卡内余额%2  ")
                        .arg(shown(generalNumber(topUp->credited)), afterMoney_->text()));
-  if (pos_.gPosSet.PPort == "USB") printSlip();
+  printSlip();
   accept();
 }
 
@@ -213,7 +214,7 @@ void cardStored::printSlip() {
   try {
     const SlipTexts texts{textOf(txtBh_), textOf(beforeMoney_), textOf(inMoney_), textOf(addMoney_),
                           textOf(afterMoney_)};
-    pos_.ports.pagePrinter(pos_.gPosSet.PModel)->print(topUpSlip(pos_.gSysParam, texts));
+    ReceiptPrinter::ofSettings(pos_.gPosSet, *pos_.ports)->print(topUpSlip(pos_.gSysParam, texts));
   } catch (const Failure& error) {
     messageBox(this, QString::fromUtf8(error.what()));
   }

@@ -2,10 +2,9 @@
 
 #include <cstddef>
 #include <optional>
-#include <string>
-#include <vector>
 
 #include "base/Currency.h"
+#include "devices/ReceiptPrinter.h"
 
 /// The hand-over sheet of a shift.
 struct ShiftSheet {
@@ -13,6 +12,6 @@ struct ShiftSheet {
   double quantity = 0;
   std::optional<Currency> money;  ///< nothing when the sum does not fit
 
-  /// The sheet line by line: the figures, and two lines to sign on.
-  std::vector<std::string> lines() const;
+  /// The figures, and two lines to sign on.
+  LineDocument document() const;
 };

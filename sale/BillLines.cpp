@@ -10,11 +10,11 @@
 #include "checkout/BillStock.h"
 #include "checkout/Checkout.h"
 #include "checkout/CurrentLine.h"
-#include "checkout/CustomerDisplay.h"
 #include "checkout/FigureCheck.h"
 #include "checkout/LineReceipt.h"
 #include "checkout/SaleScreen.h"
 #include "checkout/SaleState.h"
+#include "devices/Devices.h"
 #include "sale/EditedCell.h"
 #include "sale/ItemLookup.h"
 #include "sale/LineRow.h"
@@ -54,15 +54,14 @@ struct BillLines::Shown {
 };
 
 BillLines::BillLines(posMod& pos, SaleState& state, SaleScreen& screen, EditedCell& cell,
-                     ItemLookup& lookup, Checkout& checkout, CustomerDisplay& display,
-                     LineReceipt& receipt)
+                     ItemLookup& lookup, Checkout& checkout, Devices& devices, LineReceipt& receipt)
     : pos_(pos),
       state_(state),
       screen_(screen),
       cell_(cell),
       lookup_(lookup),
       checkout_(checkout),
-      display_(display),
+      devices_(devices),
       receipt_(receipt) {}
 
 void BillLines::Enter() {
@@ -203,7 +202,7 @@ void BillLines::show(Shown shown) {
   screen_.rowsChanged();
   if (shown.isNew) screen_.PlaceEditor();
   screen_.setStatus(shown.status);
-  display_.clientView(state_.curLine->Price(), CustomerDisplay::kPrice);
+  devices_.display().clientView(state_.curLine->Price(), CustomerDisplay::kPrice);
 }
 
 bool BillLines::guarded(const std::function<bool()>& work) {
@@ -245,7 +244,7 @@ QString BillLines::statusText(std::int64_t figure) const {
 }
 
 void BillLines::CancelBill() {
-  receipt_.FeedLines();
+  receipt_.FeedLines(*state_.curBill);
   if (state_.curBill->Items().empty() && !state_.curLine) {
     screen_.ShowMessage(tr("没有商品，无需删除！"));
     return;

@@ -7,7 +7,7 @@
 #include <optional>
 
 class Checkout;
-class CustomerDisplay;
+class Devices;
 class EditedCell;
 class ItemLookup;
 class LineReceipt;
@@ -24,7 +24,7 @@ class BillLines {
 
  public:
   BillLines(posMod& pos, SaleState& state, SaleScreen& screen, EditedCell& cell, ItemLookup& lookup,
-            Checkout& checkout, CustomerDisplay& display, LineReceipt& receipt);
+            Checkout& checkout, Devices& devices, LineReceipt& receipt);
 
   /// The mapped Enter key on the input line.
   void Enter();
@@ -67,6 +67,6 @@ class BillLines {
   EditedCell& cell_;
   ItemLookup& lookup_;
   Checkout& checkout_;
-  CustomerDisplay& display_;
+  Devices& devices_;
   LineReceipt& receipt_;
 };

@@ -9,10 +9,10 @@
 #include "base/NumberText.h"
 #include "checkout/Checkout.h"
 #include "checkout/CurrentLine.h"
-#include "checkout/CustomerDisplay.h"
 #include "checkout/LineReceipt.h"
 #include "checkout/SaleScreen.h"
 #include "checkout/SaleState.h"
+#include "devices/Devices.h"
 #include "sale/LineRow.h"
 #include "sale/MemberCard.h"
 #include "sale/OriginalPrice.h"
@@ -38,17 +38,17 @@ struct HeldBills::Recalled {
 };
 
 HeldBills::HeldBills(posMod& pos, SaleState& state, SaleScreen& screen, Checkout& checkout,
-                     MemberCard& memberCard, CustomerDisplay& display, LineReceipt& receipt)
+                     MemberCard& memberCard, Devices& devices, LineReceipt& receipt)
     : pos_(pos),
       state_(state),
       screen_(screen),
       checkout_(checkout),
       memberCard_(memberCard),
-      display_(display),
+      devices_(devices),
       receipt_(receipt) {}
 
 void HeldBills::SuspendBill() {
-  receipt_.FeedLines();
+  receipt_.FeedLines(*state_.curBill);
   if (!state_.curLine && state_.curBill->Items().empty()) {
     screen_.ShowMessage(tr("没有商品，无需结账！"));
     return;
@@ -145,7 +145,7 @@ void HeldBills::show(Recalled recalled) {
   state_.AddEntryRow();
   state_.onEntryRow = true;
   for (const auto& line : bill.Items()) {
-    display_.clientView(line->Price(), CustomerDisplay::kPrice);
+    devices_.display().clientView(line->Price(), CustomerDisplay::kPrice);
   }
   screen_.setStatus(text(generalNumber(bill.Quantity())) + tr("件商品，合计") +
                     text(generalNumber(bill.Amount())) + tr("元"));
@@ -159,10 +159,6 @@ void HeldBills::show(Recalled recalled) {
 }
 
 void HeldBills::printAgain() {
-  receipt_.PrintHeader();
-  for (const auto& line : state_.curBill->Items()) {
-    state_.curLine = line;
-    receipt_.PrintLine();
-  }
-  state_.curLine = nullptr;
+  receipt_.PrintHeader(*state_.curBill);
+  for (const auto& line : state_.curBill->Items()) receipt_.PrintLine(*line);
 }

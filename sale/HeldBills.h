@@ -5,7 +5,7 @@
 
 class Checkout;
 class ClsSell;
-class CustomerDisplay;
+class Devices;
 class LineReceipt;
 class MemberCard;
 class posMod;
@@ -21,7 +21,7 @@ class HeldBills {
 
  public:
   HeldBills(posMod& pos, SaleState& state, SaleScreen& screen, Checkout& checkout,
-            MemberCard& memberCard, CustomerDisplay& display, LineReceipt& receipt);
+            MemberCard& memberCard, Devices& devices, LineReceipt& receipt);
 
   /// Adds the open bill, its current line included, to the held bills, and opens the next one.
   void SuspendBill();
@@ -45,6 +45,6 @@ class HeldBills {
   SaleScreen& screen_;
   Checkout& checkout_;
   MemberCard& memberCard_;
-  CustomerDisplay& display_;
+  Devices& devices_;
   LineReceipt& receipt_;
 };

@@ -17,12 +17,12 @@ namespace {
 constexpr int kModifiers[] = {16, 17, 18};  // Shift, Ctrl, Alt
 
 Outage::Report reportTo(SaleScreen& screen) {
-  return [&screen](const QString& text) { screen.ShowMessage(text); };
+  return [&screen](const std::string& text) { screen.ShowMessage(QString::fromStdString(text)); };
 }
 
 // The display's reason is the system's own, and comes in the system's box.
 Outage::Report boxOf(SaleScreen& screen) {
-  return [&screen](const QString& text) { screen.messageBox(text); };
+  return [&screen](const std::string& text) { screen.messageBox(QString::fromStdString(text)); };
 }
 
 }  // namespace
@@ -31,22 +31,22 @@ SaleSession::SaleSession(posMod& pos, SaleScreen& screen, Openers openers)
     : pos_(pos),
       screen_(screen),
       openers_(std::move(openers)),
-      display_(pos.ports, pos.gPosSet, state, boxOf(screen)),
-      drawer_(pos.ports, pos.gPosSet, state, display_, reportTo(screen)),
-      receipt_(pos, state, drawer_, reportTo(screen)),
-      checkout_(pos, state, screen, display_, receipt_),
+      devices_(*pos.ports, reportTo(screen), boxOf(screen)),
+      receipt_(pos.gSysParam, devices_),
+      checkout_(pos, state, screen, devices_, receipt_),
       cell_(state, screen),
       lookup_(pos, state, screen),
-      lines_(pos, state, screen, cell_, lookup_, checkout_, display_, receipt_),
+      lines_(pos, state, screen, cell_, lookup_, checkout_, devices_, receipt_),
       memberCard_(pos, state, screen, checkout_),
-      held_(pos, state, screen, checkout_, memberCard_, display_, receipt_) {
+      held_(pos, state, screen, checkout_, memberCard_, devices_, receipt_) {
   fillCommands();
   fillMenu();
 }
 
 bool SaleSession::open() {
   ensure(pos_.gOperator != nullptr, "somebody is logged in before the sale screen opens");
-  loadSettings();
+  devices_.open(pos_.gPosSet);
+  receipt_.begin();
   completePaidBills(pos_, screen_);
   reportIncompleteTopUps(pos_, screen_);
   voidOpenBills();
@@ -57,15 +57,6 @@ bool SaleSession::open() {
   }
   checkout_.PrepareNextBill();
   return state.curBill != nullptr;
-}
-
-void SaleSession::loadSettings() {
-  const ClsPosSet& settings = pos_.gPosSet;
-  state.linePrint = !settings.PPort.empty() && settings.PPort != "USB";
-  if (!settings.PPort.empty()) state.receiptCols = ReceiptColumns::forModel(settings.PModel);
-  state.hasDrawer = !settings.MBPort.empty();
-  state.hasDisplay = !settings.CVProt.empty();
-  if (state.hasDisplay) display_.OpenDisplayPort();
 }
 
 void SaleSession::voidOpenBills() {
@@ -124,7 +115,7 @@ void SaleSession::fillCommands() {
   add(&KeyBoard::mF6, [this] { held_.RecallBill(); });
   addOpener(&KeyBoard::mF8, "search");
   addOpener(&KeyBoard::mF9, "topup");
-  add(&KeyBoard::mF10, [this] { drawer_.OpenDrawer(); });
+  add(&KeyBoard::mF10, [this] { devices_.drawer().OpenDrawer(); });
   addOpener(&KeyBoard::mF11, "search");
   add(&KeyBoard::mF12, [this] { lines_.CancelBill(); });
   add(&KeyBoard::mEsc, [this] { exit(); });
@@ -217,14 +208,14 @@ std::vector<std::pair<QString, QString>> SaleSession::menuEntries() const {
 }
 
 void SaleSession::toggleLinePrint() {
-  const std::string& port = pos_.gPosSet.PPort;
-  const bool possible = !port.empty() && port != "USB";
-  state.linePrint = possible && !state.linePrint;
-  if (possible) {
-    screen_.ShowMessage(state.linePrint ? tr("打印机已打开。") : tr("打印机已关闭。"));
-  } else {
-    screen_.ShowMessage(port.empty() ? tr("没有设置打印机，打印机开关保持关闭。")
-                                     : tr("USB 打印机不逐行打印，打印机开关保持关闭。"));
+  receipt_.toggle();
+  switch (devices_.printer().kind()) {
+    case ReceiptPrinter::Kind::kNone:
+      return screen_.ShowMessage(tr("没有设置打印机，打印机开关保持关闭。"));
+    case ReceiptPrinter::Kind::kPage:
+      return screen_.ShowMessage(tr("USB 打印机不逐行打印，打印机开关保持关闭。"));
+    case ReceiptPrinter::Kind::kLine:
+      screen_.ShowMessage(receipt_.isOn() ? tr("打印机已打开。") : tr("打印机已关闭。"));
   }
 }
 
@@ -242,6 +233,6 @@ void SaleSession::exit() {
   state.lastBill = nullptr;
   state.curBill = nullptr;
   state.curMember = nullptr;
-  display_.close();
+  devices_.close();
   left_ = true;
 }

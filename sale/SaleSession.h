@@ -7,11 +7,10 @@
 #include <utility>
 #include <vector>
 
-#include "checkout/CashDrawer.h"
 #include "checkout/Checkout.h"
-#include "checkout/CustomerDisplay.h"
 #include "checkout/LineReceipt.h"
 #include "checkout/SaleState.h"
+#include "devices/Devices.h"
 #include "sale/BillLines.h"
 #include "sale/EditedCell.h"
 #include "sale/HeldBills.h"
@@ -71,7 +70,6 @@ class SaleSession {
     std::function<void()> run;
   };
 
-  void loadSettings();
   void voidOpenBills();
   bool clockIsBehind() const;
   QString lastBillDated() const;
@@ -85,8 +83,7 @@ class SaleSession {
   posMod& pos_;
   SaleScreen& screen_;
   Openers openers_;
-  CustomerDisplay display_;
-  CashDrawer drawer_;
+  Devices devices_;
   LineReceipt receipt_;
   Checkout checkout_;
   EditedCell cell_;

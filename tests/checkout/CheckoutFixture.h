@@ -47,14 +47,18 @@ class CheckoutFixture : public SaleFixture {
     state.curBill->setMemberId(state.curMember->Id());
   }
 
-  void showOn(const char* port, int model = 1) {
-    pos.gPosSet.CVProt = port;
-    pos.gPosSet.CVModel = model;
-    state.hasDisplay = true;
-    display.OpenDisplayPort();
+  /// Devices at these ports; "" is none.
+  void connect(const char* printer, const char* kick = "", const char* shown = "",
+               int paperModel = 1) {
+    pos.gPosSet.PPort = printer;
+    pos.gPosSet.MBPort = kick;
+    pos.gPosSet.CVProt = shown;
+    pos.gPosSet.PModel = paperModel;
+    devices.open(pos.gPosSet);
+    receipt.begin();
   }
-  void openDrawerOn(const char* port) {
-    pos.gPosSet.MBPort = port;
-    state.hasDrawer = true;
+  /// What prints the footer once payment is confirmed.
+  std::function<void()> footer() {
+    return [this] { receipt.PrintFoot(*state.curBill, facts()); };
   }
 };

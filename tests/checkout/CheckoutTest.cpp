@@ -6,7 +6,7 @@ using testing::SizeIs;
 using CheckoutTest = CheckoutFixture;
 
 TEST_F(CheckoutTest, cashSaleIsStoredSummedUpAndFollowedByTheNextBill) {
-  showOn("COM1");
+  connect("", "", "COM1");
   enter("水", "80.00");
   enter("茶", "4.25", 2);
   payCash("100");
@@ -79,8 +79,8 @@ TEST_F(CheckoutTest, figuresThatDoNotFitAreRefusedAndThoseOfTheFileSaid) {
 }
 
 TEST_F(CheckoutTest, aPaidBillThatCannotBeStoredIsWithdrawnBeforeAnythingElseIsStored) {
-  pos.gPosSet.PPort = "USB";
   pos.gPosSet.printAmount = "直接打印1联";
+  connect("USB");
   breakStore("update on sell when new.state = 1");
   breakStore("delete on sell", "stuck");
   enter("水", "12.00", 3);
@@ -97,7 +97,7 @@ TEST_F(CheckoutTest, aPaidBillThatCannotBeStoredIsWithdrawnBeforeAnythingElseIsS
   EXPECT_THAT(screen.messages.at(1), HasSubstr("不能开始下一单"));
   EXPECT_EQ(stored("group_concat(id || ':' || paid) as v from sell"), "2:0");
   EXPECT_EQ(stock() + " " + stored("card as v from member"), "100 52.5");
-  EXPECT_EQ(pagesPrinted(), 0U);
+  EXPECT_THAT(ports.pages, testing::IsEmpty());
 }
 
 TEST_F(CheckoutTest, noPaymentIsTakenIntoAFileThatLostItsName) {
@@ -140,11 +140,11 @@ TEST_F(CheckoutTest, pageReceiptsFollowTheMode) {
   std::size_t printed = 0;
   for (const auto& each : cases) {
     screen.answersYes = each.answer;
-    pos.gPosSet.PPort = each.port;
     pos.gPosSet.printAmount = each.mode;
+    connect(each.port);
     enter("水", "1.00");
     checkout.SettleBill();
-    EXPECT_EQ(pagesPrinted(), printed += each.pages) << each.mode;
+    EXPECT_EQ(ports.pages.size(), printed += each.pages) << each.mode;
     EXPECT_EQ(screen.said(), each.question);
   }
 }

@@ -18,7 +18,7 @@ class EndSell : public CheckoutFixture {
 
   /// Shows the dialog, lets the cashier act, and gives whether payment was confirmed.
   bool show(const std::function<void()>& cashier) {
-    Settlement settlement(pos, *state.curBill, display, receipt, screen);
+    Settlement settlement(pos, *state.curBill, devices.display(), screen, footer());
     QTimer::singleShot(0, &dialog, [&] {
       EXPECT_TRUE(QTest::qWaitForWindowActive(&dialog));
       EXPECT_EQ(focused(), "txtInMoney");

@@ -8,22 +8,17 @@ using testing::IsSupersetOf;
 
 class PageReceiptTest : public CheckoutFixture {
  protected:
-  /// The bill is stored and its rows are still on the screen.
   void settled(const char* cash, const char* bankCard) {
     commitCurrentLine(state, receipt);
     state.curBill->setCash(Currency::parse(cash).value());
     state.curBill->setBankCard(Currency::parse(bankCard).value());
-    state.curBill->setState(1);
-    ASSERT_TRUE(state.curBill->Save());
-    state.lastBill = state.curBill;
   }
   /// The receipt's texts with their places: "x,y text".
   std::vector<std::string> printed(int paperModel, const char* option) {
-    pos.gPosSet.PModel = paperModel;
-    pos.gPosSet.printOption = option;
-    state.receiptCols = ReceiptColumns::forModel(paperModel);
     std::vector<std::string> placed;
-    for (const PlacedText& text : pageReceipt(pos, state).texts)
+    const PageDocument page =
+        pageReceipt(*state.curBill, facts(), pos.gSysParam, Paper::ofModel(paperModel), option);
+    for (const PlacedText& text : page.texts)
       placed.push_back(std::to_string(text.x) + "," + std::to_string(text.y) + " " + text.text);
     return placed;
   }

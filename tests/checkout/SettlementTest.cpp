@@ -8,11 +8,11 @@ class SettlementTest : public CheckoutFixture {
   SettlementTest() {
     enter("水", "88.50");
     commitCurrentLine(state, receipt);
-    showOn("COM1");
+    connect("", "", "COM1");
   }
   std::string balance() { return stored("card as v from member where bh='8001'"); }
 
-  Settlement settlement{pos, *state.curBill, display, receipt, screen};
+  Settlement settlement{pos, *state.curBill, devices.display(), screen, footer()};
 };
 
 TEST_F(SettlementTest, amountDueFollowsTheShopsRounding) {
@@ -76,7 +76,7 @@ TEST_F(SettlementTest, asksOnceBeforeAPaymentThatLooksMistyped) {
       {"0", "88.5", "0", ""}};
   setParameter("CheckPayment", "1");
   for (const auto& [favorable, bankCard, cash, question] : cases) {
-    Settlement fresh{pos, *state.curBill, display, receipt, screen};
+    Settlement fresh{pos, *state.curBill, devices.display(), screen, footer()};
     static_cast<void>(fresh.favorableChanged(favorable));
     static_cast<void>(fresh.bankCardChanged(bankCard));
     fresh.confirmCash(cash);

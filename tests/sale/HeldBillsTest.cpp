@@ -74,25 +74,18 @@ TEST_F(HeldBillsTest, whenTheStoreFailsTheBillStaysWhereItWas) {
 }
 
 TEST_F(HeldBillsTest, theCustomerSeesEachPriceAgain) {
-  CustomerDisplay pole{ports, pos.gPosSet, session.state, report};
-  Checkout itsCheckout{pos, session.state, till, pole, receipt};
-  MemberCard card{pos, session.state, till, itsCheckout};
-  HeldBills held{pos, session.state, till, itsCheckout, card, pole, receipt};
   pos.gPosSet.CVProt = "COM1";
-  pos.gPosSet.CVModel = 1;
-  session.state.hasDisplay = true;
-  pole.OpenDisplayPort();
+  ASSERT_TRUE(session.open());
   for (const char* code : {kWater, kCrate}) enter(code);
   press(kF5);
-  till.choice = 0;
-  held.RecallBill();
+  ports.shown.clear();
+  recall(0);
   EXPECT_EQ(ports.shown, "\x1Bs1\x1BQA2.50\r\x1Bs1\x1BQA28.00\r");
 }
 
 TEST_F(HeldBillsTest, paperFeedsAtSuspensionAndRepeatsTheBillAtRecall) {
   pos.gPosSet.PPort = "LPT1";
-  session.state.linePrint = true;
-  std::ofstream(folder.file("lpt1"));
+  ASSERT_TRUE(session.open());
   enter(kWater);
   press(kF5);
   EXPECT_EQ(fileBytes(folder.file("lpt1")), "\r\n\r\n") << "the current line joins unprinted";
