@@ -17,7 +17,7 @@ posMod::posMod(std::filesystem::path programFolder, Clock presentTime)
     : folder(std::move(programFolder)),
       clock(std::move(presentTime)),
       configIni(folder / "Config.ini"),
-      ports(configIni) {}
+      ports(std::make_unique<Ports>(configIni)) {}
 
 DataSource posMod::dataSource() const {
   const auto configured = configIni.read("Database", "Path");

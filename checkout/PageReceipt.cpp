@@ -3,12 +3,15 @@
 #include <algorithm>
 #include <optional>
 
-#include "app/posMod.h"
 #include "base/Gbk.h"
 #include "base/NumberText.h"
 #include "base/Text.h"
-#include "checkout/ReceiptColumns.h"
+#include "checkout/ReceiptLines.h"
+#include "devices/Paper.h"
+#include "saleslib/ClsMember.h"
 #include "saleslib/ClsSell.h"
+#include "saleslib/ClsSellItem.h"
+#include "saleslib/ClsSysParam.h"
 
 namespace {
 
@@ -45,26 +48,23 @@ std::optional<RowLayout> rowLayout(const std::string& setting, const ClsSellItem
   return std::nullopt;
 }
 
-/// Of an amount as the bill shows it.
-std::string oneDecimalOf(Currency amount) {
-  return oneDecimal(roundedToFen(amount));
+/// Of the figure in fen that the line shows.
+std::string oneDecimalOf(Currency figure) {
+  return oneDecimal(roundedToFen(figure));
 }
 
 /// One receipt while it is being laid out from top to bottom.
 class Layout {
  public:
-  Layout(posMod& pos, const ClsSell& bill, const ReceiptColumns& widths, std::int64_t originalPrice)
-      : pos_(pos),
-        widths_(widths),
-        bill_(bill),
-        originalPrice_(originalPrice),
-        width_(columns(widths.line)) {
+  Layout(const ClsSell& bill, const ReceiptFacts& facts, const ClsSysParam& shop,
+         const Paper& paper)
+      : bill_(bill), facts_(facts), shop_(shop), paper_(paper), width_(columns(paper.line)) {
     page_.name = std::to_string(bill_.BillNo());
   }
 
-  PageDocument receipt() {
+  PageDocument receipt(const std::string& rowOption) {
     heading();
-    rows();
+    rows(rowOption);
     totals();
     payment();
     shopTexts();
@@ -87,26 +87,26 @@ class Layout {
   void footer(std::string text) { place(kLeft, bottom_ + kFooterGap, std::move(text)); }
 
   void heading() {
-    place(kLeft, kShopNameY, gbk::centred(pos_.gSysParam.ShopName(), width_));
+    place(kLeft, kShopNameY, gbk::centred(shop_.ShopName(), width_));
     place(kLeft, kTitlesY, titles());
   }
 
   /// Over the rows' columns, which are as wide as narrow paper on either paper.
   std::string titles() const {
-    if (widths_.name >= 26) return "商品名称          单价 数量 金额";
-    return gbk::centred("商品名称", columns(widths_.name - 4)) + "单价 数量 金额";
+    if (paper_.name >= 26) return "商品名称          单价 数量 金额";
+    return gbk::centred("商品名称", columns(paper_.name - 4)) + "单价 数量 金额";
   }
 
-  void rows() {
-    for (std::size_t r = 1; r <= bill_.Items().size(); ++r) {
-      const ClsSellItem& line = *bill_.Items()[r - 1];
-      const auto layout = rowLayout(pos_.gPosSet.printOption, line);
+  void rows(const std::string& option) {
+    int block = 0;
+    for (const auto& line : bill_.Items()) {
+      const auto layout = rowLayout(option, *line);
       if (!layout) return;
-      const int block = static_cast<int>(r) * kRowPitch;
+      block += kRowPitch;
       const int figures = block + (layout->figuresBelow ? kSecondLine : kFirstLine);
       place(kLeft, block + kFirstLine, layout->firstText);
-      place(kPrice, figures, " " + oneDecimalOf(line.Price()) + " ");
-      placeSum(figures, generalNumber(line.Quantity()), oneDecimalOf(line.Money()) + " ");
+      place(kPrice, figures, " " + oneDecimalOf(line->Price()) + " ");
+      placeSum(figures, generalNumber(line->Quantity()), oneDecimalOf(line->Money()) + " ");
     }
   }
 
@@ -114,22 +114,19 @@ class Layout {
     footer("总金额合计");
     const int y = page_.texts.back().y;
     placeSum(y, generalNumber(bill_.Quantity()), oneDecimal(bill_.Amount()));
-    if (bill_.MemberId() > 0) memberLine();
-    footer("流水号:" + std::to_string(bill_.BillNo()) + " 收银员:" + pos_.gOperator->Code());
+    if (facts_.member) memberLine(*facts_.member);
+    footer("流水号:" + std::to_string(bill_.BillNo()) + " 收银员:" + facts_.cashier);
     footer(gbk::centred(generalText(bill_.SellTime()), width_, '-'));
   }
 
   /// Continues the total's line: no gap in between.
-  void memberLine() {
-    const auto member = pos_.gMemberSvc.GetMemberById(bill_.MemberId());
-    if (!member) return;
-    place(
-        kLeft, bottom_,
-        "会员卡:" + member->Bh() + " 累计积分" + twoDecimals(Currency::fromYuan(member->Points())));
+  void memberLine(const ClsMember& member) {
+    place(kLeft, bottom_,
+          "会员卡:" + member.Bh() + " 累计积分" + twoDecimals(Currency::fromYuan(member.Points())));
   }
 
   void payment() {
-    const Currency original = Currency::fromYuan(originalPrice_);
+    const Currency original = Currency::fromYuan(facts_.originalTotal);
     footer("原价总计" + oneDecimal(original) + "   应收" + oneDecimal(bill_.Amount()));
     if (bill_.Favorable() > Currency()) {
       footer("优惠后实收" + oneDecimal(bill_.Amount() - bill_.Favorable()));
@@ -152,18 +149,17 @@ class Layout {
   }
 
   void shopTexts() {
-    const ClsSysParam& shop = pos_.gSysParam;
     for (const std::string& text :
-         {shop.ReceiptText2(), shop.ReceiptText1(), std::string(), shop.ReceiptText3(),
-          shop.ReceiptText4(), shop.ReceiptText5(), shop.ReceiptText6()}) {
+         {shop_.ReceiptText2(), shop_.ReceiptText1(), std::string(), shop_.ReceiptText3(),
+          shop_.ReceiptText4(), shop_.ReceiptText5(), shop_.ReceiptText6()}) {
       footer(text);
     }
   }
 
-  posMod& pos_;
-  const ReceiptColumns& widths_;
   const ClsSell& bill_;
-  std::int64_t originalPrice_;
+  const ReceiptFacts& facts_;
+  const ClsSysParam& shop_;
+  const Paper& paper_;
   std::size_t width_;
   PageDocument page_;
   int bottom_ = 0;  ///< below everything placed so far
@@ -171,7 +167,7 @@ class Layout {
 
 }  // namespace
 
-PageDocument pageReceipt(posMod& pos, const ClsSell& bill, const ReceiptColumns& widths,
-                         std::int64_t originalPrice) {
-  return Layout(pos, bill, widths, originalPrice).receipt();
+PageDocument pageReceipt(const ClsSell& bill, const ReceiptFacts& facts, const ClsSysParam& shop,
+                         const Paper& paper, const std::string& rowOption) {
+  return Layout(bill, facts, shop, paper).receipt(rowOption);
 }

@@ -2,10 +2,10 @@
 
 #include "app/posMod.h"
 #include "base/NumberText.h"
-#include "checkout/CustomerDisplay.h"
 #include "checkout/FigureCheck.h"
 #include "checkout/Messages.h"
 #include "checkout/SettlementTexts.h"
+#include "devices/CustomerDisplay.h"
 #include "saleslib/CardNumber.h"
 #include "saleslib/ClsSell.h"
 #include "store/StoreError.h"

@@ -12,6 +12,7 @@
 #include "base/Failure.h"
 #include "base/NumberText.h"
 #include "base/Text.h"
+#include "devices/ReceiptPrinter.h"
 #include "members/TopUpSlip.h"
 #include "members/TopUpTexts.h"
 #include "platform/VirtualKey.h"
@@ -196,7 +197,7 @@ void cardStored::store() {
     return;
   }
   if (!load(*topUp)) return;
-  if (pos_.gPosSet.PPort == "USB") printSlip();
+  printSlip();
   accept();
 }
 
@@ -218,7 +219,7 @@ void cardStored::printSlip() {
   try {
     const SlipTexts texts{textOf(txtBh_), textOf(beforeMoney_), textOf(inMoney_), textOf(addMoney_),
                           textOf(afterMoney_)};
-    pos_.ports.pagePrinter(pos_.gPosSet.PModel)->print(topUpSlip(pos_.gSysParam, texts));
+    ReceiptPrinter::ofSettings(pos_.gPosSet, *pos_.ports)->print(topUpSlip(pos_.gSysParam, texts));
   } catch (const Failure& error) {
     messageBox(this, QString::fromUtf8(error.what()));
   }

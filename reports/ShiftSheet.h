@@ -2,10 +2,9 @@
 
 #include <cstddef>
 #include <optional>
-#include <string>
-#include <vector>
 
 #include "base/Currency.h"
+#include "devices/ReceiptPrinter.h"
 #include "reports/TenderSum.h"
 
 /// The hand-over sheet of a shift.
@@ -15,6 +14,6 @@ struct ShiftSheet {
   std::optional<Currency> money;   ///< nothing when the sum does not fit
   std::vector<TenderSum> tenders;  ///< of it
 
-  /// The sheet line by line: the figures, and two lines to sign on.
-  std::vector<std::string> lines() const;
+  /// The figures, and two lines to sign on.
+  LineDocument document() const;
 };

@@ -8,7 +8,6 @@
 #include <QTableView>
 #include <QVBoxLayout>
 
-#include "app/DeviceBytes.h"
 #include "app/posMod.h"
 #include "base/NumberText.h"
 #include "platform/PortError.h"
@@ -16,7 +15,6 @@
 #include "platform/VirtualKey.h"
 #include "reports/DayModel.h"
 #include "reports/KeyPreview.h"
-#include "reports/QueryPrints.h"
 #include "reports/ShiftSheet.h"
 #include "reports/TableLook.h"
 #include "saleslib/ClsDayStat.h"
@@ -37,20 +35,6 @@ int formWidth(int tenderColumns) {
 
 ShiftSheet sheetOf(const ClsDayStat& day, const ClsSysParam& rules) {
   return {day.Sells().size(), day.SumQuantity(), day.SumMoney(), tenderSums(day, rules)};
-}
-
-/// Other ports have no sheet.
-void print(const posMod& pos, const ShiftSheet& sheet) {
-  const std::string& port = pos.gPosSet.PPort;
-  if (port == "USB") {
-    pos.ports.pagePrinter(pos.gPosSet.PModel)->print(pageOfLines("交班表", sheet.lines()));
-  } else {
-    pos.ports.portFile(port)->send(device::printedLines(sheet.lines()));
-  }
-}
-
-bool canPrint(const std::string& port) {
-  return port == "USB" || port == "LPT1" || port == "LPT2";
 }
 
 }  // namespace
@@ -134,9 +118,9 @@ void frmCount::show(const ClsDayStat& day) {
 }
 
 void frmCount::printSheet() {
-  if (!canPrint(pos_.gPosSet.PPort)) return;
   try {
-    print(pos_, sheetOf(today(), pos_.gSysParam));
+    const ShiftSheet sheet = sheetOf(today(), pos_.gSysParam);
+    ReceiptPrinter::ofSettings(pos_.gPosSet, *pos_.ports)->print(sheet.document());
   } catch (const PortError& error) {
     messageBox(this, QString::fromUtf8(error.what()));
   }

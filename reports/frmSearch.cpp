@@ -10,6 +10,7 @@
 #include "app/posMod.h"
 #include "base/Failure.h"
 #include "base/NumberText.h"
+#include "devices/ReceiptPrinter.h"
 #include "platform/KeyName.h"
 #include "platform/PortError.h"
 #include "platform/Twips.h"
@@ -228,7 +229,7 @@ bool frmSearch::hasList(const QString& otherwise) {
 
 void frmSearch::printReport() {
   if (!hasList(tr("没有可打印的内容！")) || !Frame5_->check()) return;
-  print(reportPage(*ListView1_->list(), Frame5_->start(), Frame5_->end(), pos_.clock()));
+  print(reportSheet(*ListView1_->list(), Frame5_->start(), Frame5_->end(), pos_.clock()));
 }
 
 void frmSearch::printReceipt() {
@@ -254,9 +255,10 @@ void frmSearch::reprintLastBill() {
   }
 }
 
-void frmSearch::print(const PageDocument& page) {
+template <class Document>
+void frmSearch::print(const Document& document) {
   try {
-    pos_.ports.pagePrinter(pos_.gPosSet.PModel)->print(page);
+    ReceiptPrinter::ofSystem(pos_.gPosSet, *pos_.ports)->print(document);
   } catch (const PortError& error) {
     messageBox(this, QString::fromUtf8(error.what()));
   }

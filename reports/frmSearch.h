@@ -10,7 +10,6 @@ class LineQuery;
 class ResultTable;
 class SearchPanel;
 class posMod;
-struct PageDocument;
 struct SoldPage;
 
 /// The sales query: sold lines of a period by item, category or bill, with their totals, to look
@@ -52,7 +51,8 @@ class frmSearch : public QDialog {
   void printReport();
   void printReceipt();
   void reprintLastBill();
-  void print(const PageDocument& page);
+  template <class Document>
+  void print(const Document& document);
   void exportList();
   void exportTo(const std::filesystem::path& file);
 

@@ -152,7 +152,7 @@ QString BillLines::statusWith(const ClsSellItem& line) const {
 
 void BillLines::tell(const QString& status) {
   sale_.setStatus(status);
-  devices_.display.clientView(sale_.line()->Price(), CustomerDisplay::kPrice);
+  devices_.display().clientView(sale_.line()->Price(), CustomerDisplay::kPrice);
 }
 
 bool BillLines::guarded(const std::function<bool()>& work) {

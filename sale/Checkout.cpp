@@ -74,9 +74,8 @@ bool Checkout::takePayment() {
     return false;
   }
   bill.setAmount(*due);
-  Settlement settlement(pos_, bill, devices_.display, screen_, [this, &bill] {
-    devices_.receipt.PrintFoot(bill, sale_.member(), originalPrice(bill));
-  });
+  Settlement settlement(pos_, bill, devices_.display(), screen_,
+                        [this, &bill] { devices_.printFoot(bill, sale_.sharedMember()); });
   return screen_.settle(settlement);
 }
 
@@ -147,7 +146,7 @@ void Checkout::followLastBill() {
   const ClsSell& last = *sale_.last();
   sale_.setPrevious(lastBillText(last, pos_.gSysParam));
   if (last.FiguresFit()) {
-    devices_.display.clientView(last.Cash() - last.Amount(), CustomerDisplay::kChange);
+    devices_.display().clientView(last.Cash() - last.Amount(), CustomerDisplay::kChange);
   }
   if (last.SellTime().date <= sale_.bill()->SellTime().date) return;
   screen_.show(sale_.picture());

@@ -60,7 +60,7 @@ void HeldBills::takeUp(const ClsSell& held) {
   screen_.show(sale_.picture());
   devices_.receipt.PrintHeader(*sale_.bill());
   for (const auto& line : sale_.bill()->Items()) {
-    devices_.display.clientView(line->Price(), CustomerDisplay::kPrice);
+    devices_.display().clientView(line->Price(), CustomerDisplay::kPrice);
     devices_.receipt.PrintLine(*line);
   }
   for (const StockOutcome& refusal : recalled.refusals) {

@@ -84,6 +84,7 @@ class Sale {
   ClsSell* bill() const { return bill_.get(); }
   ClsSellItem* line() const { return line_.get(); }
   ClsMember* member() const { return member_.get(); }
+  std::shared_ptr<const ClsMember> sharedMember() const { return member_; }
   const Bill& last() const { return last_; }
   const std::vector<Bill>& held() const { return held_; }
   bool isEmpty() const { return !line_ && (!bill_ || bill_->Items().empty()); }

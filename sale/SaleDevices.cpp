@@ -3,10 +3,9 @@
 #include <QCoreApplication>
 
 #include "app/posMod.h"
-#include "base/Failure.h"
 #include "checkout/Messages.h"
 #include "checkout/PageReceipt.h"
-#include "checkout/PrintMode.h"
+#include "checkout/ReceiptLines.h"
 #include "sale/Sale.h"
 
 namespace {
@@ -16,12 +15,12 @@ QString tr(const char* text) {
 }
 
 Outage::Report reportTo(Messages& screen) {
-  return [&screen](const QString& text) { screen.ShowMessage(text); };
+  return [&screen](const std::string& text) { screen.ShowMessage(QString::fromStdString(text)); };
 }
 
 // The display's reason is the system's own, and comes in the system's box.
 Outage::Report boxOf(Messages& screen) {
-  return [&screen](const QString& text) { screen.messageBox(text); };
+  return [&screen](const std::string& text) { screen.messageBox(QString::fromStdString(text)); };
 }
 
 }  // namespace
@@ -29,30 +28,35 @@ Outage::Report boxOf(Messages& screen) {
 SaleDevices::SaleDevices(posMod& pos, Messages& screen)
     : pos_(pos),
       screen_(screen),
-      pagePrinter_(reportTo(screen)),
-      display(pos.ports, pos.gPosSet, boxOf(screen)),
-      drawer(pos.ports, pos.gPosSet, display, reportTo(screen)),
-      receipt(pos, drawer, reportTo(screen)) {}
+      devices_(*pos.ports, reportTo(screen), boxOf(screen)),
+      receipt(pos.gSysParam, devices_) {}
 
 void SaleDevices::open() {
-  receipt.start();
-  display.OpenDisplayPort();
+  devices_.open(pos_.gPosSet);
+  receipt.begin();
+}
+
+ReceiptFacts SaleDevices::factsOf(const ClsSell& bill,
+                                  std::shared_ptr<const ClsMember> member) const {
+  return {pos_.gOperator->Code(), std::move(member), originalPrice(bill)};
+}
+
+void SaleDevices::printFoot(const ClsSell& bill, std::shared_ptr<const ClsMember> member) {
+  receipt.PrintFoot(bill, factsOf(bill, std::move(member)));
 }
 
 void SaleDevices::printReceipts(const ClsSell& bill) {
-  if (pos_.gPosSet.PPort != "USB") return;
-  const PrintMode mode = PrintMode::of(pos_.gPosSet.printAmount);
+  const PrintMode mode = devices_.printer().mode();
   int copies = mode.copies;
   if (mode.asks && screen_.askYesNo(tr("确定要打印吗"), tr("提示"), mode.yesPreselected)) {
     copies = 1;
   }
   for (int i = 0; i < copies; ++i) {
-    try {
-      const PageDocument page = pageReceipt(pos_, bill, receipt.widths(), originalPrice(bill));
-      pos_.ports.pagePrinter(pos_.gPosSet.PModel)->print(page);
-      pagePrinter_.worked();
-    } catch (const Failure& error) {
-      pagePrinter_.failed(QString::fromUtf8(error.what()));
-    }
+    devices_.print([&](ReceiptPrinter& printer) {
+      // with the points credited
+      const ReceiptFacts facts = factsOf(bill, pos_.gMemberSvc.GetMemberById(bill.MemberId()));
+      printer.print(
+          pageReceipt(bill, facts, pos_.gSysParam, printer.paper(), pos_.gPosSet.printOption));
+    });
   }
 }

@@ -96,7 +96,7 @@ void SaleSession::fillCommands() {
   add(&KeyBoard::mF6, [this] { held_.RecallBill(); });
   addOpener(&KeyBoard::mF8, "search");
   addOpener(&KeyBoard::mF9, "topup");
-  add(&KeyBoard::mF10, [this] { devices_.drawer.OpenDrawer(); });
+  add(&KeyBoard::mF10, [this] { devices_.drawer().OpenDrawer(); });
   addOpener(&KeyBoard::mF11, "search");
   add(&KeyBoard::mF12, [this] { lines_.CancelBill(); });
   add(&KeyBoard::mEsc, [this] { exit(); });
@@ -198,14 +198,14 @@ std::vector<std::pair<QString, QString>> SaleSession::menuEntries() const {
 }
 
 void SaleSession::toggleLinePrint() {
-  LineReceipt& receipt = devices_.receipt;
-  receipt.turn(!receipt.isOn());
-  if (receipt.isPossible()) {
-    screen_.ShowMessage(receipt.isOn() ? tr("打印机已打开。") : tr("打印机已关闭。"));
-  } else {
-    screen_.ShowMessage(pos_.gPosSet.PPort.empty()
-                            ? tr("没有设置打印机，打印机开关保持关闭。")
-                            : tr("USB 打印机不逐行打印，打印机开关保持关闭。"));
+  devices_.receipt.toggle();
+  switch (devices_.printerKind()) {
+    case ReceiptPrinter::Kind::kNone:
+      return screen_.ShowMessage(tr("没有设置打印机，打印机开关保持关闭。"));
+    case ReceiptPrinter::Kind::kPage:
+      return screen_.ShowMessage(tr("USB 打印机不逐行打印，打印机开关保持关闭。"));
+    case ReceiptPrinter::Kind::kLine:
+      screen_.ShowMessage(devices_.receipt.isOn() ? tr("打印机已打开。") : tr("打印机已关闭。"));
   }
 }
 
@@ -221,6 +221,6 @@ void SaleSession::exit() {
     screen_.messageBox(QString::fromUtf8(failure.what()));
   }
   sale_.clear();
-  devices_.display.close();
+  devices_.close();
   left_ = true;
 }

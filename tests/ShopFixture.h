@@ -12,36 +12,10 @@
 #include <string_view>
 #include <vector>
 
+#include "RecordingPorts.h"
 #include "TemporaryFolder.h"
 #include "app/posMod.h"
-#include "platform/PortError.h"
 #include "store/DataFile.h"
-
-/// Ports as the settings file has them, but for the serial line, which is kept in memory.
-class RecordingPorts : public Ports {
- public:
-  using Ports::Ports;
-
-  std::unique_ptr<ByteSink> serialLine(const std::string& name) const override {
-    opened.push_back(name);
-    if (serialBroken) throw PortError("端口 " + name + " 打不开");
-    return std::make_unique<Line>(*this);
-  }
-
-  bool serialBroken = false;
-  mutable std::vector<std::string> opened;
-  mutable std::string shown;  ///< the bytes sent to the serial line
-
- private:
-  struct Line : ByteSink {
-    explicit Line(const RecordingPorts& owner) : ports(owner) {}
-    void send(std::string_view bytes) override {
-      if (ports.serialBroken) throw PortError("串口断开");
-      ports.shown += bytes;
-    }
-    const RecordingPorts& ports;
-  };
-};
 
 /// A screen without a window, as far as messages go: remembers what it was told, answers as the
 /// test says.
@@ -73,15 +47,13 @@ class Told : public Screen {
 };
 
 /// A shop with its till at 9:05 on a Sunday: operator 1, two goods in stock, one member with a
-/// stored-value card, and receipt texts. LPT1 is a file, the page printer a folder.
+/// stored-value card, and receipt texts. LPT1 is a file.
 class ShopFixture : public testing::Test {
  protected:
   ShopFixture() {
     std::filesystem::create_directories(folder.path() / "data");
-    std::filesystem::create_directories(folder.path() / "pdf");
     std::ofstream(folder.file("Config.ini"))
-        << "[Database]\nPath=data/shop.db\n[Ports]\nLPT1=" << folder.file("lpt1")
-        << "\nUSB=" << folder.file("pdf") << "\n";
+        << "[Database]\nPath=data/shop.db\n[Ports]\nLPT1=" << folder.file("lpt1") << "\n";
     fillShop(*createDataFile({folder.path() / "data/shop.db", ""}));
     EXPECT_EQ(pos.OpenDataStore(), "");
     pos.start();
@@ -126,13 +98,16 @@ class ShopFixture : public testing::Test {
     std::ifstream file(path, std::ios::binary);
     return {std::istreambuf_iterator<char>(file), {}};
   }
-  std::size_t pagesPrinted() const {
-    const std::filesystem::directory_iterator pdfs(folder.path() / "pdf");
-    return static_cast<std::size_t>(std::distance(begin(pdfs), end(pdfs)));
+  static RecordingPorts& listenTo(posMod& till) {
+    auto recording = std::make_unique<RecordingPorts>(till.configIni);
+    RecordingPorts& ports = *recording;
+    till.ports = std::move(recording);
+    return ports;
   }
+  ReceiptFacts facts() const { return {pos.gOperator->Code(), state.curMember, state.origTotal}; }
 
   TemporaryFolder folder;
   DateTime now{{2026, 11, 22}, 9, 5, 3};
   posMod pos{folder.path(), [this] { return now; }};
-  RecordingPorts ports{pos.configIni};
+  RecordingPorts& ports = listenTo(pos);
 };

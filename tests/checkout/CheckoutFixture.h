@@ -2,12 +2,12 @@
 
 #include "ShopFixture.h"
 #include "base/NumberText.h"
-#include "checkout/CashDrawer.h"
-#include "checkout/CustomerDisplay.h"
 #include "checkout/LineReceipt.h"
 #include "checkout/Messages.h"
 #include "checkout/PaidBill.h"
+#include "checkout/ReceiptLines.h"
 #include "checkout/Settlement.h"
+#include "devices/Devices.h"
 #include "saleslib/BillBooks.h"
 
 /// The shop with an open bill, its devices, and lines entered and payments taken as the sale screen
@@ -33,8 +33,7 @@ class CheckoutFixture : public ShopFixture {
     receipt.PrintLine(*line);
   }
   Settlement settlement() {
-    return {pos, *bill, display, screen,
-            [this] { receipt.PrintFoot(*bill, member.get(), originalPrice); }};
+    return {pos, *bill, devices.display(), screen, [this] { receipt.PrintFoot(*bill, facts()); }};
   }
   /// The settle key, and a cashier who types that cash figure.
   void payCash(const char* cash) {
@@ -46,17 +45,24 @@ class CheckoutFixture : public ShopFixture {
     member = pos.gMemberSvc.GetMember("8001");
     bill->setMemberId(member->Id());
   }
-  void showOn(const char* port, int model = 1) {
-    pos.gPosSet.CVProt = port;
-    pos.gPosSet.CVModel = model;
-    display.OpenDisplayPort();
+  ReceiptFacts facts() const { return {pos.gOperator->Code(), member, originalPrice}; }
+  /// Devices at these ports; "" is none.
+  void connect(const char* printer, const char* kick = "", const char* shown = "",
+               int paperModel = 1) {
+    pos.gPosSet.PPort = printer;
+    pos.gPosSet.MBPort = kick;
+    pos.gPosSet.CVProt = shown;
+    pos.gPosSet.PModel = paperModel;
+    devices.open(pos.gPosSet);
+    receipt.begin();
   }
 
   Told<Messages> screen;
-  const Outage::Report report = [this](const QString& text) { screen.ShowMessage(text); };
-  CustomerDisplay display{ports, pos.gPosSet, report};
-  CashDrawer drawer{ports, pos.gPosSet, display, report};
-  LineReceipt receipt{pos, drawer, report};
+  const Outage::Report report = [this](const std::string& text) {
+    screen.messages.push_back(text);
+  };
+  Devices devices{ports, report, report};
+  LineReceipt receipt{pos.gSysParam, devices};
   BillBooks books{*pos.gConn, pos.gSysParam, pos.clock};
   std::shared_ptr<ClsSell> bill;
   std::shared_ptr<ClsMember> member;

@@ -8,20 +8,16 @@ using testing::IsSupersetOf;
 
 class PageReceiptTest : public CheckoutFixture {
  protected:
-  /// The bill is stored and its rows are still on the screen.
   void settled(const char* cash, const char* bankCard) {
     bill->setCash(Currency::parse(cash).value());
     bill->setBankCard(Currency::parse(bankCard).value());
-    bill->setState(1);
-    ASSERT_TRUE(bill->Save());
   }
   /// The receipt's texts with their places: "x,y text".
   std::vector<std::string> printed(int paperModel, const char* option) {
-    pos.gPosSet.PModel = paperModel;
-    pos.gPosSet.printOption = option;
     std::vector<std::string> placed;
-    for (const PlacedText& text :
-         pageReceipt(pos, *bill, ReceiptColumns::forModel(paperModel), originalPrice).texts)
+    const PageDocument page =
+        pageReceipt(*bill, facts(), pos.gSysParam, Paper::ofModel(paperModel), option);
+    for (const PlacedText& text : page.texts)
       placed.push_back(std::to_string(text.x) + "," + std::to_string(text.y) + " " + text.text);
     return placed;
   }

@@ -7,7 +7,7 @@ class SettlementTest : public CheckoutFixture {
  protected:
   SettlementTest() {
     enter("水", "88.50");
-    showOn("COM1");
+    connect("", "", "COM1");
   }
   std::string balance() { return stored("card as v from member where bh='8001'"); }
 

@@ -29,6 +29,7 @@ struct Settled {
 class PowerCutTest : public FaultyTill {
  protected:
   PowerCutTest() {
+    ports.isReal = true;
     pos.gPosSet.PPort = "LPT1";
     pos.gPosSet.MBPort = "LPT2";
     pos.gPosSet.CVProt = "COM1";

@@ -73,10 +73,20 @@ TEST_F(HeldBillsTest, whenTheStoreFailsTheBillStaysWhereItWas) {
   EXPECT_EQ(bill().BillNo(), 2);
 }
 
+TEST_F(HeldBillsTest, theCustomerSeesEachPriceAgain) {
+  press(kEsc);
+  pos.gPosSet.CVProt = "COM1";
+  open();
+  for (const char* code : {kWater, kCrate}) enter(code);
+  press(kF5);
+  ports.shown.clear();
+  recall(0);
+  EXPECT_EQ(ports.shown, "\x1Bs1\x1BQA2.50\r\x1Bs1\x1BQA28.00\r");
+}
+
 TEST_F(HeldBillsTest, paperFeedsAtSuspensionAndRepeatsTheBillAtRecall) {
   press(kEsc);
   pos.gPosSet.PPort = "LPT1";
-  std::ofstream(folder.file("lpt1"));
   open();
   enter(kWater);
   press(kF5);

@@ -100,19 +100,22 @@ TEST_F(SaleSessionTest, quickKeysWorkOnAnEmptyLineOnly) {
 
 TEST_F(SaleSessionTest, linePrintingFollowsThePrinterPort) {
   const struct {
-    const char* port;
-    int model;
-    const char* toggled;
-  } cases[] = {{"", 1, "没有设置打印机，打印机开关保持关闭。"},
-               {"LPT1", 1, "打印机已关闭。"},
-               {"LPT1", 2, "打印机已关闭。"},
-               {"USB", 1, "USB 打印机不逐行打印，打印机开关保持关闭。"}};
-  for (const auto& [port, model, toggled] : cases) {
+    const char *port, *toggled;
+    bool printsAtOpening;
+  } cases[] = {{"", "没有设置打印机，打印机开关保持关闭。", false},
+               {"LPT1", "打印机已关闭。", true},
+               {"USB", "USB 打印机不逐行打印，打印机开关保持关闭。", false}};
+  for (const auto& [port, toggled, printsAtOpening] : cases) {
     pos.gPosSet.PPort = port;
-    pos.gPosSet.PModel = model;
-    SaleSession other(pos, till, {});
-    ASSERT_TRUE(other.open());
-    other.menu("isprint");
+    open();
+    press(kF12);
+    EXPECT_EQ(fileBytes(folder.file("lpt1")), printsAtOpening ? "\r\n\r\n" : "") << port;
+    till.said();
+    session.menu("isprint");
     EXPECT_EQ(till.said(), toggled);
+    std::filesystem::remove(folder.file("lpt1"));
+    press(kF12);
+    EXPECT_EQ(fileBytes(folder.file("lpt1")), "") << port;
+    press(kEsc);
   }
 }

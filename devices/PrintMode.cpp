@@ -1,4 +1,4 @@
-#include "checkout/PrintMode.h"
+#include "devices/PrintMode.h"
 
 PrintMode PrintMode::of(std::string_view setting) {
   if (setting == "直接打印1联") return {.copies = 1};

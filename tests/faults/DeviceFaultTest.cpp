@@ -30,6 +30,8 @@ const std::map<Device, std::string> kDevices = {
 
 class DeviceTest : public TillFixture {
  protected:
+  DeviceTest() { ports.isReal = true; }
+
   /// The path of such a device.
   std::string make(Device device, const std::string& port) {
     switch (device) {

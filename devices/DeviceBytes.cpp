@@ -1,4 +1,4 @@
-#include "app/DeviceBytes.h"
+#include "devices/DeviceBytes.h"
 
 #include <algorithm>
 
@@ -22,10 +22,6 @@ std::string displayFigure(Currency money, int mode) {
   std::string bytes;
   if (mode >= 0 && mode <= 4) bytes = {'\x1B', 's', static_cast<char>('0' + mode)};
   return bytes + "\x1BQA" + twoDecimals(money) + "\r";
-}
-
-bool isKnownDisplay(int model) {
-  return model == 1 || model == 2;
 }
 
 std::string displayPort(const std::string& setting) {

@@ -23,8 +23,6 @@ inline constexpr std::string_view kDrawerThroughDisplay{"\x02M"};
 /// figure CR shows it with two decimals.
 std::string displayFigure(Currency money, int mode);
 
-/// 1 and 2; a display of any other model is not driven.
-bool isKnownDisplay(int model);
 /// The port of a display's setting: "COM1" and "COM2" as they are, a number n as "COMn". Throws
 /// PortError for any other text.
 std::string displayPort(const std::string& setting);
