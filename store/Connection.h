@@ -8,8 +8,8 @@
 #include <string_view>
 #include <vector>
 
-#include "store/DataFile.h"
 #include "store/DataFilePath.h"
+#include "store/DataSource.h"
 #include "store/Recordset.h"
 #include "store/Rows.h"
 #include "store/Value.h"

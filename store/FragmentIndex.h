@@ -1,7 +1,5 @@
 #pragma once
 
-#include <string_view>
-
 class Connection;
 
 /// The fragment indexes of the goods tables. Beside a table T stand
@@ -12,17 +10,6 @@ class Connection;
 ///   T_indexed    what the index holds, as a view: the texts of T but for the rows in T_written.
 /// A look-up takes the rows that the index finds and all of T_written, and lets LIKE decide. It is
 /// right at every moment, and quick as long as T_written is short.
-
-/// The index that the dialect may ask about this column; nullptr when the column has none.
-/// Names without regard to case.
-struct FragmentColumn {
-  std::string_view table;
-  std::string_view column;
-  std::string_view key;  ///< the item code, by which other tables are joined to this one
-};
-const FragmentColumn* fragmentColumn(std::string_view column);
-/// Whether the table has an index.
-bool hasFragmentIndex(std::string_view table);
 
 /// Takes the written rows into the index, in one transaction (or inside the one that runs). An
 /// import calls it once, behind its last row: the index of a million rows then takes 12 s. Taken in

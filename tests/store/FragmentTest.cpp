@@ -5,6 +5,7 @@
 
 #include "TemporaryFolder.h"
 #include "store/Connection.h"
+#include "store/DataFile.h"
 #include "store/Dialect.h"
 #include "store/FragmentIndex.h"
 #include "store/Literal.h"

@@ -10,6 +10,7 @@
 
 #include "TemporaryFolder.h"
 #include "store/Connection.h"
+#include "store/DataFile.h"
 #include "store/DataFileLock.h"
 #include "store/Schema.h"
 #include "store/StoreError.h"

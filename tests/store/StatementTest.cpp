@@ -4,6 +4,7 @@
 
 #include "TemporaryFolder.h"
 #include "store/Connection.h"
+#include "store/DataFile.h"
 #include "store/Literal.h"
 #include "store/StoreError.h"
 

@@ -6,6 +6,7 @@
 
 #include "TemporaryFolder.h"
 #include "store/Connection.h"
+#include "store/DataFile.h"
 #include "store/Snapshot.h"
 #include "store/StoreError.h"
 
