@@ -1,9 +1,22 @@
 #include "app/DeviceBytes.h"
 
+#include <algorithm>
+
+#include "base/Gbk.h"
 #include "base/NumberText.h"
 #include "platform/PortError.h"
 
 namespace device {
+
+std::string printedLines(std::vector<std::string> lines) {
+  const auto isControl = [](char c) { return static_cast<unsigned char>(c) < 0x20 || c == 0x7F; };
+  std::string bytes;
+  for (std::string& line : lines) {
+    std::replace_if(line.begin(), line.end(), isControl, ' ');
+    bytes += gbk::encode(line) + "\r\n";
+  }
+  return bytes;
+}
 
 std::string displayFigure(Currency money, int mode) {
   std::string bytes;

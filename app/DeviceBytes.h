@@ -2,12 +2,17 @@
 
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "base/Currency.h"
 
-/// The bytes that the customer display and the cash drawer understand. Both models of display take
-/// the same commands.
+/// The bytes that line printer, customer display and cash drawer understand. Both models of display
+/// take the same commands.
 namespace device {
+
+/// Texts as a line printer takes them: in GBK, each ended by CR LF. A control character in a text
+/// is printed as a blank: it would be a command to the printer or to the drawer behind it.
+std::string printedLines(std::vector<std::string> lines);
 
 /// ESC/POS "generate pulse": ESC p, pin 0, on time 60, off time 255 (2 ms each), then a line end.
 inline constexpr std::string_view kDrawerPulse{"\x1B\x70\x00\x3C\xFF\r\n", 7};

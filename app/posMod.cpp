@@ -9,6 +9,7 @@
 #include "base/FileName.h"
 #include "base/OwnerOnly.h"
 #include "platform/MousePointer.h"
+#include "saleslib/ClsRights.h"
 #include "store/DataFile.h"
 #include "store/DataFileCopy.h"
 
@@ -31,15 +32,30 @@ DataSource posMod::dataSource() const {
 }
 
 std::string posMod::OpenDataStore() {
+  DataSource source;
+  std::error_code ignored;
   try {
-    const DataSource source = dataSource();
+    source = dataSource();
     lock_ = std::make_unique<DataFileLock>(source.path);
     gConn = openDataFile(source);
     return {};
   } catch (const Failure& failure) {
     lock_.reset();
-    return failure.what();
+    const bool isMissing = !std::filesystem::exists(source.path, ignored);
+    return failure.what() +
+           (isMissing
+                ? "\n还没有数据文件的话，请店主建立一个：\ntilladmin create " + source.path.string()
+                : std::string());
   }
+}
+
+std::string posMod::missingOperator() const {
+  Rows rows = gConn->query(
+      "select 1 from operator_rights join operators on id = operator_id where right_key = ?",
+      kRightSell);
+  if (rows.next()) return {};
+  return "还没有能收银的操作员。请店主增加一位：\ntilladmin operator add " +
+         gConn->source().path.string() + " --number 1 --name 姓名 --right sell";
 }
 
 std::string posMod::protectFiles() const {

@@ -42,8 +42,11 @@ class posMod {
   /// Takes the till's lock on the data file and opens it: Path of section Database as
   /// DataSource::parse reads it (a relative one starts at the program's folder), else
   /// folder/data/POS.mdb with the built-in password. An empty text, or why it could not, for a
-  /// message box.
+  /// message box: where there is no file, with the command that makes one.
   [[nodiscard]] std::string OpenDataStore();
+  /// What the owner has to do before anybody can sell: an empty text, or that there is no operator
+  /// who may, for a message. Needs the data file open. Throws StoreError.
+  [[nodiscard]] std::string missingOperator() const;
   /// Makes what holds secrets readable by its owner only: the data file with its logs and its
   /// backup, and Config.ini when the data file's password is in it. An empty text, or which
   /// files others keep rights on, for a message. Needs the data file open.

@@ -75,16 +75,6 @@ std::size_t columnsOf(const Utf8Character& character) {
   return character.code < 0x80 ? 1 : 2;
 }
 
-/// The text without the fewest of its first characters, at most `columns` wide.
-std::string_view lastColumns(std::string_view text, std::size_t columns) {
-  for (std::size_t wide = width(text); wide > columns;) {
-    const Utf8Character first = firstUtf8(text);
-    wide -= columnsOf(first);
-    text.remove_prefix(first.length);
-  }
-  return text;
-}
-
 }  // namespace
 
 std::string encode(std::string_view utf8) {
@@ -128,11 +118,6 @@ std::string centred(std::string_view utf8, std::size_t columns, char fill) {
   const std::size_t wide = width(utf8);
   const std::string pad(columns > wide ? (columns - wide) / 2 : 0, fill);
   return pad + std::string(utf8) + pad;
-}
-
-std::string right(std::string_view text, std::size_t columns) {
-  const std::string_view kept = lastColumns(text, columns);
-  return std::string(columns - width(kept), ' ') + std::string(kept);
 }
 
 }  // namespace gbk

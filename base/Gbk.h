@@ -25,8 +25,5 @@ std::string cut(std::string_view utf8, std::size_t columns);
 /// pad x fill + text + pad x fill, with pad = (columns - width) / 2 rounded down; the text alone
 /// when it is wider.
 std::string centred(std::string_view utf8, std::size_t columns, char fill = ' ');
-/// The text right-aligned in `columns`: the last `columns` of (blanks + text). A Chinese character
-/// at the cut goes as a whole and leaves a blank.
-std::string right(std::string_view text, std::size_t columns);
 
 }  // namespace gbk

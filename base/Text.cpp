@@ -90,6 +90,17 @@ bool equalIgnoringCase(std::string_view a, std::string_view b) {
                     [](char x, char y) { return lowered(x) == lowered(y); });
 }
 
+bool hasControlCharacter(std::string_view text) {
+  for (std::size_t at = 0; at < text.size(); ++at) {
+    const auto byte = static_cast<unsigned char>(text[at]);
+    if (byte < 0x20 || byte == 0x7f) return true;
+    const bool isC1 =
+        byte == 0xC2 && at + 1 < text.size() && static_cast<unsigned char>(text[at + 1]) < 0xA0;
+    if (isC1) return true;
+  }
+  return false;
+}
+
 std::string replaced(std::string text, std::string_view what, std::string_view with) {
   ensure(!what.empty(), "something to replace");
   for (std::size_t at = text.find(what); at != std::string::npos;

@@ -18,5 +18,8 @@ std::string firstCharacters(std::string_view text, std::size_t count);
 /// ASCII letters lowered, all else as it is.
 std::string asciiLower(std::string_view text);
 bool equalIgnoringCase(std::string_view a, std::string_view b);
+/// Whether it holds a control character (line end, escape, delete, the C1 set): one would command a
+/// printer, or forge a line of paper or of a file.
+bool hasControlCharacter(std::string_view text);
 /// Every occurrence of `what` replaced; `what` is not empty.
 std::string replaced(std::string text, std::string_view what, std::string_view with);

@@ -9,6 +9,9 @@
 #include "bench/Goods.h"
 #include "bench/ProgramFolder.h"
 #include "bench/Run.h"
+#include "store/Connection.h"
+#include "store/FragmentIndex.h"
+#include "store/Transaction.h"
 
 namespace fs = std::filesystem;
 
@@ -46,13 +49,26 @@ void writeGoods(const fs::path& file, int count) {
   }
 }
 
-/// Imports that many goods into a new shop; gives the tool's memory.
+/// The goods that the barcodes belong to.
+void fillMaster(const fs::path& shop, int count) {
+  const auto connection = openDataFile({shop, kBuiltInPassword});
+  Transaction filling(*connection);
+  for (int item = 0; item < count; ++item) {
+    connection->run("insert into spda (f_spbm, f_spmc) values (?, ?)", goods::itemCode(item),
+                    goods::name(item));
+  }
+  updateFragmentIndex(*connection);
+  filling.commit();
+}
+
+/// Imports that many barcodes into a new shop; gives the tool's memory.
 double import(Run& run, int goods, Samples& samples) {
   const auto folder = run.shops.emptyFolder();
   const std::string shop = folder->path() / "shop.mdb";
   const std::string csv = folder->path() / "goods.csv";
   writeGoods(csv, goods);
   runTool({"create", shop});
+  fillMaster(shop, goods);
   double memory = 0;
   samples.time([&] { memory = runTool({"import", shop, "--table", "tmda", csv}); });
   return memory;

@@ -149,7 +149,7 @@ void Checkout::printPageReceipts() {
 void Checkout::printOurP() {
   if (!state_.lastBill) return;
   try {
-    pos_.ports.pagePrinter()->print(pageReceipt(pos_, state_));
+    pos_.ports.pagePrinter(pos_.gPosSet.PModel)->print(pageReceipt(pos_, state_));
     pagePrinter_.worked();
   } catch (const Failure& error) {
     pagePrinter_.failed(QString::fromUtf8(error.what()));

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <iterator>
 
+#include "app/DeviceBytes.h"
 #include "app/posMod.h"
 #include "base/Gbk.h"
 #include "base/NumberText.h"
@@ -18,6 +19,19 @@ std::string blanks(std::size_t count) {
 
 std::size_t columns(int width) {
   return static_cast<std::size_t>(width);
+}
+
+/// Ends in its column, and is never cut: wider, with the blank before it, it begins further left.
+std::string figure(const std::string& text, int width) {
+  return blanks(std::max(columns(width), text.size() + 1) - text.size()) + text;
+}
+
+/// The name's beginning that stands before a figure without being read as a part of it.
+std::string beforeFigure(const std::string& name, std::size_t room) {
+  const std::string cut = gbk::cut(name, room);
+  const bool endsInAscii = !cut.empty() && static_cast<unsigned char>(cut.back()) < 0x80;
+  const bool touches = endsInAscii && gbk::width(cut) == room;
+  return touches ? gbk::cut(cut, room - 1) : cut;
 }
 
 /// Points as they will be once the amount is credited, with one decimal.
@@ -47,16 +61,16 @@ void LineReceipt::PrintFoot() {
     return;
   }
   failedBill_ = 0;
-  const std::vector<std::string> foot = footLines();
   // The drawer opens while the paper still moves, so that the cashier does not wait for the texts.
-  const auto rest = foot.begin() + (state_.hasDrawer ? 2 : 0);
+  std::vector<std::string> lines = totalLines();
   if (state_.hasDrawer) {
-    print({foot.begin(), rest});
+    print(lines);
+    lines.clear();
     const bool onThisPort = pos_.gPosSet.MBPort == pos_.gPosSet.PPort;
     if (unsent_.empty() || !onThisPort) drawer_.OpenDrawer();
   }
-  std::vector<std::string> lines;
-  std::copy_if(rest, foot.end(), std::back_inserter(lines),
+  const std::vector<std::string> payment = paymentLines();
+  std::copy_if(payment.begin(), payment.end(), std::back_inserter(lines),
                [](const std::string& line) { return !line.empty(); });
   lines.resize(lines.size() + 4);
   const std::vector<std::string> nextHeader = headerLines();
@@ -82,52 +96,57 @@ std::vector<std::string> LineReceipt::headerLines() const {
 }
 
 std::string LineReceipt::lineText() const {
-  const ReceiptColumns& widths = state_.receiptCols;
   const ClsSellItem& line = *state_.curLine;
   const std::string price = twoDecimals(line.Price());
-  const std::size_t forName = columns(widths.name) - std::min(columns(widths.name), price.size());
-  const std::string name = gbk::cut(line.SpName(), forName);
-  return name + blanks(forName - gbk::width(name)) + price +
-         gbk::right(generalNumber(line.Quantity()), columns(widths.quantity)) +
-         gbk::right(twoDecimals(line.Money()), columns(widths.amount));
+  const std::string sum = figures(line.Quantity(), line.Money());
+  const std::size_t room = roomBeside(price + sum);
+  const std::string name = beforeFigure(line.SpName(), room);
+  return name + blanks(room - gbk::width(name)) + price + sum;
 }
 
-std::vector<std::string> LineReceipt::footLines() const {
+std::string LineReceipt::figures(double quantity, Currency amount) const {
+  return figure(generalNumber(quantity), state_.receiptCols.quantity) +
+         figure(twoDecimals(amount), state_.receiptCols.amount);
+}
+
+std::size_t LineReceipt::roomBeside(const std::string& figures) const {
+  const std::size_t line = columns(state_.receiptCols.line);
+  return line - std::min(line, figures.size());
+}
+
+std::vector<std::string> LineReceipt::totalLines() const {
   const ClsSell& bill = *state_.curBill;
+  const std::string sum = figures(bill.Quantity(), bill.Amount());
+  const std::size_t room = roomBeside(sum);
+  const std::string title = gbk::centred("总    计", room);
+  std::vector<std::string> lines = {title + blanks(room - std::min(room, gbk::width(title))) + sum};
+  if (const auto& member = state_.curMember) {
+    lines.push_back("会员卡：" + member->Bh() + "，累计积分：" +
+                    pointsText(bill.Amount(), pos_.gSysParam.PointUnit(), member->Points()));
+  }
   const Date date = bill.SellTime().date;
+  lines.push_back("日期：" + std::to_string(date.month) + "-" + std::to_string(date.day) +
+                  " 流水号：" + std::to_string(bill.BillNo()) + " 收银员：" +
+                  pos_.gOperator->Code());
+  return lines;
+}
+
+std::vector<std::string> LineReceipt::paymentLines() const {
+  const ClsSell& bill = *state_.curBill;
   const std::size_t width = columns(state_.receiptCols.line);
-  return {totalText(),
-          "日期：" + std::to_string(date.month) + "-" + std::to_string(date.day) + " 流水号：" +
-              std::to_string(bill.BillNo()) + " 收银员：" + pos_.gOperator->Code(),
-          gbk::centred("销售时刻(" + shortTime(bill.SellTime()) + ")", width, '-'),
+  return {gbk::centred("销售时刻(" + shortTime(bill.SellTime()) + ")", width, '-'),
           "原价总计:" + std::to_string(state_.origTotal) + "应收" + oneDecimal(bill.Amount()) +
               "现金" + oneDecimal(bill.Cash()) + "银行卡" + oneDecimal(bill.BankCard()) + "储值卡" +
               oneDecimal(bill.CardPay()) + "找零" + oneDecimal(bill.Change()),
-          gbk::centred("-----------------", width, '-'),
-          pos_.gSysParam.ReceiptText2(),
+          gbk::centred("-----------------", width, '-'), pos_.gSysParam.ReceiptText2(),
           pos_.gSysParam.ReceiptText3()};
-}
-
-std::string LineReceipt::totalText() const {
-  const ReceiptColumns& widths = state_.receiptCols;
-  const ClsSell& bill = *state_.curBill;
-  std::string text = gbk::centred("总    计", columns(widths.name)) +
-                     gbk::right(generalNumber(bill.Quantity()), columns(widths.quantity)) +
-                     gbk::right(twoDecimals(bill.Amount()), columns(widths.amount));
-  if (const auto& member = state_.curMember) {
-    text += "\r\n会员卡：" + member->Bh() + "，累计积分：" +
-            pointsText(bill.Amount(), pos_.gSysParam.PointUnit(), member->Points());
-  }
-  return text;
 }
 
 void LineReceipt::print(const std::vector<std::string>& lines) {
   unsent_.insert(unsent_.end(), lines.begin(), lines.end());
   if (failedBill_ == state_.curBill->BillNo()) return;
-  std::string bytes;
-  for (const std::string& line : unsent_) bytes += gbk::encode(line) + "\r\n";
   try {
-    pos_.ports.portFile(pos_.gPosSet.PPort)->send(bytes);
+    pos_.ports.portFile(pos_.gPosSet.PPort)->send(device::printedLines(unsent_));
     unsent_.clear();
     outage_.worked();
   } catch (const PortError& error) {

@@ -4,6 +4,7 @@
 #include <string>
 #include <vector>
 
+#include "base/Currency.h"
 #include "checkout/Outage.h"
 
 class CashDrawer;
@@ -31,15 +32,19 @@ class LineReceipt {
   /// Two empty lines, so that a bill put aside stands apart. Only when line printing is on.
   void FeedLines();
 
-  /// The texts of these procedures, without line ends, for paper of the state's widths. The
-  /// footer's first text holds a line end of its own when a member is attached; its empty texts are
-  /// not printed.
+ private:
+  // The texts of these procedures, without line ends, for paper of the state's widths.
   std::vector<std::string> headerLines() const;
   std::string lineText() const;
-  std::vector<std::string> footLines() const;
-
- private:
-  std::string totalText() const;
+  /// Down to the date; the drawer opens after it.
+  std::vector<std::string> totalLines() const;
+  /// Below it; empty texts are not printed.
+  std::vector<std::string> paymentLines() const;
+  /// Quantity and amount, each in its column with a blank before it; longer than the two columns
+  /// when a figure needs it.
+  std::string figures(double quantity, Currency amount) const;
+  /// Columns that these figures leave of a line; none when they fill it.
+  std::size_t roomBeside(const std::string& figures) const;
   /// Prints what is unsent and these lines, unless this bill's print has already failed.
   void print(const std::vector<std::string>& lines);
 

@@ -16,8 +16,6 @@ constexpr int kLeft = 1;
 constexpr int kPrice = 1200;
 constexpr int kQuantity = 1900;
 constexpr int kAmount = 2300;
-constexpr int kFigureGap = 40;  ///< at least, between quantity and amount
-constexpr int kTwipsPerPoint = 20;
 constexpr int kRowPitch = 400;
 constexpr int kFirstLine = 300;  ///< of a row's block
 constexpr int kSecondLine = 480;
@@ -56,7 +54,6 @@ class Layout {
   Layout(posMod& pos, const SaleState& state)
       : pos_(pos), state_(state), bill_(*state.lastBill), width_(columns(state.receiptCols.line)) {
     page_.name = std::to_string(bill_.BillNo());
-    page_.paperWidthMm = pos.gPosSet.PModel == 1 ? 80 : 58;
   }
 
   PageDocument receipt() {
@@ -76,13 +73,9 @@ class Layout {
     page_.texts.push_back({x, y, std::move(text)});
   }
 
-  /// Quantity and amount. A long quantity (weighed goods) pushes the amount to the right, so that
-  /// the two never print over each other.
   void placeSum(int y, const std::string& quantity, std::string amount) {
-    const int column = static_cast<int>(page_.fontPoints * kTwipsPerPoint) / 2;
-    const int quantityEnd = kQuantity + static_cast<int>(gbk::width(quantity)) * column;
     place(kQuantity, y, quantity);
-    place(std::max(kAmount, quantityEnd + kFigureGap), y, std::move(amount));
+    place(kAmount, y, std::move(amount));
   }
 
   void footer(std::string text) { place(kLeft, bottom_ + kFooterGap, std::move(text)); }

@@ -2,10 +2,9 @@
 
 #include "saleslib/ClsSysParam.h"
 
-PageDocument topUpSlip(const ClsSysParam& shop, int paperModel, const SlipTexts& texts) {
+PageDocument topUpSlip(const ClsSysParam& shop, const SlipTexts& texts) {
   PageDocument slip;
   slip.name = "充值单";
-  slip.paperWidthMm = paperModel == 1 ? 80 : 58;
   int y = 0;
   for (const std::string& line :
        {" " + shop.ShopName() + "充值单  ", " 卡号: " + texts.cardNumber + "   ",

@@ -10,4 +10,4 @@ class ClsSysParam;
 struct SlipTexts {
   std::string cardNumber, balanceBefore, paid, credited, balanceAfter;
 };
-PageDocument topUpSlip(const ClsSysParam& shop, int paperModel, const SlipTexts& texts);
+PageDocument topUpSlip(const ClsSysParam& shop, const SlipTexts& texts);

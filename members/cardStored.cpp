@@ -213,7 +213,7 @@ void cardStored::printSlip() {
   try {
     const SlipTexts texts{textOf(txtBh_), textOf(beforeMoney_), textOf(inMoney_), textOf(addMoney_),
                           textOf(afterMoney_)};
-    pos_.ports.pagePrinter()->print(topUpSlip(pos_.gSysParam, pos_.gPosSet.PModel, texts));
+    pos_.ports.pagePrinter(pos_.gPosSet.PModel)->print(topUpSlip(pos_.gSysParam, texts));
   } catch (const Failure& error) {
     messageBox(this, QString::fromUtf8(error.what()));
   }

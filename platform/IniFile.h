@@ -6,11 +6,11 @@
 #include <string_view>
 #include <vector>
 
-/// A settings file as Windows reads and writes it, in GBK (UTF-8 after a byte order mark). Sections
-/// and keys are found without regard to ASCII case. Reading drops blanks and one pair of enclosing
-/// quotes ("..." or '...') around a value. Writing keeps comments, order, and unknown sections and
-/// keys as they are, and the file's owner and permissions; a new file is its owner's only. A power
-/// cut leaves the old or the new file. Every read looks at the file as it is now.
+/// A settings file as Windows reads and writes it, in GBK or as an editor saved it (IniText).
+/// Sections and keys are found without regard to ASCII case. Reading drops blanks and one pair of
+/// enclosing quotes ("..." or '...') around a value. Writing keeps comments, order, and unknown
+/// sections and keys as they are, and the file's owner and permissions; a new file is its owner's
+/// only. A power cut leaves the old or the new file. Every read looks at the file as it is now.
 class IniFile {
  public:
   /// The file need not exist; its name is found without regard to case.

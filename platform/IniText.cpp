@@ -1,13 +1,17 @@
 #include "platform/IniText.h"
 
+#include <QStringConverter>
 #include <algorithm>
 
 #include "base/Gbk.h"
 #include "base/Text.h"
+#include "base/Utf8.h"
 
 namespace {
 
-constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
+constexpr std::string_view kUtf8Mark = "\xEF\xBB\xBF";
+constexpr std::string_view kLittleEndianMark = "\xFF\xFE";
+constexpr std::string_view kBigEndianMark = "\xFE\xFF";
 constexpr char kBlanks[] = " \t\r\n";
 
 std::string_view withoutBlanks(std::string_view text) {
@@ -52,11 +56,67 @@ std::vector<std::string> splitKeepingEnds(std::string_view bytes) {
   return lines;
 }
 
+/// Chinese characters have three bytes and more in UTF-8. Some texts of two bytes each are as valid
+/// in GBK, where they are Chinese.
+bool isChineseInUtf8(std::string_view bytes) {
+  bool isChinese = false;
+  while (!bytes.empty()) {
+    const Utf8Character next = firstUtf8(bytes);
+    if (next.broken) return false;
+    isChinese = isChinese || next.length > 2;
+    bytes.remove_prefix(next.length);
+  }
+  return isChinese;
+}
+
+std::string fromUtf16(std::string_view bytes, QStringConverter::Encoding order) {
+  QStringDecoder decoder(order);
+  const QString text = decoder(QByteArrayView(bytes.data(), static_cast<qsizetype>(bytes.size())));
+  return text.toStdString();
+}
+
+std::string toUtf16(std::string_view utf8, QStringConverter::Encoding order) {
+  QStringEncoder encoder(order);
+  const QByteArray bytes =
+      encoder(QString::fromUtf8(utf8.data(), static_cast<qsizetype>(utf8.size())));
+  return bytes.toStdString();
+}
+
+/// UTF-16 after its byte order mark. Broken, it would not be written back as it was.
+bool isUtf16(std::string_view bytes, std::string_view mark, QStringConverter::Encoding order) {
+  if (!bytes.starts_with(mark)) return false;
+  const std::string_view text = bytes.substr(mark.size());
+  return toUtf16(fromUtf16(text, order), order) == text;
+}
+
 }  // namespace
 
-IniText::IniText(std::string_view bytes) : isUtf8_(bytes.starts_with(kByteOrderMark)) {
-  if (isUtf8_) bytes.remove_prefix(kByteOrderMark.size());
-  lines_ = splitKeepingEnds(bytes);
+IniText::Encoding IniText::encodingOf(std::string_view bytes) {
+  using enum Encoding;
+  if (bytes.starts_with(kUtf8Mark)) return kMarkedUtf8;
+  if (isUtf16(bytes, kLittleEndianMark, QStringConverter::Utf16LE)) return kUtf16LittleEndian;
+  if (isUtf16(bytes, kBigEndianMark, QStringConverter::Utf16BE)) return kUtf16BigEndian;
+  return isChineseInUtf8(bytes) ? kUtf8 : kGbk;
+}
+
+IniText::IniText(std::string_view bytes) : encoding_(encodingOf(bytes)) {
+  switch (encoding_) {
+    case Encoding::kGbk:
+    case Encoding::kUtf8:
+      lines_ = splitKeepingEnds(bytes);
+      break;
+    case Encoding::kMarkedUtf8:
+      lines_ = splitKeepingEnds(bytes.substr(kUtf8Mark.size()));
+      break;
+    case Encoding::kUtf16LittleEndian:
+      lines_ = splitKeepingEnds(
+          fromUtf16(bytes.substr(kLittleEndianMark.size()), QStringConverter::Utf16LE));
+      break;
+    case Encoding::kUtf16BigEndian:
+      lines_ = splitKeepingEnds(
+          fromUtf16(bytes.substr(kBigEndianMark.size()), QStringConverter::Utf16BE));
+      break;
+  }
   const bool endsWithLfAlone =
       !lines_.empty() && lines_.front().ends_with('\n') && !lines_.front().ends_with("\r\n");
   if (endsWithLfAlone) lineEnd_ = "\n";
@@ -92,12 +152,31 @@ void IniText::setValue(std::string_view section, std::string_view key, std::stri
   } else {
     lines_.insert(lines_.begin() + static_cast<std::ptrdiff_t>(placeForNewKey(*lines)), newLine);
   }
+  keepReadable();
+}
+
+/// With its new value a file without a mark can look like another encoding. Then it gets the mark.
+void IniText::keepReadable() {
+  if (encodingOf(bytes()) == encoding_) return;
+  for (std::string& line : lines_) line = decoded(line);
+  encoding_ = Encoding::kMarkedUtf8;
 }
 
 std::string IniText::bytes() const {
-  std::string all(isUtf8_ ? kByteOrderMark : "");
-  for (const std::string& line : lines_) all += line;
-  return all;
+  std::string text;
+  for (const std::string& line : lines_) text += line;
+  switch (encoding_) {
+    case Encoding::kGbk:
+    case Encoding::kUtf8:
+      break;
+    case Encoding::kMarkedUtf8:
+      return std::string(kUtf8Mark) + text;
+    case Encoding::kUtf16LittleEndian:
+      return std::string(kLittleEndianMark) + toUtf16(text, QStringConverter::Utf16LE);
+    case Encoding::kUtf16BigEndian:
+      return std::string(kBigEndianMark) + toUtf16(text, QStringConverter::Utf16BE);
+  }
+  return text;
 }
 
 std::optional<IniText::Lines> IniText::findSection(std::string_view section) const {
@@ -133,9 +212,11 @@ std::size_t IniText::placeForNewKey(Lines lines) const {
 }
 
 std::string IniText::decoded(std::string_view bytes) const {
-  return isUtf8_ ? std::string(bytes) : gbk::decode(bytes);
+  return encoding_ == Encoding::kGbk ? gbk::decode(bytes) : std::string(bytes);
 }
 
 std::string IniText::encoded(std::string_view utf8) const {
-  return isUtf8_ ? std::string(utf8) : gbk::encode(utf8);
+  if (encoding_ == Encoding::kGbk) return gbk::encode(utf8);
+  // What is broken must not break the rest of the file.
+  return QString::fromUtf8(utf8.data(), static_cast<qsizetype>(utf8.size())).toStdString();
 }

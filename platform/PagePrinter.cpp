@@ -22,6 +22,8 @@ namespace {
 constexpr double kTwipsPerInch = 1440;
 constexpr double kTwipsPerPoint = 20;
 constexpr double kMmPerInch = 25.4;
+/// Between two texts at the same height.
+constexpr double kColumnGap = 40;
 /// Above, left and right of the text, unless the printer itself leaves more.
 constexpr double kMarginMm = 2;
 /// Below the last line, so that it can be torn off.
@@ -37,13 +39,19 @@ double mmOf(double twips) {
   return twips / kTwipsPerInch * kMmPerInch;
 }
 
+/// A document on its paper.
+struct Job {
+  const PageDocument& document;
+  int paperWidthMm;
+};
+
 /// What a line printer on the same roll holds in a line.
 int columnsOn(int paperWidthMm) {
   return paperWidthMm < 80 ? 32 : 40;
 }
 
 /// Sized in twips, not larger than the document wants and so that a full line fits.
-QFont fixedPitchFont(const PageDocument& document, double lineTwips) {
+QFont fixedPitchFont(const Job& job, double lineTwips) {
   QFont font(QStringList{"Noto Sans Mono CJK SC", "WenQuanYi Zen Hei Mono", "SimSun", "NSimSun"});
   font.setStyleHint(QFont::Monospace);
   font.setFixedPitch(true);
@@ -51,9 +59,9 @@ QFont fixedPitchFont(const PageDocument& document, double lineTwips) {
   const QFontMetricsF metrics(font);
   const double column =
       std::max(metrics.horizontalAdvance("0"), metrics.horizontalAdvance("中") / 2) / 1000;
-  const double fitting = lineTwips / (columnsOn(document.paperWidthMm) * column);
+  const double fitting = lineTwips / (columnsOn(job.paperWidthMm) * column);
   font.setPixelSize(
-      static_cast<int>(std::floor(std::min(document.fontPoints * kTwipsPerPoint, fitting))));
+      static_cast<int>(std::floor(std::min(job.document.fontPoints * kTwipsPerPoint, fitting))));
   return font;
 }
 
@@ -76,17 +84,38 @@ std::vector<Page> pagesOf(const PageDocument& document) {
   return pages;
 }
 
-void drawText(QPainter& painter, const PlacedText& placed, double lineTwips) {
-  const QString text = QString::fromStdString(placed.text);
-  const double room = lineTwips - placed.x;
+/// Without what moves the place of the following characters instead of being one, and without the
+/// blanks at the end.
+QString visible(const std::string& text) {
+  QString result = QString::fromStdString(text);
+  result.removeIf([](QChar c) {
+    const QChar::Category category = c.category();
+    return category == QChar::Other_Control || category == QChar::Other_Format ||
+           category == QChar::Separator_Line || category == QChar::Separator_Paragraph;
+  });
+  while (result.endsWith(' ')) result.chop(1);
+  return result;
+}
+
+void drawText(QPainter& painter, const PlacedText& placed, double room) {
+  const QString text = visible(placed.text);
   const double width = QFontMetricsF(painter.font()).horizontalAdvance(text);
   painter.save();
   // Chinese characters stand in a square whose top is at y; their base line is at 0.88 of it.
   painter.translate(placed.x, placed.y + 0.88 * painter.font().pixelSize());
-  // A name too long for the paper is set narrower: better small than cut off.
+  // A text too long for its place is set narrower: better small than cut off or printed over.
   if (width > room && room > 0) painter.scale(room / width, 1);
   painter.drawText(QPointF(0, 0), text);
   painter.restore();
+}
+
+/// Each text has the room up to the next one at its height, the last one up to the paper's edge.
+void drawTexts(QPainter& painter, const std::vector<const PlacedText*>& texts, double lineTwips) {
+  for (std::size_t i = 0; i < texts.size(); ++i) {
+    const PlacedText& text = *texts[i];
+    const bool hasNeighbour = i + 1 < texts.size() && texts[i + 1]->y == text.y;
+    drawText(painter, text, (hasNeighbour ? texts[i + 1]->x - kColumnGap : lineTwips) - text.x);
+  }
 }
 
 /// In twips.
@@ -107,40 +136,39 @@ void setPaper(QPagedPaintDevice& device, int widthMm, double lengthMm) {
 
 /// Draws the whole job, on one page of the roll if it is not too long for that. False when the
 /// device refuses.
-bool draw(const PageDocument& document, QPagedPaintDevice& device) {
+bool draw(const Job& job, QPagedPaintDevice& device) {
   const QMarginsF margins = marginsOf(device);
-  const double lineTwips = twipsOf(document.paperWidthMm) - margins.left() - margins.right();
+  const double lineTwips = twipsOf(job.paperWidthMm) - margins.left() - margins.right();
   QPainter painter;
-  for (const Page& page : pagesOf(document)) {
-    setPaper(device, document.paperWidthMm, mmOf(margins.top() + page.bottom - page.top) + kFeedMm);
+  for (const Page& page : pagesOf(job.document)) {
+    setPaper(device, job.paperWidthMm, mmOf(margins.top() + page.bottom - page.top) + kFeedMm);
     if (!(painter.isActive() ? device.newPage() : painter.begin(&device))) return false;
     painter.resetTransform();
     painter.scale(device.logicalDpiX() / kTwipsPerInch, device.logicalDpiY() / kTwipsPerInch);
     painter.translate(margins.left(), margins.top() - page.top);
-    painter.setFont(fixedPitchFont(document, lineTwips));
-    for (const PlacedText* text : page.texts) drawText(painter, *text, lineTwips);
+    painter.setFont(fixedPitchFont(job, lineTwips));
+    drawTexts(painter, page.texts, lineTwips);
   }
   return painter.end();
 }
 
-QByteArray pdfOf(const PageDocument& document) {
+QByteArray pdfOf(const Job& job) {
   QByteArray bytes;
   QBuffer buffer(&bytes);
   buffer.open(QIODevice::WriteOnly);
   QPdfWriter writer(&buffer);
-  writer.setTitle(QString::fromStdString(document.name));
-  if (!draw(document, writer)) throw PortError("打印失败：不能生成 PDF");
+  writer.setTitle(QString::fromStdString(job.document.name));
+  if (!draw(job, writer)) throw PortError("打印失败：不能生成 PDF");
   return bytes;
 }
 
 /// Written under another name and renamed when whole, so that a program that watches the folder
 /// never takes half a job.
-void printToFolder(const PageDocument& document, const std::filesystem::path& folder,
-                   const DateTime& now) {
-  const QByteArray pdf = pdfOf(document);
+void printToFolder(const Job& job, const std::filesystem::path& folder, const DateTime& now) {
+  const QByteArray pdf = pdfOf(job);
   const std::string failed = "打印文件夹 " + folder.string() + " 写不进：";
   try {
-    const auto path = folder / nextPdfName(folder, now, document.name);
+    const auto path = folder / nextPdfName(folder, now, job.document.name);
     QSaveFile file(QString::fromStdString(path.string()));
     const bool saved =
         file.open(QIODevice::WriteOnly) && file.write(pdf) == pdf.size() && file.commit();
@@ -151,12 +179,12 @@ void printToFolder(const PageDocument& document, const std::filesystem::path& fo
   }
 }
 
-void printOnDefaultPrinter(const PageDocument& document) {
+void printOnDefaultPrinter(const Job& job) {
   const QPrinterInfo info = QPrinterInfo::defaultPrinter();
   if (info.isNull()) throw PortError("没有默认打印机");
   QPrinter printer(info, QPrinter::HighResolution);
-  printer.setDocName(QString::fromStdString(document.name));
-  if (!draw(document, printer) || printer.printerState() == QPrinter::Error) {
+  printer.setDocName(QString::fromStdString(job.document.name));
+  if (!draw(job, printer) || printer.printerState() == QPrinter::Error) {
     throw PortError("打印机 " + info.printerName().toStdString() + " 打印失败");
   }
 }
@@ -168,13 +196,14 @@ int PageDocument::lineHeight() const {
   return static_cast<int>(std::lround(fontPoints * kTwipsPerPoint * kLeading));
 }
 
-PagePrinter::PagePrinter(std::filesystem::path pdfFolder, Clock clock)
-    : pdfFolder_(std::move(pdfFolder)), clock_(std::move(clock)) {}
+PagePrinter::PagePrinter(int paperWidthMm, std::filesystem::path pdfFolder, Clock clock)
+    : paperWidthMm_(paperWidthMm), pdfFolder_(std::move(pdfFolder)), clock_(std::move(clock)) {}
 
 void PagePrinter::print(const PageDocument& document) {
+  const Job job{document, paperWidthMm_};
   if (pdfFolder_.empty()) {
-    printOnDefaultPrinter(document);
+    printOnDefaultPrinter(job);
   } else {
-    printToFolder(document, pdfFolder_, clock_());
+    printToFolder(job, pdfFolder_, clock_());
   }
 }

@@ -13,11 +13,10 @@ struct PlacedText {
   std::string text;  ///< UTF-8
 };
 
-/// One print job: texts in print order, in one fixed-pitch font (a Chinese character is two
-/// columns).
+/// One print job: texts in print order, those at one height from left to right, in one fixed-pitch
+/// font (a Chinese character is two columns).
 struct PageDocument {
-  std::string name;       ///< of the job, for the print queue and the PDF's file name
-  int paperWidthMm = 80;  ///< roll width; the length follows from the texts
+  std::string name;  ///< of the job, for the print queue and the PDF's file name
   double fontPoints = 9;
   std::vector<PlacedText> texts;
 
@@ -28,17 +27,21 @@ struct PageDocument {
 /// The system's default printer, or a folder that gets one PDF per job.
 class PagePrinter {
  public:
-  /// An empty folder means the system's default printer. The clock dates the PDFs' file names.
-  explicit PagePrinter(std::filesystem::path pdfFolder = {}, Clock clock = localTime);
+  /// The width is the roll's. An empty folder means the system's default printer. The clock dates
+  /// the PDFs' file names.
+  explicit PagePrinter(int paperWidthMm, std::filesystem::path pdfFolder = {},
+                       Clock clock = localTime);
   virtual ~PagePrinter() = default;
 
   /// Prints the job on paper as long as needed, in pages of five metres when it is longer: at most
   /// fontPoints large, and so that a full line (40 columns on 80 mm, 32 on 58 mm) fits. A text that
-  /// would leave the paper is set narrower. The PDFs' file names sort in print order. Throws
-  /// PortError when there is no printer, or the folder or the job fails.
+  /// would reach the next one at its height, or leave the paper, is set narrower; control
+  /// characters are left out. The PDFs' file names sort in print order. Throws PortError when there
+  /// is no printer, or the folder or the job fails.
   virtual void print(const PageDocument& document);
 
  private:
+  int paperWidthMm_;
   std::filesystem::path pdfFolder_;
   Clock clock_;
 };

@@ -1,6 +1,5 @@
 #include "reports/ShiftSheet.h"
 
-#include "base/Gbk.h"
 #include "base/NumberText.h"
 
 std::vector<std::string> ShiftSheet::lines() const {
@@ -12,10 +11,4 @@ std::vector<std::string> ShiftSheet::lines() const {
   sheet.insert(sheet.end(), 4, "");
   sheet.emplace_back("_ _ _ _ _ _ _ _ _ _ _ _ _");
   return sheet;
-}
-
-std::string linePrinterBytes(const std::vector<std::string>& lines) {
-  std::string bytes;
-  for (const std::string& line : lines) bytes += gbk::encode(line) + "\r\n";
-  return bytes;
 }

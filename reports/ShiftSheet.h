@@ -16,6 +16,3 @@ struct ShiftSheet {
   /// The sheet line by line: the figures, and two lines to sign on.
   std::vector<std::string> lines() const;
 };
-
-/// Lines as a line printer takes them: in GBK, each ended by CR LF.
-std::string linePrinterBytes(const std::vector<std::string>& lines);

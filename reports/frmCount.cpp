@@ -8,6 +8,7 @@
 #include <QTableView>
 #include <QVBoxLayout>
 
+#include "app/DeviceBytes.h"
 #include "app/posMod.h"
 #include "base/NumberText.h"
 #include "platform/PortError.h"
@@ -40,9 +41,9 @@ ShiftSheet sheetOf(const ClsDayStat& day) {
 void print(const posMod& pos, const ShiftSheet& sheet) {
   const std::string& port = pos.gPosSet.PPort;
   if (port == "USB") {
-    pos.ports.pagePrinter()->print(pageOfLines("交班表", sheet.lines()));
+    pos.ports.pagePrinter(pos.gPosSet.PModel)->print(pageOfLines("交班表", sheet.lines()));
   } else {
-    pos.ports.portFile(port)->send(linePrinterBytes(sheet.lines()));
+    pos.ports.portFile(port)->send(device::printedLines(sheet.lines()));
   }
 }
 
@@ -126,10 +127,8 @@ void frmCount::show(const ClsDayStat& day) {
 
 void frmCount::printSheet() {
   if (!canPrint(pos_.gPosSet.PPort)) return;
-  const ShiftSheet sheet = sheetOf(today());
-  if (sheet.bills == 0) return messageBox(this, tr("没有可打印的内容！"));
   try {
-    print(pos_, sheet);
+    print(pos_, sheetOf(today()));
   } catch (const PortError& error) {
     messageBox(this, QString::fromUtf8(error.what()));
   }

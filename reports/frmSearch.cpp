@@ -242,7 +242,7 @@ void frmSearch::reprintLastBill() {
 
 void frmSearch::print(const PageDocument& page) {
   try {
-    pos_.ports.pagePrinter()->print(page);
+    pos_.ports.pagePrinter(pos_.gPosSet.PModel)->print(page);
   } catch (const PortError& error) {
     messageBox(this, QString::fromUtf8(error.what()));
   }

@@ -51,7 +51,7 @@ bool SaleSession::open() {
   reportIncompleteTopUps(pos_, screen_);
   voidOpenBills();
   if (clockIsBehind()) {
-    screen_.messageBox(tr("电脑系统时间错误！"), tr("致命错误"));
+    screen_.messageBox(tr("电脑系统时间错误！") + "\n" + lastBillDated(), tr("致命错误"));
     screen_.endProgram();
     return false;
   }
@@ -77,6 +77,16 @@ void SaleSession::voidOpenBills() {
 
 bool SaleSession::clockIsBehind() const {
   return state.lastBill && state.lastBill->SellTime().date > pos_.clock().date;
+}
+
+// One bill of a day when the clock was ahead would keep the shop closed until that day.
+QString SaleSession::lastBillDated() const {
+  return tr("单据 %1 的时间是 %2，今天却是 %3。\n请先看电脑的日期对不对；电脑对了，"
+            "就请店主改正这张单据：\ntilladmin bill redate %4 %1")
+      .arg(state.lastBill->BillNo())
+      .arg(QString::fromStdString(generalText(state.lastBill->SellTime())),
+           QString::fromStdString(dateText(pos_.clock().date)),
+           QString::fromStdString(pos_.gConn->source().path.string()));
 }
 
 // The order is the one in which a key mapped twice finds its command.

@@ -74,6 +74,7 @@ class SaleSession {
   void loadSettings();
   void voidOpenBills();
   bool clockIsBehind() const;
+  QString lastBillDated() const;
   void fillCommands();
   void fillMenu();
   void addOpener(int KeyBoard::*key, const QString& screen);

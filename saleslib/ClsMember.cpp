@@ -1,6 +1,5 @@
 #include "saleslib/ClsMember.h"
 
-#include <algorithm>
 #include <cmath>
 #include <utility>
 
@@ -12,13 +11,6 @@
 namespace {
 
 constexpr std::size_t kLongestText = 100;
-
-bool hasControlCharacter(const std::string& text) {
-  return std::any_of(text.begin(), text.end(), [](char c) {
-    const auto byte = static_cast<unsigned char>(c);
-    return byte < 0x20 || byte == 0x7f;
-  });
-}
 
 }  // namespace
 

@@ -22,17 +22,13 @@ struct Definition {
   const char* name;
   const Kind* kind;
   const char* byDefault;
+  const char* meaning;
 };
 
 constexpr std::size_t kLongestText = 200;
-constexpr int kHighestRate = 10;
 
 std::optional<std::string> readText(std::string_view text) {
-  for (const char c : text) {
-    const auto byte = static_cast<unsigned char>(c);
-    if (byte < 0x20 || byte == 0x7f) return std::nullopt;
-  }
-  if (characters(text) > kLongestText) return std::nullopt;
+  if (hasControlCharacter(text) || characters(text) > kLongestText) return std::nullopt;
   return std::string(text);
 }
 
@@ -57,7 +53,7 @@ std::optional<std::string> readStockRule(std::string_view text) {
 
 std::optional<std::string> readRate(std::string_view text) {
   const std::optional<Currency> rate = Currency::parse(text);
-  if (!rate || *rate <= Currency() || *rate > Currency::fromYuan(kHighestRate)) return std::nullopt;
+  if (!rate || *rate <= Currency() || *rate > Currency::fromYuan(1)) return std::nullopt;
   return generalNumber(*rate);
 }
 
@@ -65,18 +61,26 @@ constexpr Kind kText = {readText, "不能超过200个字符，也不能换行"};
 constexpr Kind kSwitch = {readSwitch, "只能是 0 或 1（否或是）"};
 constexpr Kind kWhole = {readWhole, "只能是 0 到 32767 的整数"};
 constexpr Kind kStockRule = {readStockRule, "只能是 0（可以负库存）或 1（不可以负库存）"};
-constexpr Kind kRate = {readRate, "只能是大于 0、不超过 10 的数"};
+constexpr Kind kRate = {readRate, "只能是大于 0、不超过 1 的数（九折写 0.9）"};
 
 constexpr std::array kDefinitions = {
-    Definition{"ShopName", &kText, ""},        Definition{"ReceiptText1", &kText, ""},
-    Definition{"ReceiptText2", &kText, ""},    Definition{"ReceiptText3", &kText, ""},
-    Definition{"ReceiptText4", &kText, ""},    Definition{"ReceiptText5", &kText, ""},
-    Definition{"ReceiptText6", &kText, ""},    Definition{"StockRule", &kStockRule, "0"},
-    Definition{"RoundJiao", &kSwitch, "0"},    Definition{"RoundYuan", &kSwitch, "0"},
-    Definition{"PointUnit", &kWhole, "10"},    Definition{"GeneralRate", &kRate, "1"},
-    Definition{"VipRate", &kRate, "1"},        Definition{"SilverRate", &kRate, "1"},
-    Definition{"GoldRate", &kRate, "1"},       Definition{"BackupOnExit", &kSwitch, "0"},
-    Definition{"CheckPayment", &kSwitch, "0"},
+    Definition{"ShopName", &kText, "", "店名，小票的第一行"},
+    Definition{"ReceiptText1", &kText, "", "小票文字一"},
+    Definition{"ReceiptText2", &kText, "", "小票文字二"},
+    Definition{"ReceiptText3", &kText, "", "小票文字三"},
+    Definition{"ReceiptText4", &kText, "", "小票文字四"},
+    Definition{"ReceiptText5", &kText, "", "小票文字五"},
+    Definition{"ReceiptText6", &kText, "", "小票文字六"},
+    Definition{"StockRule", &kStockRule, "0", "库存不够时：0 照卖，1 不卖"},
+    Definition{"RoundJiao", &kSwitch, "0", "应收舍入到角：0 否，1 是"},
+    Definition{"RoundYuan", &kSwitch, "0", "应收舍入到元：0 否，1 是"},
+    Definition{"PointUnit", &kWhole, "10", "消费多少元积 1 分，0 不积分"},
+    Definition{"GeneralRate", &kRate, "1", "没有自己折扣的商品打几折（九折写 0.9）"},
+    Definition{"VipRate", &kRate, "1", "贵宾卡打几折（九折写 0.9）"},
+    Definition{"SilverRate", &kRate, "1", "银卡打几折（九折写 0.9）"},
+    Definition{"GoldRate", &kRate, "1", "金卡打几折（九折写 0.9）"},
+    Definition{"BackupOnExit", &kSwitch, "0", "退出程序时备份数据文件：0 否，1 是"},
+    Definition{"CheckPayment", &kSwitch, "0", "收款、价格、折扣像打错时先问一声：0 否，1 是"},
 };
 
 const Definition* find(std::string_view name) {
@@ -105,8 +109,8 @@ std::vector<ClsSysParam::Parameter> ClsSysParam::list() const {
   std::vector<Parameter> parameters;
   parameters.reserve(kDefinitions.size());
   for (const Definition& definition : kDefinitions) {
-    parameters.push_back(
-        {definition.name, value(definition.name), values_.contains(definition.name)});
+    parameters.push_back({definition.name, value(definition.name),
+                          values_.contains(definition.name), definition.meaning});
   }
   return parameters;
 }

@@ -41,11 +41,12 @@ class ClsSysParam {
     std::string name;
     std::string value;  ///< the text in force, default or set
     bool isSet;
+    std::string meaning;  ///< for the owner
   };
-  /// All parameters in a fixed order.
+  /// All parameters in a fixed order; unbound, with their defaults.
   std::vector<Parameter> list() const;
   /// Stores one parameter; its name counts without regard to case. A switch is 0, 1, true, false,
-  /// 是 or 否; a rate is more than 0 and at most 10; a text is one line of at most 200 characters.
+  /// 是 or 否; a rate is more than 0 and at most 1; a text is one line of at most 200 characters.
   /// Returns an empty text, or the reason why not (unknown name, wrong kind). Throws StoreError.
   [[nodiscard]] std::string set(std::string_view name, std::string_view value);
 

@@ -52,13 +52,12 @@ QString DeviceTest::tryPrinter() const {
   if (settings_.PPort == "USB") {
     PageDocument page;
     page.name = "打印测试";
-    page.paperWidthMm = wide ? 80 : 58;
     page.texts.push_back({0, 0, line});
-    ports_.pagePrinter()->print(page);
+    ports_.pagePrinter(settings_.PModel)->print(page);
     return tr("测试行已送到系统打印机");
   }
   // Four empty lines move the test line out from under the cover.
-  ports_.portFile(settings_.PPort)->send(gbk::encode(line) + "\r\n\r\n\r\n\r\n\r\n");
+  ports_.portFile(settings_.PPort)->send(device::printedLines({line, "", "", "", ""}));
   return tr("测试行已送到 %1").arg(portText(settings_.PPort));
 }
 

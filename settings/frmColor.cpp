@@ -1,6 +1,5 @@
 #include "settings/frmColor.h"
 
-#include <QApplication>
 #include <QColorDialog>
 #include <QFrame>
 #include <QGridLayout>
@@ -14,7 +13,6 @@
 
 #include "app/posMod.h"
 #include "base/NumberText.h"
-#include "settings/ColourDialogTexts.h"
 #include "settings/DialogKeys.h"
 #include "shell/Modal.h"
 #include "shell/Style.h"
@@ -62,11 +60,9 @@ QPixmap swatch(std::optional<int> colour) {
 
 }  // namespace
 
-frmColor::frmColor(posMod& pos, QWidget* parent)
-    : QDialog(parent), pos_(pos), texts_(std::make_unique<ColourDialogTexts>()) {
+frmColor::frmColor(posMod& pos, QWidget* parent) : QDialog(parent), pos_(pos) {
   setObjectName("frmColor");
   setWindowTitle(tr("颜色设置"));
-  QCoreApplication::installTranslator(texts_.get());
   cdColor_ = new QColorDialog(this);
   cdColor_->setObjectName("cdColor");
   cdColor_->setOption(QColorDialog::DontUseNativeDialog);
@@ -92,8 +88,6 @@ frmColor::frmColor(posMod& pos, QWidget* parent)
   for (const char* name : {"cmdOk", "cmdCancel"}) controls.push_back(findChild<QWidget*>(name));
   new DialogKeys(pos_.gKeyBoard, this, controls);
 }
-
-frmColor::~frmColor() = default;
 
 QWidget* frmColor::colourFrame() {
   auto* Frame1 = new QFrame;

@@ -3,9 +3,7 @@
 #include <QDialog>
 #include <array>
 #include <cstddef>
-#include <memory>
 
-class ColourDialogTexts;
 class QColorDialog;
 class QGridLayout;
 class QLabel;
@@ -21,7 +19,6 @@ class frmColor : public QDialog {
 
  public:
   explicit frmColor(posMod& pos, QWidget* parent = nullptr);
-  ~frmColor() override;
 
  private:
   static constexpr std::size_t kColours = 6;
@@ -34,7 +31,6 @@ class frmColor : public QDialog {
   void save();
 
   posMod& pos_;
-  std::unique_ptr<ColourDialogTexts> texts_;
   QColorDialog* cdColor_ = nullptr;
   int dialogColour_ = 0;  ///< what the colour dialog was left with
   std::array<QLineEdit*, kColours> boxes_{};

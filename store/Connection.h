@@ -59,8 +59,9 @@ class Connection {
   Rows query(const char* text, const Values&... values) {
     return queryBound(text, {toValue(values)...});
   }
-  /// As run, for a statement whose columns are known at run time only.
+  /// As run and query, for a statement whose columns are known at run time only.
   std::int64_t runBound(const char* text, std::vector<Value> values);
+  Rows queryBound(const char* text, std::vector<Value> values);
   /// As Execute and run, for an insert of at most one row: the key that the row was given, or
   /// nothing when none was written.
   std::optional<std::int64_t> ExecuteInsert(const std::string& statement);
@@ -90,7 +91,6 @@ class Connection {
   friend class FileReading;
   friend void backUpDataFile(Connection& connection, const std::filesystem::path& target);
   std::optional<std::int64_t> keyOfNewRow(std::int64_t rowsWritten) const;
-  Rows queryBound(const char* text, std::vector<Value> values);
 
   struct EngineCloser {
     void operator()(sqlite3* engine) const;

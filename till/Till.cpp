@@ -29,6 +29,9 @@ bool Till::Main() {
   const std::string exposed = pos_.protectFiles();
   if (!exposed.empty())
     messageBox(nullptr, QString::fromStdString(exposed), {}, BoxIcon::kExclamation);
+  const std::string missing = pos_.missingOperator();
+  if (!missing.empty())
+    messageBox(nullptr, QString::fromStdString(missing), {}, BoxIcon::kInformation);
   pos_.start();
   controlKeys_ = std::make_unique<ControlKeys>(qApp, pos_.gKeyBoard);
   frmSell_ = std::make_unique<frmSell>(pos_, saleScreens(), [this] { frmMain_->close(); });

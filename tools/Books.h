@@ -3,9 +3,12 @@
 #include <cstdint>
 #include <functional>
 #include <string>
+#include <utility>
+
+#include "base/DateTime.h"
+#include "tools/Examination.h"
 
 class Connection;
-class Rows;
 
 /// What the books hold.
 struct BooksSummary {
@@ -13,51 +16,35 @@ struct BooksSummary {
   std::int64_t bills = 0, openBills = 0, paidBills = 0, lines = 0, returns = 0, stockRows = 0;
 };
 
-/// Examines a data file: the engine's own integrity, and that the books agree with themselves.
-///   - the lines of a settled bill add up to its quantity and goods amount, and each line's money
-///   is
-///     its price x quantity x discount;
-///   - what was due is the goods amount but for the shop's rounding, and a stored-value payment
-///     names its card and covers it;
-///   - every line belongs to a bill, every return to a line of its bill, which it did not exceed;
-///   - a bill is open or settled, an open one belongs to an operator, a settled one is not marked
-///   as
-///     paid but unsettled any more, and no number can be given twice;
-///   - no card balance is below zero, and a member who never took goods back has bought for at
-///   least
-///     the sum of the stored bills;
-///   - what is in stock is a number.
-/// Not what a start is needed for: how much must be in stock or on a card.
+/// Examines a data file: the engine's own integrity, and that the books agree with themselves and
+/// with what the till ever writes (tools/Examination.h has what is looked at). Not what a start is
+/// needed for: how much must be in stock or on a card.
 /// Sees one state of the file, however much the till writes meanwhile. Memory does not grow with
 /// it.
 class Books {
  public:
   /// Told each fault, as a sentence for the shop's owner.
-  using Report = std::function<void(const std::string& fault)>;
+  using Report = Examination::Say;
 
-  Books(Connection& connection, Report report);
+  Books(Connection& connection, Report report, Clock clock = localTime);
+
+  /// Told what is worth a look and no fault; nobody unless set.
+  void setRemarks(Report report) { remark_ = std::move(report); }
+  /// Told now and then how many of the bills were examined, 0 ... 1.
+  void setProgress(std::function<void(double part)> progress) { progress_ = std::move(progress); }
 
   /// Throws StoreError when the file cannot be read at all.
   BooksSummary check();
 
  private:
-  struct Sums;
-
   void checkEngine();
-  void checkBills();
-  void checkPayments();
-  void checkNumbers();
-  void checkSums(const Sums& bill);
-  void checkLineMoney();
-  void checkLines();
-  void checkReturns();
-  void checkMembers();
-  void checkPurchases();
-  void checkStock();
   void count();
   void fault(const std::string& text);
 
   Connection& connection_;
   Report report_;
+  Clock clock_;
+  Report remark_ = [](const std::string&) {};
+  std::function<void(double)> progress_ = [](double) {};
   BooksSummary found_;
 };

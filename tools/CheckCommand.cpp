@@ -39,7 +39,14 @@ void nameIncompleteTopUps(Connection& connection, Console& console) {
 void check(const Options& options, Console& console, int& exitCode) {
   const std::unique_ptr<Connection> connection = openDataFile(options.file.source(console));
   if (options.repair) repairIndex(*connection, console);
-  Books books(*connection, [&console](const std::string& fault) { console.out << fault << '\n'; });
+  Books books(
+      *connection, [&console](const std::string& fault) { console.out << fault << '\n'; },
+      console.clock);
+  books.setRemarks(
+      [&console](const std::string& remark) { console.out << "请看一看：" << remark << "。\n"; });
+  books.setProgress([&console](double part) {
+    console.err << "已检查 " << static_cast<int>(part * 100) << "%" << std::endl;
+  });
   const BooksSummary found = books.check();
   if (found.paidBills > 0) {
     console.out << "有 " << found.paidBills

@@ -15,7 +15,7 @@ constexpr std::size_t kLongestText = 255;
 
 std::optional<Value> textOf(std::string text, bool mayBeEmpty) {
   if (text.size() > kLongestText && characters(text) > kLongestText) return std::nullopt;
-  if (text.empty() && !mayBeEmpty) return std::nullopt;
+  if ((text.empty() && !mayBeEmpty) || hasControlCharacter(text)) return std::nullopt;
   return toValue(std::move(text));
 }
 
@@ -103,11 +103,11 @@ std::optional<Value> Column::valueOf(const std::string& field) const {
 std::string_view Column::expectation() const {
   switch (kind) {
     case Kind::kCode:
-      return "应是编码，不能空着，不超过 255 个字，也不能是科学计数法";
+      return "应是编码，不能空着，不超过 255 个字，不能有换行等控制字符，也不能是科学计数法";
     case Kind::kName:
-      return "应是文字，不能空着，不超过 255 个字";
+      return "应是文字，不能空着，不超过 255 个字，也不能有换行等控制字符";
     case Kind::kText:
-      return "应是文字，不超过 255 个字";
+      return "应是文字，不超过 255 个字，也不能有换行等控制字符";
     case Kind::kPrice:
       return "应是不小于 0 的金额";
     case Kind::kMoney:

@@ -28,9 +28,13 @@ struct Column {
   /// What an empty field stands for, and what a new row has when the file lacks the column; nothing
   /// for a column that must be filled in.
   std::optional<Value> fallback;
+  const char* meaning;  ///< for the owner
+  /// The till writes it with every sale: a file that was exported before would bring back what has
+  /// been spent since. Rows that exist keep it unless the owner asks for the file's.
+  bool isAccount = false;
 
   /// A field as the column holds it; nothing when it is none (see expectation). Text is at most 255
-  /// characters, as everywhere in the data file.
+  /// characters, as everywhere in the data file, and has no control character.
   std::optional<Value> valueOf(const std::string& field) const;
   /// What the column wants, for the one who has to correct the file.
   std::string_view expectation() const;

@@ -12,6 +12,7 @@
 #include "store/Connection.h"
 #include "tools/DataFileOptions.h"
 #include "tools/Exporter.h"
+#include "tools/ParserTexts.h"
 #include "tools/Refusal.h"
 
 namespace {
@@ -55,11 +56,12 @@ void exportTo(const Options& options, Console& console) {
 void addExportCommand(CLI::App& app, Console& console) {
   CLI::App* command =
       app.add_subcommand("export", "把一张表导出为 CSV 文件（UTF-8，第一行是列名），可以再导入");
+  command->footer(tablesExplained());
   const auto options = std::make_shared<Options>();
   options->file.addTo(*command);
-  command->add_option("CSV", options->csv, "导出的文件；- 表示标准输出")->required();
-  command->add_option("--table", options->table, "导出哪张表")
+  command->add_option("CSV文件", options->csv, "导出的文件；- 表示标准输出")->required();
+  command->add_option("--table", options->table, "导出哪张表：SP_LB、spda、tmda、member 或 stock")
       ->required()
-      ->check(CLI::IsMember(tableNames(), CLI::ignore_case));
+      ->check(oneOf(tableNames()));
   command->callback([options, &console] { exportTo(*options, console); });
 }

@@ -7,6 +7,7 @@
 namespace {
 
 constexpr std::size_t kPieceBytes = 1 << 16;
+constexpr const char* kByteOrderMark = "\xEF\xBB\xBF";  // without it spreadsheets take GBK
 
 std::string queryText(const Table& table) {
   std::string columns, order;
@@ -28,6 +29,7 @@ void writeOut(CsvRow& row, std::ostream& out) {
 
 std::int64_t exportTable(Connection& connection, const Table& table, std::ostream& out) {
   CsvRow row;
+  out << kByteOrderMark;
   for (const Column& column : table.columns) row.add(column.name);
   row.end();
   std::int64_t count = 0;

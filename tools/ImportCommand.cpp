@@ -1,38 +1,100 @@
 #include "tools/ImportCommand.h"
 
 #include <CLI/CLI.hpp>
+#include <algorithm>
 #include <fstream>
 #include <memory>
 #include <string>
+#include <vector>
 
+#include "base/Text.h"
 #include "store/Connection.h"
+#include "store/Transaction.h"
 #include "tools/DataFileOptions.h"
 #include "tools/Importer.h"
+#include "tools/ParserTexts.h"
 #include "tools/Refusal.h"
 
 namespace {
 
 struct Options {
   DataFileOptions file;
+  std::vector<std::string> tables;
+  std::vector<std::string> csvs;
+  bool replacesAccounts = false;
+};
+
+struct List {
   std::string table;
   std::string csv;
 };
 
-void import(const Options& options, Console& console) {
-  if (!std::filesystem::is_regular_file(options.csv)) {
-    throw Refusal("没有这个文件，或者不是普通文件：" + options.csv);
+/// Each table with its file, in the order in which their rows refer to one another.
+std::vector<List> listsOf(const Options& options) {
+  if (options.tables.size() != options.csvs.size()) {
+    throw Refusal("有 " + std::to_string(options.csvs.size()) + " 个文件，却写了 " +
+                  std::to_string(options.tables.size()) + " 个 --table；一个 --table 配一个文件。");
   }
-  std::ifstream text(options.csv, std::ios::binary);
-  if (!text) throw Refusal("文件读不出来：" + options.csv);
-  const std::unique_ptr<Connection> connection = openDataFile(options.file.source(console));
-  Importer importer(*connection, tableNamed(options.table, console.clock()),
-                    [&console](std::int64_t rows, double part) {
-                      console.err << "已读 " << rows << " 行（" << static_cast<int>(part * 100)
-                                  << "%）" << std::endl;
-                    });
-  const Imported imported = importer.run(text);
-  console.out << "已导入 " << options.table << "：新增 " << imported.added << " 行，更新 "
+  std::vector<List> lists;
+  for (const std::string& name : tableNames()) {
+    for (std::size_t place = 0; place < options.tables.size(); ++place) {
+      if (equalIgnoringCase(options.tables[place], name))
+        lists.push_back({name, options.csvs[place]});
+    }
+  }
+  return lists;
+}
+
+std::ifstream opened(const std::string& csv) {
+  if (!std::filesystem::is_regular_file(csv)) {
+    throw Refusal("没有这个文件，或者不是普通文件：" + csv);
+  }
+  std::ifstream text(csv, std::ios::binary);
+  if (!text) throw Refusal("文件读不出来：" + csv);
+  return text;
+}
+
+Imported importList(Connection& connection, const List& list, const Options& options,
+                    Console& console) {
+  std::ifstream text = opened(list.csv);
+  Importer importer(
+      connection, tableNamed(list.table, console.clock()),
+      [&console](std::int64_t rows, double part) {
+        console.err << "已读 " << rows << " 行（" << static_cast<int>(part * 100) << "%）"
+                    << std::endl;
+      },
+      options.replacesAccounts ? Importer::Accounts::kReplace : Importer::Accounts::kKeep);
+  try {
+    return importer.run(text);
+  } catch (const Refusal& refusal) {
+    if (options.csvs.size() == 1) throw;
+    throw Refusal(list.csv + "：" + refusal.what());
+  }
+}
+
+void print(const Imported& imported, const List& list, Console& console) {
+  for (const std::string& doubt : imported.doubts) console.err << list.csv << " " << doubt << '\n';
+  const auto more = imported.doubtCount - static_cast<std::int64_t>(imported.doubts.size());
+  if (more > 0) console.err << "……还有 " << more << " 行也要看一看。\n";
+  console.out << "已导入 " << list.table << "：新增 " << imported.added << " 行，更新 "
               << imported.updated << " 行\n";
+  if (imported.keptAccounts && imported.updated > 0) {
+    console.out << "已有会员的余额、密码、累计消费和积分没有动；要照文件改，加上 "
+                   "--replace-accounts。\n";
+  }
+}
+
+void import(const Options& options, Console& console) {
+  const std::vector<List> lists = listsOf(options);
+  for (const List& list : lists) opened(list.csv);  // before the first is read for minutes
+  const std::unique_ptr<Connection> connection = openDataFile(options.file.source(console));
+  Transaction all(*connection);
+  std::vector<Imported> done;
+  for (const List& list : lists) done.push_back(importList(*connection, list, options, console));
+  all.commit();
+  for (std::size_t place = 0; place < lists.size(); ++place) {
+    print(done[place], lists[place], console);
+  }
 }
 
 }  // namespace
@@ -41,15 +103,24 @@ void addImportCommand(CLI::App& app, Console& console) {
   CLI::App* command =
       app.add_subcommand("import", "从 CSV 文件导入商品、类别、会员或库存，全部成功才算数");
   command->footer(
-      "第一行是列名，编码 UTF-8 或 GBK。主键已有的行更新，没有的新增；文件里没有的列不动。\n"
-      "主键：tmda 是 sptm 和 spbm，spda 是 f_spbm，SP_LB 是 SPLB_ID，member 是 bh，stock 是 "
-      "spbm。\n"
-      "有一行不对就什么也不导入，并说明是第几行、错在哪里。");
+      "第一行是列名，各列用英文逗号分开，编码 UTF-8 或 "
+      "GBK。主键已有的行更新，没有的新增；文件里没有的列"
+      "不动。\n"
+      "有一行不对就什么也不导入，并说明是第几行、错在哪里。条码的商品编码要在 spda "
+      "里，没有时一起导入：\n"
+      "  tilladmin import 数据文件 --table spda 商品.csv --table tmda 条码.csv\n\n" +
+      tablesExplained());
   const auto options = std::make_shared<Options>();
   options->file.addTo(*command);
-  command->add_option("CSV", options->csv, "要导入的文件")->required();
-  command->add_option("--table", options->table, "导入到哪张表")
+  command->add_option("CSV文件", options->csvs, "要导入的文件，一个 --table 配一个")->required();
+  command
+      ->add_option("--table", options->tables,
+                   "导入到哪张表：SP_LB、spda、tmda、member 或 stock；可以写几次")
       ->required()
-      ->check(CLI::IsMember(tableNames(), CLI::ignore_case));
+      ->check(oneOf(tableNames()))
+      ->allow_extra_args(false);
+  command->add_flag(
+      "--replace-accounts", options->replacesAccounts,
+      "已有会员的余额、密码、累计消费和积分也照文件改（平时不动，免得把花掉的钱又加回来）");
   command->callback([options, &console] { import(*options, console); });
 }

@@ -1,7 +1,9 @@
 #include "tools/Importer.h"
 
 #include <algorithm>
+#include <iterator>
 #include <numeric>
+#include <optional>
 #include <utility>
 
 #include "base/Text.h"
@@ -11,6 +13,7 @@
 #include "store/Transaction.h"
 #include "tools/CsvReader.h"
 #include "tools/Refusal.h"
+#include "tools/RowDoubts.h"
 
 namespace {
 
@@ -28,26 +31,59 @@ std::string assignments(const Table& table, const std::vector<std::size_t>& colu
   return text;
 }
 
+// A control character must not get at the owner's terminal either.
 std::string shown(const std::string& field) {
   constexpr std::size_t kLongestShown = 40;
   if (field.empty()) return "空着";
+  if (hasControlCharacter(field)) return "里面有控制字符";
   const bool isShort = characters(field) <= kLongestShown;
   return "写的是“" + (isShort ? field : firstCharacters(field, kLongestShown) + "……") + "”";
 }
 
+std::string lineText(const CsvReader& reader) {
+  return "第 " + std::to_string(reader.line()) + " 行";
+}
+
+std::string columnNames(const Table& table) {
+  std::string names;
+  for (const Column& column : table.columns)
+    names += (names.empty() ? "" : "、") + std::string(column.name);
+  return names;
+}
+
+/// What a whole header without any comma is separated by; empty when it is one name.
+const char* otherSeparator(const std::string& header) {
+  constexpr std::pair<const char*, const char*> kSeparators[] = {
+      {";", "分号"}, {"\t", "制表符"}, {"，", "中文逗号"}, {"|", "竖线"}, {"；", "中文分号"}};
+  for (const auto& [separator, name] : kSeparators) {
+    if (header.find(separator) != std::string::npos) return name;
+  }
+  return "";
+}
+
+bool hasNothing(const std::vector<std::string>& fields) {
+  return std::all_of(fields.begin(), fields.end(),
+                     [](const std::string& field) { return trimmed(field).empty(); });
+}
+
 }  // namespace
 
-Importer::Importer(Connection& connection, Table table, Progress progress)
-    : connection_(connection), table_(std::move(table)), progress_(std::move(progress)) {}
+Importer::Importer(Connection& connection, Table table, Progress progress, Accounts accounts)
+    : connection_(connection),
+      table_(std::move(table)),
+      progress_(std::move(progress)),
+      accounts_(accounts),
+      isInFile_(table_.columns.size()) {}
 
 Imported Importer::run(std::istream& text) {
   CsvReader reader(text);
   readHeader(reader);
+  chooseUpdated();
   prepareStatements();
   Transaction transaction(connection_);
   std::int64_t rows = 0;
   while (badRowCount_ < kMostBadRows && reader.next(fields_)) {
-    readRow(reader);
+    if (!hasNothing(fields_)) readRow(reader);
     if (++rows % kRowsPerProgress == 0) progress_(rows, reader.progress());
   }
   if (badRowCount_ == kMostBadRows) badRows_ += "\n……后面的行没有再看。";
@@ -60,44 +96,59 @@ Imported Importer::run(std::istream& text) {
 void Importer::readHeader(CsvReader& reader) {
   if (!reader.next(fields_)) throw Refusal("文件是空的，第一行应是列名。");
   for (const std::string& field : fields_) {
-    const std::string name = trimmed(field);
-    const std::optional<std::size_t> index = table_.indexOf(name);
-    if (!index) {
-      throw Refusal("表 " + std::string(table_.name) + " 没有“" + name +
-                    "”这一列，什么也没有导入。");
-    }
-    if (std::find(present_.begin(), present_.end(), *index) != present_.end()) {
-      throw Refusal("列“" + name + "”写了两次，什么也没有导入。");
-    }
-    present_.push_back(*index);
+    const std::size_t index = columnNamed(trimmed(field));
+    if (isInFile_[index]) throw Refusal("列“" + trimmed(field) + "”写了两次，什么也没有导入。");
+    isInFile_[index] = true;
+    present_.push_back(index);
   }
   for (std::size_t key = 0; key < table_.keyColumns; ++key) {
-    if (std::find(present_.begin(), present_.end(), key) != present_.end()) continue;
+    if (isInFile_[key]) continue;
     throw Refusal("缺少“" + std::string(table_.columns[key].name) + "”这一列，什么也没有导入。");
   }
 }
 
-// One text each for the whole file, so that each is prepared once. An update leaves the key's
-// columns alone, unless the file has nothing else. "or fail" keeps no copy of the pages to take a
-// single statement back: a failure takes the whole import back anyway.
+std::size_t Importer::columnNamed(const std::string& heading) const {
+  if (const auto index = table_.indexOf(heading)) return *index;
+  const std::string separator = fields_.size() == 1 ? otherSeparator(heading) : "";
+  if (!separator.empty()) {
+    throw Refusal("各列之间要用英文逗号分开，这个文件用的是" + separator +
+                  "，什么也没有导入。请另存为逗号分隔的 CSV 文件。");
+  }
+  throw Refusal("表 " + std::string(table_.name) + " 没有“" +
+                (hasControlCharacter(heading) ? shown(heading) : heading) +
+                "”这一列，什么也没有导入。可以有的列：" + columnNames(table_) + "。");
+}
+
+// An update leaves the key's columns alone, unless it has nothing else to write.
+void Importer::chooseUpdated() {
+  for (const std::size_t index : present_) {
+    if (index < table_.keyColumns) continue;
+    if (table_.columns[index].isAccount && accounts_ == Accounts::kKeep) {
+      imported_.keptAccounts = true;
+    } else {
+      updated_.push_back(index);
+    }
+  }
+  if (!updated_.empty()) return;
+  updated_.resize(table_.keyColumns);
+  std::iota(updated_.begin(), updated_.end(), std::size_t{0});
+}
+
+// One text each for the whole file, so that each is prepared once. "or fail" keeps no copy of the
+// pages to take a single statement back: a failure takes the whole import back anyway.
 void Importer::prepareStatements() {
   std::vector<std::size_t> keys(table_.keyColumns);
   std::iota(keys.begin(), keys.end(), std::size_t{0});
-  for (const std::size_t index : present_) {
-    if (index >= table_.keyColumns) updated_.push_back(index);
-  }
-  if (updated_.empty()) updated_ = keys;
   const std::string name = table_.name;
   updateText_ = "update or fail " + name + " set " + assignments(table_, updated_, ", ") +
                 " where " + assignments(table_, keys, " and ");
   std::string names, marks;
-  for (const Column& column : table_.columns) {
+  for (std::size_t index = 0; index < table_.columns.size(); ++index) {
+    const Column& column = table_.columns[index];
     names += (names.empty() ? "" : ", ") + std::string(column.name);
     marks += marks.empty() ? "?" : ", ?";
     newRow_.push_back(column.fallback.value_or(std::monostate{}));
-    const bool inFile =
-        std::find(present_.begin(), present_.end(), newRow_.size() - 1) != present_.end();
-    if (!column.fallback && !inFile && lacking_.empty()) lacking_ = column.name;
+    if (!column.fallback && !isInFile_[index] && lacking_.empty()) lacking_ = column.name;
   }
   insertText_ = "insert or fail into " + name + " (" + names + ") values (" + marks + ")";
 }
@@ -108,6 +159,14 @@ void Importer::readRow(const CsvReader& reader) {
                           std::to_string(present_.size()) + " 列");
     return;
   }
+  if (!readValues(reader)) return;
+  if (const std::string doubts = doubtsOf(table_, values_, isInFile_); !doubts.empty()) {
+    doubtRow(reader, doubts);
+  }
+  if (badRowCount_ == 0) writeRow(reader);  // else the rest is read for its faults only
+}
+
+bool Importer::readValues(const CsvReader& reader) {
   values_ = newRow_;
   for (std::size_t place = 0; place < fields_.size(); ++place) {
     const Column& column = table_.columns[present_[place]];
@@ -115,34 +174,87 @@ void Importer::readRow(const CsvReader& reader) {
     if (!value) {
       refuseRow(reader, "“" + std::string(column.name) + "”" + std::string(column.expectation()) +
                             "，" + shown(fields_[place]));
-      return;
+      return false;
     }
     values_[present_[place]] = *std::move(value);
   }
-  if (badRowCount_ == 0) writeRow(reader);  // else the rest is read for its faults only
+  return true;
 }
 
 void Importer::writeRow(const CsvReader& reader) {
   try {
-    std::vector<Value> bound;
-    bound.reserve(updated_.size() + table_.keyColumns);
-    for (const std::size_t index : updated_) bound.push_back(values_[index]);
-    for (std::size_t key = 0; key < table_.keyColumns; ++key) bound.push_back(values_[key]);
-    if (connection_.runBound(updateText_.c_str(), std::move(bound)) > 0) {
-      ++imported_.updated;
-    } else if (!lacking_.empty()) {
-      refuseRow(reader, "是新的，但文件缺少“" + lacking_ + "”这一列");
-    } else {
-      connection_.runBound(insertText_.c_str(), values_);
-      ++imported_.added;
+    if (!isAmongGoods()) {
+      const std::string& item = std::get<std::string>(values_[*table_.indexOf("spbm")]);
+      if (equalIgnoringCase(table_.name, "tmda")) {
+        refuseRow(reader,
+                  "商品资料 spda 里没有编码 " + item +
+                      "，这样的条码卖了也查不到；请先导入 spda，或者在同一个命令里一起导入");
+        return;
+      }
+      doubtRow(reader, "商品资料 spda 里没有编码 " + item);
     }
+    if (write(reader)) requireFirst(reader);
   } catch (const StoreError& error) {
-    throw Refusal("第 " + std::to_string(reader.line()) + " 行存不进去，什么也没有导入：" +
-                  error.what());
+    throw Refusal(lineText(reader) + "存不进去，什么也没有导入：" + error.what());
   }
+}
+
+bool Importer::write(const CsvReader& reader) {
+  recordBalance();
+  std::vector<Value> bound;
+  bound.reserve(updated_.size() + table_.keyColumns);
+  for (const std::size_t index : updated_) bound.push_back(values_[index]);
+  std::ranges::move(key(), std::back_inserter(bound));
+  if (connection_.runBound(updateText_.c_str(), std::move(bound)) > 0) {
+    ++imported_.updated;
+  } else if (!lacking_.empty()) {
+    refuseRow(reader, "是新的，但文件缺少“" + lacking_ + "”这一列");
+    return false;
+  } else {
+    connection_.runBound(insertText_.c_str(), values_);
+    ++imported_.added;
+  }
+  return true;
+}
+
+// A card's balance moves by purchases and top-ups, as far as the books know: one that the owner
+// sets stands among the top-ups too.
+void Importer::recordBalance() {
+  const std::optional<std::size_t> card = table_.indexOf("card");
+  if (!card || !isInFile_[*card] || accounts_ == Accounts::kKeep) return;
+  connection_.runBound(
+      "insert into cardStored (cardbh, addmoney, inMoney, commerce, bz, complete)"
+      " select bh, round(?1 - card, 4), 0, ?1, '导入会员时改成的余额', 1 from member"
+      " where bh = ?2 and card <> ?1",
+      {values_[*card], values_[0]});
+}
+
+void Importer::requireFirst(const CsvReader& reader) {
+  const std::vector<Value> names = key();
+  Rows row = connection_.queryBound(table_.numberQuery, names);
+  const bool isFirst = row.next()
+                           ? seen_.insert(row.whole("id").value())
+                           : seenOthers_.insert(asciiLower(std::get<std::string>(names[0]))).second;
+  if (!isFirst) refuseRow(reader, "与前面的一行主键相同，同一个文件里只能有一行");
+}
+
+bool Importer::isAmongGoods() const {
+  const std::optional<std::size_t> item = table_.indexOf("spbm");
+  return !item ||
+         connection_.queryBound("select 1 from spda where f_spbm = ?", {values_[*item]}).next();
+}
+
+std::vector<Value> Importer::key() const {
+  return {values_.begin(), values_.begin() + static_cast<std::ptrdiff_t>(table_.keyColumns)};
 }
 
 void Importer::refuseRow(const CsvReader& reader, const std::string& reason) {
   if (badRowCount_++ > 0) badRows_ += '\n';
-  badRows_ += "第 " + std::to_string(reader.line()) + " 行：" + reason;
+  badRows_ += lineText(reader) + "：" + reason;
+}
+
+void Importer::doubtRow(const CsvReader& reader, const std::string& reason) {
+  if (imported_.doubtCount++ < kMostBadRows) {
+    imported_.doubts.push_back(lineText(reader) + "：" + reason);
+  }
 }

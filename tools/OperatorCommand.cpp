@@ -14,6 +14,7 @@
 #include "store/Transaction.h"
 #include "tools/DataFileOptions.h"
 #include "tools/Operators.h"
+#include "tools/ParserTexts.h"
 #include "tools/Refusal.h"
 
 namespace {
@@ -41,6 +42,10 @@ void add(const Options& options, Console& console) {
   addOperator(*connection,
               {options.number, options.name, passwordOf(options, console), options.rights});
   console.out << "已增加操作员 " << options.number << ' ' << trimmed(options.name) << '\n';
+  if (options.rights.empty()) {
+    console.out << "没有写 --right sell，这位操作员不能收银；要能收银，先删除，再带上 --right sell "
+                   "增加。\n";
+  }
 }
 
 void list(const Options& options, Console& console) {
@@ -73,7 +78,7 @@ void remove(const Options& options, Console& console) {
 void addNumber(CLI::App& command, Options& options) {
   command.add_option("--number", options.number, "用户编号（登录时输入），1 到 32767")
       ->required()
-      ->check(CLI::Range(1, INT16_MAX));
+      ->check(wholeNumber(1, INT16_MAX));
 }
 
 void addPassword(CLI::App& command, Options& options) {
@@ -101,7 +106,7 @@ void addOperatorCommand(CLI::App& app, Console& console) {
   addPassword(*adding, *options);
   adding->add_option("--name", options->name, "姓名")->required();
   adding->add_option("--right", options->rights, "权限：sell（收银）；可以写几次")
-      ->check(CLI::IsMember(operatorRights()))
+      ->check(oneOf(operatorRights()))
       ->allow_extra_args(false);
   addAction(*parent, console, "list", "列出操作员：用户编号、姓名、权限", options, list);
   CLI::App* changing = addAction(*parent, console, "password", "更改密码", options, changePassword);

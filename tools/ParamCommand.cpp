@@ -23,7 +23,8 @@ void list(const Options& options, Console& console) {
   ClsSysParam parameters;
   parameters.Conn(*connection);
   for (const ClsSysParam::Parameter& parameter : parameters.list()) {
-    console.out << parameter.name << '=' << parameter.value
+    console.out << "# " << parameter.meaning << '\n'
+                << parameter.name << '=' << parameter.value
                 << (parameter.isSet ? "" : "\t（没有设置，这是默认值）") << '\n';
   }
 }
@@ -47,17 +48,27 @@ void set(const Options& options, Console& console) {
   console.out << "已设置 " << options.settings.size() << " 个参数\n";
 }
 
+std::string parametersExplained() {
+  std::string text = "参数：\n";
+  for (const ClsSysParam::Parameter& parameter : ClsSysParam().list()) {
+    text += "  " + parameter.name + std::string(14 - parameter.name.size(), ' ') +
+            parameter.meaning + "\n";
+  }
+  return text;
+}
+
 }  // namespace
 
 void addParamCommand(CLI::App& app, Console& console) {
   CLI::App* parent = app.add_subcommand("param", "店铺参数：列出、设置");
   parent->require_subcommand(1);
   const auto options = std::make_shared<Options>();
-  CLI::App* listing = parent->add_subcommand("list", "列出全部参数");
+  CLI::App* listing = parent->add_subcommand("list", "列出全部参数；# 开头的一行说明下一行的参数");
   options->file.addTo(*listing);
   listing->callback([options, &console] { list(*options, console); });
   CLI::App* setting = parent->add_subcommand("set", "设置参数（全部成功才算数）");
+  setting->footer(parametersExplained());
   options->file.addTo(*setting);
-  setting->add_option("NAME=VALUE", options->settings, "参数名=值，可以写几个")->required();
+  setting->add_option("参数名=值", options->settings, "可以写几个")->required();
   setting->callback([options, &console] { set(*options, console); });
 }

@@ -2,7 +2,6 @@
 
 #include <CLI/CLI.hpp>
 #include <algorithm>
-#include <memory>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -10,12 +9,14 @@
 #include "base/Failure.h"
 #include "base/Version.h"
 #include "tools/BackupCommand.h"
+#include "tools/BillCommand.h"
 #include "tools/CheckCommand.h"
 #include "tools/CreateCommand.h"
 #include "tools/ExportCommand.h"
 #include "tools/ImportCommand.h"
 #include "tools/OperatorCommand.h"
 #include "tools/ParamCommand.h"
+#include "tools/ParserTexts.h"
 #include "tools/RestoreCommand.h"
 
 namespace {
@@ -23,41 +24,6 @@ namespace {
 constexpr int kDone = 0;
 constexpr int kFailed = 1;
 constexpr int kNoCommandLine = 2;
-constexpr const char* kOptions = "选项";
-
-void speakChinese(CLI::App& app) {
-  const auto formatter = std::make_shared<CLI::Formatter>();
-  formatter->column_width(34);
-  formatter->label("Usage", "用法");
-  formatter->label("OPTIONS", "选项");
-  formatter->label("Positionals", "参数");
-  formatter->label("SUBCOMMANDS", "命令");
-  formatter->label("SUBCOMMAND", "命令");
-  formatter->label("REQUIRED", "（必需）");
-  formatter->label("TEXT", "文字");
-  formatter->label("INT", "整数");
-  app.formatter(formatter);
-  app.option_defaults()->group(kOptions);
-  app.set_help_flag("-h,--help", "显示用法");
-}
-
-void groupInChinese(CLI::App& app) {
-  app.get_help_ptr()->group(kOptions);
-  for (CLI::App* command : app.get_subcommands(nullptr)) {
-    command->group("命令");
-    groupInChinese(*command);
-  }
-}
-
-std::string inChinese(const CLI::ParseError& error) {
-  const std::string& kind = error.get_name();
-  const std::string detail = std::string("（") + error.what() + "）";
-  if (kind == "RequiredError") return "命令不完整" + detail;
-  if (kind == "ExtrasError") return "有多余或不认识的参数" + detail;
-  if (kind == "ArgumentMismatch") return "参数的个数不对" + detail;
-  if (kind == "ConversionError" || kind == "ValidationError") return "参数的值不对" + detail;
-  return "命令写得不对" + detail;
-}
 
 // The words after the program's name, last one first as the parser wants them. "--password=" is an
 // empty password, which the parser takes as an empty word of its own only.
@@ -93,6 +59,7 @@ int runTool(int count, const char* const* arguments, Console& console) {
   addBackupCommand(app, console);
   addRestoreCommand(app, console);
   addCheckCommand(app, console, exitCode);
+  addBillCommand(app, console);
   groupInChinese(app);
   try {
     app.parse(wordsOf(count, arguments));

@@ -13,6 +13,9 @@ TEST(Text, TakesWhatPeopleType) {
   EXPECT_EQ(firstCharacters("a中😀b", 2), "a中");
   EXPECT_TRUE(equalIgnoringCase("Config.INI", "config.ini"));
   EXPECT_FALSE(equalIgnoringCase("config", "config.ini"));
+  for (const char* text : {"a\nb", "\x1B", "\x7F", "中\u0085"})
+    EXPECT_TRUE(hasControlCharacter(text)) << text;
+  EXPECT_FALSE(hasControlCharacter("a 中\u00A0é"));
   EXPECT_EQ(replaced("it's 'x'", "'", "''"), "it''s ''x''");
 }
 

@@ -15,6 +15,13 @@ class FaultyTill : public WithDisk, public TillFixture {
  protected:
   enum class Tender { kCash, kCard };
 
+  /// The books of this shop are examined, so that its goods are in order.
+  FaultyTill() {
+    pos.gConn->runScript(
+        "delete from tmda where xsdj = 'x';"
+        "insert into spda (f_spbm) select distinct spbm from tmda");
+  }
+
   /// Rings two goods, one of them three times, without settling.
   void ringGoods() {
     enter(kWater);

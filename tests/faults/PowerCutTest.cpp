@@ -162,7 +162,7 @@ class PowerCutTest : public FaultyTill {
     EXPECT_EQ(value(books, "(select count(*) from sell)"), std::to_string(storedCount + 1));
     EXPECT_EQ(value(books, "(select count(*) from sellProducts)"),
               std::to_string(last == nullptr ? 0 : last->linesSoFar));
-    EXPECT_EQ(bookFaults(books), "");
+    EXPECT_EQ(bookFaults(books, pos.clock), "");
   }
 
   void cutEverywhere(const PowerCut::Files& atStart) {

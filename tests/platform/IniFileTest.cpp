@@ -48,9 +48,18 @@ TEST_F(IniFileTest, ReadsAsWindowsDoes) {
   EXPECT_EQ(ini_.read("none", "PPort"), std::nullopt);
 }
 
+std::string utf16(std::u16string_view text, bool isBigEndian = false) {
+  std::string bytes;
+  for (const char16_t unit : text) {
+    for (const int shift : {isBigEndian ? 8 : 0, isBigEndian ? 0 : 8})
+      bytes += static_cast<char>(unit >> shift);
+  }
+  return bytes;
+}
+
 TEST_F(IniFileTest, WritesNothingButTheValue) {
   struct Case {
-    const char *before, *value, *after;
+    std::string before, value, after;
   };
   const Case cases[] = {
       {"", "1", "[POS]\r\na=1\r\n"},
@@ -59,6 +68,10 @@ TEST_F(IniFileTest, WritesNothingButTheValue) {
       {"[POS]\r\n;a=1\r\n[X]\r\na=3", "7", "[POS]\r\na=7\r\n;a=1\r\n[X]\r\na=3\r\n"},
       {"[POS]\r\na=1\r\n", "x\r\n[Color]\nC1=9", "[POS]\r\na=x  [Color] C1=9\r\n"},
       {"\xEF\xBB\xBF[POS]\na=打印\n", "不打印", "\xEF\xBB\xBF[POS]\na=不打印\n"},
+      {"[POS]\na=打印\n", "不打印", "[POS]\na=不打印\n"},
+      {"; é\n[POS]\na=打印\n", "USB", "\xEF\xBB\xBF; é\n[POS]\na=USB\n"},  // else it reads as GBK
+      {utf16(u"\uFEFF[POS]\r\na=打印\r\n"), "不打印", utf16(u"\uFEFF[POS]\r\na=不打印\r\n")},
+      {utf16(u"\uFEFF[POS]\na=打", true), "印", utf16(u"\uFEFF[POS]\na=印\n", true)},
       {"\xFF\xFE\x01 junk\r\r\n\x80[", "1", "\xFF\xFE\x01 junk\r\r\n\x80[\r\n[POS]\r\na=1\r\n"}};
   for (const Case& c : cases) {
     put(c.before);

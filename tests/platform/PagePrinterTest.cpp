@@ -40,7 +40,7 @@ TEST(PagePrinterTest, NamesSortInPrintOrder) {
   const TemporaryFolder folder;
   DateTime now{{2026, 11, 22}, 9, 5, 3};
   const auto print = [&](const std::string& name) {
-    PagePrinter(folder.path(), [&now] { return now; }).print(receipt(name, 1));
+    PagePrinter(80, folder.path(), [&now] { return now; }).print(receipt(name, 1));
   };
   print("a/..\n:b");
   print("小票");
@@ -56,10 +56,9 @@ TEST(PagePrinterTest, PaperIsAsWideAsTheRollAndAsLongAsTheText) {
   for (const auto& [width, lines] : {std::pair{80, 3}, {58, 3}, {80, 200}}) {
     const TemporaryFolder folder;
     PageDocument document = receipt("r", lines);
-    document.paperWidthMm = width;
     document.texts.push_back({1, 0, {}});
     document.texts.back().text.assign(10'000, 'x');
-    PagePrinter(folder.path()).print(document);
+    PagePrinter(width, folder.path()).print(document);
     const auto size = QRegularExpression(R"(Pages: +1\n[^$]*Page size: +([\d.]+) x ([\d.]+) pts)")
                           .match(told("pdfinfo", folder.path()));
     EXPECT_NEAR(size.captured(1).toDouble(), width / 25.4 * 72, 1);
@@ -68,9 +67,27 @@ TEST(PagePrinterTest, PaperIsAsWideAsTheRollAndAsLongAsTheText) {
   }
 }
 
+TEST(PagePrinterTest, ATextEndsBeforeTheNextColumnAndHasNoControlCharacters) {
+  const TemporaryFolder folder;
+  PageDocument document;
+  document.texts = {{1, 0, "\r\x1Bp\u202E7\n "}, {1900, 0, " 12345.678 "}, {2300, 0, "5.0"}};
+  PagePrinter(58, folder.path()).print(document);
+  const QString words = told("pdftotext", folder.path(), {"-bbox", "-"});
+  const QRegularExpression word(R"re(xMin="([\d.]+)".* xMax="([\d.]+)".*>(.+)</word>)re");
+  QString texts;
+  double end = 0;
+  for (auto found = word.globalMatch(words); found.hasNext(); texts += ' ') {
+    const auto match = found.next();
+    EXPECT_GT(match.captured(1).toDouble(), end + 1) << match.captured(3).toStdString();
+    end = match.captured(2).toDouble();
+    texts += match.captured(3);
+  }
+  EXPECT_EQ(texts, "p7 12345.678 5.0 ");
+}
+
 TEST(PagePrinterTest, ARollLongerThanAPageContinuesOnTheNext) {
   const TemporaryFolder folder;
-  PagePrinter(folder.path()).print(receipt("r", 2000));
+  PagePrinter(80, folder.path()).print(receipt("r", 2000));
   const QString text = told("pdftotext", folder.path(), {"-"});
   EXPECT_EQ(text.count("3.00"), 2000);
   EXPECT_EQ(text.count('\f'), 3) << "800,000 twips in pages of 280,000";
@@ -78,9 +95,9 @@ TEST(PagePrinterTest, ARollLongerThanAPageContinuesOnTheNext) {
 
 TEST(PagePrinterTest, SaysThatThereIsNowhereToPrint) {
   const TemporaryFolder folder;
-  EXPECT_THROW(PagePrinter(folder.path() / "missing").print(receipt("r", 1)), PortError);
+  EXPECT_THROW(PagePrinter(80, folder.path() / "missing").print(receipt("r", 1)), PortError);
   qputenv("CUPS_SERVER", "/nonexistent/cups.sock");  // so that no real printer answers
-  EXPECT_THROW(PagePrinter().print(receipt("r", 1)), PortError);
+  EXPECT_THROW(PagePrinter(80).print(receipt("r", 1)), PortError);
 }
 
 }  // namespace

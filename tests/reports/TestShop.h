@@ -1,8 +1,10 @@
 #pragma once
 
+#include <cmath>
 #include <filesystem>
 #include <fstream>
 #include <string>
+#include <vector>
 
 #include "TemporaryFolder.h"
 #include "app/posMod.h"
@@ -34,9 +36,15 @@ class TestShop {
   posMod& pos() { return *pos_; }
   Connection& store() { return *pos_->gConn; }
   std::filesystem::path papers() const { return folder_.path() / "papers"; }
-  std::size_t papersPrinted() const {
-    const std::filesystem::directory_iterator files(papers());
-    return static_cast<std::size_t>(std::distance(begin(files), end(files)));
+  /// Of each page printed, as its PDF has it.
+  std::vector<long> paperWidthsMm() const {
+    std::vector<long> widths;
+    for (const auto& file : std::filesystem::directory_iterator(papers())) {
+      const std::string pdf = bytes("papers/" + file.path().filename().string());
+      const std::string box = "/MediaBox [0 0 ";
+      widths.push_back(std::lround(std::stod(pdf.substr(pdf.find(box) + box.size())) / 72 * 25.4));
+    }
+    return widths;
   }
   std::string bytes(const std::string& name) const {
     std::ifstream file(folder_.file(name), std::ios::binary);

@@ -48,20 +48,20 @@ void answer(Hands& hands, const char* text) {
   });
 }
 
-TEST(frmCountTest, ShowsTheDayAndPrintsTheSheetUnlessThereIsNone) {
+TEST(frmCountTest, ShowsTheDayAndPrintsTheSheet) {
   TestShop shop;
   Hands hands;
-  hands.at("frmCount", [](QWidget& form) {
+  shop.pos().gPosSet.PModel = 2;
+  hands.at("frmCount", [&](QWidget& form) {
+    shop.pos().gPosSet.PPort = "LPT1";
     tabTo(form, "print1");
     Hands::pressNow(Key_Space);
     EXPECT_EQ(caption(form, "lblMsg"),
               "今日累计发生 [0] 笔交易，共交易 [0] 件商品，交易额 [0.00] 元");
     Hands::pressNow(Key_Escape);
   });
-  shop.pos().gPosSet.PPort = "USB";
-  answer(hands, "没有可打印的内容！");
   frmCount(shop.pos()).init();
-  EXPECT_EQ(shop.papersPrinted(), 0u);
+  EXPECT_THAT(shop.bytes("lpt1"), HasSubstr(gbk::encode("[0] 笔交易\r\n共交易 [0] 件商品")));
 
   shop.settle(3, "2026-11-22 09:05:03", 1.25, "12");
   shop.settle(4, "2026-11-22 10:00:00", 2, "0.5");
@@ -79,7 +79,7 @@ TEST(frmCountTest, ShowsTheDayAndPrintsTheSheetUnlessThereIsNone) {
   EXPECT_THAT(
       shop.bytes("lpt1"),
       HasSubstr(gbk::encode("[2] 笔交易\r\n共交易 [3.25] 件商品\r\n交易额 [12.50] 元\r\n")));
-  EXPECT_EQ(shop.papersPrinted(), 1u) << "\"usb\" is no printer";
+  EXPECT_THAT(shop.paperWidthsMm(), testing::ElementsAre(58)) << "\"usb\" is no printer";
 }
 
 class frmSearchTest : public testing::Test {
@@ -112,6 +112,7 @@ class frmSearchTest : public testing::Test {
 TEST_F(frmSearchTest, SearchesSortsAndPrintsByKeysAlone) {
   shop_.sell(1, "2026-11-22 09:00:00", "A1", 2, "2.5", "5");
   shop_.sell(2, "2026-11-22 09:00:01", "C3", 10, "1.5", "15");
+  shop_.pos().gPosSet.PModel = 2;
   open();
   Hands hands;
   answer(hands, "没有可打印的内容！");
@@ -127,7 +128,7 @@ TEST_F(frmSearchTest, SearchesSortsAndPrintsByKeysAlone) {
   EXPECT_EQ(at(0, 5) + at(2, 0), "2合计");
   press("Command2");
   press("Command3");
-  EXPECT_EQ(shop_.papersPrinted(), 2u);
+  EXPECT_THAT(shop_.paperWidthsMm(), testing::ElementsAre(58, 58));
   press("zjmtm", Key_Escape);
   EXPECT_FALSE(form_->isVisible());
 }

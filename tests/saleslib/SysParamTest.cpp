@@ -38,6 +38,7 @@ TEST_F(SysParamTest, OnlyValuesOfTheParametersKindAreStored) {
       {"StockRule", "2", nullptr},
       {"GeneralRate", "0.880", "0.88"},
       {"GeneralRate", "0", nullptr},
+      {"GoldRate", "9", nullptr},
       {"Colour", "1", nullptr},
   };
   for (const auto& [name, value, kept] : attempts) {

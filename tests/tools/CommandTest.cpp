@@ -126,9 +126,11 @@ TEST_F(Command, OperatorsComeAndGo) {
   EXPECT_EQ(addOperator("7", {"--password", "222"}), 1);
   EXPECT_THAT(owner.err, HasSubstr("已经有操作员 7"));
   EXPECT_EQ(addOperator("8", {"--password", "1", "--right", "fly"}), 2);
+  EXPECT_THAT(owner.err, HasSubstr("参数的值不对：--right: 只能是 sell，写的是“fly”"));
   EXPECT_EQ(addOperator("32768", {"--password", "1"}), 2);
   owner.typed = "秘密\r\n";
   ASSERT_EQ(addOperator("8"), 0) << owner.err;
+  EXPECT_THAT(owner.out, HasSubstr("不能收银"));
   EXPECT_TRUE(canLogIn("8", "秘密"));
   owner.typed = "";
   EXPECT_EQ(addOperator("9"), 1) << "no password at all is not an empty one";

@@ -14,7 +14,11 @@ using testing::HasSubstr;
 
 struct Import : testing::Test {
   Owner owner;
-  void SetUp() override { ASSERT_EQ(owner.run({"create", owner.shop}), 0) << owner.err; }
+  void SetUp() override {
+    ASSERT_EQ(owner.run({"create", owner.shop}), 0) << owner.err;
+    owner.execute(
+        "insert into spda (f_spbm, f_spmc) values ('1', '面'), ('A1', '面'), ('A2', '面')");
+  }
 };
 
 TEST_F(Import, AddsNewRowsAndUpdatesKnownOnes) {
@@ -55,6 +59,9 @@ TEST_F(Import, RefusesAWholeFileForOneBadRowAndNamesIt) {
       {"tmda", "sptm,spbm,spmc", "6.99012E+12,1,面", "科学计数法"},
       {"tmda", "sptm,spbm,spmc", "1,1", "有 2 列，标题行有 3 列"},
       {"tmda", "sptm,spbm", "1,1", "是新的，但文件缺少“spmc”"},
+      {"tmda", "sptm,spbm,spmc", "1,1,面\x1Bp0", "控制字符"},
+      {"tmda", "sptm,spbm,spmc", "1,1,\"面\n合计 1.00\"", "控制字符"},
+      {"tmda", "sptm,spbm,spmc", "1,Z9,面", "spda 里没有编码 Z9"},
       {"SP_LB", "SPLB_ID,SPLBMC", "x,酒", "“SPLB_ID”应是大于 0 的整数"},
       {"stock", "spbm,quantity", "1,", "“quantity”应是数量，空着"},
       {"member", "bh,name,enabled", "1,李,2", "应是 0 或 1"},
@@ -67,6 +74,10 @@ TEST_F(Import, RefusesAWholeFileForOneBadRowAndNamesIt) {
   ASSERT_EQ(owner.import("stock", "spbm,quantity\n1,5\n"), 0);
   EXPECT_EQ(owner.import("stock", "spbm,quantity\n1,9\n2,x\n3,4\n4,y\n"), 1);
   EXPECT_THAT(owner.err, testing::AllOf(HasSubstr("第 3 行"), HasSubstr("第 5 行")));
+  for (const char* twice : {"A1,9\n1,4\na1,5\n", "Z8,9\n1,4\nz8,5\n"}) {
+    EXPECT_EQ(owner.import("stock", std::string("spbm,quantity\n") + twice), 1) << twice;
+    EXPECT_THAT(owner.err, HasSubstr("第 4 行：与前面的一行主键相同"));
+  }
   EXPECT_EQ(owner.value("select group_concat(spbm || '=' || quantity) as value from stock"), "1=5");
 }
 
@@ -76,7 +87,9 @@ TEST_F(Import, RefusesHeadersThatItCannotPlace) {
     const char* reason;
   } cases[] = {
       {"", "文件是空的"},
-      {"sptm,spbm,spmc,colour\n", "没有“colour”这一列"},
+      {"sptm,spbm,spmc,colour\n",
+       "没有“colour”这一列，什么也没有导入。可以有的列：sptm、spbm、ggxh"},
+      {"sptm;spbm;spmc\n", "用的是分号"},
       {"sptm,spbm,spmc,SPMC\n", "写了两次"},
       {"sptm,spmc\n", "缺少“spbm”"},
   };
@@ -88,11 +101,56 @@ TEST_F(Import, RefusesHeadersThatItCannotPlace) {
   EXPECT_EQ(owner.run({"import", owner.shop, "--table", "tmda", owner.folder.file("none")}), 1);
 }
 
+TEST_F(Import, BringsInGoodsAndTheirBarcodesTogetherOrNeither) {
+  const std::string goods = owner.folder.file("goods.csv"), codes = owner.folder.file("codes.csv");
+  std::ofstream(goods) << "f_spbm,f_spmc\nB1,米\n,\n";
+  const auto both = [&](const std::string& barcodes) {
+    std::ofstream(codes) << "sptm,spbm,spmc\n" << barcodes;
+    return owner.run({"import", owner.shop, "--table", "tmda", codes, "--table", "spda", goods});
+  };
+  EXPECT_EQ(both("1,B1,米\n2,B2,米\n"), 1);
+  EXPECT_THAT(owner.err, HasSubstr("codes.csv：什么也没有导入：\n第 3 行"));
+  EXPECT_EQ(owner.value("select count(*) as value from spda"), "3");
+  EXPECT_EQ(both("1,B1,米\n"), 0) << owner.err;
+  EXPECT_EQ(owner.run({"import", owner.shop, "--table", "spda", goods, codes}), 1);
+}
+
+TEST_F(Import, SaysWhatIsLikelyWrong) {
+  ASSERT_EQ(owner.import("tmda",
+                         "sptm,spbm,spmc,cxj,kssj,jssj\n"
+                         "6901234567892,1,面,3,2026-11-1,2026-11-2\n"
+                         "6901234567890,1,面,3,2026-11-2,2026-11-1\n"
+                         "12345,1,面,0,2026-11-1,2026-11-2\n"),
+            0)
+      << owner.err;
+  EXPECT_THAT(owner.err, testing::AllOf(HasSubstr("第 3 行：条码 6901234567890 的校验位不对"),
+                                        HasSubstr("；促销的结束日期"), HasSubstr("第 4 行：有促销"),
+                                        testing::Not(HasSubstr("第 2 行"))));
+}
+
+TEST_F(Import, LeavesWhatMembersHaveSpentUnlessTold) {
+  owner.execute(
+      "insert into member (bh, name, card, password, total_spent, points, join_date)"
+      " values ('8001', '李', 20, 'new', 80, 8, '2026-01-01 00:00:00')");
+  const std::string list = owner.folder.file("members.csv");
+  std::ofstream(list) << "bh,name,card,password,total_spent,points\n8001,李丽,100,old,0,0\n";
+  const std::string all =
+      "select name || card || password || total_spent || points ||"
+      " coalesce((select commerce from cardStored), '') as value from member";
+  std::vector<std::string> words = {"import", owner.shop, "--table", "member", list};
+  ASSERT_EQ(owner.run(words), 0) << owner.err;
+  EXPECT_EQ(owner.value(all), "李丽20new808");
+  EXPECT_THAT(owner.out, HasSubstr("没有动"));
+  words.emplace_back("--replace-accounts");
+  ASSERT_EQ(owner.run(words), 0) << owner.err;
+  EXPECT_EQ(owner.value(all), "李丽100old00100") << "the balance is among the top-ups too";
+}
+
 TEST(Export, IsWhatImportNeedsToMakeTheSameShop) {
   Owner from, to;
   ASSERT_EQ(from.run({"create", from.shop, "--demo"}), 0) << from.err;
   ASSERT_EQ(to.run({"create", to.shop}), 0);
-  from.execute("update tmda set spmc = 'a,\"b\"' || char(10) || 'c' where rowid = 1");
+  from.execute("update tmda set spmc = 'a,\"b\"' where rowid = 1");
   for (const std::string& table : tableNames()) {
     const std::string csv = from.folder.file(table + ".csv");
     ASSERT_EQ(from.run({"export", from.shop, "--table", table, csv}), 0) << from.err;
@@ -104,6 +162,7 @@ TEST(Export, IsWhatImportNeedsToMakeTheSameShop) {
     std::stringstream exported;
     exported << std::ifstream(csv, std::ios::binary).rdbuf();
     EXPECT_EQ(to.out, exported.str());
+    EXPECT_THAT(to.out, testing::StartsWith("\xEF\xBB\xBF"));
   }
   EXPECT_EQ(from.run({"export", from.shop, "--table", "tmda", from.shop}), 1);
   EXPECT_EQ(from.run({"check", from.shop}), 0) << "the data file is no place for an export";

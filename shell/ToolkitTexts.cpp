@@ -1,0 +1,14 @@
+#include "shell/ToolkitTexts.h"
+
+#include <QCoreApplication>
+#include <QLocale>
+#include <QTranslator>
+
+#include "base/Failure.h"
+
+void loadToolkitTexts() {
+  QLocale::setDefault(QLocale(QLocale::Chinese, QLocale::China));
+  auto* texts = new QTranslator(QCoreApplication::instance());
+  ensure(texts->load(":/shell/qtbase_zh_CN.qm"), "the toolkit's texts are built into the program");
+  QCoreApplication::installTranslator(texts);
+}

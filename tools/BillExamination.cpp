@@ -1,0 +1,250 @@
+#include <optional>
+#include <utility>
+
+#include "base/Currency.h"
+#include "base/Failure.h"
+#include "base/NumberText.h"
+#include "saleslib/ClsSell.h"
+#include "saleslib/ClsSellItem.h"
+#include "saleslib/ClsSysParam.h"
+#include "store/Connection.h"
+#include "tools/Examination.h"
+
+namespace {
+
+// Rounding to jiao and then to yuan moves an amount by at most 0.55.
+constexpr Currency kLargestRounding = Currency::fromScaled(5500);
+constexpr std::int64_t kJiao = Currency::kScale / 10;
+constexpr std::int64_t kBillsPerProgress = 100000;
+
+/// A row's number in one column; nothing for what is no whole number.
+std::optional<std::int64_t> numberOf(const Row& row, const char* column) {
+  try {
+    return row.whole(column);
+  } catch (const Failure&) {
+    return std::nullopt;
+  }
+}
+
+/// The lines of one bill, added up.
+struct LineSums {
+  double quantity = 0;
+  Currency amount;
+  std::int64_t count = 0;
+  bool isReadable = true;
+  std::optional<DateTime> first;  ///< when the first of them was rung
+};
+
+/// Goes through the bills, their lines and their returns together, each in the order of the bills:
+/// one bill at a time in hand.
+class BillExamination {
+ public:
+  explicit BillExamination(const Examination& books);
+  void run();
+
+ private:
+  LineSums linesOf(std::int64_t number);
+  void skipOrphans(std::optional<std::int64_t> upTo);
+  void addLine(LineSums& sums);
+  bool hasReturns(std::int64_t number);
+  void examine(const ClsSell& bill, const LineSums& lines);
+  void examineSums(const ClsSell& bill, const LineSums& lines);
+  void examineDue(const ClsSell& bill);
+  void examinePayment(const ClsSell& bill);
+  void examineTime(const ClsSell& bill, const LineSums& lines);
+  void fault(const std::string& text) const { books_.fault(bill_ + text); }
+
+  const Examination& books_;
+  Rows bills_, lines_, returns_;
+  bool moreLines_, moreReturns_;
+  bool mayRound_ = false;  ///< a rule was set once, so that an amount due may have been rounded
+  bool isReturned_ = false;
+  std::string bill_;  ///< "单据 5", for the texts
+};
+
+BillExamination::BillExamination(const Examination& books)
+    : books_(books),
+      bills_(books.connection.query("select * from sell order by id")),
+      lines_(books.connection.query("select * from sellProducts order by sellId, id")),
+      returns_(
+          books.connection.query("select sell_id from un_sell group by sell_id order by sell_id")),
+      moreLines_(lines_.next()),
+      moreReturns_(returns_.next()) {
+  ClsSysParam rules;
+  rules.Conn(books.connection);
+  for (const ClsSysParam::Parameter& rule : rules.list()) {
+    if (rule.name == "RoundJiao" || rule.name == "RoundYuan") mayRound_ |= rule.isSet;
+  }
+}
+
+void BillExamination::run() {
+  for (std::int64_t done = 1; bills_.next(); ++done) {
+    const std::int64_t number = bills_.whole("id").value();
+    bill_ = "单据 " + std::to_string(number);
+    isReturned_ = hasReturns(number);
+    const LineSums lines = linesOf(number);
+    try {
+      examine(*ClsSell::fromRow(books_.connection, bills_), lines);
+    } catch (const Failure& unreadable) {
+      fault(std::string(" 读不出来，收银窗口会因此打不开：") + unreadable.what());
+    }
+    if (done % kBillsPerProgress == 0) books_.progress(done);
+  }
+  skipOrphans(std::nullopt);
+}
+
+LineSums BillExamination::linesOf(std::int64_t number) {
+  skipOrphans(number);
+  LineSums sums;
+  for (; moreLines_ && numberOf(lines_, "sellId") == number; moreLines_ = lines_.next()) {
+    addLine(sums);
+  }
+  return sums;
+}
+
+// Lines of numbers that no bill has, up to that of the bill at hand.
+void BillExamination::skipOrphans(std::optional<std::int64_t> upTo) {
+  for (; moreLines_; moreLines_ = lines_.next()) {
+    const std::optional<std::int64_t> bill = numberOf(lines_, "sellId");
+    if (upTo && bill && *bill >= *upTo) return;
+    if (upTo && !bill && lines_.text("sellId") >= ":") return;  // texts come behind all numbers
+    books_.fault("商品行 " + lines_.text("id") + "（" + lines_.text("name") + "）的单据 " +
+                 lines_.text("sellId") + " 不存在");
+  }
+}
+
+void BillExamination::addLine(LineSums& sums) {
+  const std::string line = " 的商品行 " + lines_.text("id") + "（" + lines_.text("name") + "）";
+  ++sums.count;
+  try {
+    const ClsSellItem item = ClsSellItem::fromRow(books_.connection, lines_);
+    const Currency money = lines_.currency("money").value_or(Currency());
+    if (money != item.Money()) {
+      fault(line + "金额是 " + twoDecimals(money) + "，按单价、数量、折扣应是 " +
+            twoDecimals(item.Money()));
+    }
+    sums.quantity = roundedQuantity(sums.quantity + item.Quantity());
+    sums.amount += money;
+    const std::optional<DateTime> rung = lines_.dateTime("insert_Date");
+    if (rung && (!sums.first || *rung < *sums.first)) sums.first = rung;
+  } catch (const Failure& unreadable) {
+    sums.isReadable = false;
+    fault(line + "读不出来：" + unreadable.what());
+  }
+}
+
+bool BillExamination::hasReturns(std::int64_t number) {
+  while (moreReturns_ && numberOf(returns_, "sell_id").value_or(0) < number) {
+    moreReturns_ = returns_.next();
+  }
+  return moreReturns_ && numberOf(returns_, "sell_id") == number;
+}
+
+void BillExamination::examine(const ClsSell& bill, const LineSums& lines) {
+  if (bill.BillNo() <= 0) fault(" 的号码不是流水号");
+  if (bill.State() != 0 && bill.State() != 1) {
+    fault(" 的状态不是未结也不是已结：" + std::to_string(bill.State()));
+  }
+  const bool isPaid = numberOf(bills_, "paid") != 0;
+  if (bill.State() == 1 && isPaid) fault(" 已结，却还带着收款未存的标记");
+  if (bill.State() == 1 || isPaid) {
+    examineSums(bill, lines);
+    examineDue(bill);
+    examinePayment(bill);
+  } else if (!bill.Cash().isZero() || !bill.CardPay().isZero() || !bill.CardNo().empty()) {
+    fault(" 还没结账，却已有付款");
+  }
+  examineTime(bill, lines);
+}
+
+void BillExamination::examineSums(const ClsSell& bill, const LineSums& lines) {
+  if (lines.count == 0) fault(" 没有商品行");
+  if (!lines.isReadable) return;
+  if (roundedQuantity(bill.Quantity()) != lines.quantity) {
+    fault(" 的数量是 " + generalNumber(bill.Quantity()) + "，商品行加起来是 " +
+          generalNumber(lines.quantity));
+  }
+  if (bill.GoodsAmount() != lines.amount) {
+    fault(" 的商品金额是 " + twoDecimals(bill.GoodsAmount()) + "，商品行加起来是 " +
+          twoDecimals(lines.amount));
+  }
+}
+
+void BillExamination::examineDue(const ClsSell& bill) {
+  const Currency due = bill.Amount(), goods = bill.GoodsAmount();
+  if (due == goods) return;
+  const std::string figures =
+      " 的应收是 " + twoDecimals(due) + "，商品金额是 " + twoDecimals(goods);
+  if (!mayRound_) {
+    fault(figures + "，店里却从来没有设过抹零");
+  } else if (due - goods > kLargestRounding || goods - due > kLargestRounding) {
+    fault(figures + "，抹零到不了这么多");
+  } else if (!isReturned_ && due.scaled() % kJiao != 0) {
+    fault(figures + "，抹零之后却不是整角");
+  }
+}
+
+// A card pays all that is due. What was due shrinks with a return, what the card paid does not.
+void BillExamination::examinePayment(const ClsSell& bill) {
+  const Currency due = roundedToFen(bill.Amount()), paid = bill.CardPay();
+  if (bill.CardNo().empty()) {
+    if (!paid.isZero()) fault(" 用储值卡付款，却没有卡号");
+    return;
+  }
+  const std::string figures =
+      " 的储值卡付款是 " + twoDecimals(paid) + "，应收是 " + twoDecimals(due);
+  if (paid < due) {
+    fault(figures + "，不够");
+  } else if (!isReturned_ && paid != due) {
+    fault(figures + "，付多了");
+  }
+  if (!bill.Cash().isZero()) fault(" 用储值卡付款，却又有现金 " + twoDecimals(bill.Cash()));
+}
+
+void BillExamination::examineTime(const ClsSell& bill, const LineSums& lines) {
+  const DateTime& time = bill.SellTime();
+  if (bills_.text("sell_time") != storedText(time)) {
+    fault(" 的时间不是年-月-日 时:分:秒的写法：" + bills_.text("sell_time"));
+  }
+  const std::string hint = "；用 tilladmin bill redate 改正";
+  if (time > books_.now) {
+    fault(" 的时间 " + storedText(time) + " 还没有到" +
+          (bill.State() == 1 && time.date > books_.now.date
+               ? "，收银窗口会因此打不开（电脑系统时间错误！）" + hint
+               : ""));
+  }
+  if (bill.State() == 1 && lines.first && isFarFrom(time, *lines.first)) {
+    fault(" 的时间是 " + storedText(time) + "，第一行商品却是 " + storedText(*lines.first) +
+          " 录入的" + hint);
+  }
+}
+
+// One till, one cashier: nobody begins two bills in one second.
+void examineDoubles(const Examination& books) {
+  Rows rows = books.connection.query(
+      "select min(id) as id, max(id) as other from sell where state = 1"
+      " group by sell_time having count(*) > 1 and min(amount) = max(amount)"
+      " and min(quantity) = max(quantity)");
+  while (rows.next()) {
+    books.remark("单据 " + rows.text("id") + " 和 " + rows.text("other") +
+                 " 的时间、数量和金额完全相同");
+  }
+}
+
+}  // namespace
+
+bool isFarFrom(const DateTime& bill, const DateTime& line) {
+  return bill.date > plusDays(line.date, 1) || bill.date < plusDays(line.date, -1);
+}
+
+void examineBills(const Examination& books) {
+  BillExamination(books).run();
+  examineDoubles(books);
+  Rows unowned = books.connection.query(
+      "select id, operator_id from sell "
+      "where state = 0 and operator_id not in (select id from operators)");
+  while (unowned.next()) {
+    books.fault("未结的单据 " + unowned.text("id") + " 的操作员 " + unowned.text("operator_id") +
+                " 不存在");
+  }
+}

@@ -1,0 +1,109 @@
+#include "tools/ParserTexts.h"
+
+#include <CLI/CLI.hpp>
+#include <algorithm>
+#include <memory>
+#include <optional>
+#include <utility>
+
+#include "base/NumberText.h"
+#include "base/Text.h"
+
+namespace {
+
+constexpr const char* kOptions = "选项";
+
+/// The part of the parser's text that names an argument or repeats what was typed.
+std::string upTo(const std::string& text, const char* mark) {
+  return text.substr(0, text.find(mark));
+}
+std::string after(const std::string& text, const char* mark) {
+  const std::size_t at = text.find(mark);
+  return at == std::string::npos ? std::string() : text.substr(at + std::string(mark).size());
+}
+
+std::string lackingText(const std::string& text) {
+  if (text.starts_with("A subcommand")) return "少了一个命令，或者不认识这个命令";
+  return "命令不完整：没有写 " + upTo(text, " is required");
+}
+
+std::string mismatchText(const std::string& text) {
+  const std::string name =
+      text.find(':') == std::string::npos ? upTo(after(text, " to "), ",") : upTo(text, ":");
+  return name + " 后面的值少了或者多了";
+}
+
+std::string listed(const std::vector<std::string>& words) {
+  std::string all;
+  for (const std::string& word : words) all += (all.empty() ? "" : "、") + word;
+  return all;
+}
+
+}  // namespace
+
+void speakChinese(CLI::App& app) {
+  const auto formatter = std::make_shared<CLI::Formatter>();
+  formatter->column_width(34);
+  formatter->label("Usage", "用法");
+  formatter->label("OPTIONS", "选项");
+  formatter->label("Positionals", "参数");
+  formatter->label("SUBCOMMANDS", "命令");
+  formatter->label("SUBCOMMAND", "命令");
+  formatter->label("REQUIRED", "（必需）");
+  formatter->label("TEXT", "文字");
+  formatter->label("INT", "整数");
+  formatter->label("Excludes", "不能同时写");
+  app.formatter(formatter);
+  app.option_defaults()->group(kOptions);
+  app.set_help_flag("-h,--help", "显示用法");
+}
+
+void groupInChinese(CLI::App& app) {
+  app.get_help_ptr()->group(kOptions);
+  for (CLI::App* command : app.get_subcommands(nullptr)) {
+    command->group("命令");
+    groupInChinese(*command);
+  }
+}
+
+std::string inChinese(const CLI::ParseError& error) {
+  const std::string text = error.what();
+  if (dynamic_cast<const CLI::RequiredError*>(&error)) return lackingText(text);
+  if (dynamic_cast<const CLI::ExtrasError*>(&error)) {
+    return "有多余或不认识的参数：" + after(text, ": ");
+  }
+  if (dynamic_cast<const CLI::ArgumentMismatch*>(&error)) return mismatchText(text);
+  if (dynamic_cast<const CLI::ConversionError*>(&error)) {
+    return "参数的值不对：" + after(text, ": ");
+  }
+  if (dynamic_cast<const CLI::ValidationError*>(&error)) return "参数的值不对：" + text;
+  if (dynamic_cast<const CLI::ExcludesError*>(&error)) {
+    return upTo(text, " excludes ") + " 和 " + after(text, " excludes ") + " 不能同时写";
+  }
+  return "命令写得不对";
+}
+
+CLI::Validator oneOf(std::vector<std::string> words) {
+  const auto take = [words = std::move(words)](std::string& typed) {
+    const auto word = std::find_if(words.begin(), words.end(), [&](const std::string& each) {
+      return equalIgnoringCase(each, typed);
+    });
+    if (word == words.end()) return "只能是 " + listed(words) + "，写的是“" + typed + "”";
+    typed = *word;
+    return std::string();
+  };
+  return CLI::Validator(take, "");
+}
+
+CLI::Validator wholeNumber(std::int64_t least, std::int64_t most) {
+  return CLI::Validator(
+      [least, most](const std::string& typed) {
+        const std::optional<double> number = parseNumber(typed);
+        const bool isRight =
+            number && *number >= static_cast<double>(least) && *number <= static_cast<double>(most);
+        return isRight ? std::string()
+                       : "应是 " + std::to_string(least) + " 到 " + std::to_string(most) +
+                             " 的整数，写的是“" + typed + "”";
+      },
+      "");
+}

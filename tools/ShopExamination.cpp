@@ -1,0 +1,183 @@
+#include <set>
+#include <string>
+
+#include "base/Failure.h"
+#include "saleslib/ClsSysParam.h"
+#include "store/Connection.h"
+#include "tools/Examination.h"
+#include "tools/Operators.h"
+
+namespace {
+
+// What the engine keeps as a text in a column of numbers is none.
+constexpr const char* kBarcodes =
+    "select sptm as code, spmc as name from tmda where"
+    " typeof(xsdj) = 'text' or typeof(pfj) = 'text' or typeof(zk) = 'text' or typeof(cxj) = 'text'"
+    " or typeof(zhjj) = 'text' or typeof(dwbl) not in ('integer', 'null') or zk < 0 or xsdj < 0"
+    " or pfj < 0 or cxj < 0 or dwbl < 1 or dwbl > 32767"
+    " or (kssj is not null and datetime(kssj) is null)"
+    " or (jssj is not null and datetime(jssj) is null)";
+constexpr const char* kMaster =
+    "select f_spbm as code, f_spmc as name from spda where"
+    " typeof(f_xsdj) = 'text' or typeof(f_pfj) = 'text' or typeof(f_zk) = 'text'"
+    " or typeof(f_zhjj) = 'text' or f_zk < 0 or f_xsdj < 0 or f_pfj < 0";
+
+void nameGoods(const Examination& books, const char* statement, const char* what) {
+  Rows rows = books.connection.query(statement);
+  while (rows.next()) {
+    books.fault(std::string(what) + " " + rows.text("code") + "（" + rows.text("name") +
+                "）的价格、折扣、比例或促销日期不对");
+  }
+}
+
+void examineOwners(const Examination& books) {
+  Rows barcodes = books.connection.query(
+      "select spbm, min(sptm) as code, count(*) as codes from tmda"
+      " where not exists (select 1 from spda where f_spbm = spbm) group by spbm");
+  while (barcodes.next()) {
+    books.fault("商品资料 spda 里没有编码 " + barcodes.text("spbm") + "，它却有 " +
+                barcodes.text("codes") + " 个条码（" + barcodes.text("code") +
+                "）：卖出去以后查询和报表里看不到");
+  }
+  Rows stock = books.connection.query(
+      "select spbm, quantity from stock"
+      " where not exists (select 1 from spda where f_spbm = spbm)");
+  while (stock.next()) {
+    books.fault("商品资料 spda 里没有编码 " + stock.text("spbm") + "，库存里却有 " +
+                stock.text("quantity"));
+  }
+}
+
+void examineStock(const Examination& books) {
+  Rows rows = books.connection.query(
+      "select spbm, quantity from stock where typeof(quantity) not in ('integer', 'real')"
+      " or abs(quantity) > 1e15");
+  while (rows.next()) {
+    books.fault("商品 " + rows.text("spbm") + " 的库存不是数字：“" + rows.text("quantity") + "”");
+  }
+}
+
+void examineOperators(const Examination& books) {
+  Rows numbers = books.connection.query(
+      "select id from operators where typeof(id) <> 'integer' or id < 1 or id > 32767");
+  while (numbers.next()) books.fault("操作员号 " + numbers.text("id") + " 不在 1 到 32767 之间");
+  // Each password is hashed with a salt of its own: equal ones were copied.
+  Rows copied = books.connection.query(
+      "select a.id as id, b.id as other from operators a join operators b"
+      " on b.password = a.password and b.id < a.id order by a.id");
+  while (copied.next()) {
+    books.fault("操作员 " + copied.text("id") + " 的密码是从操作员 " + copied.text("other") +
+                " 那里抄来的");
+  }
+  Rows unreadable =
+      books.connection.query("select id from operators where password not like '$argon2id$%'");
+  while (unreadable.next()) {
+    books.fault("操作员 " + unreadable.text("id") + " 的密码不是本程序存的，登录不了");
+  }
+  Rows gone = books.connection.query(
+      "select operator_id, right_key from operator_rights"
+      " where operator_id not in (select id from operators)");
+  while (gone.next()) {
+    books.fault("权限 " + gone.text("right_key") + " 属于不存在的操作员 " +
+                gone.text("operator_id"));
+  }
+}
+
+void examineRights(const Examination& books) {
+  Rows rights = books.connection.query("select operator_id, right_key from operator_rights");
+  const std::set<std::string> known(operatorRights().begin(), operatorRights().end());
+  while (rights.next()) {
+    if (known.contains(rights.text("right_key"))) continue;
+    books.remark("操作员 " + rights.text("operator_id") + " 的权限“" + rights.text("right_key") +
+                 "”收款程序不认识");
+  }
+}
+
+// The owner may remove an operator who has no open bill.
+void examineRemovedOperators(const Examination& books) {
+  Rows rows = books.connection.query(
+      "select operator_id, count(*) as bills, max(id) as last from sell where state = 1"
+      " and operator_id not in (select id from operators) group by operator_id");
+  while (rows.next()) {
+    books.remark("操作员 " + rows.text("operator_id") + " 已不在名单里，有 " + rows.text("bills") +
+                 " 张已结的单据，最后一张是单据 " + rows.text("last"));
+  }
+  Rows returns = books.connection.query(
+      "select operator_id, count(*) as returns from un_sell"
+      " where operator_id not in (select id from operators) group by operator_id");
+  while (returns.next()) {
+    books.remark("操作员 " + returns.text("operator_id") + " 已不在名单里，办过 " +
+                 returns.text("returns") + " 笔退货");
+  }
+}
+
+// A value that is none of its parameter's is not used; the till then has the default.
+void examineParameters(const Examination& books) {
+  ClsSysParam used;
+  used.Conn(books.connection);
+  const auto parameters = used.list();
+  for (const ClsSysParam::Parameter& parameter : parameters) {
+    if (parameter.isSet) continue;
+    Rows row = books.connection.query("select value from sys_param where name = ?", parameter.name);
+    if (!row.next()) continue;
+    books.remark("店铺参数 " + parameter.name + " 的值“" + row.text("value") +
+                 "”不对，没有采用，现在按“" + parameter.value + "”");
+  }
+}
+
+// The engine gives the next number from what it remembers here.
+void examineNumbers(const Examination& books, const std::string& table, const char* what) {
+  constexpr std::int64_t kLast = INT32_MAX;
+  Rows rows = books.connection.query(
+      ("select (select max(id) from " + table +
+       ") as largest, coalesce((select max(seq) from sqlite_sequence where name = ?), 0) as last")
+          .c_str(),
+      table);
+  rows.next();
+  const std::int64_t largest = rows.whole("largest").value_or(0);
+  const std::int64_t last = rows.whole("last").value_or(0);
+  if (last < largest) {
+    books.fault(std::string(what) + "会重复：最大的是 " + std::to_string(largest) +
+                "，下一个号却从 " + std::to_string(last) + " 数起");
+  }
+  if (last >= kLast) books.fault(std::string(what) + "用完了：已经发到 " + std::to_string(last));
+}
+
+// Nothing ever deletes from these tables, so that their numbers have no gap.
+void examineGaps(const Examination& books, const std::string& table, const char* what) {
+  Rows rows = books.connection.query(
+      ("select (select count(*) from " + table +
+       ") as rows, coalesce((select max(seq) from sqlite_sequence where name = ?), 0) as given")
+          .c_str(),
+      table);
+  rows.next();
+  const std::int64_t there = rows.whole("rows").value_or(0);
+  const std::int64_t given = rows.whole("given").value_or(0);
+  if (there >= given) return;
+  books.fault(std::string(what) + "少了 " + std::to_string(given - there) + " 条：号码发到 " +
+              std::to_string(given) + "，只有 " + std::to_string(there) +
+              " 条，是在本程序以外删掉的");
+}
+
+}  // namespace
+
+void examineGoods(const Examination& books) {
+  nameGoods(books, kBarcodes, "条码");
+  nameGoods(books, kMaster, "商品");
+  examineOwners(books);
+  examineStock(books);
+}
+
+void examineShop(const Examination& books) {
+  examineOperators(books);
+  examineRights(books);
+  examineRemovedOperators(books);
+  examineParameters(books);
+  examineNumbers(books, "sell", "流水号");
+  examineNumbers(books, "sellProducts", "商品行号");
+  examineNumbers(books, "un_sell", "退货号");
+  examineNumbers(books, "member", "会员的内部号");
+  examineGaps(books, "un_sell", "退货记录");
+  examineGaps(books, "cardStored", "充值记录");
+  examineGaps(books, "member", "会员");
+}
