@@ -14,8 +14,7 @@ class Connection;
 /// Takes the written rows into the index, in one transaction (or inside the one that runs). An
 /// import calls it once, behind its last row: the index of a million rows then takes 12 s. Taken in
 /// row by row it would be minutes, since the engine ends a piece of the index with each statement.
-/// An import should also write with "insert or fail" and "update or fail": a plain statement keeps
-/// a copy of every page it touches to take itself back, which costs ten times the row.
+/// An import should also write through store/RowWriter.h.
 void updateFragmentIndex(Connection& connection);
 /// The same, when there are enough written rows for a look-up to feel them.
 void updateLongFragmentIndex(Connection& connection);

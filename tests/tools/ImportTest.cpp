@@ -150,7 +150,7 @@ TEST(Export, IsWhatImportNeedsToMakeTheSameShop) {
   Owner from, to;
   ASSERT_EQ(from.run({"create", from.shop, "--demo"}), 0) << from.err;
   ASSERT_EQ(to.run({"create", to.shop}), 0);
-  from.execute("update tmda set spmc = 'a,\"b\"' where rowid = 1");
+  from.execute("update tmda set spmc = 'a,\"b\"' where id = 1");
   for (const std::string& table : tableNames()) {
     const std::string csv = from.folder.file(table + ".csv");
     ASSERT_EQ(from.run({"export", from.shop, "--table", table, csv}), 0) << from.err;
