@@ -5,12 +5,12 @@
 #include <numeric>
 #include <utility>
 
+#include "base/CsvReader.h"
 #include "base/Text.h"
 #include "store/Connection.h"
 #include "store/FragmentIndex.h"
 #include "store/StoreError.h"
 #include "store/Transaction.h"
-#include "tools/CsvReader.h"
 #include "tools/Refusal.h"
 #include "tools/RowDoubts.h"
 

@@ -4,10 +4,9 @@
 #include <string>
 #include <vector>
 
+#include "base/CsvReader.h"
+#include "base/CsvRow.h"
 #include "base/Gbk.h"
-#include "tools/CsvReader.h"
-#include "tools/CsvRow.h"
-#include "tools/Refusal.h"
 
 namespace {
 
@@ -25,7 +24,7 @@ Table readAll(const std::string& text) {
 std::string refusalOf(const std::string& text) {
   try {
     readAll(text);
-  } catch (const Refusal& refusal) {
+  } catch (const CsvError& refusal) {
     return refusal.what();
   }
   return "(read)";
