@@ -8,12 +8,13 @@
 #include <QPdfWriter>
 #include <QPrinter>
 #include <QPrinterInfo>
-#include <QSaveFile>
 #include <algorithm>
 #include <cmath>
 #include <utility>
 #include <vector>
 
+#include "base/SystemFault.h"
+#include "base/WholeFile.h"
 #include "platform/PdfName.h"
 #include "platform/PortError.h"
 
@@ -162,20 +163,18 @@ QByteArray pdfOf(const Job& job) {
   return bytes;
 }
 
-/// Written under another name and renamed when whole, so that a program that watches the folder
-/// never takes half a job.
+/// Has its name when it is whole, so that a program that watches the folder never takes half a job.
 void printToFolder(const Job& job, const std::filesystem::path& folder, const DateTime& now) {
   const QByteArray pdf = pdfOf(job);
-  const std::string failed = "打印文件夹 " + folder.string() + " 写不进：";
   try {
-    const auto path = folder / nextPdfName(folder, now, job.document.name);
-    QSaveFile file(QString::fromStdString(path.string()));
-    const bool saved =
-        file.open(QIODevice::WriteOnly) && file.write(pdf) == pdf.size() && file.commit();
-    if (!saved) throw PortError(failed + file.errorString().toStdString());
+    WholeFile file(folder / nextPdfName(folder, now, job.document.name));
+    file.append({pdf.data(), static_cast<std::size_t>(pdf.size())});
+    file.finish();
+  } catch (const FileError& error) {
+    throw PortError("打印文件夹写不进：" + std::string(error.what()));
   } catch (const std::filesystem::filesystem_error& error) {
-    const bool missing = error.code() == std::errc::no_such_file_or_directory;
-    throw PortError(failed + (missing ? "没有这个文件夹" : error.code().message()));
+    throw PortError("打印文件夹 " + folder.string() + " 写不进：" +
+                    fileFault(error.code().value()));
   }
 }
 
