@@ -10,7 +10,6 @@
 
 #include "app/posMod.h"
 #include "settings/DeviceTest.h"
-#include "settings/DialogKeys.h"
 #include "shell/Modal.h"
 
 using Text = std::string ClsPosSet::*;
@@ -82,7 +81,8 @@ const std::vector<frmPosSet::Choice>& frmPosSet::choices() {
   return all;
 }
 
-frmPosSet::frmPosSet(posMod& pos, QWidget* parent) : QDialog(parent), pos_(pos) {
+frmPosSet::frmPosSet(posMod& pos, QWidget* parent)
+    : KeyDrivenDialog(pos.gKeyBoard, EnterKey::kMapped, parent), pos_(pos) {
   setObjectName("frmPosSet");
   setWindowTitle(tr("收银设置"));
   auto* heading = new QLabel(tr("POS机 设 置"));
@@ -106,7 +106,7 @@ frmPosSet::frmPosSet(posMod& pos, QWidget* parent) : QDialog(parent), pos_(pos) 
   std::vector<QWidget*> controls(lists_.begin(), lists_.end());
   for (const char* name : {"cmdTest", "cmdOk", "cmdCancel"})
     controls.push_back(findChild<QWidget*>(name));
-  new DialogKeys(pos_.gKeyBoard, this, controls);
+  walkThrough(controls);
 }
 
 void frmPosSet::addRow(QGridLayout& grid, const Choice& choice) {
