@@ -24,7 +24,7 @@ constexpr const char* kNotInNames = "/\\:*?\"<>|";
 
 ExportDialog::ExportDialog(const KeyBoard& keys, std::filesystem::path folder,
                            const QString& proposed, QWidget* parent)
-    : KeyDrivenDialog(keys, EnterKey::kEither, parent),
+    : KeyDrivenDialog(keys, EnterKey::kMapped, parent),
       folder_(std::move(folder)),
       txtName_(field("txtName")),
       OptXlsx_(made("OptXlsx", new QRadioButton(tr("Excel 表格 (.xlsx)"), this))),
