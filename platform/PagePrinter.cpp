@@ -17,6 +17,7 @@
 #include "base/WholeFile.h"
 #include "platform/PdfName.h"
 #include "platform/PortError.h"
+#include "platform/QtText.h"
 
 namespace {
 
@@ -88,7 +89,7 @@ std::vector<Page> pagesOf(const PageDocument& document) {
 /// Without what moves the place of the following characters instead of being one, and without the
 /// blanks at the end.
 QString visible(const std::string& text) {
-  QString result = QString::fromStdString(text);
+  QString result = qtText(text);
   result.removeIf([](QChar c) {
     const QChar::Category category = c.category();
     return category == QChar::Other_Control || category == QChar::Other_Format ||
@@ -158,7 +159,7 @@ QByteArray pdfOf(const Job& job) {
   QBuffer buffer(&bytes);
   buffer.open(QIODevice::WriteOnly);
   QPdfWriter writer(&buffer);
-  writer.setTitle(QString::fromStdString(job.document.name));
+  writer.setTitle(qtText(job.document.name));
   if (!draw(job, writer)) throw PortError("打印失败：不能生成 PDF");
   return bytes;
 }
@@ -182,7 +183,7 @@ void printOnDefaultPrinter(const Job& job) {
   const QPrinterInfo info = QPrinterInfo::defaultPrinter();
   if (info.isNull()) throw PortError("没有默认打印机");
   QPrinter printer(info, QPrinter::HighResolution);
-  printer.setDocName(QString::fromStdString(job.document.name));
+  printer.setDocName(qtText(job.document.name));
   if (!draw(job, printer) || printer.printerState() == QPrinter::Error) {
     throw PortError("打印机 " + info.printerName().toStdString() + " 打印失败");
   }

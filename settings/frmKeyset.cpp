@@ -12,6 +12,7 @@
 #include "app/posMod.h"
 #include "base/NumberText.h"
 #include "platform/KeyName.h"
+#include "platform/QtText.h"
 #include "settings/KeyBox.h"
 #include "settings/KeyFunctions.h"
 #include "settings/QuickKeyModel.h"
@@ -226,7 +227,7 @@ void frmKeyset::nextQuickKey() {
 void frmKeyset::take(const QModelIndex& row) {
   const clsQk& quickKey = quickKeys_->quickKeys()[static_cast<std::size_t>(row.row())];
   txtKeyInt_->setCode(quickKey.QK_int);
-  txtKeyBm_->setText(QString::fromStdString(quickKey.QK_Bm));
+  txtKeyBm_->setText(qtText(quickKey.QK_Bm));
   txtKeyBm_->setFocus();
 }
 

@@ -9,6 +9,7 @@
 #include <variant>
 
 #include "app/posMod.h"
+#include "platform/QtText.h"
 #include "settings/DeviceTest.h"
 #include "shell/Modal.h"
 
@@ -30,7 +31,7 @@ namespace {
 constexpr const char* kNone = "无";
 
 void showText(QComboBox& list, const std::string& setting) {
-  const QString text = QString::fromStdString(setting);
+  const QString text = qtText(setting);
   if (!text.isEmpty() && list.findText(text) < 0) list.addItem(text);
   list.setCurrentIndex(text.isEmpty() ? 0 : list.findText(text));
 }
