@@ -24,6 +24,7 @@
 #include "reports/SearchPanel.h"
 #include "shell/DateField.h"
 #include "shell/Modal.h"
+#include "store/Connection.h"
 
 namespace {
 
