@@ -10,7 +10,7 @@
 #include "base/Currency.h"
 #include "base/DateTime.h"
 #include "base/Text.h"
-#include "store/WriteMarks.h"
+#include "base/WriteMark.h"
 
 class Connection;
 class Row;

@@ -6,7 +6,7 @@
 
 #include "base/Currency.h"
 #include "base/DateTime.h"
-#include "store/WriteMarks.h"
+#include "base/WriteMark.h"
 
 class Connection;
 class Row;
