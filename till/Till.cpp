@@ -33,6 +33,7 @@ bool Till::Main() {
   if (!missing.empty())
     messageBox(nullptr, QString::fromStdString(missing), {}, BoxIcon::kInformation);
   pos_.start();
+  checkpoint_ = std::make_unique<QuietCheckpoint>(qApp, *pos_.gConn);
   controlKeys_ = std::make_unique<ControlKeys>(qApp, pos_.gKeyBoard);
   frmSell_ = std::make_unique<frmSell>(pos_, saleScreens(), [this] { frmMain_->close(); });
   frmMain_ = std::make_unique<frmMain>(pos_, screens());
