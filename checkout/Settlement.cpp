@@ -95,7 +95,7 @@ QString Settlement::change(const QString& cash, const QString& favorable,
   try {
     return shown(oneDecimal(*cashPaid + *given + *cardPaid - bill_.Amount()));
   } catch (const Overflow&) {
-    return {};
+    return shown(kDoesNotFit);
   }
 }
 

@@ -40,7 +40,8 @@ class Settlement {
   [[nodiscard]] QString bankCardChanged(const QString& text);
   [[nodiscard]] QString salesmanChanged(const QString& text);
 
-  /// The change, one decimal, from the texts of the fields; nothing (null) when one is no number.
+  /// The change, one decimal, from the texts of the fields, or that it does not fit; nothing (null)
+  /// when one is no number.
   [[nodiscard]] QString change(const QString& cash, const QString& favorable,
                                const QString& bankCard) const;
 

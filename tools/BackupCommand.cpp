@@ -28,6 +28,6 @@ void addBackupCommand(CLI::App& app, Console& console) {
       "backup", "备份数据文件并打开检查；收款程序开着也可以。备份的密码与数据文件相同");
   const auto options = std::make_shared<Options>();
   options->file.addTo(*command);
-  command->add_option("TO", options->target, "备份到这个文件；已有的会被替换")->required();
+  command->add_option("目标", options->target, "备份到这个文件；已有的会被替换")->required();
   command->callback([options, &console] { backUp(*options, console); });
 }

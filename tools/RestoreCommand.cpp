@@ -37,7 +37,7 @@ void addRestoreCommand(CLI::App& app, Console& console) {
   CLI::App* command = app.add_subcommand(
       "restore", "检查备份，用它代替数据文件；原来的文件改名留下。收款程序必须先退出");
   const auto options = std::make_shared<Options>();
-  command->add_option("BACKUP", options->backup, "备份文件")->required();
+  command->add_option("备份", options->backup, "备份文件")->required();
   options->file.addTo(*command);
   command->callback([options, &console] { restore(*options, console); });
 }

@@ -48,7 +48,7 @@ int runTool(int count, const char* const* arguments, Console& console) {
   CLI::App app("店主的工具：建立数据文件，管理操作员和店铺参数，导入导出商品，检查账目。",
                "tilladmin");
   speakChinese(app);
-  app.set_version_flag("--version", std::string(tillVersion()), "显示版本")->group(kOptions);
+  app.set_version_flag("--version", std::string(tillVersion()), "显示版本");
   app.require_subcommand(1);
   int exitCode = kDone;
   addCreateCommand(app, console);

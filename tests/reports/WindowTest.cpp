@@ -163,7 +163,7 @@ TEST_F(frmSearchTest, TheLastBillIsPrintedAgainByOneKeyWithItsAmountsInSight) {
   form_->resize(1000, 740);
   QTest::keyClick(form_.get(), Key_L, Qt::AltModifier);
   ASSERT_TRUE(showsRows(2));
-  EXPECT_EQ(shop_.papersPrinted(), 1u);
+  EXPECT_EQ(shop_.paperWidthsMm().size(), 1u);
   EXPECT_EQ(form_->findChild<QLineEdit*>("numberSerch")->text() + at(0, 8), "25");
   const auto* list = form_->findChild<QTableView*>("ListView1");
   EXPECT_LE(list->columnViewportPosition(kColumnUnitCost), list->viewport()->width());
