@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "base/Currency.h"
+#include "saleslib/Export.h"
 
 class Connection;
 
@@ -20,7 +21,8 @@ struct StoredCard {
 };
 /// The card of a typed or swiped number (see storedCardNumbers); nothing when there is none. Throws
 /// StoreError.
-std::optional<StoredCard> findStoredCard(Connection& connection, std::string_view typed);
+TESSALY_API std::optional<StoredCard> findStoredCard(Connection& connection,
+                                                     std::string_view typed);
 
 /// Money loaded onto a stored-value card.
 struct TopUp {
@@ -34,7 +36,7 @@ struct TopUp {
 /// complete: two writes, each durable by itself. Throws StoreError; a record that was written
 /// stays, so that nothing that was paid is forgotten, and the same top-up tried again completes
 /// that record instead of writing a second one.
-void storeTopUp(Connection& connection, const TopUp& topUp);
+TESSALY_API void storeTopUp(Connection& connection, const TopUp& topUp);
 
 /// A top-up whose record was written, but not the card's balance.
 struct IncompleteTopUp {
@@ -43,7 +45,7 @@ struct IncompleteTopUp {
   bool isReported = false;  ///< a cashier has been told
 };
 /// In the order in which they were begun. Throws StoreError.
-std::vector<IncompleteTopUp> incompleteTopUps(Connection& connection);
+TESSALY_API std::vector<IncompleteTopUp> incompleteTopUps(Connection& connection);
 /// Notes that a cashier has been told of that top-up, which stays as incomplete as it is; loading
 /// the card again is a top-up of its own from then on. Throws StoreError.
-void noteReported(Connection& connection, const IncompleteTopUp& topUp);
+TESSALY_API void noteReported(Connection& connection, const IncompleteTopUp& topUp);

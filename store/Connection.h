@@ -78,9 +78,13 @@ class Connection {
 
   /// Several statements of engine text at once, for making tables; nothing is bound or cached.
   void runScript(const std::string& statements);
-  /// Copies unfinished log pages into the data file, as far as no reader is in the way, without
-  /// waiting for anybody.
+  /// Copies what the log holds into the data file, as far as no reader is in the way, without
+  /// waiting for anybody. Commits do so themselves only when the log has kMostLogPages, so whoever
+  /// writes for people calls this while nobody waits.
   void checkpoint();
+  /// The pages (4 KiB each) that were in the log after the last commit and were not copied since.
+  int logPages() const { return logPages_; }
+  static constexpr int kMostLogPages = 16'384;
   /// From now on `asked` is called every few milliseconds while a statement runs, in its thread;
   /// when it says yes, the statement ends by a StoreError. It must not use the connection.
   void stopWhen(std::function<bool()> asked);
@@ -97,6 +101,7 @@ class Connection {
   };
 
   void openEngine(Mode mode);
+  static int committed(void* connection, sqlite3* engine, const char*, int logPages);
   void requireTransaction() const;
   std::shared_ptr<Statement> prepared(std::string_view text, std::vector<Value> values);
   std::int64_t runToEnd(std::string_view text, std::vector<Value> values);
@@ -107,5 +112,6 @@ class Connection {
   std::unique_ptr<StatementCache> statements_;
   std::function<bool()> stopAsked_;
   int transactionDepth_ = 0;
+  int logPages_ = 0;
   WriteMarks marks_;
 };

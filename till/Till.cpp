@@ -32,6 +32,7 @@ bool Till::Main() {
   const std::string missing = pos_.missingOperator();
   if (!missing.empty()) messageBox(nullptr, qtText(missing), {}, BoxIcon::kInformation);
   pos_.start();
+  checkpoint_ = std::make_unique<QuietCheckpoint>(qApp, *pos_.gConn);
   controlKeys_ = std::make_unique<ControlKeys>(qApp, pos_.gKeyBoard);
   frmSell_ = std::make_unique<frmSell>(pos_, saleScreens(), [this] { frmMain_->close(); });
   frmMain_ = std::make_unique<frmMain>(pos_, screens());
