@@ -5,6 +5,7 @@
 #include "bench/Goods.h"
 #include "bench/Run.h"
 #include "bench/SyncCount.h"
+#include "store/Connection.h"
 
 namespace {
 

@@ -9,6 +9,7 @@
 #include "checkout/SaleScreen.h"
 #include "saleslib/CardNumber.h"
 #include "saleslib/ClsSell.h"
+#include "store/Connection.h"
 #include "store/Literal.h"
 #include "store/StoreError.h"
 #include "store/Transaction.h"

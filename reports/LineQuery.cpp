@@ -3,6 +3,7 @@
 #include <utility>
 
 #include "base/Failure.h"
+#include "platform/QtText.h"
 #include "store/Connection.h"
 
 namespace {
@@ -64,7 +65,7 @@ void LineQuery::read(const std::string& statement, int number) {
       emit finished();
     });
   } catch (const Failure& failure) {
-    report(number, [this, why = QString::fromUtf8(failure.what())] {
+    report(number, [this, why = qtText(failure.what())] {
       end();
       emit failed(why);
     });

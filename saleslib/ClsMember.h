@@ -10,8 +10,8 @@
 #include "base/Currency.h"
 #include "base/DateTime.h"
 #include "base/Text.h"
+#include "base/WriteMark.h"
 #include "saleslib/Export.h"
-#include "store/WriteMarks.h"
 
 class Connection;
 class Row;

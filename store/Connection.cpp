@@ -137,7 +137,13 @@ Rows Connection::queryBound(const char* text, std::vector<Value> values) {
   return Rows(prepared(text, std::move(values)));
 }
 
-std::int64_t Connection::lastRowId() const {
+std::optional<std::int64_t> Connection::ExecuteInsert(const std::string& statement) {
+  return keyOfNewRow(Execute(statement));
+}
+
+std::optional<std::int64_t> Connection::keyOfNewRow(std::int64_t rowsWritten) const {
+  ensure(rowsWritten <= 1, "one row at a time is given its key");
+  if (rowsWritten == 0) return std::nullopt;
   return sqlite3_last_insert_rowid(engine_.get());
 }
 

@@ -8,8 +8,8 @@
 #include <string_view>
 #include <vector>
 
-#include "store/DataFile.h"
 #include "store/DataFilePath.h"
+#include "store/DataSource.h"
 #include "store/Recordset.h"
 #include "store/Rows.h"
 #include "store/Value.h"
@@ -62,8 +62,13 @@ class Connection {
   /// As run and query, for a statement whose columns are known at run time only.
   std::int64_t runBound(const char* text, std::vector<Value> values);
   Rows queryBound(const char* text, std::vector<Value> values);
-  /// The row key that the last insert gave.
-  std::int64_t lastRowId() const;
+  /// As Execute and run, for an insert of at most one row: the key that the row was given, or
+  /// nothing when none was written.
+  std::optional<std::int64_t> ExecuteInsert(const std::string& statement);
+  template <class... Values>
+  std::optional<std::int64_t> insert(const char* text, const Values&... values) {
+    return keyOfNewRow(runBound(text, {toValue(values)...}));
+  }
 
   /// The mark of what has just been written.
   WriteMark writeMark() { return marks_.next(); }
@@ -89,6 +94,7 @@ class Connection {
   friend class Transaction;
   friend class FileReading;
   friend void backUpDataFile(Connection& connection, const std::filesystem::path& target);
+  std::optional<std::int64_t> keyOfNewRow(std::int64_t rowsWritten) const;
 
   struct EngineCloser {
     void operator()(sqlite3* engine) const;

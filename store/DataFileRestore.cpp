@@ -8,6 +8,7 @@
 #include <system_error>
 
 #include "base/FileName.h"
+#include "base/SystemFault.h"
 #include "base/WholeFile.h"
 #include "store/DataFileLock.h"
 #include "store/DataFilePath.h"
