@@ -154,6 +154,7 @@ void showToolkitsList(PaintWatch& paint) {
     list.addItem(QString::fromStdString(goods::name(entry) + " " + goods::barcode(entry)));
   }
   list.setWindowState(Qt::WindowMaximized);
+  list.setAttribute(Qt::WA_ShowWithoutActivating);  // the keyboard stays with the sale window
   paint.untilPainted("list", [&list] { list.show(); });
 }
 
