@@ -11,6 +11,7 @@
 #include "bench/ProgramFolder.h"
 #include "bench/Run.h"
 #include "store/Connection.h"
+#include "store/DataFile.h"
 #include "store/FragmentIndex.h"
 #include "store/Transaction.h"
 

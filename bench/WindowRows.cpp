@@ -7,6 +7,7 @@
 #include "bench/Run.h"
 #include "bench/SaleWindow.h"
 #include "bench/Stopwatch.h"
+#include "store/Connection.h"
 #include "store/DataFile.h"
 
 namespace {

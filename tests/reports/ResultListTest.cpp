@@ -16,7 +16,11 @@ struct Found : ResultList {
     append({{{parseDateTime(time), bill, goods++, quantity, money, 0.9F, money}},
             {{"A1", name, "包", barcode, ""}}});
   }
-  void addEmpty() { append({{{.goods = goods++}}, {{}}}); }
+  void addEmpty() {
+    SoldLine line;
+    line.goods = goods++;
+    append({{line}, {{}}});
+  }
   std::uint32_t goods = 0;
 };
 
