@@ -24,7 +24,7 @@ struct Window : QWindow {
 TEST(QuietCheckpointTest, CopiesTheLogBetweenKeysAndNeverWithinOne) {
   const TemporaryFolder folder;
   const auto books = createDataFile({folder.file("pos.mdb"), kBuiltInPassword});
-  const auto write = [&books, item = 'a'](int pages) mutable {
+  auto write = [&books, item = 'a'](int pages) mutable {
     Transaction writing(*books);
     books->run("insert into stock values (?, 1)", std::string(std::size_t(pages) * 4000, item++));
     writing.commit();
