@@ -26,7 +26,7 @@ TEST(QuietCheckpointTest, CopiesTheLogBetweenKeysAndNeverWithinOne) {
   const auto books = createDataFile({folder.file("pos.mdb"), kBuiltInPassword});
   auto write = [&books, item = 'a'](int pages) mutable {
     Transaction writing(*books);
-    books->run("insert into stock values (?, 1)", std::string(std::size_t(pages) * 4000, item++));
+    books->run("insert into stock values (?, 1)", std::string(std::size_t(pages) * 4096, item++));
     writing.commit();
   };
   books->checkpoint();
