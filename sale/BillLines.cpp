@@ -7,14 +7,13 @@
 #include "base/Text.h"
 #include "checkout/AmountDue.h"
 #include "checkout/FigureCheck.h"
+#include "platform/QtText.h"
 #include "sale/Checkout.h"
 #include "sale/ItemLookup.h"
 #include "sale/Sale.h"
 #include "sale/SaleDevices.h"
 #include "sale/SaleScreen.h"
 #include "sale/SaleTexts.h"
-
-using sale_texts::of;
 
 namespace {
 
@@ -27,7 +26,7 @@ QString codeOf(const QString& typed) {
   const std::string folded = halfWidth(typed.toStdString());
   const bool plain = std::all_of(folded.begin(), folded.end(),
                                  [](char c) { return static_cast<unsigned char>(c) < 0x80; });
-  return plain ? of(folded) : typed;
+  return plain ? qtText(folded) : typed;
 }
 
 bool isBarcode(const QString& typed) {
@@ -117,7 +116,7 @@ void BillLines::changeQuantity(const QString& typed) {
   if (*quantity == before) return sale_.backToEntry();
   ClsSellItem changed = *sale_.line();
   changed.setQuantity(*quantity);
-  if (!correct(std::move(changed))) sale_.setInput(of(generalNumber(before)));
+  if (!correct(std::move(changed))) sale_.setInput(qtText(generalNumber(before)));
 }
 
 void BillLines::changeDiscount(const QString& typed) {
@@ -159,7 +158,7 @@ bool BillLines::guarded(const std::function<bool()>& work) {
   try {
     return work();
   } catch (const Failure& failure) {
-    screen_.messageBox(QString::fromUtf8(failure.what()));
+    screen_.messageBox(qtText(failure.what()));
     return false;
   }
 }

@@ -9,12 +9,11 @@
 #include "checkout/PaidBill.h"
 #include "checkout/Settlement.h"
 #include "checkout/SettlementTexts.h"
+#include "platform/QtText.h"
 #include "sale/Sale.h"
 #include "sale/SaleDevices.h"
 #include "sale/SaleScreen.h"
 #include "sale/SaleTexts.h"
-
-using sale_texts::of;
 
 namespace {
 
@@ -62,7 +61,7 @@ bool Checkout::canStore() {
     const std::string fault = pos_.dataFileFault();
     if (fault.empty()) return true;
     const QString question = tr("%1\n文件已经放好，继续收款吗？选“否”将退出程序。");
-    if (!screen_.askYesNo(question.arg(of(fault)), {}, true)) return false;
+    if (!screen_.askYesNo(question.arg(qtText(fault)), {}, true)) return false;
   }
 }
 
@@ -86,7 +85,7 @@ void Checkout::dropUnstored() {
   dropped_ = std::make_unique<ClsSell>(*sale_.bill());
   if (dropped_->CardPay() != Currency()) {
     text += tr("\n储值卡 %1 已扣款 %2 元。")
-                .arg(of(dropped_->CardNo()), of(generalNumber(dropped_->CardPay())));
+                .arg(qtText(dropped_->CardNo()), qtText(generalNumber(dropped_->CardPay())));
   }
   try {
     withdrawDropped();
@@ -124,7 +123,7 @@ std::shared_ptr<ClsSell> Checkout::openNextBill() {
       if (auto next = books_.open(cashier().Id())) return next;
       reason = operatorGone();
     } catch (const Failure& failure) {
-      reason = QString::fromUtf8(failure.what());
+      reason = qtText(failure.what());
     }
     sale_.clear();
     screen_.show(sale_.picture());
@@ -138,7 +137,7 @@ const ClsOperator& Checkout::cashier() const {
 }
 
 QString Checkout::operatorGone() const {
-  return tr("操作员“%1”已被删除，不能再开单。").arg(of(cashier().Name()));
+  return tr("操作员“%1”已被删除，不能再开单。").arg(qtText(cashier().Name()));
 }
 
 void Checkout::followLastBill() {

@@ -4,6 +4,7 @@
 #include <cstdint>
 
 #include "base/Failure.h"
+#include "platform/QtText.h"
 #include "sale/Checkout.h"
 #include "sale/MemberCard.h"
 #include "sale/Sale.h"
@@ -30,7 +31,7 @@ void HeldBills::SuspendBill() {
     if (!next) return screen_.messageBox(checkout_.operatorGone());
     sale_.hold(std::move(next), checkout_.cashier().Name());
   } catch (const Failure& failure) {
-    screen_.messageBox(QString::fromUtf8(failure.what()));
+    screen_.messageBox(qtText(failure.what()));
     return;
   }
   checkout_.followLastBill();
@@ -47,7 +48,7 @@ void HeldBills::RecallBill() {
   try {
     takeUp(**chosen);
   } catch (const Failure& failure) {
-    screen_.messageBox(QString::fromUtf8(failure.what()));
+    screen_.messageBox(qtText(failure.what()));
   }
 }
 

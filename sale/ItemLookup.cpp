@@ -3,11 +3,10 @@
 #include "base/Failure.h"
 #include "base/NumberText.h"
 #include "checkout/FigureCheck.h"
+#include "platform/QtText.h"
 #include "sale/Sale.h"
 #include "sale/SaleScreen.h"
 #include "sale/SaleTexts.h"
-
-using sale_texts::of;
 
 ItemLookup::ItemLookup(const Sale& sale, GoodsLookup goods, SaleScreen& screen,
                        const ClsSysParam& rules)
@@ -38,7 +37,7 @@ ItemLookup::Line ItemLookup::lookUp(const std::function<FoundGoods()>& find) {
     if (priceMissing) line->setPrice(askPrice());
     return line;
   } catch (const Failure& failure) {
-    screen_.messageBox(QString::fromUtf8(failure.what()));
+    screen_.messageBox(qtText(failure.what()));
     return nullptr;
   }
 }
@@ -47,9 +46,10 @@ int ItemLookup::choose(const FoundGoods& found) {
   screen_.show(sale_.picture());
   return screen_.choose(static_cast<int>(found.count()), [&found](int position) {
     const FoundGoods::Caption each = found.caption(static_cast<std::size_t>(position));
-    QString caption = each.itemNumber ? tr("%1  货号: %2").arg(of(each.name), of(*each.itemNumber))
-                                      : of(each.name + "  " + each.origin);
-    if (each.stock) caption += tr("  库存：%1").arg(of(generalNumber(*each.stock)));
+    QString caption = each.itemNumber
+                          ? tr("%1  货号: %2").arg(qtText(each.name), qtText(*each.itemNumber))
+                          : qtText(each.name + "  " + each.origin);
+    if (each.stock) caption += tr("  库存：%1").arg(qtText(generalNumber(*each.stock)));
     return caption;
   });
 }

@@ -1,13 +1,12 @@
 #include "sale/MemberCard.h"
 
 #include "base/Failure.h"
+#include "platform/QtText.h"
 #include "sale/Sale.h"
 #include "sale/SaleScreen.h"
 #include "sale/SaleTexts.h"
 #include "saleslib/CardNumber.h"
 #include "saleslib/ClsMemberSvc.h"
-
-using sale_texts::of;
 
 MemberCard::MemberCard(Sale& sale, BillBooks& books, SaleScreen& screen,
                        const ClsMemberSvc& members)
@@ -24,7 +23,7 @@ void MemberCard::AttachMember() {
   try {
     if (!memberNumber(number).empty()) member = find(number);
   } catch (const Failure& failure) {
-    screen_.messageBox(QString::fromUtf8(failure.what()));
+    screen_.messageBox(qtText(failure.what()));
   }
   sale_.bill()->setMemberId(member ? member->Id() : 0);
   show(std::move(member));
@@ -35,7 +34,7 @@ std::shared_ptr<ClsMember> MemberCard::find(const std::string& number) {
   if (!member) member = chooseByPhone(number);
   if (!member || member->Enabled()) return member;
   screen_.ShowMessage(
-      tr("会员卡被禁用！卡号：%1，持卡人：%2").arg(of(member->Bh()), of(member->Name())));
+      tr("会员卡被禁用！卡号：%1，持卡人：%2").arg(qtText(member->Bh()), qtText(member->Name())));
   return nullptr;
 }
 
@@ -48,7 +47,7 @@ std::shared_ptr<ClsMember> MemberCard::chooseByPhone(const std::string& phone) {
   }
   const int chosen = screen_.choose(static_cast<int>(members.size()), [&members](int position) {
     const ClsMember& member = *members[static_cast<std::size_t>(position)];
-    const QString caption = of(member.Bh() + "  " + member.Name());
+    const QString caption = qtText(member.Bh() + "  " + member.Name());
     return member.Enabled() ? caption : tr("%1（已禁用）").arg(caption);
   });
   return chosen < 0 ? nullptr : members[static_cast<std::size_t>(chosen)];
@@ -59,7 +58,7 @@ void MemberCard::show(std::shared_ptr<ClsMember> member) {
   try {
     if (member) info = sale_texts::memberInfo(*member, books_.lastPurchase(*member).get());
   } catch (const Failure& failure) {
-    screen_.messageBox(QString::fromUtf8(failure.what()));
+    screen_.messageBox(qtText(failure.what()));
   }
   sale_.attach(std::move(member), info);
 }

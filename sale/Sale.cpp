@@ -5,6 +5,7 @@
 
 #include "base/Failure.h"
 #include "base/NumberText.h"
+#include "platform/QtText.h"
 #include "sale/SaleTexts.h"
 
 namespace {
@@ -155,7 +156,7 @@ bool Sale::selectCell(int step) {
 void Sale::place(bool onLine, Cell cell) {
   onLine_ = onLine;
   cell_ = cell;
-  setInput(sale_texts::of(rows_[selectedRow()].cells[column()]));
+  setInput(qtText(rows_[selectedRow()].cells[column()]));
   replaceInput_ = true;
 }
 

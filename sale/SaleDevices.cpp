@@ -6,6 +6,7 @@
 #include "checkout/Messages.h"
 #include "checkout/PageReceipt.h"
 #include "checkout/ReceiptLines.h"
+#include "platform/QtText.h"
 #include "sale/Sale.h"
 
 namespace {
@@ -15,12 +16,12 @@ QString tr(const char* text) {
 }
 
 Outage::Report reportTo(Messages& screen) {
-  return [&screen](const std::string& text) { screen.ShowMessage(QString::fromStdString(text)); };
+  return [&screen](const std::string& text) { screen.ShowMessage(qtText(text)); };
 }
 
 // The display's reason is the system's own, and comes in the system's box.
 Outage::Report boxOf(Messages& screen) {
-  return [&screen](const std::string& text) { screen.messageBox(QString::fromStdString(text)); };
+  return [&screen](const std::string& text) { screen.messageBox(qtText(text)); };
 }
 
 }  // namespace

@@ -6,6 +6,7 @@
 #include "base/Failure.h"
 #include "base/NumberText.h"
 #include "checkout/PaidBill.h"
+#include "platform/QtText.h"
 #include "platform/VirtualKey.h"
 #include "sale/TopUpReport.h"
 
@@ -56,9 +57,8 @@ QString SaleSession::lastBillDated() const {
   return tr("单据 %1 的时间是 %2，今天却是 %3。\n请先看电脑的日期对不对；电脑对了，"
             "就请店主改正这张单据：\ntilladmin bill redate %4 %1")
       .arg(sale_.last()->BillNo())
-      .arg(QString::fromStdString(generalText(sale_.last()->SellTime())),
-           QString::fromStdString(dateText(pos_.clock().date)),
-           QString::fromStdString(pos_.gConn->source().path.string()));
+      .arg(qtText(generalText(sale_.last()->SellTime())), qtText(dateText(pos_.clock().date)),
+           qtText(books_.file()));
 }
 
 // The order is the one in which a key mapped twice finds its command.
@@ -170,7 +170,7 @@ const clsQk* SaleSession::quickKeyFor(int code, const QString& text) const {
 bool SaleSession::quickKey(int code) {
   const clsQk* quick = quickKeyFor(code, sale_.input());
   if (quick == nullptr) return false;
-  lines_.EnterQuickKey(QString::fromStdString(quick->QK_Bm));
+  lines_.EnterQuickKey(qtText(quick->QK_Bm));
   sale_.replaceInput();
   return true;
 }
@@ -218,7 +218,7 @@ void SaleSession::exit() {
   try {
     books_.drop(*sale_.bill());
   } catch (const Failure& failure) {
-    screen_.messageBox(QString::fromUtf8(failure.what()));
+    screen_.messageBox(qtText(failure.what()));
   }
   sale_.clear();
   devices_.close();

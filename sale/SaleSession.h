@@ -59,9 +59,6 @@ class SaleSession {
   /// The function menu's entries that have an action: key and caption.
   std::vector<std::pair<QString, QString>> menuEntries() const;
 
-  /// Nobody waits now: what may take a moment is done.
-  void idle() { books_.tidy(); }
-
   const Sale& sale() const { return sale_; }
 
  private:

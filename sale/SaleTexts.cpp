@@ -5,6 +5,7 @@
 
 #include "base/Failure.h"
 #include "base/NumberText.h"
+#include "platform/QtText.h"
 #include "sale/Sale.h"
 
 namespace sale_texts {
@@ -17,22 +18,18 @@ QString tr(const char* text) {
 
 template <class Number>
 QString general(const Number& number) {
-  return of(generalNumber(number));
+  return qtText(generalNumber(number));
 }
 
 }  // namespace
 
-QString of(const std::string& utf8) {
-  return QString::fromStdString(utf8);
-}
-
 QString billTitle(const ClsSell& bill, const std::string& cashier) {
-  return tr("流水号：%1   收银员：%2").arg(QString::number(bill.BillNo()), of(cashier));
+  return tr("流水号：%1   收银员：%2").arg(QString::number(bill.BillNo()), qtText(cashier));
 }
 
 QString rung(const SaleFigures& figures, const std::string& due) {
   return tr("%1件商品，原价合计%2   合计%3元")
-      .arg(general(figures.quantity), QString::number(figures.originalPrice), of(due));
+      .arg(general(figures.quantity), QString::number(figures.originalPrice), qtText(due));
 }
 
 QString removed(const ClsSell& bill, const SaleFigures& figures) {
@@ -47,20 +44,20 @@ QString recalled(const ClsSell& bill) {
 
 QString memberInfo(const ClsMember& member, const ClsSell* latest) {
   const QString about = tr("会员：%1，办卡日期：%2，累计消费：%3")
-                            .arg(of(member.Name()), of(dateText(member.JoinDate())),
-                                 of(twoDecimals(member.TotalSpent())));
+                            .arg(qtText(member.Name()), qtText(dateText(member.JoinDate())),
+                                 qtText(twoDecimals(member.TotalSpent())));
   if (latest == nullptr) return about;
   QStringList goods;
-  for (const auto& line : latest->Items()) goods << of(line->SpName());
+  for (const auto& line : latest->Items()) goods << qtText(line->SpName());
   return about + "\n" +
          tr("最近消费时间：%1，金额：%2\n最近购买商品：%3")
-             .arg(of(generalText(latest->SellTime())), of(twoDecimals(latest->Amount())),
+             .arg(qtText(generalText(latest->SellTime())), qtText(twoDecimals(latest->Amount())),
                   goods.join(tr("、")));
 }
 
 QString refusal(const StockOutcome& outcome) {
   ensure(!outcome.done(), "a refusal has a reason");
-  const QString goods = of(outcome.goods);
+  const QString goods = qtText(outcome.goods);
   if (outcome.kind == StockOutcome::kOutOfRange) return tr("数量超出范围：%1").arg(goods);
   return tr("库存不足：%1现有库存 %2").arg(goods, general(outcome.left));
 }

@@ -15,8 +15,6 @@ struct StockOutcome;
 /// What the sale screen says of the sale, in words.
 namespace sale_texts {
 
-QString of(const std::string& utf8);
-
 /// Heading: bill number and cashier.
 QString billTitle(const ClsSell& bill, const std::string& cashier);
 

@@ -6,17 +6,18 @@
 #include "base/Failure.h"
 #include "base/NumberText.h"
 #include "checkout/Messages.h"
+#include "platform/QtText.h"
 #include "saleslib/TopUp.h"
 
 namespace {
 
 QString shown(Currency money) {
-  return QString::fromStdString(twoDecimals(money));
+  return qtText(twoDecimals(money));
 }
 
 QString lineOf(const TopUp& topUp) {
   return QCoreApplication::translate("TopUpReport", "卡号 %1，付款 %2，充值 %3")
-      .arg(QString::fromStdString(topUp.cardNumber), shown(topUp.paid), shown(topUp.credited));
+      .arg(qtText(topUp.cardNumber), shown(topUp.paid), shown(topUp.credited));
 }
 
 }  // namespace

@@ -24,8 +24,6 @@
 namespace {
 
 constexpr int kClockInterval = 1000;  // milliseconds
-// So long without a key press after a sale, and nobody waits for the log to be tidied.
-constexpr int kIdleInterval = 1500;
 
 }  // namespace
 
@@ -44,10 +42,7 @@ frmSell::frmSell(posMod& pos, SaleSession::Openers openers, std::function<void()
   controls_.t->installEventFilter(this);
   Timer1_.setObjectName("Timer1");
   Timer1_.setInterval(kClockInterval);
-  idle_.setInterval(kIdleInterval);
-  idle_.setSingleShot(true);
   connect(&Timer1_, &QTimer::timeout, this, &frmSell::showTime);
-  connect(&idle_, &QTimer::timeout, this, [this] { session_->idle(); });
 
   // After the colour dialog the six colours are applied again.
   if (const auto colour = openers_.find("color"); colour != openers_.end()) {
@@ -64,7 +59,6 @@ void frmSell::openModal() {
   begin();
   const auto closing = qScopeGuard([this] { finish(); });
   if (!session_->open() || ended_) return;
-  settled_ = session_->sale().last().get();
   QEventLoop loop;
   const QScopedValueRollback running(loop_, &loop);
   loop.exec();
@@ -102,7 +96,6 @@ void frmSell::begin() {
 
 void frmSell::finish() {
   Timer1_.stop();
-  idle_.stop();
   hide();
   controls_.lv->setModel(nullptr);
   model_.reset();
@@ -142,7 +135,6 @@ bool frmSell::keyPressed(QKeyEvent& event) {
   if (ended_) return true;
   const int code = virtualKey(event);
   if (event.isAutoRepeat() && !session_->mayRepeat(code, controls_.t->text())) return true;
-  idle_.stop();
   controls_.lv->showCurrent();
   if (session_->key(code, controls_.t->text())) {
     afterCommand();
@@ -156,13 +148,7 @@ bool frmSell::keyPressed(QKeyEvent& event) {
 // Not every window system makes the window under a closed modal one active again.
 void frmSell::afterCommand() {
   if (!isActiveWindow()) activateWindow();
-  if (session_->left() && loop_ != nullptr) {
-    loop_->quit();
-    return;
-  }
-  const ClsSell* previous = session_->sale().last().get();
-  if (previous != settled_) idle_.start();
-  settled_ = previous;
+  if (session_->left() && loop_ != nullptr) loop_->quit();
 }
 
 void frmSell::closeEvent(QCloseEvent* event) {

@@ -68,9 +68,8 @@ class frmSell : public QWidget, private SaleScreen {
   std::unique_ptr<SaleSession> session_;  ///< while the screen is open
   std::unique_ptr<BillModel> model_;
   QEventLoop* loop_ = nullptr;
-  bool ended_ = false;                ///< the program is ending
-  const ClsSell* settled_ = nullptr;  ///< the previous bill as last seen, to notice a settlement
-  SalePicture shown_;                 ///< without its rows, which the model keeps
+  bool ended_ = false;  ///< the program is ending
+  SalePicture shown_;   ///< without its rows, which the model keeps
 
   SellControls controls_{this};
   std::unique_ptr<frmMenu> myMenu_;
@@ -78,5 +77,4 @@ class frmSell : public QWidget, private SaleScreen {
   frmInput* input_ = nullptr;
   frmRecord* record_ = nullptr;
   QTimer Timer1_;
-  QTimer idle_;
 };

@@ -160,10 +160,6 @@ std::shared_ptr<ClsSell> BillBooks::lastPurchase(const ClsMember& member) const 
   return latest;
 }
 
-void BillBooks::tidy() {
-  try {
-    connection_.checkpoint();
-  } catch (const StoreError&) {
-    return;  // the next sale says what is wrong with the file
-  }
+std::string BillBooks::file() const {
+  return connection_.source().path.string();
 }

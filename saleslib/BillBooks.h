@@ -3,12 +3,14 @@
 #include <cstdint>
 #include <functional>
 #include <memory>
+#include <string>
 #include <vector>
 
 #include "base/DateTime.h"
 #include "saleslib/ClsMember.h"
 #include "saleslib/ClsSell.h"
 #include "saleslib/ClsStock.h"
+#include "saleslib/Export.h"
 
 class Connection;
 class ClsSysParam;
@@ -16,7 +18,7 @@ class ClsSysParam;
 /// The books behind a sale screen: bills and the stock that their lines take. Each step is one
 /// transaction; a step that is refused or fails has written nothing and left bill and line as they
 /// were. A refused movement of stock is an outcome, a broken store throws StoreError.
-class BillBooks {
+class TESSALY_API BillBooks {
  public:
   BillBooks(Connection& connection, const ClsSysParam& rules, Clock clock);
 
@@ -55,9 +57,8 @@ class BillBooks {
   std::shared_ptr<ClsSell> lastSettled() const;
   /// The member's latest settled bill with its lines; none when there is none.
   std::shared_ptr<ClsSell> lastPurchase(const ClsMember& member) const;
-  /// Tidies the data file's log, which may take tens of milliseconds. What cannot be tidied now
-  /// loses nothing.
-  void tidy();
+  /// The data file's path, for messages.
+  std::string file() const;
 
  private:
   StockOutcome take(const ClsSellItem& line, double quantity, std::int16_t rule);

@@ -47,10 +47,16 @@ void fillFromItemRow(ClsSellItem& line, const Row& row) {
 }  // namespace
 
 FoundGoods::FoundGoods(const GoodsLookup& lookup, Recordset rows, std::string code)
-    : lookup_(lookup), rows_(std::move(rows)), code_(std::move(code)) {}
+    : lookup_(lookup),
+      rows_(std::make_shared<const Recordset>(std::move(rows))),
+      code_(std::move(code)) {}
+
+std::size_t FoundGoods::count() const {
+  return rows_->count();
+}
 
 FoundGoods::Caption FoundGoods::caption(std::size_t index) const {
-  const Row& row = rows_.row(index);
+  const Row& row = rows_->row(index);
   const bool barcode = !code_.empty();
   Caption caption;
   caption.name = row.text(barcode ? "spmc" : "f_spmc");
@@ -71,7 +77,7 @@ FoundGoods::Caption FoundGoods::caption(std::size_t index) const {
 
 FoundGoods::Line FoundGoods::line(std::size_t index, const ClsSell& bill,
                                   const ClsMember* member) const {
-  const Row& row = rows_.row(index);
+  const Row& row = rows_->row(index);
   const Clock& clock = lookup_.clock_;
   const double rate = lookup_.rules_.GeneralRate();
   const Price price = code_.empty() ? priceOfMasterRow(row, member, rate)

@@ -7,17 +7,19 @@
 
 #include "base/DateTime.h"
 #include "saleslib/ClsSellItem.h"
-#include "store/Recordset.h"
+#include "saleslib/Export.h"
 
 class ClsMember;
 class ClsSell;
 class ClsSysParam;
 class Connection;
+class GoodsLookup;
+class Recordset;
 
 /// The goods that a code stands for, in the order of the data file.
-class FoundGoods {
+class TESSALY_API FoundGoods {
  public:
-  std::size_t count() const { return rows_.count(); }
+  std::size_t count() const;
 
   /// What tells one of several goods from the others.
   struct Caption {
@@ -38,15 +40,15 @@ class FoundGoods {
 
  private:
   friend class GoodsLookup;
-  FoundGoods(const class GoodsLookup& lookup, Recordset rows, std::string code);
+  FoundGoods(const GoodsLookup& lookup, Recordset rows, std::string code);
 
   const GoodsLookup& lookup_;
-  Recordset rows_;
+  std::shared_ptr<const Recordset> rows_;
   std::string code_;  ///< typed; empty for rows of the item table, which have a code of their own
 };
 
 /// Finds goods by what a cashier types or scans. Throws StoreError.
-class GoodsLookup {
+class TESSALY_API GoodsLookup {
  public:
   GoodsLookup(Connection& connection, const ClsSysParam& rules, Clock clock);
 

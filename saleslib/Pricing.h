@@ -4,6 +4,7 @@
 
 #include "base/Currency.h"
 #include "base/DateTime.h"
+#include "saleslib/Export.h"
 
 class ClsMember;
 class Row;
@@ -18,7 +19,7 @@ struct Price {
 
 /// For a row of tmda: member price, else promotion, else retail price. `today` is the date without
 /// time: a promotion that starts today at 09:00 starts tomorrow.
-Price priceOfBarcodeRow(const Row& row, const ClsMember* member, const Date& today,
-                        double generalRate);
+TESSALY_API Price priceOfBarcodeRow(const Row& row, const ClsMember* member, const Date& today,
+                                    double generalRate);
 /// For a row of spda, which has no promotion. Without a retail price the discount is none.
-Price priceOfMasterRow(const Row& row, const ClsMember* member, double generalRate);
+TESSALY_API Price priceOfMasterRow(const Row& row, const ClsMember* member, double generalRate);

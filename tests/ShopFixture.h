@@ -15,6 +15,7 @@
 #include "RecordingPorts.h"
 #include "TemporaryFolder.h"
 #include "app/posMod.h"
+#include "store/Connection.h"
 #include "store/DataFile.h"
 
 /// A screen without a window, as far as messages go: remembers what it was told, answers as the

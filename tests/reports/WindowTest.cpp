@@ -37,13 +37,9 @@ void tabTo(QWidget& window, const char* control) {
   EXPECT_EQ(window.focusWidget()->objectName(), control);
 }
 
-QString boxText(QWidget& box) {
-  return qobject_cast<QMessageBox*>(&box)->text();
-}
-
 void answer(Hands& hands, const char* text) {
   hands.at("messageBox", [text](QWidget& box) {
-    EXPECT_EQ(boxText(box), text);
+    EXPECT_EQ(qobject_cast<QMessageBox*>(&box)->text(), text);
     Hands::pressNow(Key_Return);
   });
 }
@@ -66,8 +62,14 @@ TEST(frmCountTest, ShowsTheDayAndPrintsTheSheet) {
   shop.settle(3, "2026-11-22 09:05:03", 1.25, "12");
   shop.settle(4, "2026-11-22 10:00:00", 2, "0.5");
   shop.settle(5, "2026-11-21 23:59:59", 9, "99");
+  shop.settle(6, "2026-11-22 11:00:00", 9, "99");
+  shop.store().run("update sell set operator_id = 8 where id = 6");
   hands.at("frmCount", [&](QWidget& form) {
-    EXPECT_EQ(cell(form, "listSell", 0, 1), "12.00");
+    QStringList rows;
+    for (int i = 0; i < 10; ++i) rows += cell(form, "listSell", i / 5, i % 5);
+    EXPECT_EQ(rows.join('|'),
+              "3|12.00|1.25|2026-11-22 09:05:03|张三|"
+              "4|0.50|2|2026-11-22 10:00:00|张三");
     tabTo(form, "print1");
     for (const char* port : {"LPT1", "USB", "usb"}) {
       shop.pos().gPosSet.PPort = port;
