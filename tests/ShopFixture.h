@@ -65,7 +65,7 @@ class ShopFixture : public testing::Test {
   static void fillShop(Connection& shop) {
     shop.runScript(R"(
       insert into operators (id, name, code, password) values
-        (1, '张三', '01', '$argon2id$'), (2, '李四', '02', '$argon2id$');
+        (1, '张三', '01', '$argon2id$1'), (2, '李四', '02', '$argon2id$2');
       insert into stock values ('1001', 100), ('1002', 50);
       insert into member (bh, name, card, password, points, join_date)
         values ('8001', '王芳', 88.5, 'Pw1', 3, '2026-01-02 00:00:00');
@@ -105,7 +105,6 @@ class ShopFixture : public testing::Test {
     till.ports = std::move(recording);
     return ports;
   }
-  ReceiptFacts facts() const { return {pos.gOperator->Code(), state.curMember, state.origTotal}; }
 
   TemporaryFolder folder;
   DateTime now{{2026, 11, 22}, 9, 5, 3};
