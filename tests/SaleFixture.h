@@ -129,7 +129,7 @@ class SaleFixture : public testing::Test {
   static void fillShop(Connection& shop) {
     shop.runScript(R"(
       insert into operators (id, name, code, password) values
-        (1, '张三', '01', '$argon2id$'), (2, '李四', '02', '$argon2id$');
+        (1, '张三', '01', '$argon2id$1'), (2, '李四', '02', '$argon2id$2');
       insert into stock values ('1001', 100), ('1002', 50);
       insert into member (bh, name, card, password, points, join_date)
         values ('8001', '王芳', 88.5, 'Pw1', 3, '2026-01-02 00:00:00');
