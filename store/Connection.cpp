@@ -2,6 +2,7 @@
 
 #include <unistd.h>
 
+#include <algorithm>
 #include <cstring>
 #include <utility>
 
@@ -164,10 +165,11 @@ void Connection::checkpoint() {
 // Stands in for the engine's own rule, which copies within the commit that makes the log long: a
 // cashier would wait for it. What fails here loses nothing, and the next one will say why.
 int Connection::committed(void* connection, sqlite3* engine, const char*, int logPages) {
-  static_cast<Connection*>(connection)->logPages_ = logPages;
+  int copied = 0;
   if (logPages >= kMostLogPages) {
-    sqlite3_wal_checkpoint_v2(engine, nullptr, SQLITE_CHECKPOINT_PASSIVE, nullptr, nullptr);
+    sqlite3_wal_checkpoint_v2(engine, nullptr, SQLITE_CHECKPOINT_PASSIVE, nullptr, &copied);
   }
+  static_cast<Connection*>(connection)->logPages_ = logPages - std::max(copied, 0);
   return SQLITE_OK;
 }
 

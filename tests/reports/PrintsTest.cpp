@@ -29,7 +29,7 @@ std::vector<std::string> texts(const PageDocument& page) {
 }
 
 TEST(ShiftSheetTest, HasTheShiftsFiguresAndTwoLinesToSignOn) {
-  const ShiftSheet sheet{3, 7.25, *Currency::parse("56.5")};
+  const ShiftSheet sheet{3, 7.25, *Currency::parse("56.5"), {}};
   EXPECT_THAT(sheet.document().lines,
               ElementsAre("    销售交班表", "今日累计发生 [3] 笔交易", "共交易 [7.25] 件商品",
                           "交易额 [56.50] 元", "", "", "", "", "_ _ _ _ _ _ _ _ _ _ _ _ ", "", "",
