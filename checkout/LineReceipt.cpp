@@ -9,6 +9,7 @@
 #include "base/NumberText.h"
 #include "checkout/CashDrawer.h"
 #include "checkout/SaleState.h"
+#include "checkout/SettlementTexts.h"
 #include "platform/PortError.h"
 
 namespace {
@@ -136,8 +137,8 @@ std::vector<std::string> LineReceipt::paymentLines() const {
   const std::size_t width = columns(state_.receiptCols.line);
   return {gbk::centred("销售时刻(" + shortTime(bill.SellTime()) + ")", width, '-'),
           "原价总计:" + std::to_string(state_.origTotal) + "应收" + oneDecimal(bill.Amount()) +
-              "现金" + oneDecimal(bill.Cash()) + "银行卡" + oneDecimal(bill.BankCard()) + "储值卡" +
-              oneDecimal(bill.CardPay()) + "找零" + oneDecimal(bill.Change()),
+              tenderFigures(moneyTendersOf(bill, pos_.gSysParam), bill, oneDecimal) + "找零" +
+              oneDecimal(bill.Change()),
           gbk::centred("-----------------", width, '-'), pos_.gSysParam.ReceiptText2(),
           pos_.gSysParam.ReceiptText3()};
 }

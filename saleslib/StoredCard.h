@@ -44,3 +44,6 @@ CardResult payByCard(Connection& connection, ClsSell& bill, const std::string& p
 /// have no room for more, stays as it is. Throws StoreError.
 void creditPurchase(Connection& connection, std::int32_t memberId, Currency amount,
                     std::int16_t pointUnit);
+/// Takes a refund from what a member has bought; the points stay. A member that is gone has no
+/// purchases. Throws StoreError.
+void debitPurchase(Connection& connection, std::int32_t memberId, Currency refund);
