@@ -10,14 +10,18 @@
 #include "base/OwnerOnly.h"
 #include "platform/MousePointer.h"
 #include "saleslib/ClsRights.h"
+#include "store/Connection.h"
 #include "store/DataFile.h"
 #include "store/DataFileCopy.h"
+#include "store/DataFileLock.h"
 
 posMod::posMod(std::filesystem::path programFolder, Clock presentTime)
     : folder(std::move(programFolder)),
       clock(std::move(presentTime)),
       configIni(folder / "Config.ini"),
       ports(configIni) {}
+
+posMod::~posMod() = default;
 
 DataSource posMod::dataSource() const {
   const auto configured = configIni.read("Database", "Path");

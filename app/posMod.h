@@ -12,8 +12,10 @@
 #include "saleslib/ClsMemberSvc.h"
 #include "saleslib/ClsOperator.h"
 #include "saleslib/ClsSysParam.h"
-#include "store/Connection.h"
-#include "store/DataFileLock.h"
+
+class Connection;
+class DataFileLock;
+struct DataSource;
 
 /// The process-wide objects of the till, made once at start and handed by reference to every
 /// window. Knows no window.
@@ -21,6 +23,7 @@ class posMod {
  public:
   /// `folder` is the program's folder, the one of the executable.
   explicit posMod(std::filesystem::path programFolder, Clock presentTime = localTime);
+  ~posMod();
   posMod(const posMod&) = delete;
   posMod& operator=(const posMod&) = delete;
 

@@ -28,7 +28,7 @@ class Currency {
 
   constexpr std::int64_t scaled() const { return scaled_; }
   constexpr bool isZero() const { return scaled_ == 0; }
-  constexpr auto operator<=>(const Currency&) const = default;
+  constexpr auto operator<=>(const Currency&) const = default;  // NOLINT(modernize-use-nullptr)
 
   Currency operator-() const;
   Currency& operator+=(Currency other);

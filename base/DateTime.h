@@ -11,7 +11,7 @@ struct Date {
   int year = 1;
   int month = 1;
   int day = 1;
-  constexpr auto operator<=>(const Date&) const = default;
+  constexpr auto operator<=>(const Date&) const = default;  // NOLINT(modernize-use-nullptr)
 };
 
 /// Local wall-clock time to the second, as the shop's paper shows it.
@@ -20,7 +20,7 @@ struct DateTime {
   int hour = 0;
   int minute = 0;
   int second = 0;
-  constexpr auto operator<=>(const DateTime&) const = default;
+  constexpr auto operator<=>(const DateTime&) const = default;  // NOLINT(modernize-use-nullptr)
 };
 
 /// Where the present time comes from; given in, so that a test can set it.

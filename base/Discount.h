@@ -14,7 +14,7 @@ class Discount {
 
   constexpr double factor() const { return factor_; }
   constexpr bool isNone() const { return factor_ == 1.0; }
-  constexpr auto operator<=>(const Discount&) const = default;
+  constexpr auto operator<=>(const Discount&) const = default;  // NOLINT(modernize-use-nullptr)
 
  private:
   double factor_ = 1.0;

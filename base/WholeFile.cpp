@@ -9,6 +9,8 @@
 #include <random>
 #include <utility>
 
+#include "base/SystemFault.h"
+
 namespace {
 
 /// Tries `make` with the target's name and six random letters behind it until the name is free;

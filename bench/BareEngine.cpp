@@ -5,6 +5,7 @@
 
 #include <stdexcept>
 
+#include "store/Connection.h"
 #include "store/DataFile.h"
 
 namespace {
@@ -34,9 +35,11 @@ BareEngine::BareEngine(const std::filesystem::path& dataFile) {
   check(engine_,
         sqlite3_key(engine_, password.data(), static_cast<int>(password.size())) == SQLITE_OK &&
             sqlite3_exec(engine_,
-                         "pragma cipher_page_size = 4096; pragma journal_mode = wal;"
-                         "pragma synchronous = full; pragma cache_size = -8192;"
-                         "pragma wal_autocheckpoint = 4000",
+                         ("pragma cipher_page_size = 4096; pragma journal_mode = wal;"
+                          "pragma synchronous = full; pragma cache_size = -8192;"
+                          "pragma wal_autocheckpoint = " +
+                          std::to_string(Connection::kMostLogPages))
+                             .c_str(),
                          nullptr, nullptr, nullptr) == SQLITE_OK);
 }
 

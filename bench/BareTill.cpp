@@ -17,7 +17,8 @@ BareTill::BareTill(const std::filesystem::path& dataFile)
       store_(engine_,
              "update sell set sell_time = '2024-01-03 09:05:03', state = 1, quantity = 10,"
              " goods_amount = 25, amount = 25, cash = 25, member_id = ?"
-             " where id = ?") {
+             " where id = ?"),
+      checkpoint_(engine_, "pragma wal_checkpoint") {
   openBill();
 }
 

@@ -16,9 +16,11 @@ class BareTill {
   void settle(int member = 0);
   /// One transaction: the next bill's row.
   void openBill();
+  /// Copies the log into the data file.
+  void checkpoint() { checkpoint_.readAll(); }
 
  private:
   BareEngine engine_;
-  BareEngine::Statement begin_, commit_, stock_, line_, bill_, member_, store_;
+  BareEngine::Statement begin_, commit_, stock_, line_, bill_, member_, store_, checkpoint_;
   long long billNo_ = 0;
 };

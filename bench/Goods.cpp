@@ -7,7 +7,6 @@
 namespace goods {
 namespace {
 
-constexpr int kLooseGoods = 10'000;
 constexpr int kRareEvery = 100;
 constexpr int kRareFrom = 37;
 constexpr int kRareWords = 997;  // a shop of a million has ten goods for each
@@ -80,6 +79,14 @@ std::string fragment(int item, int characters) {
   if (characters <= 3) return rareWord(item, characters);
   const std::string brand = oneOf(kBrands, item);
   return (characters == 5 ? brand.substr(brand.size() - 1) : "") + ownCode(item);
+}
+
+std::vector<int> itemsWithFragment(int item, int characters, int shopGoods) {
+  if (characters > 3) return {item};
+  constexpr int kApart = kRareEvery * kRareWords;
+  std::vector<int> items;
+  for (int each = item % kApart; each < shopGoods; each += kApart) items.push_back(each);
+  return items;
 }
 
 int itemWithRareWord(int n) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <string>
+#include <vector>
 
 /// The goods of the measured shops, by their number from 0; the same number is the same item in a
 /// shop of any size. Texts are as long as those of a real assortment.
@@ -16,8 +17,11 @@ std::string specification(int item, int shopGoods);
 
 /// The beginning of ten thousand specifications.
 inline constexpr const char* kLoose = "散称";
+inline constexpr int kLooseGoods = 10'000;
 /// A piece of that item's specification with this many characters (2 to 5), which few others have.
 std::string fragment(int item, int characters);
+/// The items that were made to have that piece of that item.
+std::vector<int> itemsWithFragment(int item, int characters, int shopGoods);
 /// The n-th item that has a rare word.
 int itemWithRareWord(int n);
 

@@ -22,7 +22,7 @@ void install(const fs::path& from, const fs::path& to) {
 
 void installTill(const fs::path& folder) {
   install(built("till"), folder / "till");
-  install(built("libTessaly.so"), folder / "libTessaly.so");
+  install(built("libTessaly.so.1"), folder / "libTessaly.so.1");
 }
 
 void installEmptyWindow(const fs::path& folder) {

@@ -22,6 +22,7 @@ void press(Qt::Key key) {
 
 SaleWindow::SaleWindow(const std::filesystem::path& folder)
     : pos_(openTill(folder)),
+      checkpoint_(qApp, *pos_->gConn),
       window_(std::make_unique<frmSell>(*pos_, SaleSession::Openers(), [] {})) {}
 
 SaleWindow::~SaleWindow() = default;
@@ -47,11 +48,18 @@ void SaleWindow::compose(const QString& text) {
   QCoreApplication::sendEvent(QApplication::focusWidget(), &composed);
 }
 
-double SaleWindow::ring() {
+SaleWindow::Rung SaleWindow::ring() {
   const QAbstractItemModel& rows = *window_->findChild<QTableView*>(kList)->model();
-  return paint_.untilPainted(
+  const int rowsBefore = rows.rowCount();
+  const Syncs before = syncCount();
+  Rung rung;
+  rung.microseconds = paint_.untilPainted(
       kList, [] { press(Qt::Key_Return); },
-      [&rows, before = rows.rowCount()] { return rows.rowCount() > before; });
+      [&] {
+        rung.syncs = syncCount() - before;
+        return rows.rowCount() > rowsBefore;
+      });
+  return rung;
 }
 
 void SaleWindow::settle(const std::function<void()>& confirming) {

@@ -5,8 +5,10 @@
 #include <memory>
 #include <string>
 
+#include "app/QuietCheckpoint.h"
 #include "app/posMod.h"
 #include "bench/PaintWatch.h"
+#include "bench/SyncCount.h"
 
 class frmSell;
 
@@ -23,9 +25,13 @@ class SaleWindow {
   void type(const std::string& code);
   /// Writes a text as an input method does.
   void compose(const QString& text);
-  /// Presses Enter and waits until everything has been painted; gives the microseconds until the
-  /// list had been painted with the new row.
-  double ring();
+  /// What a key press took until the list had been painted with the new row.
+  struct Rung {
+    double microseconds;
+    Syncs syncs;
+  };
+  /// Presses Enter and waits until everything has been painted.
+  Rung ring();
   /// Opens the settlement and confirms the amount due once the dialog has been painted; ends when
   /// the next bill has been painted. `confirming` is called right before that confirmation.
   void settle(const std::function<void()>& confirming = {});
@@ -37,6 +43,7 @@ class SaleWindow {
   void throughWindow(const QString& name, const std::function<void()>& painted);
 
   std::unique_ptr<posMod> pos_;
+  QuietCheckpoint checkpoint_;
   std::unique_ptr<frmSell> window_;
   PaintWatch paint_;
 };

@@ -1,6 +1,6 @@
 # A room is a folder with a CMake target of the same name. Headers are included as "room/File.h", and
-# a room's include path holds links to just those rooms that it KNOWS, so that an include of any
-# other room does not compile.
+# a room's include path holds links to just those rooms that it KNOWS or USES, so that an include of
+# any other room does not compile.
 
 # What one room shows to those that know it: a folder that holds nothing but a link to the room.
 function(show_room name)
@@ -10,8 +10,9 @@ function(show_room name)
   target_include_directories(${name} PUBLIC ${shown})
 endfunction()
 
-# add_room(base SOURCES ... [KNOWS room...] [QT])
-#   KNOWS: the rooms (and public libraries) whose headers this room's headers may use.
+# add_room(base SOURCES ... [KNOWS room...] [USES room...] [QT])
+#   KNOWS: the rooms that this room's headers may use. Who knows this room sees them too.
+#   USES:  the rooms (and libraries) that its sources use besides, unseen by others.
 #   QT:    the room uses Qt and the shared precompiled header.
 function(add_room name)
   cmake_parse_arguments(ROOM "QT" "" "SOURCES;KNOWS;USES" ${ARGN})

@@ -8,14 +8,12 @@
 #include <vector>
 
 #include "Target.h"
-#include "base/Failure.h"
+#include "base/CsvReader.h"
+#include "base/CsvRow.h"
 #include "store/Connection.h"
 #include "store/DataFile.h"
 #include "store/Transaction.h"
-#include "tools/CsvReader.h"
-#include "tools/CsvRow.h"
 #include "tools/Importer.h"
-#include "tools/Refusal.h"
 
 namespace {
 
@@ -41,9 +39,6 @@ class Shop {
 
 using Row = std::vector<std::string>;
 
-// What is written is marked as UTF-8, as the exports for spreadsheets are.
-const std::string kByteOrderMark = "\xEF\xBB\xBF";
-
 std::vector<Row> rowsOf(const std::string& text) {
   std::istringstream in(text);
   CsvReader reader(in);
@@ -56,7 +51,7 @@ void readAndWriteBack(const std::string& text) {
   std::vector<Row> rows;
   try {
     rows = rowsOf(text);
-  } catch (const Refusal&) {
+  } catch (const CsvError&) {
     return;
   }
   CsvRow written;
@@ -64,7 +59,7 @@ void readAndWriteBack(const std::string& text) {
     for (const std::string& field : row) written.add(field);
     written.end();
   }
-  ensure(rowsOf(kByteOrderMark + written.text()) == rows, "rows written are rows read");
+  ensure(rowsOf(std::string(kUtf8Mark) + written.text()) == rows, "rows written are rows read");
 }
 
 void import(const std::string& text) {
@@ -75,7 +70,7 @@ void import(const std::string& text) {
     std::istringstream in(text);
     try {
       static_cast<void>(Importer(shop.connection(), tableNamed(table, now), {}).run(in));
-    } catch (const Refusal&) {
+    } catch (const Failure&) {
       continue;
     }
   }

@@ -1,4 +1,5 @@
 // Config.ini: a file that people edit by hand, in any editor.
+#include <algorithm>
 #include <string>
 
 #include "Target.h"
@@ -26,6 +27,9 @@ int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   text.setValue(kSection, kKey, value);
   const auto stored = text.value(kSection, kKey);
   ensure(stored.has_value(), "what was set is there");
+  const bool isPlain =
+      std::all_of(value.begin(), value.end(), [](char c) { return c >= ' ' && c <= '~'; });
+  ensure(!isPlain || stored == value, "what was set is what is read");
   ensure(text.value("Database", "Path") == other, "setting one key leaves the others");
   IniText again(text.bytes());
   ensure(again.value(kSection, kKey) == stored, "the file holds what was set");

@@ -6,13 +6,14 @@
 #include "base/FileName.h"
 #include "base/WholeFile.h"
 #include "platform/IniText.h"
+#include "platform/QtText.h"
 
 namespace {
 
 namespace fs = std::filesystem;
 
 QString nameOf(const fs::path& path) {
-  return QString::fromStdString(path.string());
+  return qtText(path.string());
 }
 
 /// All bytes of the file, none of a missing one; nothing when it is there but cannot be read.

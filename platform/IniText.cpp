@@ -6,6 +6,7 @@
 #include "base/Gbk.h"
 #include "base/Text.h"
 #include "base/Utf8.h"
+#include "platform/QtText.h"
 
 namespace {
 
@@ -77,8 +78,7 @@ std::string fromUtf16(std::string_view bytes, QStringConverter::Encoding order) 
 
 std::string toUtf16(std::string_view utf8, QStringConverter::Encoding order) {
   QStringEncoder encoder(order);
-  const QByteArray bytes =
-      encoder(QString::fromUtf8(utf8.data(), static_cast<qsizetype>(utf8.size())));
+  const QByteArray bytes = encoder(qtText(utf8));
   return bytes.toStdString();
 }
 
@@ -218,5 +218,5 @@ std::string IniText::decoded(std::string_view bytes) const {
 std::string IniText::encoded(std::string_view utf8) const {
   if (encoding_ == Encoding::kGbk) return gbk::encode(utf8);
   // What is broken must not break the rest of the file.
-  return QString::fromUtf8(utf8.data(), static_cast<qsizetype>(utf8.size())).toStdString();
+  return qtText(utf8).toStdString();
 }

@@ -8,14 +8,16 @@
 #include <QPdfWriter>
 #include <QPrinter>
 #include <QPrinterInfo>
-#include <QSaveFile>
 #include <algorithm>
 #include <cmath>
 #include <utility>
 #include <vector>
 
+#include "base/SystemFault.h"
+#include "base/WholeFile.h"
 #include "platform/PdfName.h"
 #include "platform/PortError.h"
+#include "platform/QtText.h"
 
 namespace {
 
@@ -87,7 +89,7 @@ std::vector<Page> pagesOf(const PageDocument& document) {
 /// Without what moves the place of the following characters instead of being one, and without the
 /// blanks at the end.
 QString visible(const std::string& text) {
-  QString result = QString::fromStdString(text);
+  QString result = qtText(text);
   result.removeIf([](QChar c) {
     const QChar::Category category = c.category();
     return category == QChar::Other_Control || category == QChar::Other_Format ||
@@ -157,25 +159,23 @@ QByteArray pdfOf(const Job& job) {
   QBuffer buffer(&bytes);
   buffer.open(QIODevice::WriteOnly);
   QPdfWriter writer(&buffer);
-  writer.setTitle(QString::fromStdString(job.document.name));
+  writer.setTitle(qtText(job.document.name));
   if (!draw(job, writer)) throw PortError("打印失败：不能生成 PDF");
   return bytes;
 }
 
-/// Written under another name and renamed when whole, so that a program that watches the folder
-/// never takes half a job.
+/// Has its name when it is whole, so that a program that watches the folder never takes half a job.
 void printToFolder(const Job& job, const std::filesystem::path& folder, const DateTime& now) {
   const QByteArray pdf = pdfOf(job);
-  const std::string failed = "打印文件夹 " + folder.string() + " 写不进：";
   try {
-    const auto path = folder / nextPdfName(folder, now, job.document.name);
-    QSaveFile file(QString::fromStdString(path.string()));
-    const bool saved =
-        file.open(QIODevice::WriteOnly) && file.write(pdf) == pdf.size() && file.commit();
-    if (!saved) throw PortError(failed + file.errorString().toStdString());
+    WholeFile file(folder / nextPdfName(folder, now, job.document.name));
+    file.append({pdf.data(), static_cast<std::size_t>(pdf.size())});
+    file.finish();
+  } catch (const FileError& error) {
+    throw PortError("打印文件夹写不进：" + std::string(error.what()));
   } catch (const std::filesystem::filesystem_error& error) {
-    const bool missing = error.code() == std::errc::no_such_file_or_directory;
-    throw PortError(failed + (missing ? "没有这个文件夹" : error.code().message()));
+    throw PortError("打印文件夹 " + folder.string() + " 写不进：" +
+                    fileFault(error.code().value()));
   }
 }
 
@@ -183,7 +183,7 @@ void printOnDefaultPrinter(const Job& job) {
   const QPrinterInfo info = QPrinterInfo::defaultPrinter();
   if (info.isNull()) throw PortError("没有默认打印机");
   QPrinter printer(info, QPrinter::HighResolution);
-  printer.setDocName(QString::fromStdString(job.document.name));
+  printer.setDocName(qtText(job.document.name));
   if (!draw(job, printer) || printer.printerState() == QPrinter::Error) {
     throw PortError("打印机 " + info.printerName().toStdString() + " 打印失败");
   }

@@ -13,6 +13,7 @@
 #include <system_error>
 #include <utility>
 
+#include "base/SystemFault.h"
 #include "platform/PortError.h"
 
 namespace {
@@ -126,40 +127,6 @@ class OpenPort {
   int descriptor_ = -1;
 };
 
-bool isFifo(const std::string& path) {
-  struct stat status {};
-  return ::stat(path.c_str(), &status) == 0 && S_ISFIFO(status.st_mode);
-}
-
-std::string reason(int error, const std::string& path) {
-  switch (error) {
-    case ENOENT:
-    case ENOTDIR:
-    case ENODEV:
-      return "没有这个设备（" + path + "）";
-    case ENXIO:
-      return isFifo(path) ? "没有程序在接收" : "设备没有接好";
-    case EACCES:
-    case EPERM:
-    case EROFS:
-      return "没有使用权限（" + path + "）";
-    case EBUSY:
-      return "正被别的程序占用";
-    case EISDIR:
-      return path + " 是文件夹";
-    case ENOSPC:
-      return "缺纸或空间已满";
-    case EPIPE:
-      return "接收的程序已退出";
-    case EIO:
-      return "设备已断开";
-    case ETIMEDOUT:
-      return "设备太久没有接收，请检查是否开机、缺纸";
-    default:
-      return std::generic_category().message(error);
-  }
-}
-
 }  // namespace
 
 PortFile::PortFile(std::string name, std::string path, milliseconds limit)
@@ -174,6 +141,7 @@ void PortFile::send(std::string_view bytes) {
     port.write(bytes);
     port.drain();
   } catch (const std::system_error& error) {
-    throw PortError("端口 " + name_ + " " + failed + "：" + reason(error.code().value(), path_));
+    throw PortError("端口 " + name_ + " " + failed + "：" +
+                    deviceFault(error.code().value(), path_));
   }
 }

@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "platform/PortError.h"
+#include "platform/QtText.h"
 
 namespace {
 
@@ -38,7 +39,7 @@ bool isReady(const QSerialPort& port) {
 SerialLine::SerialLine(std::string name, const std::string& path)
     : name_(std::move(name)), port_(std::make_unique<QSerialPort>()) {
   QSerialPort* port = port_.get();
-  port->setPortName(QString::fromStdString(path));
+  port->setPortName(qtText(path));
   port->setBaudRate(QSerialPort::Baud2400);
   port->setDataBits(QSerialPort::Data8);
   port->setParity(QSerialPort::NoParity);

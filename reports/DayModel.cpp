@@ -3,6 +3,7 @@
 #include <utility>
 
 #include "base/NumberText.h"
+#include "platform/QtText.h"
 
 DayModel::DayModel(std::vector<const TenderKind*> tenders, QObject* parent)
     : QAbstractTableModel(parent), tenders_(std::move(tenders)) {}
@@ -27,11 +28,11 @@ QString DayModel::text(const ClsSell& bill, int column) const {
     case kBillNo:
       return QString::number(bill.BillNo());
     case kAmount:
-      return QString::fromStdString(twoDecimals(bill.Amount()));
+      return qtText(twoDecimals(bill.Amount()));
     case kQuantity:
-      return QString::fromStdString(generalNumber(bill.Quantity()));
+      return qtText(generalNumber(bill.Quantity()));
     case kTime:
-      return QString::fromStdString(generalText(bill.SellTime()));
+      return qtText(generalText(bill.SellTime()));
     case kOperator:
       return operatorName_;
     default:

@@ -10,6 +10,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "platform/QtText.h"
 #include "shell/Modal.h"
 #include "shell/ShownText.h"
 
@@ -44,7 +45,7 @@ ExportDialog::ExportDialog(const KeyBoard& keys, std::filesystem::path folder,
 }
 
 void ExportDialog::arrange() {
-  QLabel* folder = label("lblFolder", shownText(QString::fromStdString(folder_.string())));
+  QLabel* folder = label("lblFolder", shownText(qtText(folder_.string())));
   folder->setTextFormat(Qt::PlainText);
   folder->setWordWrap(true);
   auto* kinds = new QHBoxLayout;

@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "base/Failure.h"
+#include "platform/QtText.h"
 #include "store/Connection.h"
 
 namespace {
@@ -67,7 +68,7 @@ void LineQuery::read(const Question& question, int number) {
       emit finished();
     });
   } catch (const Failure& failure) {
-    report(number, [this, why = QString::fromUtf8(failure.what())] {
+    report(number, [this, why = qtText(failure.what())] {
       end();
       emit failed(why);
     });

@@ -1,23 +1,8 @@
 #pragma once
 
-#include <cstddef>
 #include <filesystem>
-#include <functional>
-#include <string>
-#include <vector>
 
-class ResultList;
-
-/// What a file holds: lines of text, below them the list's headings, its lines and its totals row.
-struct ExportTable {
-  std::vector<std::string> above;
-  const ResultList& list;  ///< complete
-};
-
-/// Called now and then with the number of rows written so far; false stops the export.
-using ExportProgress = std::function<bool(std::size_t rows)>;
-/// How many rows are written between two such calls.
-inline constexpr std::size_t kRowsPerProgress = 512;
+#include "reports/ExportTable.h"
 
 /// Writes the list as a spreadsheet, or as CSV when the name ends in ".csv". The file stands under
 /// its name only when it is whole, for its owner only. False when it was stopped. Throws FileError.

@@ -3,6 +3,8 @@
 #include <QColor>
 #include <utility>
 
+#include "platform/QtText.h"
+
 ResultModel::ResultModel(QObject* parent) : QAbstractTableModel(parent) {}
 
 void ResultModel::begin() {
@@ -65,7 +67,7 @@ QVariant ResultModel::data(const QModelIndex& index, int role) const {
   if (!index.isValid()) return {};
   const auto row = static_cast<std::size_t>(index.row());
   const auto column = static_cast<ResultColumn>(index.column());
-  if (role == Qt::DisplayRole) return QString::fromStdString(list_->text(row, column));
+  if (role == Qt::DisplayRole) return qtText(list_->text(row, column));
   if (role == Qt::ForegroundRole && list_->isTotals(row)) return QColor(Qt::red);
   if (role == Qt::TextAlignmentRole && resultColumns()[column].isNumber)
     return int(Qt::AlignRight | Qt::AlignVCenter);

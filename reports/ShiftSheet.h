@@ -12,7 +12,7 @@
 struct ShiftSheet {
   std::size_t bills = 0;
   double quantity = 0;
-  std::optional<Currency> money;   ///< nothing when the sum does not fit
+  std::optional<Currency> money;        ///< nothing when the sum does not fit
   std::vector<TenderSum> tenders = {};  ///< of it
 
   /// The sheet line by line: the figures, and two lines to sign on.

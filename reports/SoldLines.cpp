@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "base/Failure.h"
+#include "platform/QtText.h"
 #include "store/Row.h"
 
 namespace {
@@ -14,7 +15,7 @@ constexpr std::array kGoodsTexts = {&SoldGoods::code, &SoldGoods::name, &SoldGoo
 
 // Lists, papers and files take the texts as they are, so that broken bytes stop here.
 std::string soundText(const std::string& text) {
-  return QString::fromStdString(text).toStdString();
+  return qtText(text).toStdString();
 }
 
 std::optional<std::int32_t> billNumber(std::optional<std::int64_t> number) {

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "reports/ListExport.h"
+#include "reports/ExportTable.h"
 
 class WholeFile;
 

@@ -2,7 +2,6 @@
 
 #include <numeric>
 
-#include <QKeyEvent>
 #include <QLabel>
 #include <QPushButton>
 #include <QTableView>
@@ -13,9 +12,7 @@
 #include "base/NumberText.h"
 #include "platform/PortError.h"
 #include "platform/Twips.h"
-#include "platform/VirtualKey.h"
 #include "reports/DayModel.h"
-#include "reports/KeyPreview.h"
 #include "reports/QueryPrints.h"
 #include "reports/ShiftSheet.h"
 #include "reports/TableLook.h"
@@ -56,17 +53,15 @@ bool canPrint(const std::string& port) {
 }  // namespace
 
 frmCount::frmCount(posMod& pos, QWidget* parent)
-    : QDialog(parent), pos_(pos), model_(new DayModel(optionalTenders(pos.gSysParam), this)) {
+    : KeyDrivenDialog(pos.gKeyBoard, EnterKey::kMapped, parent),
+      pos_(pos),
+      model_(new DayModel(optionalTenders(pos.gSysParam), this)) {
   setObjectName("frmCount");
   setWindowTitle(tr("销售统计"));
   resize(pixels(formWidth(model_->columnCount() - static_cast<int>(std::size(kColumnWidths)))),
          pixels(kHeight));
   build();
-  new KeyPreview(this, [this](int key) {
-    if (key == 0 || key != pos_.gKeyBoard.mEsc) return false;
-    close();
-    return true;
-  });
+  watchAll();
 }
 
 void frmCount::build() {
@@ -108,11 +103,6 @@ void frmCount::init() {
   show(today());
   centreOnScreen(*this);
   exec();
-}
-
-// Only the mapped Esc key closes the form.
-void frmCount::keyPressEvent(QKeyEvent* event) {
-  event->ignore();
 }
 
 ClsDayStat frmCount::today() const {

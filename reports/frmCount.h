@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QDialog>
+#include "shell/KeyDrivenDialog.h"
 
 class ClsDayStat;
 class DayModel;
@@ -9,7 +9,7 @@ class QTableView;
 class posMod;
 
 /// The logged-in operator's bills of today, their sums, and the hand-over sheet of the shift.
-class frmCount : public QDialog {
+class frmCount : public KeyDrivenDialog {
   Q_OBJECT
 
  public:
@@ -18,9 +18,6 @@ class frmCount : public QDialog {
 
   /// Fills the form and shows it modally; returns when it has been closed.
   void init();
-
- protected:
-  void keyPressEvent(QKeyEvent* event) override;
 
  private:
   void build();

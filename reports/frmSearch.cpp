@@ -16,7 +16,6 @@
 #include "platform/VirtualKey.h"
 #include "reports/ExportDialog.h"
 #include "reports/ExportFolder.h"
-#include "reports/KeyPreview.h"
 #include "reports/LastBill.h"
 #include "reports/LineQuery.h"
 #include "reports/QueryPrints.h"
@@ -25,6 +24,7 @@
 #include "reports/SearchPanel.h"
 #include "shell/DateField.h"
 #include "shell/Modal.h"
+#include "store/Connection.h"
 
 namespace {
 
@@ -45,7 +45,7 @@ QString shownKey(int key) {
 }  // namespace
 
 frmSearch::frmSearch(posMod& pos, QWidget* parent)
-    : QDialog(parent),
+    : KeyDrivenDialog(pos.gKeyBoard, EnterKey::kMapped, parent),
       pos_(pos),
       Frame5_(new SearchPanel(this)),
       ListView1_(new ResultTable(this)),
@@ -56,7 +56,7 @@ frmSearch::frmSearch(posMod& pos, QWidget* parent)
   build();
   connectQuery();
   load();
-  new KeyPreview(this, [this](int key) { return keyTaken(key); });
+  watchAll();
   Frame5_->DtBegin->setFocus();
   const QSize free = screen()->availableSize();
   resize(std::max(pixels(kWidth), free.width() - kAround),
@@ -113,36 +113,29 @@ void frmSearch::closeEvent(QCloseEvent* event) {
   QDialog::closeEvent(event);
 }
 
-// Neither Esc nor Enter has a meaning of its own here: the keyboard map says what they do.
-void frmSearch::keyPressEvent(QKeyEvent* event) {
-  event->ignore();
+void frmSearch::cancel() {
+  if (query_->isRunning()) {
+    stopQuery();
+  } else {
+    close();
+  }
 }
 
-bool frmSearch::keyTaken(int key) {
+bool frmSearch::handleKey(const QObject* watched, const QKeyEvent& event) {
   const KeyBoard& keys = pos_.gKeyBoard;
-  if (key == 0) return false;
-  if (key == keys.mEsc) {
-    if (query_->isRunning()) {
-      stopQuery();
-    } else {
-      close();
-    }
-    return true;
-  }
+  const int key = keys.meaning(virtualKey(event));
+  if (key == 0 || key == keys.mEsc) return KeyDrivenDialog::handleKey(watched, event);
   const bool inList = focusWidget() == ListView1_;
-  if (keys.meaning(key) == keys.mEnter && !inList) {
-    if (auto* button = qobject_cast<QPushButton*>(focusWidget())) {
-      button->click();
-    } else {
-      search();
-    }
-    return true;
-  }
-  if (key == kBlankKey && inList) {
+  if (inList && key == kBlankKey) {
     sortBy(qMax(0, ListView1_->currentIndex().column()));
-    return true;
+  } else if (inList || key != keys.mEnter) {
+    return false;
+  } else if (auto* button = qobject_cast<QPushButton*>(focusWidget())) {
+    button->click();
+  } else {
+    search();
   }
-  return false;
+  return true;
 }
 
 void frmSearch::checkOrder(const SearchCriteria& wanted) {

@@ -1,10 +1,10 @@
 #pragma once
 
-#include <QDialog>
 #include <filesystem>
 
 #include "reports/ExportRun.h"
 #include "reports/SearchCriteria.h"
+#include "shell/KeyDrivenDialog.h"
 
 class LineQuery;
 class ResultTable;
@@ -20,7 +20,7 @@ struct SoldPage;
 /// leaves the list as it was, and else closes the form. The mapped Enter key presses the button
 /// that has the focus, or searches from the criteria. In the list the blank key sorts by the
 /// current column. A button prints the last bill's receipt again at once.
-class frmSearch : public QDialog {
+class frmSearch : public KeyDrivenDialog {
   Q_OBJECT
 
  public:
@@ -29,13 +29,13 @@ class frmSearch : public QDialog {
  protected:
   void resizeEvent(QResizeEvent* event) override;
   void closeEvent(QCloseEvent* event) override;
-  void keyPressEvent(QKeyEvent* event) override;
+  bool handleKey(const QObject* watched, const QKeyEvent& event) override;
+  void cancel() override;
 
  private:
   void build();
   void load();
   void connectQuery();
-  bool keyTaken(int key);
 
   void checkOrder(const SearchCriteria& wanted);
   void checkQuantityLimit();

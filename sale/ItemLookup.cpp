@@ -10,6 +10,7 @@
 #include "checkout/SaleScreen.h"
 #include "checkout/SaleState.h"
 #include "sale/Pricing.h"
+#include "store/Connection.h"
 #include "store/Literal.h"
 
 namespace {

@@ -10,6 +10,7 @@
 #include "platform/VirtualKey.h"
 #include "sale/TopUpReport.h"
 #include "saleslib/ClsDayStat.h"
+#include "store/Connection.h"
 #include "store/StoreError.h"
 
 namespace {

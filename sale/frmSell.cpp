@@ -20,6 +20,7 @@
 #include "sale/frmRecord.h"
 #include "shell/frmInput.h"
 #include "shell/frmMenu.h"
+#include "store/Connection.h"
 #include "store/StoreError.h"
 
 namespace {

@@ -3,6 +3,7 @@
 #include "base/Failure.h"
 #include "base/NumberText.h"
 #include "store/Connection.h"
+#include "store/IndexWalk.h"
 
 void ClsDayStat::DayQuery(Connection& connection, const Date& day, std::int64_t,
                           std::int32_t operatorId) {
@@ -11,12 +12,11 @@ void ClsDayStat::DayQuery(Connection& connection, const Date& day, std::int64_t,
                                       operatorId, DateTime{day}, DateTime{plusDays(day, 1)}));
 }
 
-// Walked backwards from the latest time; only a few open bills are stepped over. Left alone, the
-// engine would sort all bills there are.
+// Walked backwards from the latest time; only a few open bills are stepped over.
 std::shared_ptr<ClsSell> ClsDayStat::LastSell(Connection& connection) const {
-  Rows rows = connection.query(
-      "select * from sell indexed by sell_time where state = 1"
-      " order by sell_time desc, id desc limit 1");
+  static const std::string latest = "select * from " + walkedAlong("sell", "sell_time") +
+                                    " where state = 1 order by sell_time desc, id desc limit 1";
+  Rows rows = connection.query(latest.c_str());
   return rows.next() ? ClsSell::fromRow(connection, rows) : nullptr;
 }
 

@@ -8,12 +8,13 @@
 #include "base/Currency.h"
 #include "base/DateTime.h"
 #include "saleslib/ClsSell.h"
+#include "saleslib/Export.h"
 
 class Connection;
 class Rows;
 
 /// Bills of one day, or still open, of one operator.
-class ClsDayStat {
+class TESSALY_API ClsDayStat {
  public:
   using Sells_t = std::vector<std::shared_ptr<ClsSell>>;
 

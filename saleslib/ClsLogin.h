@@ -4,12 +4,14 @@
 #include <string>
 #include <string_view>
 
+#include "saleslib/Export.h"
+
 class ClsOperator;
 class Connection;
 
 /// Checks an operator's number and password. A wrong number and a wrong password take equally long
 /// and read alike.
-class ClsLogin {
+class TESSALY_API ClsLogin {
  public:
   void Conn(Connection& connection);
   /// Both exactly as typed. True when they belong to an operator, who is then in Operator().

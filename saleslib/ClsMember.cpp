@@ -102,14 +102,14 @@ std::string ClsMember::refusedText() const {
 
 void ClsMember::insert() {
   joined_ = clock_();
-  connection_->run(
+  const std::optional<std::int64_t> key = connection_->insert(
       "insert into member (bh, name, sex, age, phone, address, other, enabled, total_spent, points,"
       " discount, birthday, card, password, join_date)"
       " values (?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?)",
       bh_, name_, sex_, age_, phone_, address_, other_, enabled_, totalSpent_, points_, discount_,
       birthday_.value, balance_.value.value_or(Currency()), password_.value.value_or(std::string()),
       joined_);
-  id_ = key32(connection_->lastRowId());
+  id_ = key32(key.value());
   inserted_ = connection_->writeMark();
 }
 

@@ -10,13 +10,14 @@
 #include "base/Currency.h"
 #include "base/DateTime.h"
 #include "base/Text.h"
-#include "store/WriteMarks.h"
+#include "base/WriteMark.h"
+#include "saleslib/Export.h"
 
 class Connection;
 class Row;
 
 /// One member and the stored-value card that goes with the member's number.
-class ClsMember {
+class TESSALY_API ClsMember {
  public:
   /// Binds; id 0 starts a new, empty member, otherwise loads that member (an unknown id leaves an
   /// empty one, Id() 0).

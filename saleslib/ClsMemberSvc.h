@@ -6,11 +6,12 @@
 #include <vector>
 
 #include "saleslib/ClsMember.h"
+#include "saleslib/Export.h"
 
 class Connection;
 
 /// Looks members up.
-class ClsMemberSvc {
+class TESSALY_API ClsMemberSvc {
  public:
   void Conn(Connection& connection);
   /// Takes note of a member that was just stored. Nothing is kept here: the next look-up reads it.

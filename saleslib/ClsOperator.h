@@ -7,11 +7,12 @@
 #include <utility>
 
 #include "saleslib/ClsRights.h"
+#include "saleslib/Export.h"
 
 class Connection;
 
 /// One operator (cashier). Passwords are kept as salted hashes only.
-class ClsOperator {
+class TESSALY_API ClsOperator {
  public:
   /// Binds and loads the operator with that number. An unknown number leaves an operator with that
   /// Id, no name and no rights, whom Save adds; Found() tells.

@@ -4,11 +4,13 @@
 #include <string>
 #include <string_view>
 
+#include "saleslib/Export.h"
+
 /// The right to sell, and with it to open the till's screens.
 inline constexpr const char* kRightSell = "sell";
 
 /// One operator's rights, by key. Keys are compared without regard to ASCII case.
-class ClsRights {
+class TESSALY_API ClsRights {
  public:
   ClsRights() = default;
   explicit ClsRights(const std::set<std::string>& keys);

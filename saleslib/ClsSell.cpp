@@ -64,11 +64,11 @@ std::shared_ptr<ClsSell> ClsSell::fromRow(Connection& connection, const Row& row
 bool ClsSell::start(std::int32_t operatorId) {
   operatorId_ = operatorId;
   sellTime_ = clock_();
-  const std::int64_t opened = connection_->run(
+  const std::optional<std::int64_t> opened = connection_->insert(
       "insert into sell (sell_time, operator_id) select ?, id from operators where id = ?",
       sellTime_, operatorId);
-  if (opened == 0) return false;
-  billNo_ = key32(connection_->lastRowId());
+  if (!opened) return false;
+  billNo_ = key32(*opened);
   return true;
 }
 

@@ -10,6 +10,7 @@
 #include "base/Currency.h"
 #include "base/DateTime.h"
 #include "saleslib/ClsSellItem.h"
+#include "saleslib/Export.h"
 #include "saleslib/Tenders.h"
 
 class Connection;
@@ -18,7 +19,7 @@ class Rows;
 
 /// One bill. Amount and Quantity are sums over the committed lines until the settlement writes the
 /// rounded amount due; a line that then joins or leaves an open bill makes them sums again.
-class ClsSell {
+class TESSALY_API ClsSell {
  public:
   using Items_t = std::vector<std::shared_ptr<ClsSellItem>>;
 

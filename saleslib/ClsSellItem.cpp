@@ -48,13 +48,13 @@ void ClsSellItem::Save() {
 
 void ClsSellItem::insert() {
   entryTime_ = clock_();
-  connection_->run(
+  const std::optional<std::int64_t> key = connection_->insert(
       "insert into sellProducts (sellId, insert_Date, bm, name, unit, amount, price, discount,"
       " money, in_price, splbmc, entry_code, ratio, origin)"
       " values (?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?)",
       billNo_, entryTime_, spCode_, spName_, unit_, quantity_, price_, discount_, Money(), cost_,
       category_, entryCode_, ratio_, origin_);
-  id_ = key32(connection_->lastRowId());
+  id_ = key32(key.value());
   inserted_ = connection_->writeMark();
 }
 

@@ -6,13 +6,14 @@
 
 #include "base/Currency.h"
 #include "base/DateTime.h"
-#include "store/WriteMarks.h"
+#include "base/WriteMark.h"
+#include "saleslib/Export.h"
 
 class Connection;
 class Row;
 
 /// One line of a bill.
-class ClsSellItem {
+class TESSALY_API ClsSellItem {
  public:
   /// Binds and starts a new line of that bill; the third argument is unused and 0.
   void Init(Connection& connection, std::int32_t billNo, int unused = 0, Clock clock = localTime);

@@ -3,12 +3,14 @@
 #include <cstdint>
 #include <string>
 
+#include "saleslib/Export.h"
+
 class Connection;
 
 /// The stock of one item, in stock units, kept to six decimals: what is taken out and put back
 /// leaves exactly what was there. Each movement is one transaction of its own, or part of the
 /// caller's.
-class ClsStock {
+class TESSALY_API ClsStock {
  public:
   void Init(Connection& connection, std::string itemCode);
 

@@ -8,6 +8,7 @@
 #include "base/Text.h"
 #include "saleslib/Tenders.h"
 #include "store/Connection.h"
+#include "store/Transaction.h"
 
 namespace {
 
@@ -122,8 +123,12 @@ std::string ClsSysParam::set(std::string_view name, std::string_view value) {
   if (definition == nullptr) return "没有这个参数：" + std::string(name);
   const std::optional<std::string> kept = definition->kind->read(value);
   if (!kept) return std::string(definition->name) + " " + definition->kind->refusal + "！";
-  connection_->run("insert or replace into sys_param (name, value) values (?, ?)", definition->name,
-                   *kept);
+  Transaction transaction(*connection_);
+  const std::int64_t known =
+      connection_->run("update sys_param set value = ? where name = ?", *kept, definition->name);
+  if (known == 0)
+    connection_->run("insert into sys_param (name, value) values (?, ?)", definition->name, *kept);
+  transaction.commit();
   values_[definition->name] = *kept;
   return {};
 }

@@ -7,13 +7,14 @@
 #include <vector>
 
 #include "base/Currency.h"
+#include "saleslib/Export.h"
 
 class Connection;
 struct TenderKind;
 
 /// The shop's parameters, read from the data file when bound and kept in memory; each has a sound
 /// value when none is set.
-class ClsSysParam {
+class TESSALY_API ClsSysParam {
  public:
   /// Binds and reads all parameters. A stored value that is not of its parameter's kind counts as
   /// not set. Throws StoreError.

@@ -5,11 +5,12 @@
 
 #include "base/Currency.h"
 #include "base/DateTime.h"
+#include "saleslib/Export.h"
 
 class Connection;
 
 /// One return against a line of a stored bill.
-class ClsUnSell {
+class TESSALY_API ClsUnSell {
  public:
   /// Binds and starts a return against that bill; the third argument is unused and 0.
   void Init(Connection& connection, std::int32_t billNo, int unused = 0, Clock clock = localTime);

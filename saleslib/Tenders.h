@@ -6,6 +6,8 @@
 #include <string_view>
 #include <vector>
 
+#include "saleslib/Export.h"
+
 class ClsSell;
 class ClsSysParam;
 
@@ -32,17 +34,18 @@ struct TenderKind {
   const char* slip = nullptr;  ///< for people: the code on the payer's slip, where there is one
 };
 
-const std::array<TenderKind, kTenders>& tenderKinds();
-const TenderKind& tenderKind(Tender tender);
+TESSALY_API const std::array<TenderKind, kTenders>& tenderKinds();
+TESSALY_API const TenderKind& tenderKind(Tender tender);
 
 /// The kinds that this bill's screens and papers name: what every shop has, what this shop has
 /// turned on, and what the bill was settled with.
-std::vector<const TenderKind*> tendersOf(const ClsSell& bill, const ClsSysParam& rules);
+TESSALY_API std::vector<const TenderKind*> tendersOf(const ClsSell& bill, const ClsSysParam& rules);
 /// Of these, all but what the shop gave up.
-std::vector<const TenderKind*> moneyTendersOf(const ClsSell& bill, const ClsSysParam& rules);
+TESSALY_API std::vector<const TenderKind*> moneyTendersOf(const ClsSell& bill,
+                                                          const ClsSysParam& rules);
 /// The kinds that the shop has turned on beside those of every shop, for figures of many bills.
-std::vector<const TenderKind*> optionalTenders(const ClsSysParam& rules);
+TESSALY_API std::vector<const TenderKind*> optionalTenders(const ClsSysParam& rules);
 
 /// A slip's code as typed or scanned, made fit for a bill and for the look-up: half-width, without
 /// control characters and blanks around, its first 64 characters.
-std::string slipCode(std::string_view typed);
+TESSALY_API std::string slipCode(std::string_view typed);

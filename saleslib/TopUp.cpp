@@ -25,11 +25,11 @@ std::optional<std::int64_t> begunRecord(Connection& connection, const TopUp& top
 }
 
 std::int64_t writeRecord(Connection& connection, const TopUp& topUp) {
-  connection.Execute(
+  const std::optional<std::int64_t> record = connection.ExecuteInsert(
       "insert into cardStored([cardbh],[addmoney],[inMoney],[commerce],[bz]) values(" +
       quotedText(topUp.cardNumber) + "," + amount(topUp.credited) + " ," + amount(topUp.paid) +
       "  ," + amount(topUp.balance) + "  ," + quotedText(topUp.remark) + ")");
-  return connection.lastRowId();
+  return record.value();
 }
 
 /// The record's balance becomes what is on the card, should another sale have used it meanwhile.

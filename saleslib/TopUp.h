@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "base/Currency.h"
+#include "saleslib/Export.h"
 #include "saleslib/StoredCard.h"
 
 class Connection;
@@ -23,7 +24,7 @@ struct TopUp {
 /// card has no record. Throws StoreError; a record that was written stays, so that nothing that was
 /// paid is forgotten, and the same top-up tried again completes that record instead of writing a
 /// second one.
-CardResult storeTopUp(Connection& connection, const TopUp& topUp);
+TESSALY_API CardResult storeTopUp(Connection& connection, const TopUp& topUp);
 
 /// A top-up whose record was written, but not the card's balance.
 struct IncompleteTopUp {
@@ -32,7 +33,7 @@ struct IncompleteTopUp {
   bool isReported = false;  ///< a cashier has been told
 };
 /// In the order in which they were begun. Throws StoreError.
-std::vector<IncompleteTopUp> incompleteTopUps(Connection& connection);
+TESSALY_API std::vector<IncompleteTopUp> incompleteTopUps(Connection& connection);
 /// Notes that a cashier has been told of that top-up, which stays as incomplete as it is; loading
 /// the card again is a top-up of its own from then on. Throws StoreError.
-void noteReported(Connection& connection, const IncompleteTopUp& topUp);
+TESSALY_API void noteReported(Connection& connection, const IncompleteTopUp& topUp);

@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "platform/KeyName.h"
+#include "platform/QtText.h"
 
 QuickKeyModel::QuickKeyModel(std::vector<clsQk> quickKeys, QObject* parent)
     : QAbstractTableModel(parent), quickKeys_(std::move(quickKeys)) {}
@@ -84,7 +85,7 @@ QString QuickKeyModel::cell(const clsQk& quickKey, int column) const {
     case kKeyCode:
       return QString::number(quickKey.QK_int);
     case kItemCode:
-      return QString::fromStdString(quickKey.QK_Bm);
+      return qtText(quickKey.QK_Bm);
     default:
       return keyName(quickKey.QK_int);
   }

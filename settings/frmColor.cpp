@@ -13,7 +13,6 @@
 
 #include "app/posMod.h"
 #include "base/NumberText.h"
-#include "settings/DialogKeys.h"
 #include "shell/Modal.h"
 #include "shell/Style.h"
 
@@ -60,7 +59,8 @@ QPixmap swatch(std::optional<int> colour) {
 
 }  // namespace
 
-frmColor::frmColor(posMod& pos, QWidget* parent) : QDialog(parent), pos_(pos) {
+frmColor::frmColor(posMod& pos, QWidget* parent)
+    : KeyDrivenDialog(pos.gKeyBoard, EnterKey::kMapped, parent), pos_(pos) {
   setObjectName("frmColor");
   setWindowTitle(tr("颜色设置"));
   cdColor_ = new QColorDialog(this);
@@ -86,7 +86,7 @@ frmColor::frmColor(posMod& pos, QWidget* parent) : QDialog(parent), pos_(pos) {
     controls.push_back(findChild<QPushButton*>("cmdViewColor" + QString::number(i)));
   }
   for (const char* name : {"cmdOk", "cmdCancel"}) controls.push_back(findChild<QWidget*>(name));
-  new DialogKeys(pos_.gKeyBoard, this, controls);
+  walkThrough(controls);
 }
 
 QWidget* frmColor::colourFrame() {

@@ -1,8 +1,9 @@
 #pragma once
 
-#include <QDialog>
 #include <array>
 #include <cstddef>
+
+#include "shell/KeyDrivenDialog.h"
 
 class QColorDialog;
 class QGridLayout;
@@ -14,7 +15,7 @@ class posMod;
 /// itself. An empty box stands for its default. "确定" saves; a box that holds no number is said
 /// and ends it: the boxes above are then already in force, none is saved, and the dialog stays
 /// open.
-class frmColor : public QDialog {
+class frmColor : public KeyDrivenDialog {
   Q_OBJECT
 
  public:

@@ -12,7 +12,7 @@
 #include "app/posMod.h"
 #include "base/NumberText.h"
 #include "platform/KeyName.h"
-#include "settings/DialogKeys.h"
+#include "platform/QtText.h"
 #include "settings/KeyBox.h"
 #include "settings/KeyFunctions.h"
 #include "settings/QuickKeyModel.h"
@@ -28,7 +28,8 @@ Control* named(Control* control, const QString& name) {
 
 }  // namespace
 
-frmKeyset::frmKeyset(posMod& pos, QWidget* parent) : QDialog(parent), pos_(pos) {
+frmKeyset::frmKeyset(posMod& pos, QWidget* parent)
+    : KeyDrivenDialog(pos.gKeyBoard, EnterKey::kMapped, parent), pos_(pos) {
   setObjectName("frmKeyset");
   setWindowTitle(tr("键盘设置"));
   auto* instruction =
@@ -51,9 +52,14 @@ frmKeyset::frmKeyset(posMod& pos, QWidget* parent) : QDialog(parent), pos_(pos) 
   layout->addWidget(quickKeyFrame(), 1);
   layout->addWidget(buttons());
 
-  new DialogKeys(pos_.gKeyBoard, this, controls());
+  walkThrough(controls());
   showSharedKeys();
   resize(960, 640);
+}
+
+// A key box takes every key for itself.
+bool frmKeyset::handleKey(const QObject* watched, const QKeyEvent& event) {
+  return !qobject_cast<const KeyBox*>(watched) && KeyDrivenDialog::handleKey(watched, event);
 }
 
 QWidget* frmKeyset::functionGrid() {
@@ -221,7 +227,7 @@ void frmKeyset::nextQuickKey() {
 void frmKeyset::take(const QModelIndex& row) {
   const clsQk& quickKey = quickKeys_->quickKeys()[static_cast<std::size_t>(row.row())];
   txtKeyInt_->setCode(quickKey.QK_int);
-  txtKeyBm_->setText(QString::fromStdString(quickKey.QK_Bm));
+  txtKeyBm_->setText(qtText(quickKey.QK_Bm));
   txtKeyBm_->setFocus();
 }
 

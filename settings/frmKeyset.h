@@ -1,10 +1,11 @@
 #pragma once
 
-#include <QDialog>
 #include <array>
 #include <cstddef>
 #include <optional>
 #include <vector>
+
+#include "shell/KeyDrivenDialog.h"
 
 class KeyBoard;
 class KeyBox;
@@ -19,11 +20,14 @@ class posMod;
 /// Which key does what on the sale screen, and the quick keys. "确定" puts both into the keyboard
 /// map and saves it, and they count from the next key press on; "取消" changes nothing. Two
 /// functions may share a key; they are shown in red while they do.
-class frmKeyset : public QDialog {
+class frmKeyset : public KeyDrivenDialog {
   Q_OBJECT
 
  public:
   explicit frmKeyset(posMod& pos, QWidget* parent = nullptr);
+
+ protected:
+  bool handleKey(const QObject* watched, const QKeyEvent& event) override;
 
  private:
   static constexpr std::size_t kFunctions = 15;

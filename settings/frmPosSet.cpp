@@ -9,8 +9,8 @@
 #include <variant>
 
 #include "app/posMod.h"
+#include "platform/QtText.h"
 #include "settings/DeviceTest.h"
-#include "settings/DialogKeys.h"
 #include "shell/Modal.h"
 
 using Text = std::string ClsPosSet::*;
@@ -31,7 +31,7 @@ namespace {
 constexpr const char* kNone = "无";
 
 void showText(QComboBox& list, const std::string& setting) {
-  const QString text = QString::fromStdString(setting);
+  const QString text = qtText(setting);
   if (!text.isEmpty() && list.findText(text) < 0) list.addItem(text);
   list.setCurrentIndex(text.isEmpty() ? 0 : list.findText(text));
 }
@@ -82,7 +82,8 @@ const std::vector<frmPosSet::Choice>& frmPosSet::choices() {
   return all;
 }
 
-frmPosSet::frmPosSet(posMod& pos, QWidget* parent) : QDialog(parent), pos_(pos) {
+frmPosSet::frmPosSet(posMod& pos, QWidget* parent)
+    : KeyDrivenDialog(pos.gKeyBoard, EnterKey::kMapped, parent), pos_(pos) {
   setObjectName("frmPosSet");
   setWindowTitle(tr("收银设置"));
   auto* heading = new QLabel(tr("POS机 设 置"));
@@ -106,7 +107,7 @@ frmPosSet::frmPosSet(posMod& pos, QWidget* parent) : QDialog(parent), pos_(pos) 
   std::vector<QWidget*> controls(lists_.begin(), lists_.end());
   for (const char* name : {"cmdTest", "cmdOk", "cmdCancel"})
     controls.push_back(findChild<QWidget*>(name));
-  new DialogKeys(pos_.gKeyBoard, this, controls);
+  walkThrough(controls);
 }
 
 void frmPosSet::addRow(QGridLayout& grid, const Choice& choice) {

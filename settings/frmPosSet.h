@@ -1,9 +1,9 @@
 #pragma once
 
-#include <QDialog>
 #include <vector>
 
 #include "app/ClsPosSet.h"
+#include "shell/KeyDrivenDialog.h"
 
 class QComboBox;
 class QGridLayout;
@@ -14,7 +14,7 @@ class posMod;
 /// chosen and shows or hides the pointer; the sale screen takes the rest over when it opens next.
 /// "测试" tries the devices with what is chosen and saves nothing. A setting that is none of a
 /// list's entries stays as it is until another entry is chosen.
-class frmPosSet : public QDialog {
+class frmPosSet : public KeyDrivenDialog {
   Q_OBJECT
 
  public:

@@ -2,6 +2,8 @@
 
 #include <QKeyEvent>
 
+#include "platform/QtText.h"
+
 DateField::DateField(QWidget* parent) : CheckedField(parent) {
   showValue();
 }
@@ -18,7 +20,7 @@ bool DateField::take(const QString& text) {
 }
 
 QString DateField::valueText() const {
-  return QString::fromStdString(dateText(date_));
+  return qtText(dateText(date_));
 }
 
 QString DateField::refusalOf(const QString& text) const {

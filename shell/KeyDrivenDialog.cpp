@@ -1,10 +1,13 @@
 #include "shell/KeyDrivenDialog.h"
 
+#include <QAbstractItemView>
+#include <QComboBox>
 #include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+#include <algorithm>
 #include <utility>
 
 #include "app/KeyBoard.h"
@@ -57,7 +60,26 @@ void KeyDrivenDialog::cancel() {
   reject();
 }
 
+void KeyDrivenDialog::walkThrough(std::vector<QWidget*> controls) {
+  walk_ = std::move(controls);
+  QWidget* before = nullptr;
+  for (QWidget* control : walk_) {
+    if (before) QWidget::setTabOrder(before, control);
+    before = control;
+    // The dialog's own default button would answer to the plain Enter key from everywhere.
+    if (auto* button = qobject_cast<QPushButton*>(control)) button->setAutoDefault(false);
+    watch(control);
+  }
+}
+
+void KeyDrivenDialog::watchAll() {
+  for (QWidget* control : findChildren<QWidget*>()) {
+    if (control->window() == this) control->installEventFilter(this);
+  }
+}
+
 bool KeyDrivenDialog::handleKey(const QObject* watched, const QKeyEvent& event) {
+  if (isLeftToControl(watched, event)) return false;
   const bool isPlain = enterKey_ == EnterKey::kPlain;
   const int key = isPlain ? virtualKey(event) : keys_.meaning(virtualKey(event));
   if (key == 0) return false;
@@ -65,12 +87,53 @@ bool KeyDrivenDialog::handleKey(const QObject* watched, const QKeyEvent& event) 
     cancel();
     return true;
   }
-  if (key != (isPlain ? vk::kEnter : keys_.mEnter)) return false;
-  if (event.isAutoRepeat()) return true;
-  const auto action = enterActions_.find(watched);
-  if (action == enterActions_.end()) return false;
-  action->second();
+  if (key == (isPlain ? vk::kEnter : keys_.mEnter)) return event.isAutoRepeat() || enter(watched);
+  return walk(watched, key);
+}
+
+bool KeyDrivenDialog::isLeftToControl(const QObject* watched, const QKeyEvent& event) const {
+  if (walk_.empty()) return false;
+  const bool types = qobject_cast<const QLineEdit*>(watched) && !event.text().isEmpty() &&
+                     event.text().front().isPrint();
+  return types || event.modifiers().testFlag(Qt::AltModifier);
+}
+
+bool KeyDrivenDialog::enter(const QObject* watched) {
+  if (const auto action = enterActions_.find(watched); action != enterActions_.end()) {
+    action->second();
+    return true;
+  }
+  const auto control = std::ranges::find(walk_, watched);
+  if (control == walk_.end()) return false;
+  auto* list = qobject_cast<QAbstractItemView*>(*control);
+  if (auto* button = qobject_cast<QPushButton*>(*control)) {
+    button->click();
+  } else if (list && list->currentIndex().isValid()) {
+    emit list->activated(list->currentIndex());
+  } else {
+    focusFrom(*control, 1);
+  }
   return true;
+}
+
+// Lists go by the same keys themselves.
+bool KeyDrivenDialog::walk(const QObject* watched, int key) {
+  const auto control = std::ranges::find(walk_, watched);
+  if (control == walk_.end() || (key != keys_.mUp && key != keys_.mDown)) return false;
+  if (qobject_cast<QAbstractItemView*>(*control)) return false;
+  const int by = key == keys_.mUp ? -1 : 1;
+  if (auto* choices = qobject_cast<QComboBox*>(*control)) {
+    choices->setCurrentIndex(std::clamp(choices->currentIndex() + by, 0, choices->count() - 1));
+  } else {
+    focusFrom(*control, by);
+  }
+  return true;
+}
+
+void KeyDrivenDialog::focusFrom(const QObject* control, int by) {
+  const auto count = std::ssize(walk_);
+  const auto at = std::ranges::find(walk_, control) - walk_.begin();
+  walk_[static_cast<std::size_t>((at + by + count) % count)]->setFocus(Qt::TabFocusReason);
 }
 
 bool KeyDrivenDialog::eventFilter(QObject* watched, QEvent* event) {

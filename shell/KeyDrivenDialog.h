@@ -4,6 +4,7 @@
 #include <functional>
 #include <initializer_list>
 #include <map>
+#include <vector>
 
 class KeyBoard;
 class QHBoxLayout;
@@ -16,7 +17,8 @@ class QPushButton;
 /// key may well be a letter or a figure. The mapped Esc cancels, and Enter does what was said of
 /// the control it is pressed in; held down, it is one press, so that it does not run through the
 /// fields by itself. The plain Enter and Esc have no other meaning. It is shown in the middle of
-/// its screen, with the focus in the control that was made first.
+/// its screen, with the focus in the control that was made first. A form whose keys mean the same
+/// wherever the focus is watches all its controls and says in handleKey what they mean.
 class KeyDrivenDialog : public QDialog {
   Q_OBJECT
 
@@ -46,6 +48,13 @@ class KeyDrivenDialog : public QDialog {
   /// The focus goes on to the other control, and a text there is selected.
   void enterLeads(const QWidget* from, QWidget* to);
   static void focusWhole(QWidget* control);
+  /// Lets the dialog be worked without Tab. Up and Down walk through these controls and choose in
+  /// drop-down lists; Enter presses a button, chooses a row of a list, and goes on from any other.
+  /// In a text field a key that types a character types it. The controls are in the order of the
+  /// eye, which becomes that of the Tab key.
+  void walkThrough(std::vector<QWidget*> controls);
+  /// Sees the keys of every control that the dialog has by now.
+  void watchAll();
 
   /// What the mapped Esc does.
   virtual void cancel();
@@ -57,9 +66,14 @@ class KeyDrivenDialog : public QDialog {
 
  private:
   void watch(QWidget* control);
+  bool isLeftToControl(const QObject* watched, const QKeyEvent& event) const;
+  bool enter(const QObject* watched);
+  bool walk(const QObject* watched, int key);
+  void focusFrom(const QObject* control, int by);
 
   const KeyBoard& keys_;
   EnterKey enterKey_;
   QWidget* first_ = nullptr;
   std::map<const QObject*, std::function<void()>> enterActions_;
+  std::vector<QWidget*> walk_;  ///< the controls to walk through, if any
 };

@@ -1,5 +1,7 @@
 #include "shell/TimeField.h"
 
+#include "platform/QtText.h"
+
 TimeField::TimeField(int hour, int minute, int second, QWidget* parent) : CheckedField(parent) {
   setTime(hour, minute, second);
 }
@@ -20,7 +22,7 @@ bool TimeField::take(const QString& text) {
 }
 
 QString TimeField::valueText() const {
-  return QString::fromStdString(longTime(time_));
+  return qtText(longTime(time_));
 }
 
 QString TimeField::refusalOf(const QString& text) const {

@@ -7,6 +7,7 @@
 
 #include "app/posMod.h"
 #include "base/Failure.h"
+#include "platform/QtText.h"
 #include "saleslib/ClsLogin.h"
 #include "shell/FramedFields.h"
 #include "shell/frmMsg.h"
@@ -43,7 +44,7 @@ void frmEditPwd::change() {
     refusal = failure.what();
   }
   if (!refusal.empty()) {
-    frmMsg(this).Message(QString::fromStdString(refusal));
+    frmMsg(this).Message(qtText(refusal));
     return;
   }
   // Whoever was at the till logs in again: the next protected screen asks who is there.

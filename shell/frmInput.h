@@ -1,13 +1,9 @@
 #pragma once
 
-#include <QDialog>
-
-class KeyBoard;
-class QLabel;
-class QLineEdit;
+#include "shell/KeyDrivenDialog.h"
 
 /// Asks for one text: a missing price, a member's number.
-class frmInput : public QDialog {
+class frmInput : public KeyDrivenDialog {
   Q_OBJECT
 
  public:
@@ -16,14 +12,7 @@ class frmInput : public QDialog {
   /// was typed, or an empty text after Esc or when the window was closed.
   QString init(const QString& title, const QString& message);
 
- protected:
-  bool eventFilter(QObject* watched, QEvent* event) override;
-  void keyPressEvent(QKeyEvent* event) override;
-
  private:
-  bool handleKey(const QKeyEvent& event);
-
-  const KeyBoard& keys_;
   QLabel* lblTitle_;
   QLabel* lblMsg_;
   QLineEdit* txtPrice_;

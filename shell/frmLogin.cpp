@@ -6,6 +6,7 @@
 #include <QPushButton>
 
 #include "app/posMod.h"
+#include "platform/QtText.h"
 #include "saleslib/ClsLogin.h"
 #include "shell/FramedFields.h"
 #include "shell/Modal.h"
@@ -43,7 +44,7 @@ void frmLogin::check() {
   ClsLogin login;
   login.Conn(*pos_.gConn);
   if (!login.Check(txtNumber_->text().toStdString(), txtPassword_->text().toStdString())) {
-    messageBox(this, QString::fromStdString(login.ErrText()), {}, BoxIcon::kInformation);
+    messageBox(this, qtText(login.ErrText()), {}, BoxIcon::kInformation);
     result_ = kFailed;
     focusWhole(txtPassword_);  // behind dots nobody sees that typing would only add to it
     return;

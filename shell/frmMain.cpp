@@ -13,6 +13,7 @@
 #include "app/posMod.h"
 #include "base/Failure.h"
 #include "base/Version.h"
+#include "platform/QtText.h"
 #include "platform/Twips.h"
 #include "shell/Modal.h"
 #include "shell/Style.h"
@@ -127,7 +128,7 @@ void frmMain::showMenu() {
 QString frmMain::menuFooter() const {
   QString person = tr("尚未登录");
   if (pos_.gOperator) {
-    QString name = QString::fromStdString(pos_.gOperator->Name());
+    QString name = qtText(pos_.gOperator->Name());
     if (name.size() > kLongestName) name = name.left(kLongestName - 1) + QChar(0x2026);
     person = tr("操作员：%1").arg(name);
   }
@@ -164,7 +165,7 @@ void frmMain::openScreen(const Screen& screen) {
   try {
     if (!screen.needsLogin || someoneLoggedIn()) screen.open();
   } catch (const Failure& failure) {
-    messageBox(this, QString::fromUtf8(failure.what()), {}, BoxIcon::kExclamation);
+    messageBox(this, qtText(failure.what()), {}, BoxIcon::kExclamation);
   }
 }
 
@@ -177,7 +178,7 @@ void frmMain::changeOperator() {
   try {
     pos_.logOff();
   } catch (const Failure& failure) {
-    return messageBox(this, QString::fromUtf8(failure.what()), {}, BoxIcon::kExclamation);
+    return messageBox(this, qtText(failure.what()), {}, BoxIcon::kExclamation);
   }
   login_->goLogin();
 }
@@ -200,7 +201,7 @@ void frmMain::endOfWork() {
     try {
       if (step()) done += tr("%1已完成。").arg(name);
     } catch (const Failure& failure) {
-      notDone += tr("%1没有完成：%2").arg(name, QString::fromUtf8(failure.what()));
+      notDone += tr("%1没有完成：%2").arg(name, qtText(failure.what()));
     }
   };
   attempt(tr("操作员注销"), [this] {
@@ -224,7 +225,7 @@ void frmMain::paintEvent(QPaintEvent*) {
   painter.fillRect(rect(), back);
   painter.setPen(fore);
 
-  const QString shop = QString::fromStdString(pos_.gSysParam.ShopName());
+  const QString shop = qtText(pos_.gSysParam.ShopName());
   QFont large = font();
   large.setPixelSize(height() / 14);
   painter.setFont(large);
@@ -246,7 +247,7 @@ void frmMain::paintVersion(QPainter& painter) const {
   QFont small = font();
   small.setPixelSize(kVersionPixels);
   painter.setFont(small);
-  const QString version = QString::fromUtf8(tillVersion().data(), tillVersion().size());
+  const QString version = qtText(tillVersion());
   painter.drawText(rect().adjusted(0, 0, -kMenuGap, -kMenuGap / 2),
                    Qt::AlignRight | Qt::AlignBottom, tr("版本 %1").arg(version));
 }

@@ -8,8 +8,8 @@
 #include <string_view>
 #include <vector>
 
-#include "store/DataFile.h"
 #include "store/DataFilePath.h"
+#include "store/DataSource.h"
 #include "store/Recordset.h"
 #include "store/Rows.h"
 #include "store/Value.h"
@@ -62,8 +62,13 @@ class Connection {
   /// As run and query, for a statement whose columns are known at run time only.
   std::int64_t runBound(const char* text, std::vector<Value> values);
   Rows queryBound(const char* text, std::vector<Value> values);
-  /// The row key that the last insert gave.
-  std::int64_t lastRowId() const;
+  /// As Execute and run, for an insert of at most one row: the key that the row was given, or
+  /// nothing when none was written.
+  std::optional<std::int64_t> ExecuteInsert(const std::string& statement);
+  template <class... Values>
+  std::optional<std::int64_t> insert(const char* text, const Values&... values) {
+    return keyOfNewRow(runBound(text, {toValue(values)...}));
+  }
 
   /// The mark of what has just been written.
   WriteMark writeMark() { return marks_.next(); }
@@ -73,9 +78,13 @@ class Connection {
 
   /// Several statements of engine text at once, for making tables; nothing is bound or cached.
   void runScript(const std::string& statements);
-  /// Copies unfinished log pages into the data file, as far as no reader is in the way, without
-  /// waiting for anybody.
+  /// Copies what the log holds into the data file, as far as no reader is in the way, without
+  /// waiting for anybody. Commits do so themselves only when the log has kMostLogPages, so whoever
+  /// writes for people calls this while nobody waits.
   void checkpoint();
+  /// The pages (4 KiB each) that were in the log after the last commit and were not copied since.
+  int logPages() const { return logPages_; }
+  static constexpr int kMostLogPages = 16'384;
   /// From now on `asked` is called every few milliseconds while a statement runs, in its thread;
   /// when it says yes, the statement ends by a StoreError. It must not use the connection.
   void stopWhen(std::function<bool()> asked);
@@ -85,12 +94,14 @@ class Connection {
   friend class Transaction;
   friend class FileReading;
   friend void backUpDataFile(Connection& connection, const std::filesystem::path& target);
+  std::optional<std::int64_t> keyOfNewRow(std::int64_t rowsWritten) const;
 
   struct EngineCloser {
     void operator()(sqlite3* engine) const;
   };
 
   void openEngine(Mode mode);
+  static int committed(void* connection, sqlite3* engine, const char*, int logPages);
   void requireTransaction() const;
   std::shared_ptr<Statement> prepared(std::string_view text, std::vector<Value> values);
   std::int64_t runToEnd(std::string_view text, std::vector<Value> values);
@@ -101,5 +112,6 @@ class Connection {
   std::unique_ptr<StatementCache> statements_;
   std::function<bool()> stopAsked_;
   int transactionDepth_ = 0;
+  int logPages_ = 0;
   WriteMarks marks_;
 };

@@ -4,7 +4,6 @@
 
 #include "base/FileName.h"
 #include "base/OwnerOnly.h"
-#include "base/Text.h"
 #include "base/WholeFile.h"
 #include "store/Connection.h"
 #include "store/FileReading.h"
@@ -13,8 +12,6 @@
 #include "store/StoreError.h"
 
 namespace {
-
-constexpr std::string_view kPasswordMark = ";jet oledb:database password=";
 
 // The mode is kept in the file. Set after the file is known to be a shop's: no other is changed.
 void useWriteAheadLog(Connection& connection) {
@@ -45,14 +42,6 @@ void requireFreePlace(const std::filesystem::path& path) {
 }
 
 }  // namespace
-
-// The password is the whole rest: it may hold ";", "=" and blanks.
-DataSource DataSource::parse(std::string_view text) {
-  const std::size_t mark = asciiLower(text).find(kPasswordMark);
-  DataSource source{trimmed(text.substr(0, text.find(';'))), {}};
-  if (mark != std::string_view::npos) source.password = text.substr(mark + kPasswordMark.size());
-  return source;
-}
 
 std::unique_ptr<Connection> openDataFile(const DataSource& source) {
   auto connection = std::make_unique<Connection>(source, Connection::Mode::kExisting);

@@ -4,6 +4,7 @@
 
 #include "base/WholeFile.h"
 #include "store/Connection.h"
+#include "store/DataFile.h"
 #include "store/DataFilePath.h"
 #include "store/Engine.h"
 #include "store/FileReading.h"

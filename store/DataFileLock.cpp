@@ -8,7 +8,7 @@
 #include <cerrno>
 #include <string>
 
-#include "base/FileError.h"
+#include "base/SystemFault.h"
 #include "store/DataFilePath.h"
 #include "store/StoreError.h"
 

@@ -8,6 +8,7 @@
 #include <system_error>
 
 #include "base/FileName.h"
+#include "base/SystemFault.h"
 #include "base/WholeFile.h"
 #include "store/DataFileLock.h"
 #include "store/DataFilePath.h"
@@ -34,7 +35,7 @@ void requireClosedBackup(const fs::path& backup, const fs::path& file) {
 
 void copyBytes(const fs::path& from, WholeFile& to) {
   std::ifstream file(from, std::ios::binary);
-  std::array<char, 64 * 1024> block;
+  std::array<char, 65'536> block;
   while (file.read(block.data(), block.size()) || file.gcount() > 0)
     to.append(std::string_view(block.data(), static_cast<std::size_t>(file.gcount())));
   if (!file.eof()) throw StoreError("不能读备份文件：" + from.string());

@@ -54,7 +54,7 @@ void FileReading::appendTo(WholeFile& copy) const {
   sqlite3_file* file = nullptr;
   check(engine, sqlite3_file_control(engine, "main", SQLITE_FCNTL_FILE_POINTER, &file));
   const sqlite3_int64 size = sizeOf(engine, file);
-  std::array<char, 64 * 1024> block;
+  std::array<char, 65'536> block;
   for (sqlite3_int64 done = 0; done < size;) {
     const auto count = std::min<sqlite3_int64>(size - done, std::ssize(block));
     check(engine, file->pMethods->xRead(file, block.data(), static_cast<int>(count), done));

@@ -5,7 +5,7 @@
 #include <utility>
 
 #include "base/Text.h"
-#include "store/FragmentIndex.h"
+#include "store/FragmentColumn.h"
 
 namespace {
 

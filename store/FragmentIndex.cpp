@@ -1,18 +1,12 @@
 #include "store/FragmentIndex.h"
 
 #include <array>
-#include <string>
 
-#include "base/Text.h"
 #include "store/Connection.h"
 #include "store/StoreError.h"
 #include "store/Transaction.h"
 
 namespace {
-
-constexpr std::array kColumns = {FragmentColumn{"tmda", "ggxh", "spbm"},
-                                 FragmentColumn{"spda", "f_sphh", "f_spbm"},
-                                 FragmentColumn{"spda", "f_Ggxh", "f_spbm"}};
 
 // A look-up reads every written row, at 2 µs each.
 constexpr int kManyWritten = 100;
@@ -61,20 +55,6 @@ void update(Connection& connection, const IndexStatements& index) {
 }
 
 }  // namespace
-
-const FragmentColumn* fragmentColumn(std::string_view column) {
-  for (const FragmentColumn& known : kColumns) {
-    if (equalIgnoringCase(known.column, column)) return &known;
-  }
-  return nullptr;
-}
-
-bool hasFragmentIndex(std::string_view table) {
-  for (const FragmentColumn& known : kColumns) {
-    if (equalIgnoringCase(known.table, table)) return true;
-  }
-  return false;
-}
 
 void updateFragmentIndex(Connection& connection) {
   Transaction transaction(connection);

@@ -1,7 +1,5 @@
 #pragma once
 
-#include <string_view>
-
 class Connection;
 
 /// The fragment indexes of the goods tables. Beside a table T stand
@@ -13,22 +11,10 @@ class Connection;
 /// A look-up takes the rows that the index finds and all of T_written, and lets LIKE decide. It is
 /// right at every moment, and quick as long as T_written is short.
 
-/// The index that the dialect may ask about this column; nullptr when the column has none.
-/// Names without regard to case.
-struct FragmentColumn {
-  std::string_view table;
-  std::string_view column;
-  std::string_view key;  ///< the item code, by which other tables are joined to this one
-};
-const FragmentColumn* fragmentColumn(std::string_view column);
-/// Whether the table has an index.
-bool hasFragmentIndex(std::string_view table);
-
 /// Takes the written rows into the index, in one transaction (or inside the one that runs). An
 /// import calls it once, behind its last row: the index of a million rows then takes 12 s. Taken in
 /// row by row it would be minutes, since the engine ends a piece of the index with each statement.
-/// An import should also write with "insert or fail" and "update or fail": a plain statement keeps
-/// a copy of every page it touches to take itself back, which costs ten times the row.
+/// An import should also write through store/RowWriter.h.
 void updateFragmentIndex(Connection& connection);
 /// The same, when there are enough written rows for a look-up to feel them.
 void updateLongFragmentIndex(Connection& connection);

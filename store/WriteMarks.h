@@ -1,13 +1,8 @@
 #pragma once
 
-#include <cstdint>
 #include <vector>
 
-/// A moment of writing. Who remembers what the data file holds (a key, "nothing left to save")
-/// keeps the mark of its last write and asks the connection whether that write still stands.
-using WriteMark = std::int64_t;
-inline constexpr WriteMark kNotWritten = -1;
-inline constexpr WriteMark kFromFile = 0;  ///< read, not written: always stands
+#include "base/WriteMark.h"
 
 /// The marks that one connection gave, and which of them were taken back with their transaction.
 class WriteMarks {

@@ -10,7 +10,7 @@ namespace fs = std::filesystem;
 
 InstalledTill::InstalledTill() {
   fs::create_directories(program() / "data");
-  for (const char* file : {"till", "libTessaly.so"}) {
+  for (const char* file : {"till", "libTessaly.so.1"}) {
     fs::copy(fs::path(TILL_PROGRAM_FOLDER) / file, program() / file);
   }
   fillDemoShop(*createDataFile({dataFile(), kBuiltInPassword}), localTime);

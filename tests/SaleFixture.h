@@ -21,6 +21,7 @@
 #include "checkout/SaleState.h"
 #include "checkout/Settlement.h"
 #include "platform/PortError.h"
+#include "store/Connection.h"
 #include "store/DataFile.h"
 
 /// Ports as the settings file has them, but for the serial line, which is kept in memory.

@@ -7,6 +7,7 @@
 #include "checkout/frmUnSell.h"
 #include "members/cardStored.h"
 #include "members/frmFMember.h"
+#include "platform/QtText.h"
 #include "reports/frmCount.h"
 #include "reports/frmSearch.h"
 #include "sale/frmSell.h"
@@ -23,16 +24,15 @@ Till::~Till() = default;
 bool Till::Main() {
   const std::string refusal = pos_.OpenDataStore();
   if (!refusal.empty()) {
-    messageBox(nullptr, QString::fromStdString(refusal));
+    messageBox(nullptr, qtText(refusal));
     return false;
   }
   const std::string exposed = pos_.protectFiles();
-  if (!exposed.empty())
-    messageBox(nullptr, QString::fromStdString(exposed), {}, BoxIcon::kExclamation);
+  if (!exposed.empty()) messageBox(nullptr, qtText(exposed), {}, BoxIcon::kExclamation);
   const std::string missing = pos_.missingOperator();
-  if (!missing.empty())
-    messageBox(nullptr, QString::fromStdString(missing), {}, BoxIcon::kInformation);
+  if (!missing.empty()) messageBox(nullptr, qtText(missing), {}, BoxIcon::kInformation);
   pos_.start();
+  checkpoint_ = std::make_unique<QuietCheckpoint>(qApp, *pos_.gConn);
   controlKeys_ = std::make_unique<ControlKeys>(qApp, pos_.gKeyBoard);
   frmSell_ = std::make_unique<frmSell>(pos_, saleScreens(), [this] { frmMain_->close(); });
   frmMain_ = std::make_unique<frmMain>(pos_, screens());

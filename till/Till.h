@@ -5,6 +5,7 @@
 #include <map>
 #include <memory>
 
+#include "app/QuietCheckpoint.h"
 #include "app/posMod.h"
 #include "sale/SaleSession.h"
 #include "shell/frmMain.h"
@@ -33,6 +34,7 @@ class Till {
   void show();
 
   posMod pos_;
+  std::unique_ptr<QuietCheckpoint> checkpoint_;
   std::unique_ptr<ControlKeys> controlKeys_;
   std::unique_ptr<frmSell> frmSell_;  ///< one instance for every opening
   std::unique_ptr<frmMain> frmMain_;

@@ -4,6 +4,7 @@
 #include <exception>
 
 #include "base/Failure.h"
+#include "platform/QtText.h"
 #include "shell/Modal.h"
 
 // Nothing may be thrown through the event loop itself, which nests with every modal window: the
@@ -22,7 +23,7 @@ bool TillApplication::notify(QObject* receiver, QEvent* event) {
 }
 
 void TillApplication::showFailure(const std::exception& failure) {
-  const QString text = QString::fromUtf8(failure.what());
+  const QString text = qtText(failure.what());
   const bool forPeople = dynamic_cast<const Failure*>(&failure) != nullptr;
   messageBox(nullptr, forPeople ? text : tr("程序出错，必须结束：") + text, {},
              BoxIcon::kExclamation);

@@ -3,6 +3,7 @@
 #include <utility>
 
 #include "store/Connection.h"
+#include "store/Integrity.h"
 #include "store/Snapshot.h"
 
 Books::Books(Connection& connection, Report report, Clock clock)
@@ -11,14 +12,13 @@ Books::Books(Connection& connection, Report report, Clock clock)
 BooksSummary Books::check() {
   found_ = {};
   const Snapshot oneState(connection_);  // the till goes on selling
-  checkEngine();
+  checkFile();
   count();
   const Examination books{
       connection_, clock_(), [this](const std::string& text) { fault(text); }, remark_,
       [this](std::int64_t bills) {
         progress_(static_cast<double>(bills) / static_cast<double>(found_.bills));
       }};
-  examineSchema(books);
   examineBills(books);
   examineLines(books);
   examineReturns(books);
@@ -28,12 +28,11 @@ BooksSummary Books::check() {
   return found_;
 }
 
-void Books::checkEngine() {
-  Rows rows = connection_.query("pragma integrity_check");
-  while (rows.next()) {
-    const std::string answer = rows.text("integrity_check");
-    if (answer != "ok") fault("数据文件损坏：" + answer);
-  }
+void Books::checkFile() {
+  for (const std::string& found : fileFaults(connection_)) fault("数据文件损坏：" + found);
+  const SchemaDifference schema = schemaDifference(connection_);
+  for (const std::string& name : schema.added) fault("数据文件里多了本程序没有的东西：" + name);
+  for (const std::string& name : schema.missing) fault("数据文件里少了本程序要用的东西：" + name);
 }
 
 void Books::count() {

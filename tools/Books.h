@@ -37,7 +37,7 @@ class Books {
   BooksSummary check();
 
  private:
-  void checkEngine();
+  void checkFile();
   void count();
   void fault(const std::string& text);
 

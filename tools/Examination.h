@@ -24,9 +24,6 @@ struct Examination {
 /// Whether a bill's time has nothing to do with its first line's: more than a day lies between.
 bool isFarFrom(const DateTime& bill, const DateTime& line);
 
-/// The file has the tables, indexes and triggers that this program made, and no other.
-void examineSchema(const Examination& books);
-
 /// Every bill with its lines, read as the till reads them: what it could not read keeps the sale
 /// screen from opening.
 ///   - the lines of a settled bill add up to its quantity and goods amount, each line's money is

@@ -1,14 +1,12 @@
 #include "tools/ExportCommand.h"
 
-#include <fcntl.h>
-#include <sys/stat.h>
-#include <unistd.h>
-
 #include <CLI/CLI.hpp>
+#include <filesystem>
 #include <fstream>
 #include <memory>
 #include <string>
 
+#include "base/WholeFile.h"
 #include "store/Connection.h"
 #include "tools/DataFileOptions.h"
 #include "tools/Exporter.h"
@@ -17,37 +15,62 @@
 
 namespace {
 
+namespace fs = std::filesystem;
+
 struct Options {
   DataFileOptions file;
   std::string table;
   std::string csv;
 };
 
-// Card passwords may be in it, so nobody else may read it, from its first byte on.
-void makePrivate(const std::string& path) {
-  const int file = open(path.c_str(), O_CREAT | O_WRONLY | O_CLOEXEC, 0600);
-  if (file < 0) throw Refusal("不能写文件：" + path);
-  struct stat kind {};
-  const bool isPrivate =
-      fstat(file, &kind) == 0 && (!S_ISREG(kind.st_mode) || fchmod(file, 0600) == 0);
-  close(file);
-  if (!isPrivate) throw Refusal("文件是别人的，不能导出到那里：" + path);
+std::int64_t exportToStream(Connection& connection, const Table& table, std::ostream& out) {
+  const auto requireTaken = [&out] {
+    if (!out) throw Refusal("写不下去，磁盘可能满了，导出的文件不完整。");
+  };
+  const std::int64_t rows = exportTable(connection, table, [&](std::string_view piece) {
+    out << piece;
+    requireTaken();
+  });
+  out.flush();
+  requireTaken();
+  return rows;
+}
+
+/// Card passwords may be in it, so that nobody else may read it. A link stays one: what it leads to
+/// is replaced.
+std::int64_t exportToFile(Connection& connection, const Table& table, const fs::path& path) {
+  std::error_code isNew;
+  const fs::path real = fs::canonical(path, isNew);
+  WholeFile file(isNew ? path : real);
+  const std::int64_t rows =
+      exportTable(connection, table, [&file](std::string_view piece) { file.append(piece); });
+  file.finish();
+  return rows;
+}
+
+/// A pipe or a device is written to, never replaced.
+std::int64_t exportToPath(Connection& connection, const Table& table, const fs::path& path) {
+  std::error_code missing;
+  const fs::file_status status = fs::status(path, missing);
+  if (!fs::exists(status) || fs::is_regular_file(status))
+    return exportToFile(connection, table, path);
+  std::ofstream out(path, std::ios::binary);
+  if (!out) throw Refusal("不能写文件：" + path.string());
+  return exportToStream(connection, table, out);
 }
 
 void exportTo(const Options& options, Console& console) {
   const std::unique_ptr<Connection> connection = openDataFile(options.file.source(console));
   const Table table = tableNamed(options.table, console.clock());
   if (options.csv == "-") {
-    exportTable(*connection, table, console.out);
+    exportToStream(*connection, table, console.out);
     return;
   }
   std::error_code ignored;
-  if (std::filesystem::equivalent(connection->source().path, options.csv, ignored)) {
+  if (fs::equivalent(connection->source().path, options.csv, ignored)) {
     throw Refusal("不能把数据文件本身当作导出的文件。");
   }
-  makePrivate(options.csv);
-  std::ofstream out(options.csv, std::ios::binary | std::ios::trunc);
-  const std::int64_t count = exportTable(*connection, table, out);
+  const std::int64_t count = exportToPath(*connection, table, options.csv);
   console.out << "已导出 " << table.name << "：" << count << " 行\n";
 }
 

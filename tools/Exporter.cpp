@@ -1,13 +1,11 @@
 #include "tools/Exporter.h"
 
+#include "base/CsvRow.h"
 #include "store/Connection.h"
-#include "tools/CsvRow.h"
-#include "tools/Refusal.h"
 
 namespace {
 
 constexpr std::size_t kPieceBytes = 1 << 16;
-constexpr const char* kByteOrderMark = "\xEF\xBB\xBF";  // without it spreadsheets take GBK
 
 std::string queryText(const Table& table) {
   std::string columns, order;
@@ -19,17 +17,15 @@ std::string queryText(const Table& table) {
   return "select " + columns + " from " + table.name + " order by " + order;
 }
 
-void writeOut(CsvRow& row, std::ostream& out) {
-  out << row.text();
-  row.clear();
-  if (!out) throw Refusal("写不下去，磁盘可能满了，导出的文件不完整。");
-}
-
 }  // namespace
 
-std::int64_t exportTable(Connection& connection, const Table& table, std::ostream& out) {
+std::int64_t exportTable(Connection& connection, const Table& table, const Taker& taker) {
   CsvRow row;
-  out << kByteOrderMark;
+  const auto passOn = [&row, &taker] {
+    taker(row.text());
+    row.clear();
+  };
+  taker(kUtf8Mark);
   for (const Column& column : table.columns) row.add(column.name);
   row.end();
   std::int64_t count = 0;
@@ -37,10 +33,8 @@ std::int64_t exportTable(Connection& connection, const Table& table, std::ostrea
   for (; rows.next(); ++count) {
     for (const Column& column : table.columns) row.add(rows.text(column.name));
     row.end();
-    if (row.text().size() > kPieceBytes) writeOut(row, out);
+    if (row.text().size() > kPieceBytes) passOn();
   }
-  writeOut(row, out);
-  out.flush();
-  if (!out) writeOut(row, out);
+  passOn();
   return count;
 }

@@ -6,9 +6,9 @@
 #include <string>
 #include <vector>
 
+#include "base/CsvReader.h"
 #include "base/Currency.h"
 #include "base/Discount.h"
-#include "tools/CsvReader.h"
 
 /// One article of the demo shop.
 struct DemoGoodsRow {

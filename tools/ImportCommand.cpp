@@ -66,9 +66,9 @@ Imported importList(Connection& connection, const List& list, const Options& opt
       options.replacesAccounts ? Importer::Accounts::kReplace : Importer::Accounts::kKeep);
   try {
     return importer.run(text);
-  } catch (const Refusal& refusal) {
+  } catch (const Failure& failure) {
     if (options.csvs.size() == 1) throw;
-    throw Refusal(list.csv + "：" + refusal.what());
+    throw Refusal(list.csv + "：" + failure.what());
   }
 }
 

@@ -3,15 +3,14 @@
 #include <algorithm>
 #include <iterator>
 #include <numeric>
-#include <optional>
 #include <utility>
 
+#include "base/CsvReader.h"
 #include "base/Text.h"
 #include "store/Connection.h"
 #include "store/FragmentIndex.h"
 #include "store/StoreError.h"
 #include "store/Transaction.h"
-#include "tools/CsvReader.h"
 #include "tools/Refusal.h"
 #include "tools/RowDoubts.h"
 
@@ -19,17 +18,6 @@ namespace {
 
 constexpr std::int64_t kRowsPerProgress = 50000;
 constexpr int kMostBadRows = 20;  // as many as fit on one screen
-
-// "a=?, b=?" or "a=? and b=?"
-std::string assignments(const Table& table, const std::vector<std::size_t>& columns,
-                        const char* separator) {
-  std::string text;
-  for (const std::size_t index : columns) {
-    if (!text.empty()) text += separator;
-    text += std::string(table.columns[index].name) + "=?";
-  }
-  return text;
-}
 
 // A control character must not get at the owner's terminal either.
 std::string shown(const std::string& field) {
@@ -79,7 +67,7 @@ Imported Importer::run(std::istream& text) {
   CsvReader reader(text);
   readHeader(reader);
   chooseUpdated();
-  prepareStatements();
+  prepareWriting();
   Transaction transaction(connection_);
   std::int64_t rows = 0;
   while (badRowCount_ < kMostBadRows && reader.next(fields_)) {
@@ -134,23 +122,21 @@ void Importer::chooseUpdated() {
   std::iota(updated_.begin(), updated_.end(), std::size_t{0});
 }
 
-// One text each for the whole file, so that each is prepared once. "or fail" keeps no copy of the
-// pages to take a single statement back: a failure takes the whole import back anyway.
-void Importer::prepareStatements() {
-  std::vector<std::size_t> keys(table_.keyColumns);
-  std::iota(keys.begin(), keys.end(), std::size_t{0});
-  const std::string name = table_.name;
-  updateText_ = "update or fail " + name + " set " + assignments(table_, updated_, ", ") +
-                " where " + assignments(table_, keys, " and ");
-  std::string names, marks;
+void Importer::prepareWriting() {
+  const auto nameOf = [this](std::size_t index) -> std::string {
+    return table_.columns[index].name;
+  };
+  RowWriter::Names columns, updated;
   for (std::size_t index = 0; index < table_.columns.size(); ++index) {
     const Column& column = table_.columns[index];
-    names += (names.empty() ? "" : ", ") + std::string(column.name);
-    marks += marks.empty() ? "?" : ", ?";
+    columns.push_back(nameOf(index));
     newRow_.push_back(column.fallback.value_or(std::monostate{}));
     if (!column.fallback && !isInFile_[index] && lacking_.empty()) lacking_ = column.name;
   }
-  insertText_ = "insert or fail into " + name + " (" + names + ") values (" + marks + ")";
+  std::ranges::transform(updated_, std::back_inserter(updated), nameOf);
+  const RowWriter::Names keys(columns.begin(),
+                              columns.begin() + static_cast<std::ptrdiff_t>(table_.keyColumns));
+  writer_.emplace(connection_, table_.name, keys, updated, columns);
 }
 
 void Importer::readRow(const CsvReader& reader) {
@@ -205,13 +191,13 @@ bool Importer::write(const CsvReader& reader) {
   bound.reserve(updated_.size() + table_.keyColumns);
   for (const std::size_t index : updated_) bound.push_back(values_[index]);
   std::ranges::move(key(), std::back_inserter(bound));
-  if (connection_.runBound(updateText_.c_str(), std::move(bound)) > 0) {
+  if (writer_->update(std::move(bound))) {
     ++imported_.updated;
   } else if (!lacking_.empty()) {
     refuseRow(reader, "是新的，但文件缺少“" + lacking_ + "”这一列");
     return false;
   } else {
-    connection_.runBound(insertText_.c_str(), values_);
+    writer_->insert(values_);
     ++imported_.added;
   }
   return true;

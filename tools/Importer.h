@@ -3,10 +3,12 @@
 #include <cstdint>
 #include <functional>
 #include <istream>
+#include <optional>
 #include <set>
 #include <string>
 #include <vector>
 
+#include "store/RowWriter.h"
 #include "store/Value.h"
 #include "tools/RowNumbers.h"
 #include "tools/Table.h"
@@ -49,7 +51,7 @@ class Importer {
   void readHeader(CsvReader& reader);
   std::size_t columnNamed(const std::string& heading) const;
   void chooseUpdated();
-  void prepareStatements();
+  void prepareWriting();
   void readRow(const CsvReader& reader);
   bool readValues(const CsvReader& reader);
   void writeRow(const CsvReader& reader);
@@ -69,7 +71,7 @@ class Importer {
   std::vector<bool> isInFile_;        ///< the same by the table's columns
   std::vector<std::size_t>
       updated_;  ///< columns that an update writes, by their index in the table
-  std::string updateText_, insertText_;
+  std::optional<RowWriter> writer_;
   std::string lacking_;        ///< a column that a new row needs and the file lacks
   std::vector<Value> newRow_;  ///< what a new row has in the columns that the file lacks
   std::vector<std::string> fields_;

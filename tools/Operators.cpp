@@ -1,5 +1,7 @@
 #include "tools/Operators.h"
 
+#include <set>
+
 #include "base/Text.h"
 #include "saleslib/ClsRights.h"
 #include "store/Connection.h"
@@ -34,8 +36,10 @@ void addOperator(Connection& connection, const NewOperator& wanted) {
   person.setCode(std::to_string(wanted.number));
   person.setPassword(wanted.password);
   person.Save();
-  for (const std::string& right : wanted.rights) {
-    connection.run("insert or ignore into operator_rights (operator_id, right_key) values (?, ?)",
+  // What an operator of that number once had is not inherited.
+  connection.run("delete from operator_rights where operator_id = ?", wanted.number);
+  for (const std::string& right : std::set(wanted.rights.begin(), wanted.rights.end())) {
+    connection.run("insert into operator_rights (operator_id, right_key) values (?, ?)",
                    wanted.number, right);
   }
   transaction.commit();

@@ -4,6 +4,7 @@
 #include "base/Failure.h"
 #include "saleslib/ClsSysParam.h"
 #include "store/Connection.h"
+#include "store/Integrity.h"
 #include "tools/Examination.h"
 #include "tools/Operators.h"
 
@@ -125,34 +126,27 @@ void examineParameters(const Examination& books) {
   }
 }
 
-// The engine gives the next number from what it remembers here.
+std::int64_t wholeOf(const Examination& books, const std::string& query) {
+  Rows rows = books.connection.query(("select (" + query + ") as n").c_str());
+  rows.next();
+  return rows.whole("n").value_or(0);
+}
+
 void examineNumbers(const Examination& books, const std::string& table, const char* what) {
   constexpr std::int64_t kLast = INT32_MAX;
-  Rows rows = books.connection.query(
-      ("select (select max(id) from " + table +
-       ") as largest, coalesce((select max(seq) from sqlite_sequence where name = ?), 0) as last")
-          .c_str(),
-      table);
-  rows.next();
-  const std::int64_t largest = rows.whole("largest").value_or(0);
-  const std::int64_t last = rows.whole("last").value_or(0);
-  if (last < largest) {
+  const std::int64_t largest = wholeOf(books, "select max(id) from " + table);
+  const std::int64_t given = lastNumberGiven(books.connection, table);
+  if (given < largest) {
     books.fault(std::string(what) + "会重复：最大的是 " + std::to_string(largest) +
-                "，下一个号却从 " + std::to_string(last) + " 数起");
+                "，下一个号却从 " + std::to_string(given) + " 数起");
   }
-  if (last >= kLast) books.fault(std::string(what) + "用完了：已经发到 " + std::to_string(last));
+  if (given >= kLast) books.fault(std::string(what) + "用完了：已经发到 " + std::to_string(given));
 }
 
 // Nothing ever deletes from these tables, so that their numbers have no gap.
 void examineGaps(const Examination& books, const std::string& table, const char* what) {
-  Rows rows = books.connection.query(
-      ("select (select count(*) from " + table +
-       ") as rows, coalesce((select max(seq) from sqlite_sequence where name = ?), 0) as given")
-          .c_str(),
-      table);
-  rows.next();
-  const std::int64_t there = rows.whole("rows").value_or(0);
-  const std::int64_t given = rows.whole("given").value_or(0);
+  const std::int64_t there = wholeOf(books, "select count(*) from " + table);
+  const std::int64_t given = lastNumberGiven(books.connection, table);
   if (there >= given) return;
   books.fault(std::string(what) + "少了 " + std::to_string(given - there) + " 条：号码发到 " +
               std::to_string(given) + "，只有 " + std::to_string(there) +

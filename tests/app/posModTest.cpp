@@ -6,6 +6,7 @@
 #include <fstream>
 
 #include "TemporaryFolder.h"
+#include "store/Connection.h"
 #include "store/DataFile.h"
 #include "store/StoreError.h"
 
@@ -58,7 +59,7 @@ TEST_F(posModTest, BackUpIsTheWholeFileAndAFailingOneLeavesTheEarlierCopy) {
     Rows reading = reader->query("select name from sys_param");
     reading.next();
     ASSERT_EQ(pos.gSysParam.set("ShopName", "大店"), "");
-    EXPECT_THROW(pos.backUp(), StoreError);
+    EXPECT_THAT([&] { pos.backUp(); }, testing::ThrowsMessage<StoreError>(HasSubstr("占用")));
   }
   ClsSysParam copied;
   copied.Conn(*openDataFile({copy, kBuiltInPassword}));
@@ -75,12 +76,15 @@ TEST_F(posModTest, WhatHoldsSecretsIsItsOwnersAlone) {
   for (const auto& [path, configAfterwards] : cases) {
     configure(path);
     std::ofstream(folder_.file("data/pos3.mdb")) << "a backup";
-    for (const char* name : {"config.ini", "data/pos3.mdb"})
-      fs::permissions(folder_.file(name), fs::perms(0644));
     posMod pos(folder_.path());
     ASSERT_EQ(pos.OpenDataStore(), "");
+    const std::string shop = pos.gConn->source().path.string();
+    const std::string secrets[] = {shop, shop + "-wal", folder_.file("data/pos3.mdb")};
+    for (const std::string& name : secrets) fs::permissions(name, fs::perms(0664));
+    fs::permissions(folder_.file("config.ini"), fs::perms(0644));
     EXPECT_EQ(pos.protectFiles(), "");
-    EXPECT_EQ(fs::status(folder_.file("data/pos3.mdb")).permissions(), fs::perms(0600));
+    for (const std::string& name : secrets)
+      EXPECT_EQ(fs::status(name).permissions(), fs::perms(0600)) << name;
     EXPECT_EQ(fs::status(folder_.file("config.ini")).permissions(), fs::perms(configAfterwards))
         << path;
   }

@@ -17,7 +17,7 @@ Currency money(const char* text) {
 }
 
 // The rows are tenths of the last kept digit, once for each rule and each place it is used at.
-TEST(Currency, RoundsByTheNamedRule) {
+TEST(CurrencyTest, RoundsByTheNamedRule) {
   struct Row {
     int tenths, even, away;
   };
@@ -42,7 +42,7 @@ TEST(Currency, RoundsByTheNamedRule) {
   }
 }
 
-TEST(Currency, LineAmountIsTheDecimalProduct) {
+TEST(CurrencyTest, LineAmountIsTheDecimalProduct) {
   struct Row {
     const char* price;
     double quantity, discount;
@@ -62,7 +62,7 @@ TEST(Currency, LineAmountIsTheDecimalProduct) {
   EXPECT_EQ(lineAmount(money("0.05"), 1, Discount(0.9F)), money("0.05"));
 }
 
-TEST(Currency, OverflowIsAFailureAndNeverAWrongSum) {
+TEST(CurrencyTest, OverflowIsAFailureAndNeverAWrongSum) {
   const Currency most = Currency::fromScaled(kLargest);
   const Currency least = Currency::fromScaled(kSmallest);
   const Currency bit = Currency::fromScaled(1);
@@ -78,7 +78,7 @@ TEST(Currency, OverflowIsAFailureAndNeverAWrongSum) {
   EXPECT_THROW(lineAmount(most, 1, Discount(1e30)), Overflow);
 }
 
-TEST(Currency, TextAndBackKeepsEveryDigit) {
+TEST(CurrencyTest, TextAndBackKeepsEveryDigit) {
   struct Row {
     std::int64_t scaled;
     const char *general, *two, *one;
@@ -100,7 +100,7 @@ TEST(Currency, TextAndBackKeepsEveryDigit) {
   }
 }
 
-TEST(Currency, PointsRoundTheWholeSum) {
+TEST(CurrencyTest, PointsRoundTheWholeSum) {
   EXPECT_EQ(pointsAfter(money("25"), 10, 0), 2);
   EXPECT_EQ(pointsAfter(money("25"), 10, 1), 4);  // 3.5
   EXPECT_EQ(pointsAfter(money("-25"), 10, 1), -2);

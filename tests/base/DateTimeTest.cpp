@@ -6,19 +6,15 @@ namespace {
 
 const DateTime kSunday{{2026, 11, 22}, 9, 5, 3};
 
-TEST(DateTime, Texts) {
+TEST(DateTimeTest, IsWrittenAsPeopleAndTheDataFileHaveIt) {
   const DateTime midnight{{2026, 1, 2}};
   EXPECT_EQ(generalText(kSunday), "2026-11-22 09:05:03");
   EXPECT_EQ(generalText(midnight), "2026-01-02");
   EXPECT_EQ(storedText({{33, 1, 2}}), "0033-01-02 00:00:00");
   EXPECT_EQ(accessLiteral(kSunday), "#2026-11-22 09:05:03#");
-  for (const DateTime& value : {kSunday, midnight, DateTime{{9999, 12, 31}, 23, 59, 59}}) {
-    EXPECT_EQ(parseAccessLiteral(accessLiteral(value)), value);
-    EXPECT_EQ(parseDateTime(storedText(value)), value);
-  }
 }
 
-TEST(DateTime, ReadsWhatPeopleTypeAndRefusesTheRest) {
+TEST(DateTimeTest, ReadsWhatPeopleTypeAndRefusesTheRest) {
   const std::pair<const char*, DateTime> rows[] = {
       {"2026/11/22 9:5:03", kSunday},
       {" 2026-11-22 09:05 ", {{2026, 11, 22}, 9, 5, 0}},
@@ -31,7 +27,7 @@ TEST(DateTime, ReadsWhatPeopleTypeAndRefusesTheRest) {
   }
 }
 
-TEST(DateTime, ReadsDatesAndTimesTypedInAnyOrderlyForm) {
+TEST(DateTimeTest, ReadsDatesAndTimesTypedInAnyOrderlyForm) {
   const Date day = kSunday.date;
   for (const char* text : {"20261122", "2026-11-22", "2026/11/22", " 2026.11.22 ", "1122", "11.22",
                            "２０２６－１１－２２"})
@@ -48,7 +44,7 @@ TEST(DateTime, ReadsDatesAndTimesTypedInAnyOrderlyForm) {
     EXPECT_EQ(parseTypedTime(text, day), std::nullopt) << text;
 }
 
-TEST(DateTime, PlusDaysFollowsTheCalendar) {
+TEST(DateTimeTest, PlusDaysFollowsTheCalendar) {
   EXPECT_EQ(plusDays({2024, 2, 28}, 2), (Date{2024, 3, 1}));
   EXPECT_EQ(plusDays({2026, 1, 1}, -1), (Date{2025, 12, 31}));
   EXPECT_EQ(plusDays({2026, 1, 1}, -2147483647 - 1), (Date{1, 1, 1}));

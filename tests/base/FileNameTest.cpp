@@ -8,7 +8,7 @@
 
 namespace {
 
-TEST(FileName, FindsWhateverTheCase) {
+TEST(FileNameTest, FindsWhateverTheCase) {
   const TemporaryFolder folder;
   const std::string root = folder.path().string();
   std::filesystem::create_directory(root + "/data");

@@ -4,7 +4,7 @@
 
 namespace {
 
-TEST(Gbk, EncodesAndSubstitutes) {
+TEST(GbkTest, EncodesAndSubstitutes) {
   const std::pair<std::string, std::string> rows[] = {
       {"Cola 330ml", "Cola 330ml"},
       {"中a文", "\xD6\xD0\x61\xCE\xC4"},
@@ -21,7 +21,7 @@ TEST(Gbk, EncodesAndSubstitutes) {
 }
 
 // The printed columns stand or fall with this: what is counted is what is sent.
-TEST(Gbk, EveryCharacterIsTwoColumnsAndComesBack) {
+TEST(GbkTest, EveryCharacterIsTwoColumnsAndComesBack) {
   int characters = 0;
   for (int pair = 0x8140; pair <= 0xFEFE; ++pair) {
     const std::string bytes = {static_cast<char>(pair >> 8), static_cast<char>(pair & 0xFF)};
@@ -34,7 +34,7 @@ TEST(Gbk, EveryCharacterIsTwoColumnsAndComesBack) {
   EXPECT_GT(characters, 21000);
 }
 
-TEST(Gbk, DecodesBrokenBytesInStep) {
+TEST(GbkTest, DecodesBrokenBytesInStep) {
   const std::pair<std::string, std::string> rows[] = {
       {"\xD6", "\uFFFD"},
       {"\x80\xFF\xD6\xD0", "€\uFFFD中"},
@@ -43,7 +43,7 @@ TEST(Gbk, DecodesBrokenBytesInStep) {
   for (const auto& [bytes, text] : rows) EXPECT_EQ(gbk::decode(bytes), text);
 }
 
-TEST(Gbk, FitsColumnsWithoutCuttingACharacter) {
+TEST(GbkTest, FitsColumnsWithoutCuttingACharacter) {
   EXPECT_EQ(gbk::cut("a中文", 2), "a");
   EXPECT_EQ(gbk::cut("a中文", 3), "a中");
   EXPECT_EQ(gbk::cut("\xFF\xFF", 3), "\xFF");

@@ -9,7 +9,7 @@
 
 namespace {
 
-TEST(NumberText, GeneralForm) {
+TEST(NumberTextTest, WritesTheGeneralForm) {
   using Row = std::pair<double, const char*>;
   for (const auto& [value, text] :
        {Row{0, "0"}, Row{-0.0, "0"}, Row{0.1 + 0.2, "0.3"}, Row{-12.5, "-12.5"}, Row{100, "100"},
@@ -19,7 +19,7 @@ TEST(NumberText, GeneralForm) {
   EXPECT_THROW(generalNumber(std::numeric_limits<double>::infinity()), Overflow);
 }
 
-TEST(NumberText, ReadsWhatPeopleType) {
+TEST(NumberTextTest, ReadsWhatPeopleType) {
   using Row = std::pair<const char*, double>;
   for (const auto& [text, value] :
        {Row{"12", 12}, Row{" +12.50\t", 12.5}, Row{"-.5", -0.5}, Row{"5.", 5}, Row{"０１．５", 1.5},
@@ -34,7 +34,7 @@ TEST(NumberText, ReadsWhatPeopleType) {
   EXPECT_EQ(parseNumber(std::string(10000, '7')), std::nullopt);
 }
 
-TEST(NumberText, WholeNumbersFitOrAreNothing) {
+TEST(NumberTextTest, WholeNumbersFitOrAreNothing) {
   EXPECT_EQ(parseWhole16("32767.4"), 32767);
   EXPECT_EQ(parseWhole16("32767.5"), std::nullopt);
   EXPECT_EQ(parseWhole16("-32768.5"), -32768);
@@ -43,7 +43,7 @@ TEST(NumberText, WholeNumbersFitOrAreNothing) {
   EXPECT_THROW(wholeHalfEven(std::numeric_limits<double>::quiet_NaN()), Overflow);
 }
 
-TEST(NumberText, QuantitiesSumWithoutDrift) {
+TEST(NumberTextTest, QuantitiesSumWithoutDrift) {
   double stock = 100.3;
   for (int i = 0; i < 1000; ++i) stock = roundedQuantity(stock - 0.1);
   EXPECT_EQ(stock, 0.3);
@@ -51,7 +51,7 @@ TEST(NumberText, QuantitiesSumWithoutDrift) {
   EXPECT_EQ(generalNumber(roundedQuantity(-0.0000001)), "0");
 }
 
-TEST(Discount, IsTheDecimalThatItShows) {
+TEST(DiscountTest, IsTheDecimalThatItShows) {
   EXPECT_EQ(generalNumber(Discount(0.9F)), "0.9");
   EXPECT_EQ(Discount(0.85F), Discount(0.85));
   EXPECT_EQ(generalNumber(Discount(0.12345675)), "0.1234568");

@@ -6,7 +6,7 @@
 
 namespace {
 
-TEST(Text, TakesWhatPeopleType) {
+TEST(TextTest, TakesWhatPeopleType) {
   EXPECT_EQ(trimmed(" \t\u3000 a\u3000b \r\n\u3000"), "a\u3000b");
   EXPECT_EQ(halfWidth("Ａｂ１２．５－！～\u3000中、\xFF"), "Ab12.5-!~ 中、\xFF");
   EXPECT_EQ(characters("a中😀\xE4"), 4U);
@@ -19,7 +19,7 @@ TEST(Text, TakesWhatPeopleType) {
   EXPECT_EQ(replaced("it's 'x'", "'", "''"), "it''s ''x''");
 }
 
-TEST(Ensure, StopsOnABug) {
+TEST(EnsureTest, StopsOnABug) {
   EXPECT_DEATH(ensure(false, "totals add up"), "TextTest.cpp.*totals add up");
 }
 

@@ -7,6 +7,7 @@
 
 #include "Hands.h"
 #include "shell/TestTill.h"
+#include "store/Connection.h"
 
 /// A till with one member, 王芳 with the card 88001234 and 50 yuan on it, and the hands in front.
 class MembersTill : public testing::Test {

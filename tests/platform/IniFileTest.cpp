@@ -80,17 +80,6 @@ TEST_F(IniFileTest, WritesNothingButTheValue) {
   }
 }
 
-TEST_F(IniFileTest, EveryValueReadsBackTheSame) {
-  put("");
-  for (const std::string value :
-       {"  two  ", "\"q\"", "'q'", "\"", "\"half", "%n;[x]=", "直接打印1联", "a 'b' c", " ", ""}) {
-    EXPECT_TRUE(ini_.write("Q", "0QK", value));
-    EXPECT_EQ(ini_.read("q", "0qk"), value);
-  }
-  EXPECT_TRUE(ini_.write("POS", "printAmount", "打印"));
-  EXPECT_THAT(content(), testing::HasSubstr("\xB4\xF2\xD3\xA1"));  // GBK
-}
-
 TEST_F(IniFileTest, SurvivesWhatIsNoWritableFile) {
   EXPECT_EQ(ini_.read("POS", "PPort"), std::nullopt);
   EXPECT_FALSE(IniFile(folder_.file("no/such/Config.ini")).write("POS", "a", "1"));

@@ -95,9 +95,13 @@ TEST(PagePrinterTest, ARollLongerThanAPageContinuesOnTheNext) {
 
 TEST(PagePrinterTest, SaysThatThereIsNowhereToPrint) {
   const TemporaryFolder folder;
-  EXPECT_THROW(PagePrinter(80, folder.path() / "missing").print(receipt("r", 1)), PortError);
   qputenv("CUPS_SERVER", "/nonexistent/cups.sock");  // so that no real printer answers
-  EXPECT_THROW(PagePrinter(80).print(receipt("r", 1)), PortError);
+  const std::pair<fs::path, const char*> cases[] = {
+      {folder.path() / "missing", "写不进：文件夹不存在"}, {{}, "没有默认打印机"}};
+  for (const auto& [to, why] : cases) {
+    EXPECT_THAT([&] { PagePrinter(80, to).print(receipt("r", 1)); },
+                testing::ThrowsMessage<PortError>(testing::HasSubstr(why)));
+  }
 }
 
 }  // namespace

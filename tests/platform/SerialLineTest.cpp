@@ -35,8 +35,10 @@ TEST(SerialLineTest, StuckLineNeitherWaitsNorGathers) {
 }
 
 TEST(SerialLineTest, SaysThatTheLineIsMissingOrGone) {
-  EXPECT_THROW(SerialLine("COM3", "/dev/till-no-such-line"), PortError);
-  EXPECT_THROW(SerialLine("COM3", "/dev/null"), PortError);
+  for (const char* path : {"/dev/till-no-such-line", "/dev/null"}) {
+    EXPECT_THAT([&] { SerialLine("COM3", path); },
+                testing::ThrowsMessage<PortError>(testing::HasSubstr("端口 COM3 打不开：")));
+  }
   PseudoTerminal terminal;
   SerialLine line("COM1", terminal.path());
   terminal.unplug();

@@ -8,6 +8,7 @@
 
 #include "TemporaryFolder.h"
 #include "app/posMod.h"
+#include "store/Connection.h"
 #include "store/DataFile.h"
 #include "store/Transaction.h"
 

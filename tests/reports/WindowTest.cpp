@@ -37,13 +37,9 @@ void tabTo(QWidget& window, const char* control) {
   EXPECT_EQ(window.focusWidget()->objectName(), control);
 }
 
-QString boxText(QWidget& box) {
-  return qobject_cast<QMessageBox*>(&box)->text();
-}
-
 void answer(Hands& hands, const char* text) {
   hands.at("messageBox", [text](QWidget& box) {
-    EXPECT_EQ(boxText(box), text);
+    EXPECT_EQ(qobject_cast<QMessageBox*>(&box)->text(), text);
     Hands::pressNow(Key_Return);
   });
 }
@@ -66,10 +62,16 @@ TEST(frmCountTest, ShowsTheDayAndPrintsTheSheet) {
   shop.settle(3, "2026-11-22 09:05:03", 1.25, "12");
   shop.settle(4, "2026-11-22 10:00:00", 2, "0.5");
   shop.settle(5, "2026-11-21 23:59:59", 9, "99");
+  shop.settle(6, "2026-11-22 11:00:00", 9, "99");
+  shop.store().run("update sell set operator_id = 8 where id = 6");
   shop.store().run("update sell set phone_pay = 0.5 where id >= 4");
   ASSERT_EQ(shop.pos().gSysParam.set("PhonePay", "1"), "");
   hands.at("frmCount", [&](QWidget& form) {
-    EXPECT_EQ(cell(form, "listSell", 0, 1) + cell(form, "listSell", 1, 5), "12.000.50");
+    QStringList rows;
+    for (int i = 0; i < 12; ++i) rows += cell(form, "listSell", i / 6, i % 6);
+    EXPECT_EQ(rows.join('|'),
+              "3|12.00|1.25|2026-11-22 09:05:03|张三|0.00|"
+              "4|0.50|2|2026-11-22 10:00:00|张三|0.50");
     EXPECT_TRUE(caption(form, "lblMsg").endsWith("交易额 [12.50] 元，其中扫码 [0.50] 元"));
     tabTo(form, "print1");
     for (const char* port : {"LPT1", "USB", "usb"}) {

@@ -16,7 +16,10 @@ class Shop : public testing::Test {
   const Clock clock = [this] { return now; };
 
   ClsSell openBill(std::int32_t operatorId = 1) {
-    connection.run("insert or ignore into operators values (?, '张三', '01', '-', 0)", operatorId);
+    connection.run(
+        "insert into operators (id, name, code, password) select ?, '张三', '01', '-'"
+        " where not exists (select 1 from operators where id = ?)",
+        operatorId, operatorId);
     ClsSell bill;
     EXPECT_TRUE(bill.Open(connection, 0, operatorId, clock));
     return bill;

@@ -6,6 +6,7 @@
 #include "app/posMod.h"
 #include "base/Failure.h"
 #include "saleslib/ClsOperator.h"
+#include "store/Connection.h"
 #include "store/DataFile.h"
 
 /// A till on a data file of its own: operator 1 may sell with password 111, operator 3 may not with

@@ -40,7 +40,7 @@ TEST_F(frmLoginTest, ARefusalKeepsTheTextsUntilTypedOverAndCancelLogsNobodyIn) {
   });
   EXPECT_EQ(login_.goLogin(), frmLogin::kCancelled);
   EXPECT_FALSE(till_.pos.gOperator);
-  EXPECT_FALSE(said_.at(0).empty());
+  EXPECT_EQ(said_.at(0), "用户编号或密码不正确！");
 }
 
 TEST_F(frmLoginTest, WithoutTheRightToSellNobodyIsLoggedIn) {

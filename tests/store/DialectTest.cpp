@@ -9,13 +9,8 @@ using namespace std::string_literals;
 
 namespace {
 
-TEST(Dialect, MakesEveryLiteralAValue) {
-  struct Case {
-    std::string statement;
-    const char* text;
-    std::vector<Value> values;
-  };
-  const std::vector<Case> cases = {
+TEST(DialectTest, MakesEveryLiteralAValue) {
+  const std::tuple<std::string, const char*, std::vector<Value>> cases[] = {
       {"select * from tmda where sptm='6901234567892'",
        "select * from tmda where sptm=? ",
        {"6901234567892"s}},
@@ -40,20 +35,31 @@ TEST(Dialect, MakesEveryLiteralAValue) {
        "select (select a from b order by 1), ? ",
        {std::int64_t{2}}},
   };
-  for (const Case& one : cases) {
-    const EngineStatement made = translate(one.statement);
-    EXPECT_EQ(made.text, one.text);
-    EXPECT_EQ(made.values, one.values) << one.statement;
+  for (const auto& [statement, text, values] : cases) {
+    const EngineStatement made = translate(statement);
+    EXPECT_EQ(made.text, text);
+    EXPECT_EQ(made.values, values) << statement;
   }
 }
 
-TEST(Dialect, RefusesWhatNoStatementCanBe) {
-  for (const std::string& statement :
-       {"select 'a''"s, "select #2026-02-30#"s, "select #2026-11-22"s, "select [a"s,
-        "select [a\"b]"s, "select \"a"s, "select 1 -- x"s, "select /* x */ 1"s,
-        "select 1; delete from sell"s, "select a\0b"s, "select ?"s, "select :a"s, "select `a`"s,
-        "select 12ab"s, "select 1e999"s}) {
-    EXPECT_THROW(translate(statement), StoreError) << statement;
+TEST(DialectTest, RefusesWhatNoStatementCanBe) {
+  const std::pair<const char*, std::vector<std::string>> cases[] = {
+      {"引号没有结束", {"select 'a''"}},
+      {"没有这个日期", {"select #2026-02-30#"}},
+      {"日期没有结束", {"select #2026-11-22"}},
+      {"名称没有结束", {"select [a", "select \"a"}},
+      {"没有这个名称", {"select [a\"b]"}},
+      {"不能有注释", {"select 1 -- x", "select /* x */ 1"}},
+      {"只能有一条语句", {"select 1; delete from sell"}},
+      {"有不认识的字符", {"select a\0b"s, "select ?", "select :a", "select `a`"}},
+      {"数字写法不对", {"select 12ab"}},
+      {"数字太大", {"select 1e999"}}};
+  for (const auto& [why, statements] : cases) {
+    for (const std::string& statement : statements) {
+      EXPECT_THAT([&] { translate(statement); },
+                  testing::ThrowsMessage<StoreError>(testing::HasSubstr(why)))
+          << statement;
+    }
   }
 }
 

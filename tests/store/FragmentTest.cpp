@@ -5,6 +5,7 @@
 
 #include "TemporaryFolder.h"
 #include "store/Connection.h"
+#include "store/DataFile.h"
 #include "store/Dialect.h"
 #include "store/FragmentIndex.h"
 #include "store/Literal.h"
@@ -150,24 +151,6 @@ TEST_F(FragmentTest, AnImportLeavesNoListBehindAndAnotherProgramsIsTakenInAtTheN
   EXPECT_EQ(written(), 0U);
   EXPECT_TRUE(fragmentIndexIsRight(*connection_));
   EXPECT_EQ(connection_->Open("select * from tmda where ggxh like '%gx19%'").count(), 111U);
-}
-
-TEST_F(FragmentTest, ADamagedIndexIsNoticedAndMadeNew) {
-  for (const char* damage : {"insert into tmda_fragments (docid, ggxh) values (77, 'other ')",
-                             "delete from spda_written", "delete from tmda_fragments_segdir",
-                             "update tmda_fragments_segdir set root = x'00ff', end_block = 'x'"}) {
-    addGoods("500ml");
-    updateFragmentIndex(*connection_);
-    addGoods("600ml");
-    ASSERT_TRUE(fragmentIndexIsRight(*connection_));
-    connection_->run(damage);
-    EXPECT_FALSE(fragmentIndexIsRight(*connection_)) << damage;
-    connection_.reset();
-    connection_ = openDataFile(source_);
-    rebuildFragmentIndex(*connection_);
-    EXPECT_TRUE(fragmentIndexIsRight(*connection_)) << damage;
-    expectEqualsScan("00ml");
-  }
 }
 
 TEST_F(FragmentTest, LookUpsAreDrivenByTheIndex) {

@@ -4,6 +4,7 @@
 
 #include "TemporaryFolder.h"
 #include "store/Connection.h"
+#include "store/DataFile.h"
 #include "store/Literal.h"
 #include "store/StoreError.h"
 
@@ -17,6 +18,11 @@ class StatementTest : public testing::Test {
 
   std::size_t count(const std::string& from) {
     return connection_->Open("select 1 from " + from).count();
+  }
+
+  template <class Step>
+  static void expectFault(Step step, const char* text) {
+    EXPECT_THAT(step, testing::ThrowsMessage<StoreError>(testing::HasSubstr(text)));
   }
 
   TemporaryFolder folder_;
@@ -42,23 +48,16 @@ TEST_F(StatementTest, ValuesComeBackExactlyAndAsTheTypeAskedFor) {
   EXPECT_TRUE(rows.isNull("cxj"));
   EXPECT_EQ(rows.currency("cxj"), std::nullopt);
   EXPECT_EQ(rows.text("cxj"), "");
-  EXPECT_THROW((void)rows.currency("sptm"), StoreError);
-  EXPECT_THROW((void)rows.dateTime("sptm"), StoreError);
-  EXPECT_THROW((void)rows.number("nowhere"), StoreError);
-  EXPECT_THROW((void)rows.whole("zk"), StoreError);
+  expectFault([&] { (void)rows.currency("sptm"); }, "“sptm”的内容不是金额");
+  expectFault([&] { (void)rows.dateTime("sptm"); }, "“sptm”的内容不是日期");
+  expectFault([&] { (void)rows.number("nowhere"); }, "没有“nowhere”这一列");
+  expectFault([&] { (void)rows.whole("zk"); }, "“zk”的内容不是整数");
   EXPECT_FALSE(rows.next());
   EXPECT_FALSE(rows.next()) << "the end must not be the beginning";
-}
-
-TEST_F(StatementTest, EveryAmountSurvivesTheDataFile) {
-  connection_->run("insert into stock (spbm, quantity) values ('m', 0)");
-  for (const std::int64_t scaled : std::vector<std::int64_t>{1, 9999, 10001, 123456789, -1005,
-                                                             99999999999999, 9007199254740991}) {
+  for (const std::int64_t scaled : {1L, 9999L, -1005L, 99999999999999L, 9007199254740991L}) {
     const Currency money = Currency::fromScaled(scaled);
-    EXPECT_EQ(connection_->run("update stock set quantity = ?", money), 1);
-    Rows rows = connection_->query("select quantity from stock");
-    ASSERT_TRUE(rows.next());
-    EXPECT_EQ(rows.currency("quantity"), money) << scaled;
+    EXPECT_EQ(connection_->run("update tmda set xsdj = ?", money), 1);
+    EXPECT_EQ(connection_->Open("select xsdj from tmda").row(0).currency("xsdj"), money);
   }
 }
 
@@ -109,11 +108,10 @@ TEST_F(StatementTest, QueriesNestAndSurviveAChangeOfTables) {
 }
 
 TEST_F(StatementTest, FaultsLeaveTheConnectionUsable) {
-  EXPECT_THROW(connection_->Execute(""), StoreError);
-  EXPECT_THROW(connection_->run("delete from sell; delete from member"), StoreError);
+  expectFault([&] { connection_->Execute(""); }, "不是一条语句");
+  expectFault([&] { connection_->run("delete from sell; delete from member"); }, "不是一条语句");
   connection_->run("insert into stock values ('a', 1)");
-  EXPECT_THAT([&] { connection_->run("insert into stock values ('A', 1)"); },
-              testing::ThrowsMessage<StoreError>(testing::HasSubstr("冲突")));
+  expectFault([&] { connection_->run("insert into stock values ('A', 1)"); }, "冲突");
   EXPECT_EQ(count("stock"), 1U);
 }
 

@@ -6,6 +6,7 @@
 
 #include "TemporaryFolder.h"
 #include "store/Connection.h"
+#include "store/DataFile.h"
 #include "store/Snapshot.h"
 #include "store/StoreError.h"
 
@@ -75,8 +76,9 @@ TEST_F(TransactionTest, WhatTheEngineTookBackByItselfIsNotHalfKept) {
     Transaction outer(*connection_);
     put("a");
     connection_->runScript("rollback");  // as the engine does on a failing disk
-    EXPECT_THROW(put("b"), StoreError) << "would be a commit of its own";
-    EXPECT_THROW(outer.commit(), StoreError);
+    const auto refusal = testing::ThrowsMessage<StoreError>(testing::HasSubstr("全部撤销"));
+    EXPECT_THAT([&] { put("b"); }, refusal) << "would be a commit of its own";
+    EXPECT_THAT([&] { outer.commit(); }, refusal);
   }
   EXPECT_EQ(codes(*connection_), "");
 }

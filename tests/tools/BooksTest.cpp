@@ -10,7 +10,7 @@ namespace {
 
 using testing::HasSubstr;
 
-struct Books : testing::Test {
+struct BooksTest : testing::Test {
   Owner owner;
   // A settled bill of two lines with a return, and an open bill that is being rung.
   void SetUp() override {
@@ -33,7 +33,7 @@ struct Books : testing::Test {
   }
 };
 
-TEST_F(Books, AreRightWithWhatTheTillWritesAndWhileItWrites) {
+TEST_F(BooksTest, AreRightWithWhatTheTillWritesAndWhileItWrites) {
   const std::unique_ptr<Connection> till = owner.open();
   till->run("begin immediate");
   till->run("update sell set quantity = 99 where id = 1");
@@ -57,7 +57,7 @@ TEST_F(Books, AreRightWithWhatTheTillWritesAndWhileItWrites) {
   EXPECT_THAT(owner.out, HasSubstr("单据 1 和 2 的付款码相同：28A"));
 }
 
-TEST_F(Books, NameEachFault) {
+TEST_F(BooksTest, NameEachFault) {
   const struct {
     const char* damage;
     const char* fault;
@@ -128,13 +128,13 @@ TEST_F(Books, NameEachFault) {
   }
 }
 
-TEST_F(Books, AreNotCalledRightWhenTheFileIsDamaged) {
+TEST_F(BooksTest, AreNotCalledRightWhenTheFileIsDamaged) {
   owner.scratchShop();
   EXPECT_EQ(owner.run({"check", owner.shop}), 1);
   EXPECT_THAT(owner.out + owner.err, testing::Not(HasSubstr("账目正确")));
 }
 
-TEST_F(Books, MissPurchasesThatWereNotCredited) {
+TEST_F(BooksTest, MissPurchasesThatWereNotCredited) {
   owner.execute(
       "insert into member (bh, total_spent, join_date) values ('8003', 4.99, '2026-01-01 "
       "00:00:00')");
@@ -145,7 +145,7 @@ TEST_F(Books, MissPurchasesThatWereNotCredited) {
   EXPECT_THAT(owner.out, HasSubstr("会员 8003 的累计消费是 4.99，少于已结单据减去退款的合计 5"));
 }
 
-TEST_F(Books, TellWhatACardCannotHold) {
+TEST_F(BooksTest, TellWhatACardCannotHold) {
   owner.open()->runScript(R"(
     insert into member (bh, card, join_date) values ('8001', 45, '2026-01-01 00:00:00');
     insert into cardStored (cardbh, addmoney, inMoney, commerce, complete)
@@ -160,7 +160,7 @@ TEST_F(Books, TellWhatACardCannotHold) {
   }
 }
 
-TEST_F(Books, TakeABillOfAWronglySetClockBack) {
+TEST_F(BooksTest, TakeABillOfAWronglySetClockBack) {
   const std::vector<std::string> redate = {"bill", "redate", owner.shop, "1"};
   EXPECT_EQ(owner.run(redate), 1) << "nothing is wrong with it";
   owner.execute("update sell set sell_time = '2031-01-01 09:00:00' where id = 1");
@@ -178,18 +178,18 @@ TEST_F(Books, TakeABillOfAWronglySetClockBack) {
   EXPECT_EQ(owner.run({"check", owner.shop}), 0) << owner.out;
 }
 
-TEST_F(Books, RepairMakesTheGoodsIndexNew) {
+TEST_F(BooksTest, RepairMakesTheGoodsIndexNew) {
   owner.execute("insert into spda (f_spbm, f_Ggxh) values ('C', '500ml')");
-  owner.execute("delete from spda_written");
-  const auto finds = [this] {
-    return owner.open()->Open("select f_spbm from spda where f_Ggxh like '%00ml%'").count();
-  };
-  ASSERT_EQ(finds(), 0U);
-  EXPECT_EQ(owner.run({"check", owner.shop, "--repair"}), 0) << owner.out << owner.err;
-  EXPECT_THAT(owner.out, HasSubstr("已重建"));
-  EXPECT_EQ(finds(), 1U);
-  EXPECT_EQ(owner.run({"check", owner.shop, "--repair"}), 0);
-  EXPECT_THAT(owner.out, testing::Not(HasSubstr("重建")));
+  for (const char* damage : {"delete from spda_written", "delete from spda_fragments_segdir",
+                             "insert into spda_fragments (docid, f_Ggxh) values (77, 'other ')",
+                             "update spda_fragments_segdir set root = x'00ff', end_block = 'x'"}) {
+    owner.execute(damage);
+    EXPECT_EQ(owner.run({"check", owner.shop, "--repair"}), 0) << damage << owner.out << owner.err;
+    EXPECT_THAT(owner.out, HasSubstr("已重建")) << damage;
+    EXPECT_EQ(owner.open()->Open("select f_spbm from spda where f_Ggxh like '%00ml%'").count(), 1U);
+    EXPECT_EQ(owner.run({"check", owner.shop, "--repair"}), 0);
+    EXPECT_THAT(owner.out, testing::Not(HasSubstr("重建")));
+  }
 }
 
 }  // namespace

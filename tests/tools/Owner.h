@@ -10,6 +10,7 @@
 
 #include "TemporaryFolder.h"
 #include "store/Connection.h"
+#include "store/DataFile.h"
 #include "tools/Tool.h"
 
 /// An owner at the command line, with a folder, a day and a data file named `shop`. That file has

@@ -1,12 +1,11 @@
-#include <algorithm>
+#include "store/Integrity.h"
+
 #include <set>
 #include <sstream>
-#include <string>
 
 #include "base/Text.h"
 #include "store/Connection.h"
 #include "store/Schema.h"
-#include "tools/Examination.h"
 
 namespace {
 
@@ -33,17 +32,33 @@ std::set<std::string> namesMade() {
 
 }  // namespace
 
-void examineSchema(const Examination& books) {
+std::vector<std::string> fileFaults(Connection& connection) {
+  std::vector<std::string> faults;
+  Rows rows = connection.query("pragma integrity_check");
+  while (rows.next()) {
+    const std::string answer = rows.text("integrity_check");
+    if (answer != "ok") faults.push_back(answer);
+  }
+  return faults;
+}
+
+// The engine's own are left out, and the tables in which it keeps an index of fragments.
+SchemaDifference schemaDifference(Connection& connection) {
+  SchemaDifference difference;
   std::set<std::string> missing = namesMade();
-  // The engine's own, and the tables in which it keeps an index of fragments.
-  Rows rows = books.connection.query(
+  Rows rows = connection.query(
       "select type, name from sqlite_master where name not like 'sqlite\\_%' escape '\\'"
       " and name not like '%\\_fragments\\_%' escape '\\' order by name");
   while (rows.next()) {
     if (missing.erase(asciiLower(rows.text("name"))) > 0) continue;
-    books.fault("数据文件里多了本程序没有的东西：" + rows.text("type") + " " + rows.text("name"));
+    difference.added.push_back(rows.text("type") + " " + rows.text("name"));
   }
-  for (const std::string& name : missing) {
-    books.fault("数据文件里少了本程序要用的东西：" + name);
-  }
+  difference.missing.assign(missing.begin(), missing.end());
+  return difference;
+}
+
+std::int64_t lastNumberGiven(Connection& connection, const std::string& table) {
+  Rows rows =
+      connection.query("select max(seq) as last from sqlite_sequence where name = ?", table);
+  return rows.next() ? rows.whole("last").value_or(0) : 0;
 }

@@ -1,16 +1,15 @@
-#include "tools/CsvReader.h"
+#include "base/CsvReader.h"
 
 #include <algorithm>
 #include <string_view>
 
+#include "base/CsvRow.h"
 #include "base/Gbk.h"
 #include "base/Utf8.h"
-#include "tools/Refusal.h"
 
 namespace {
 
 constexpr std::size_t kLongestRow = 1 << 20;
-constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
 constexpr std::string_view kReplacement = "\xEF\xBF\xBD";  // U+FFFD
 constexpr std::size_t kLongestCharacter = 4;
 
@@ -60,10 +59,10 @@ CsvReader::CsvReader(std::istream& in) : in_(in) {
   rewind(in_, 0);
   in_.seekg(0, std::ios::end);
   size_ = in_.tellg();
-  std::string mark(kByteOrderMark.size(), '\0');
+  std::string mark(kUtf8Mark.size(), '\0');
   rewind(in_, 0);
   in_.read(mark.data(), static_cast<std::streamsize>(mark.size()));
-  if (mark == kByteOrderMark) {
+  if (mark == kUtf8Mark) {
     isUtf8_ = true;
     in_.clear();
   } else {
@@ -167,5 +166,5 @@ void CsvReader::toUtf8(std::string& field) const {
 }
 
 void CsvReader::refuse(const char* reason) const {
-  throw Refusal("第 " + std::to_string(rowLine_) + " 行" + reason);
+  throw CsvError("第 " + std::to_string(rowLine_) + " 行" + reason);
 }

@@ -7,6 +7,14 @@
 #include <string>
 #include <vector>
 
+#include "base/Failure.h"
+
+/// A text that is no comma-separated values; the message names the line.
+class CsvError : public Failure {
+ public:
+  using Failure::Failure;
+};
+
 /// Reads comma-separated values (RFC 4180) row by row, as UTF-8. Lines may end with CR LF or LF, a
 /// field in quotes may hold commas, line ends and doubled quotes, and empty lines are passed over.
 /// Memory does not grow with the text: a row has at most 1 MiB.
@@ -17,7 +25,7 @@ class CsvReader {
  public:
   explicit CsvReader(std::istream& in);
 
-  /// The next row's fields; false at the end. Throws Refusal, naming the line, when the text is no
+  /// The next row's fields; false at the end. Throws CsvError when the text is no
   /// such row (an open quote, text around quotes, characters of neither code).
   bool next(std::vector<std::string>& fields);
   /// The line on which the last row began; the first line is 1.

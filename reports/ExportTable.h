@@ -1,0 +1,19 @@
+#pragma once
+
+#include <cstddef>
+#include <functional>
+#include <string>
+#include <vector>
+
+class ResultList;
+
+/// What a file holds: lines of text, below them the list's headings, its lines and its totals row.
+struct ExportTable {
+  std::vector<std::string> above;
+  const ResultList& list;  ///< complete
+};
+
+/// Called now and then with the number of rows written so far; false stops the export.
+using ExportProgress = std::function<bool(std::size_t rows)>;
+/// How many rows are written between two such calls.
+inline constexpr std::size_t kRowsPerProgress = 512;
