@@ -132,9 +132,10 @@ class Layout {
       footer("优惠后实收" + oneDecimal(bill_.Amount() - bill_.Favorable()));
     }
     std::string paid;
-    if (!bill_.Cash().isZero()) paid = "现金" + oneDecimal(bill_.Cash());
-    if (!bill_.BankCard().isZero()) {
-      paid += (paid.empty() ? "银行卡" : " 银行卡") + oneDecimal(bill_.BankCard());
+    for (const TenderKind& kind : tenderKinds()) {
+      const Currency figure = bill_.Tendered(kind.tender);
+      if (kind.form != TenderKind::Form::kReceived || figure.isZero()) continue;
+      paid += (paid.empty() ? "" : " ") + (kind.name + oneDecimal(figure));
     }
     if (!paid.empty()) footer(paid);
     footer(closingFigures(original - bill_.Amount() + bill_.Favorable()));

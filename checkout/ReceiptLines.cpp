@@ -4,6 +4,7 @@
 
 #include "base/Gbk.h"
 #include "base/NumberText.h"
+#include "checkout/SettlementTexts.h"
 #include "devices/Paper.h"
 #include "saleslib/ClsMember.h"
 #include "saleslib/ClsSell.h"
@@ -94,7 +95,7 @@ std::vector<std::string> receiptPayment(const ClsSell& bill, const ReceiptFacts&
   const std::size_t width = columns(paper.line);
   return {gbk::centred("销售时刻(" + shortTime(bill.SellTime()) + ")", width, '-'),
           "原价总计:" + std::to_string(facts.originalTotal) + "应收" + oneDecimal(bill.Amount()) +
-              "现金" + oneDecimal(bill.Cash()) + "银行卡" + oneDecimal(bill.BankCard()) + "储值卡" +
-              oneDecimal(bill.CardPay()) + "找零" + oneDecimal(bill.Change()),
+              tenderFigures(moneyTendersOf(bill, shop), bill, oneDecimal) + "找零" +
+              oneDecimal(bill.Change()),
           gbk::centred("-----------------", width, '-'), shop.ReceiptText2(), shop.ReceiptText3()};
 }

@@ -11,8 +11,8 @@
 struct ShiftSheet {
   std::size_t bills = 0;
   double quantity = 0;
-  std::optional<Currency> money;   ///< nothing when the sum does not fit
-  std::vector<TenderSum> tenders;  ///< of it
+  std::optional<Currency> money;        ///< nothing when the sum does not fit
+  std::vector<TenderSum> tenders = {};  ///< of it
 
   /// The figures, and two lines to sign on.
   LineDocument document() const;

@@ -10,6 +10,7 @@
 #include "saleslib/ClsSell.h"
 #include "saleslib/ClsStock.h"
 #include "saleslib/ClsUnSell.h"
+#include "saleslib/StoredCard.h"
 #include "store/StoreError.h"
 #include "store/Transaction.h"
 
@@ -173,7 +174,7 @@ std::string Returns::store(double quantity, Currency refund) {
   stock.Init(*pos_.gConn, line_->SpCode());
   if (!stock.PutBack(roundedQuantity(record.UnQty() * line_->Ratio()))) return stock.ErrText();
   lowerLine(record.UnQty());
-  if (std::string refusal = debitMember(record.UnMoney()); !refusal.empty()) return refusal;
+  if (bill_->MemberId() > 0) debitPurchase(*pos_.gConn, bill_->MemberId(), record.UnMoney());
   if (!bill_->Save()) return bill_->ErrText();
   all.commit();
   return {};
@@ -185,14 +186,4 @@ void Returns::lowerLine(double quantity) {
   line_->Save();
   bill_->Recalculate();
   if (!bill_->GoodsAmount().isZero()) bill_->setAmount(bill_->GoodsAmount() + rounding);
-}
-
-// A member who has been deleted since has no purchases to lower.
-std::string Returns::debitMember(Currency refund) {
-  if (bill_->MemberId() <= 0) return {};
-  ClsMember member;
-  member.Init(*pos_.gConn, bill_->MemberId());
-  if (member.Id() == 0) return {};
-  member.setTotalSpent(member.TotalSpent() - refund);
-  return member.Save() ? std::string() : member.ErrText();
 }

@@ -63,7 +63,6 @@ class Returns {
   Currency overpaid() const;
   std::string store(double quantity, Currency refund);
   void lowerLine(double quantity);
-  std::string debitMember(Currency refund);
 
   posMod& pos_;
   std::shared_ptr<ClsSell> bill_;

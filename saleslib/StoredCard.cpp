@@ -88,3 +88,8 @@ void creditPurchase(Connection& connection, std::int32_t memberId, Currency amou
       amount, earned, memberId);
   crediting.commit();
 }
+
+void debitPurchase(Connection& connection, std::int32_t memberId, Currency refund) {
+  connection.run("update member set total_spent = round(total_spent - ?, 4) where id = ?", refund,
+                 memberId);
+}

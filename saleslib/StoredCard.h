@@ -46,3 +46,6 @@ TESSALY_API CardResult payByCard(Connection& connection, ClsSell& bill,
 /// have no room for more, stays as it is. Throws StoreError.
 TESSALY_API void creditPurchase(Connection& connection, std::int32_t memberId, Currency amount,
                                 std::int16_t pointUnit);
+/// Takes a refund from what a member has bought; the points stay. A member that is gone has no
+/// purchases. Throws StoreError.
+TESSALY_API void debitPurchase(Connection& connection, std::int32_t memberId, Currency refund);

@@ -75,6 +75,25 @@ TEST_F(EndSell, otherFieldsAreReachedByTabAndLeftByEnter) {
   }));
 }
 
+TEST_F(EndSell, thePhonePaysBehindTheBankCardWhereTheShopTakesIt) {
+  setParameter("PhonePay", "1");
+  EXPECT_TRUE(show([this] {
+    for (const char* name : {"favorable", "salesman", "yhk", "sm"}) {
+      press(Qt::Key_Tab);
+      EXPECT_EQ(focused(), name);
+    }
+    type("88.5");
+    press(Qt::Key_Tab);
+    type("28AB 01 ");
+    press(Qt::Key_Return);
+    EXPECT_EQ(fieldText("smbh") + " " + focused(), "28AB 01 txtInMoney");
+    type("0");
+    EXPECT_EQ(labelText("lbl1"), "0.0");
+    press(Qt::Key_Return);
+  }));
+  EXPECT_EQ(stored("phone_pay || ' ' || phone_slip as v from sell"), "88.5 28AB 01");
+}
+
 TEST_F(EndSell, mappedKeysCountAndTheEnterKeyAlwaysDoes) {
   pos.gKeyBoard.mEnter = 107;  // the "+" of the numeric pad
   pos.gKeyBoard.mEsc = 120;    // F9

@@ -48,6 +48,8 @@ TEST_F(SettlementTest, figuresTypedGoIntoTheBillAtOnce) {
     EXPECT_EQ(settlement.salesmanChanged(each.typed), each.accepted);
     EXPECT_EQ(bill->Salesman(), each.salesman);
   }
+  EXPECT_EQ(settlement.slipChanged("\t２８00\x01\u0085 " + QString(70, '9')),
+            "2800 " + QString(59, '9'));
 }
 
 TEST_F(SettlementTest, changeIsOneDecimalOrNothing) {
