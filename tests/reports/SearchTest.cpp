@@ -81,7 +81,9 @@ TEST(SearchTest, ASlipFindsItsBillAndWhatThePhonePaid) {
                {"9999999999", {"5 A1"}, "7"},
                {"' or ''='", {}, ""}};
   for (const auto& c : cases) {
-    SearchCriteria criteria{.start = {{2026, 11, 22}}, .end = {{2026, 11, 23}}};
+    SearchCriteria criteria;
+    criteria.start = {{2026, 11, 22}};
+    criteria.end = {{2026, 11, 23}};
     criteria.billNo = c.typed;
     criteria.takesSlips = true;
     EXPECT_EQ(found(shop.store(), searchStatement(criteria).value()), c.lines);
