@@ -5,12 +5,10 @@ using enum CardOutcome;
 
 class SettlementTest : public CheckoutFixture {
  protected:
-  SettlementTest() {
-    enter("水", "88.50");
-    connect("", "", "COM1");
-  }
+  SettlementTest() { enter("水", "88.50"); }
   std::string balance() { return stored("card as v from member where bh='8001'"); }
 
+  const bool isConnected = (connect("", "", "COM1"), true);
   Settlement settlement = CheckoutFixture::settlement();
 };
 

@@ -30,7 +30,10 @@ const std::map<Device, std::string> kDevices = {
 
 class DeviceTest : public TillFixture {
  protected:
-  DeviceTest() { ports.isReal = true; }
+  DeviceTest() {
+    ports.isReal = true;
+    std::filesystem::create_directories(folder.path() / "pdf");
+  }
 
   /// The path of such a device.
   std::string make(Device device, const std::string& port) {

@@ -179,7 +179,8 @@ class TypedTextTest : public WithSpy, public TillFixture {
     EXPECT_EQ(row.row(0).text("v"), text) << "stored as typed";
   }
   void topUp(const std::string& number, const std::string& remark) {
-    EXPECT_EQ(storeTopUp(*pos.gConn, {number, {}, {}, {}, remark}).outcome, CardOutcome::kUnknown);
+    const CardOutcome wanted = number == "8001" ? CardOutcome::kDone : CardOutcome::kUnknown;
+    EXPECT_EQ(storeTopUp(*pos.gConn, {number, {}, {}, {}, remark}).outcome, wanted);
     EXPECT_EQ(storeTopUp(*pos.gConn, {"8001", {}, {}, {}, remark}).outcome, CardOutcome::kDone);
     EXPECT_TRUE(
         pos.gConn->query("select 1 from cardStored where bz = ? collate binary", remark).next());
@@ -191,7 +192,7 @@ class TypedTextTest : public WithSpy, public TillFixture {
     try {
       Importer importer(*pos.gConn, tableNamed("spda", now), {});
       static_cast<void>(importer.run(csv));
-    } catch (const Refusal&) {
+    } catch (const Failure&) {
       return;
     }
   }

@@ -40,9 +40,9 @@ TEST_F(CheckoutTest, cashSaleIsStoredSummedUpAndFollowedByTheNextBill) {
   ring("80.00");
   ring("4.25", 2);
   payCash("100");
-  EXPECT_EQ(stored("state as v from sell where id=1"), "1");
+  EXPECT_EQ(stored("state as v from sell where id=2"), "1");
   EXPECT_EQ(till.status, "应收88.5 现金100银行卡0储值卡0优惠0找零11.5元");
-  EXPECT_EQ(till.title1, "流水号：2   收银员：张三");
+  EXPECT_EQ(till.title1, "流水号：3   收银员：张三");
   EXPECT_EQ(till.title3, "上一单：金额 88.5实收现金100.0银行卡0.0储值卡0.0找零11.5  优惠0");
   EXPECT_THAT(ports.shown,
               testing::EndsWith("\x1Bs2\x1BQA88.50\r\x1Bs3\x1BQA100.00\r\x1Bs4\x1BQA11.50\r"));
@@ -124,7 +124,7 @@ TEST_F(CheckoutTest, aPaidBillThatCannotBeStoredIsWithdrawnBeforeAnythingElseIsS
   settle();
   EXPECT_EQ(till.messages.at(0), "保存单据出错，请重新录入本单！\n储值卡 8001 已扣款 36 元。");
   EXPECT_THAT(till.messages.at(1), HasSubstr("不能开始下一单"));
-  EXPECT_EQ(stored("group_concat(id || ':' || paid) as v from sell"), "2:0");
+  EXPECT_EQ(stored("group_concat(id || ':' || paid) as v from sell"), "3:0");
   EXPECT_EQ(stock() + " " + stored("card as v from member"), "100 52.5");
   EXPECT_THAT(ports.pages, testing::IsEmpty());
 }

@@ -1,8 +1,8 @@
 #include <gmock/gmock.h>
 
 #include "base/NumberText.h"
-#include "saleslib/Pricing.h"
 #include "saleslib/ClsMember.h"
+#include "saleslib/Pricing.h"
 #include "store/Recordset.h"
 
 namespace {
