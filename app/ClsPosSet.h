@@ -9,7 +9,7 @@ class ClsPosSet {
  public:
   std::string PPort;        ///< receipt printer: "", "LPT1", "LPT2" or "USB" (page printer)
   int PModel = 1;           ///< paper: 1 wide, 2 narrow
-  std::string printAmount;  ///< printing mode, see checkout/PrintMode.h
+  std::string printAmount;  ///< printing mode, see devices/PrintMode.h
   std::string printOption;  ///< line layout of the page printer, see checkout/PageReceipt.h
   std::string MBPort;       ///< cash drawer: "", "LPT1", "LPT2", "COM1" or "COM2"
   std::string CVProt;       ///< customer display: "", "COM1", "COM2" or a port number

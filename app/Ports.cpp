@@ -49,8 +49,6 @@ std::unique_ptr<ByteSink> Ports::serialLine(const std::string& name) const {
   return std::make_unique<SerialLine>(name, path(name));
 }
 
-std::unique_ptr<PagePrinter> Ports::pagePrinter(int paperModel) const {
-  const int widthMm = paperModel == 1 ? 80 : 58;
-  return std::make_unique<PagePrinter>(widthMm,
-                                       file_.read(kSection, "USB").value_or(std::string()));
+std::unique_ptr<PagePrinter> Ports::pagePrinter(PageRoll roll) const {
+  return std::make_unique<PagePrinter>(roll, file_.read(kSection, "USB").value_or(std::string()));
 }

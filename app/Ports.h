@@ -23,8 +23,8 @@ class Ports {
   virtual std::unique_ptr<ByteSink> portFile(const std::string& name) const;
   /// A serial line, opened now. Throws PortError.
   virtual std::unique_ptr<ByteSink> serialLine(const std::string& name) const;
-  /// The page printer "USB" with the paper of that model (ClsPosSet::PModel).
-  virtual std::unique_ptr<PagePrinter> pagePrinter(int paperModel) const;
+  /// The page printer "USB" with that paper.
+  virtual std::unique_ptr<PagePrinter> pagePrinter(PageRoll roll) const;
 
  private:
   const IniFile& file_;

@@ -19,7 +19,7 @@ posMod::posMod(std::filesystem::path programFolder, Clock presentTime)
     : folder(std::move(programFolder)),
       clock(std::move(presentTime)),
       configIni(folder / "Config.ini"),
-      ports(configIni) {}
+      ports(std::make_unique<Ports>(configIni)) {}
 
 posMod::~posMod() = default;
 

@@ -40,7 +40,7 @@ class posMod {
   KeyBoard gKeyBoard;
   ClsPosSet gPosSet;
   std::shared_ptr<ClsOperator> gOperator;  ///< who is logged in; none when nobody is
-  Ports ports;
+  std::unique_ptr<const Ports> ports;      ///< never none
 
   /// Takes the till's lock on the data file and opens it: Path of section Database as
   /// DataSource::parse reads it (a relative one starts at the program's folder), else

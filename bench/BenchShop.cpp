@@ -24,20 +24,20 @@ BenchShop::BenchShop(const std::filesystem::path& folder) : pos_(openTill(folder
 }
 
 void BenchShop::enter(const std::string& code) {
-  session_->state.clearOnKey = false;
-  input_ = QString::fromStdString(code);
-  if (!session_->key(pos_->gKeyBoard.mEnter)) throw std::runtime_error("Enter did nothing");
+  session_->textComing({});
+  if (!session_->key(pos_->gKeyBoard.mEnter, QString::fromStdString(code)))
+    throw std::runtime_error("Enter did nothing");
 }
 
 void BenchShop::attach(int memberId) {
-  auto member = std::make_shared<ClsMember>();
-  member->Init(*pos_->gConn, memberId);
-  session_->state.curMember = member;
-  session_->state.curBill->setMemberId(memberId);
+  ClsMember member;
+  member.Init(*pos_->gConn, memberId);
+  member_ = QString::fromStdString(member.Bh());
+  static_cast<void>(session_->key(pos_->gKeyBoard.mF2, {}));
 }
 
 void BenchShop::settle() {
-  (void)session_->key(pos_->gKeyBoard.mF1);
+  static_cast<void>(session_->key(pos_->gKeyBoard.mF1, {}));
 }
 
 bool BenchShop::settle(Settlement& settlement) {

@@ -6,7 +6,6 @@
 
 #include "app/posMod.h"
 #include "bench/ShopFile.h"
-#include "checkout/SaleScreen.h"
 #include "sale/SaleSession.h"
 
 /// The process-wide objects of a till in that folder on that day, with the cashier logged in.
@@ -20,36 +19,29 @@ class BenchShop : public SaleScreen {
   explicit BenchShop(const std::filesystem::path& folder);
 
   posMod& pos() { return *pos_; }
-  SaleState& state() { return session_->state; }
+  const Sale& sale() const { return session_->sale(); }
 
   /// Types a code and presses Enter.
   void enter(const std::string& code);
-  /// Attaches a member to the bill, without showing it.
+  /// Attaches a member to the bill.
   void attach(int memberId);
   /// Presses the settle key; payment is confirmed with the amount due in cash.
   void settle();
 
  private:
-  void rowsChanged() override {}
-  void PlaceEditor() override {}
-  QString input() const override { return input_; }
-  void setInput(const QString& text) override { input_ = text; }
-  void setTitle1(const QString&) override {}
-  void setTitle3(const QString&) override {}
-  void setStatus(const QString&) override {}
-  void setMemberInfo(const QString&) override {}
+  void show(const SalePicture&) override {}
   void ShowMessage(const QString& text) override;
   void messageBox(const QString& text, const QString& title) override;
   bool askYesNo(const QString&, const QString&, bool yesPreselected) override {
     return yesPreselected;
   }
-  QString prompt(const QString&, const QString&) override { return {}; }
+  QString prompt(const QString&, const QString&) override { return member_; }
   int choose(int, const std::function<QString(int)>&) override { return 0; }
   std::int32_t chooseHeldBill(const std::vector<std::shared_ptr<ClsSell>>&) override { return 0; }
   bool settle(Settlement& settlement) override;
   void endProgram() override;
 
-  QString input_;
+  QString member_;  ///< typed when a member is asked for
   std::unique_ptr<posMod> pos_;
   std::unique_ptr<SaleSession> session_;
 };

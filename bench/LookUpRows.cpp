@@ -22,13 +22,14 @@ class LookUp {
  public:
   explicit LookUp(const std::filesystem::path& folder) : shop_(folder) {}
 
-  bool barcode(const QString& code) { return lookUp_.LookupBarcode(code); }
-  bool specification(const QString& piece) { return lookUp_.LookupSpec(piece); }
-  bool itemNumber(const QString& piece) { return lookUp_.LookupItemNo(piece); }
+  bool barcode(const QString& code) { return lookUp_.LookupBarcode(code) != nullptr; }
+  bool specification(const QString& piece) { return lookUp_.LookupSpec(piece) != nullptr; }
+  bool itemNumber(const QString& piece) { return lookUp_.LookupItemNo(piece) != nullptr; }
 
  private:
   BenchShop shop_;
-  ItemLookup lookUp_{shop_.pos(), shop_.state(), shop_};
+  const ClsSysParam& rules_ = shop_.pos().gSysParam;
+  ItemLookup lookUp_{shop_.sale(), {*shop_.pos().gConn, rules_, shop_.pos().clock}, shop_, rules_};
 };
 
 void require(bool found) {

@@ -5,7 +5,7 @@
 
 #include "base/NumberText.h"
 #include "base/Text.h"
-#include "checkout/SaleScreen.h"
+#include "checkout/Messages.h"
 #include "saleslib/ClsSell.h"
 #include "saleslib/ClsSysParam.h"
 
@@ -28,7 +28,7 @@ QString yuan(Currency amount) {
 
 }  // namespace
 
-FigureCheck::FigureCheck(const ClsSysParam& rules, SaleScreen& screen)
+FigureCheck::FigureCheck(const ClsSysParam& rules, Messages& screen)
     : rules_(rules), screen_(screen) {}
 
 bool FigureCheck::price(const QString& typed, Currency price) const {

@@ -7,7 +7,7 @@
 
 class ClsSell;
 class ClsSysParam;
-class SaleScreen;
+class Messages;
 
 /// Figures that are most likely a slip of the fingers, or a barcode that was scanned into a field.
 /// Where the shop wants it (parameter CheckPayment) the cashier is asked once whether such a figure
@@ -16,7 +16,7 @@ class FigureCheck {
   Q_DECLARE_TR_FUNCTIONS(FigureCheck)
 
  public:
-  FigureCheck(const ClsSysParam& rules, SaleScreen& screen);
+  FigureCheck(const ClsSysParam& rules, Messages& screen);
 
   /// A price typed for goods that have none.
   [[nodiscard]] bool price(const QString& typed, Currency price) const;
@@ -30,5 +30,5 @@ class FigureCheck {
   bool isMeant(const QString& question) const;
 
   const ClsSysParam& rules_;
-  SaleScreen& screen_;
+  Messages& screen_;
 };

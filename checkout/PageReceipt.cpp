@@ -3,11 +3,15 @@
 #include <algorithm>
 #include <optional>
 
-#include "app/posMod.h"
 #include "base/Gbk.h"
 #include "base/NumberText.h"
 #include "base/Text.h"
-#include "checkout/SaleState.h"
+#include "checkout/ReceiptLines.h"
+#include "devices/Paper.h"
+#include "saleslib/ClsMember.h"
+#include "saleslib/ClsSell.h"
+#include "saleslib/ClsSellItem.h"
+#include "saleslib/ClsSysParam.h"
 
 namespace {
 
@@ -31,34 +35,36 @@ struct RowLayout {
   bool figuresBelow;
 };
 
-std::optional<RowLayout> rowLayout(const std::string& setting, const BillRow& row) {
-  const std::string& name = row.cells[BillRow::kName];
+std::optional<RowLayout> rowLayout(const std::string& setting, const ClsSellItem& line) {
+  const std::string& name = line.SpName();
   if (setting == "打印商品前7个字简称") return RowLayout{firstCharacters(name, 7) + " ", false};
   if (setting == "打印编码+商品全称") {
-    return RowLayout{row.cells[BillRow::kSpCode] + "  " + name, true};
+    return RowLayout{line.SpCode() + "  " + name, true};
   }
   if (setting == "打印商品全称") return RowLayout{name + " ", true};
   if (setting == "打印商品全称+折扣") {
-    return RowLayout{name + " 折扣:" + row.cells[BillRow::kDiscount], true};
+    return RowLayout{name + " 折扣:" + generalNumber(line.Discount()), true};
   }
   return std::nullopt;
 }
 
-std::string oneDecimalOf(const std::string& cell) {
-  return oneDecimal(Currency::parse(cell).value_or(Currency()));
+/// Of the figure in fen that the line shows.
+std::string oneDecimalOf(Currency figure) {
+  return oneDecimal(roundedToFen(figure));
 }
 
 /// One receipt while it is being laid out from top to bottom.
 class Layout {
  public:
-  Layout(posMod& pos, const SaleState& state)
-      : pos_(pos), state_(state), bill_(*state.lastBill), width_(columns(state.receiptCols.line)) {
+  Layout(const ClsSell& bill, const ReceiptFacts& facts, const ClsSysParam& shop,
+         const Paper& paper)
+      : bill_(bill), facts_(facts), shop_(shop), paper_(paper), width_(columns(paper.line)) {
     page_.name = std::to_string(bill_.BillNo());
   }
 
-  PageDocument receipt() {
+  PageDocument receipt(const std::string& rowOption) {
     heading();
-    rows();
+    rows(rowOption);
     totals();
     payment();
     shopTexts();
@@ -81,27 +87,26 @@ class Layout {
   void footer(std::string text) { place(kLeft, bottom_ + kFooterGap, std::move(text)); }
 
   void heading() {
-    place(kLeft, kShopNameY, gbk::centred(pos_.gSysParam.ShopName(), width_));
+    place(kLeft, kShopNameY, gbk::centred(shop_.ShopName(), width_));
     place(kLeft, kTitlesY, titles());
   }
 
   /// Over the rows' columns, which are as wide as narrow paper on either paper.
   std::string titles() const {
-    if (state_.receiptCols.name >= 26) return "商品名称          单价 数量 金额";
-    return gbk::centred("商品名称", columns(state_.receiptCols.name - 4)) + "单价 数量 金额";
+    if (paper_.name >= 26) return "商品名称          单价 数量 金额";
+    return gbk::centred("商品名称", columns(paper_.name - 4)) + "单价 数量 金额";
   }
 
-  void rows() {
-    for (std::size_t r = 1; r < state_.rows.size(); ++r) {
-      const BillRow& row = state_.rows[r - 1];
-      const auto layout = rowLayout(pos_.gPosSet.printOption, row);
+  void rows(const std::string& option) {
+    int block = 0;
+    for (const auto& line : bill_.Items()) {
+      const auto layout = rowLayout(option, *line);
       if (!layout) return;
-      const int block = static_cast<int>(r) * kRowPitch;
+      block += kRowPitch;
       const int figures = block + (layout->figuresBelow ? kSecondLine : kFirstLine);
       place(kLeft, block + kFirstLine, layout->firstText);
-      place(kPrice, figures, " " + oneDecimalOf(row.cells[BillRow::kPrice]) + " ");
-      placeSum(figures, row.cells[BillRow::kQuantity],
-               oneDecimalOf(row.cells[BillRow::kMoney]) + " ");
+      place(kPrice, figures, " " + oneDecimalOf(line->Price()) + " ");
+      placeSum(figures, generalNumber(line->Quantity()), oneDecimalOf(line->Money()) + " ");
     }
   }
 
@@ -109,30 +114,28 @@ class Layout {
     footer("总金额合计");
     const int y = page_.texts.back().y;
     placeSum(y, generalNumber(bill_.Quantity()), oneDecimal(bill_.Amount()));
-    if (bill_.MemberId() > 0) memberLine();
-    footer("流水号:" + std::to_string(bill_.BillNo()) + " 收银员:" + pos_.gOperator->Code());
+    if (facts_.member) memberLine(*facts_.member);
+    footer("流水号:" + std::to_string(bill_.BillNo()) + " 收银员:" + facts_.cashier);
     footer(gbk::centred(generalText(bill_.SellTime()), width_, '-'));
   }
 
   /// Continues the total's line: no gap in between.
-  void memberLine() {
-    const auto member = pos_.gMemberSvc.GetMemberById(bill_.MemberId());
-    if (!member) return;
-    place(
-        kLeft, bottom_,
-        "会员卡:" + member->Bh() + " 累计积分" + twoDecimals(Currency::fromYuan(member->Points())));
+  void memberLine(const ClsMember& member) {
+    place(kLeft, bottom_,
+          "会员卡:" + member.Bh() + " 累计积分" + twoDecimals(Currency::fromYuan(member.Points())));
   }
 
   void payment() {
-    const Currency original = Currency::fromYuan(state_.origTotal);
+    const Currency original = Currency::fromYuan(facts_.originalTotal);
     footer("原价总计" + oneDecimal(original) + "   应收" + oneDecimal(bill_.Amount()));
     if (bill_.Favorable() > Currency()) {
       footer("优惠后实收" + oneDecimal(bill_.Amount() - bill_.Favorable()));
     }
     std::string paid;
-    if (!bill_.Cash().isZero()) paid = "现金" + oneDecimal(bill_.Cash());
-    if (!bill_.BankCard().isZero()) {
-      paid += (paid.empty() ? "银行卡" : " 银行卡") + oneDecimal(bill_.BankCard());
+    for (const TenderKind& kind : tenderKinds()) {
+      const Currency figure = bill_.Tendered(kind.tender);
+      if (kind.form != TenderKind::Form::kReceived || figure.isZero()) continue;
+      paid += (paid.empty() ? "" : " ") + (kind.name + oneDecimal(figure));
     }
     if (!paid.empty()) footer(paid);
     footer(closingFigures(original - bill_.Amount() + bill_.Favorable()));
@@ -147,17 +150,17 @@ class Layout {
   }
 
   void shopTexts() {
-    const ClsSysParam& shop = pos_.gSysParam;
     for (const std::string& text :
-         {shop.ReceiptText2(), shop.ReceiptText1(), std::string(), shop.ReceiptText3(),
-          shop.ReceiptText4(), shop.ReceiptText5(), shop.ReceiptText6()}) {
+         {shop_.ReceiptText2(), shop_.ReceiptText1(), std::string(), shop_.ReceiptText3(),
+          shop_.ReceiptText4(), shop_.ReceiptText5(), shop_.ReceiptText6()}) {
       footer(text);
     }
   }
 
-  posMod& pos_;
-  const SaleState& state_;
   const ClsSell& bill_;
+  const ReceiptFacts& facts_;
+  const ClsSysParam& shop_;
+  const Paper& paper_;
   std::size_t width_;
   PageDocument page_;
   int bottom_ = 0;  ///< below everything placed so far
@@ -165,6 +168,7 @@ class Layout {
 
 }  // namespace
 
-PageDocument pageReceipt(posMod& pos, const SaleState& state) {
-  return Layout(pos, state).receipt();
+PageDocument pageReceipt(const ClsSell& bill, const ReceiptFacts& facts, const ClsSysParam& shop,
+                         const Paper& paper, const std::string& rowOption) {
+  return Layout(bill, facts, shop, paper).receipt(rowOption);
 }

@@ -1,10 +1,17 @@
 #pragma once
 
-#include "platform/PagePrinter.h"
+#include <string>
 
-class posMod;
-struct SaleState;
+#include "platform/PageDocument.h"
 
-/// The receipt of the bill just settled (state.lastBill) for the page printer, laid out from the
-/// rows that the screen still shows.
-PageDocument pageReceipt(posMod& pos, const SaleState& state);
+class ClsSell;
+class ClsSysParam;
+struct Paper;
+struct ReceiptFacts;
+
+/// The receipt of a settled bill for the page printer. `rowOption` is the setting of the lines'
+/// layout: "打印商品前7个字简称", "打印编码+商品全称", "打印商品全称" or "打印商品全称+折扣"; with
+/// any other text the lines are left out. The member's points are those after the bill. Throws
+/// Overflow.
+PageDocument pageReceipt(const ClsSell& bill, const ReceiptFacts& facts, const ClsSysParam& shop,
+                         const Paper& paper, const std::string& rowOption);

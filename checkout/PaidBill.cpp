@@ -5,9 +5,9 @@
 
 #include "app/posMod.h"
 #include "base/NumberText.h"
-#include "checkout/AmountDue.h"
-#include "checkout/SaleScreen.h"
+#include "checkout/Messages.h"
 #include "saleslib/ClsDayStat.h"
+#include "saleslib/StoredCard.h"
 #include "store/StoreError.h"
 #include "store/Transaction.h"
 
@@ -15,20 +15,14 @@ namespace {
 
 constexpr std::int16_t kSettled = 1;
 
-// Read again here, not taken from the screen: what another sale has credited since the card was
-// attached is kept.
+// A member who cannot be credited costs points, not the sale.
 void creditMember(posMod& pos, const ClsSell& bill) {
   if (bill.MemberId() == 0) return;
-  const auto member = pos.gMemberSvc.GetMemberById(bill.MemberId());
-  if (!member) return;
   try {
-    member->setTotalSpent(member->TotalSpent() + bill.Amount());
-  } catch (const Overflow&) {
+    creditPurchase(*pos.gConn, bill.MemberId(), bill.Amount(), pos.gSysParam.PointUnit());
+  } catch (const StoreError&) {
     return;
   }
-  const auto points = pointsAfter(bill.Amount(), pos.gSysParam.PointUnit(), member->Points());
-  if (points) member->setPoints(*points);
-  static_cast<void>(member->Save());
 }
 
 QString billText(const ClsSell& bill) {
@@ -37,7 +31,7 @@ QString billText(const ClsSell& bill) {
       .arg(QString::fromStdString(twoDecimals(bill.Amount())));
 }
 
-void tell(SaleScreen& screen, const char* what, const QStringList& bills) {
+void tell(Messages& screen, const char* what, const QStringList& bills) {
   if (bills.isEmpty()) return;
   screen.ShowMessage(QCoreApplication::translate("PaidBill", what) + "\n" + bills.join("\n"));
 }
@@ -45,19 +39,23 @@ void tell(SaleScreen& screen, const char* what, const QStringList& bills) {
 }  // namespace
 
 bool storeSettled(posMod& pos, ClsSell& bill) {
+  const std::int16_t before = bill.State();
   bill.setState(kSettled);
   try {
     Transaction sale(*pos.gConn);
-    if (!bill.Save()) return false;
-    creditMember(pos, bill);
-    sale.commit();
-    return true;
+    if (bill.Save()) {
+      creditMember(pos, bill);
+      sale.commit();
+      return true;
+    }
   } catch (const Failure&) {
-    return false;
+    // not stored
   }
+  bill.setState(before);
+  return false;
 }
 
-void completePaidBills(posMod& pos, SaleScreen& screen) {
+void completePaidBills(posMod& pos, Messages& screen) {
   ClsDayStat paid;
   paid.PaidQuery(*pos.gConn);
   QStringList stored, waiting;

@@ -20,6 +20,10 @@ namespace {
 constexpr int kCaptionWidth = pixels(1500);
 constexpr int kFieldWidth = pixels(3300);
 
+QString tenderName(Tender tender) {
+  return frmEndSell::tr(tenderKind(tender).name);
+}
+
 /// Shows what became of a text; a text that was replaced is selected, so that typing replaces it.
 void showAccepted(QLineEdit& field, const QString& accepted) {
   if (field.text() == accepted) return;
@@ -41,6 +45,8 @@ frmEndSell::frmEndSell(const KeyBoard& keys, QWidget* parent)
       favorable_(field("favorable")),
       salesman_(field("salesman")),
       bankCard_(field("yhk")),
+      phone_(field("sm")),
+      slip_(field("smbh")),
       cardNumber_(field("czk")),
       password_(field("mima")) {
   setObjectName("frmEndSell");
@@ -84,7 +90,7 @@ QFrame* frmEndSell::amountFrame() {
   grid->addWidget(label("Label6", tr("应收")), 0, 0);
   grid->addWidget(money_, 0, 1);
   grid->addWidget(label("Label7", tr("元")), 0, 2);
-  grid->addWidget(label("Label1", tr("现金")), 1, 0);
+  grid->addWidget(label("Label1", tenderName(Tender::kCash)), 1, 0);
   grid->addWidget(cash_, 1, 1);
   grid->addWidget(label("Label3", tr("找零")), 2, 0);
   grid->addWidget(change_, 2, 1);
@@ -97,16 +103,20 @@ QFrame* frmEndSell::otherFrame() {
   auto* frame = new QFrame(this);
   frame->setObjectName("Frame2");
   auto* grid = new QGridLayout(frame);
-  grid->addWidget(label("Label8", tr("优惠")), 0, 0);
+  grid->addWidget(label("Label8", tenderName(Tender::kFavorable)), 0, 0);
   grid->addWidget(favorable_, 0, 1);
   grid->addWidget(label("Label9", tr("业务员")), 0, 2);
   grid->addWidget(salesman_, 0, 3);
-  grid->addWidget(label("Label2", tr("银行卡")), 1, 0);
+  grid->addWidget(label("Label2", tenderName(Tender::kBankCard)), 1, 0);
   grid->addWidget(bankCard_, 1, 1);
-  grid->addWidget(label("Label5", tr("卡号")), 2, 0);
-  grid->addWidget(cardNumber_, 2, 1);
-  grid->addWidget(label("passwordmc", tr("密码")), 2, 2);
-  grid->addWidget(password_, 2, 3);
+  grid->addWidget(label("Label10", tenderName(Tender::kPhone)), 2, 0);
+  grid->addWidget(phone_, 2, 1);
+  grid->addWidget(label("Label11", tr(tenderKind(Tender::kPhone).slip)), 2, 2);
+  grid->addWidget(slip_, 2, 3);
+  grid->addWidget(label("Label5", tr("卡号")), 3, 0);
+  grid->addWidget(cardNumber_, 3, 1);
+  grid->addWidget(label("passwordmc", tr("密码")), 3, 2);
+  grid->addWidget(password_, 3, 3);
   for (const int caption : {0, 2}) grid->setColumnMinimumWidth(caption, kCaptionWidth);
   for (const int field : {1, 3}) grid->setColumnMinimumWidth(field, kFieldWidth);
   return frame;
@@ -114,17 +124,24 @@ QFrame* frmEndSell::otherFrame() {
 
 void frmEndSell::connectFields() {
   connect(cash_, &QLineEdit::textChanged, this, &frmEndSell::showChange);
-  connect(favorable_, &QLineEdit::textChanged, this, [this](const QString& text) {
-    showAccepted(*favorable_, settlement_->favorableChanged(text));
-    showChange();
-  });
+  for (const auto& [tender, field] : figures()) {
+    connect(field, &QLineEdit::textChanged, this,
+            [this, tender = tender, field = field](const QString& text) {
+              showAccepted(*field, settlement_->figureChanged(tender, text));
+              showChange();
+            });
+  }
   connect(salesman_, &QLineEdit::textChanged, this, [this](const QString& text) {
     showAccepted(*salesman_, settlement_->salesmanChanged(text));
   });
-  connect(bankCard_, &QLineEdit::textChanged, this, [this](const QString& text) {
-    showAccepted(*bankCard_, settlement_->bankCardChanged(text));
-    showChange();
+  connect(slip_, &QLineEdit::editingFinished, this, [this] {
+    if (settlement_) slip_->setText(settlement_->slipChanged(slip_->text()));
   });
+}
+
+std::vector<std::pair<Tender, QLineEdit*>> frmEndSell::figures() const {
+  return {
+      {Tender::kFavorable, favorable_}, {Tender::kBankCard, bankCard_}, {Tender::kPhone, phone_}};
 }
 
 bool frmEndSell::init(Settlement& settlement) {
@@ -141,19 +158,29 @@ void frmEndSell::showSettlement() {
   title_->setText(settlement_->title());
   count_->setText(settlement_->countText());
   money_->setText(settlement_->dueText());
-  favorable_->setText(settlement_->favorableText());
+  for (const auto& [tender, field] : figures()) field->setText(settlement_->figureText(tender));
   salesman_->setText(settlement_->salesmanText());
-  bankCard_->setText(settlement_->bankCardText());
+  slip_->setText(settlement_->slipText());
   cash_->setText(settlement_->cashText());
   cardNumber_->clear();
   password_->clear();
-  hint_->setText(tr("现金栏：%1 收款，%2 返回单据；Tab 转到优惠、业务员、银行卡、储值卡")
-                     .arg(keyName(keys_.mEnter), keyName(keys_.mEsc)));
+  showTenders();
   showChange();
 }
 
+void frmEndSell::showTenders() {
+  const bool phone = settlement_->takes(Tender::kPhone);
+  for (const char* name : {"Label10", "sm", "Label11", "smbh"}) {
+    findChild<QWidget*>(name)->setVisible(phone);
+  }
+  const QString hint =
+      phone ? tr("现金栏：%1 收款，%2 返回单据；Tab 转到优惠、业务员、银行卡、扫码、储值卡")
+            : tr("现金栏：%1 收款，%2 返回单据；Tab 转到优惠、业务员、银行卡、储值卡");
+  hint_->setText(hint.arg(keyName(keys_.mEnter), keyName(keys_.mEsc)));
+}
+
 void frmEndSell::showChange() {
-  const QString change = settlement_->change(cash_->text(), favorable_->text(), bankCard_->text());
+  const QString change = settlement_->change(cash_->text());
   if (!change.isNull()) change_->setText(change);
 }
 
@@ -223,23 +250,25 @@ void frmEndSell::checkCard() {
 }
 
 void frmEndSell::payByCard() {
-  switch (settlement_->payByCard(cardNumber_->text(), password_->text())) {
-    case Settlement::CardResult::kPaid:
+  const auto outcome = settlement_->payByCard(cardNumber_->text(), password_->text());
+  if (!outcome) return;
+  switch (*outcome) {
+    case CardOutcome::kDone:
       cash_->setText("0");
       change_->setText("0.0");
       settlement_->sayCardPaid();
       close();
       return;
-    case Settlement::CardResult::kUnknownCard:
+    case CardOutcome::kUnknown:
+    case CardOutcome::kBlocked:
       cardNumber_->setFocus();
       cardNumber_->selectAll();
       return;
-    case Settlement::CardResult::kWrongPassword:
+    case CardOutcome::kWrongPassword:
       password_->setFocus();
       password_->selectAll();
       return;
-    case Settlement::CardResult::kTooLittle:
-    case Settlement::CardResult::kFailed:
+    case CardOutcome::kTooLittle:
       return;
   }
 }

@@ -1,6 +1,10 @@
 #pragma once
 
 #include <QDialog>
+#include <utility>
+#include <vector>
+
+#include "saleslib/Tenders.h"
 
 class KeyBoard;
 class QFrame;
@@ -13,9 +17,9 @@ class Settlement;
 /// One instance serves one bill after the other.
 ///
 /// Keys: Enter or F1 on the cash field confirms, Esc on it leaves the bill unpaid; Enter on
-/// discount, salesman and bank card returns to the cash field; Enter on the card number checks it,
-/// Enter on the password pays by card. The mapped keys count; the Enter key itself always is one,
-/// and on the two card fields the only one.
+/// discount, salesman, bank card, telephone and slip returns to the cash field; Enter on the card
+/// number checks it, Enter on the password pays by card. The mapped keys count; the Enter key
+/// itself always is one, and on the two card fields the only one.
 class frmEndSell : public QDialog {
   Q_OBJECT
 
@@ -35,7 +39,10 @@ class frmEndSell : public QDialog {
   QFrame* amountFrame();
   QFrame* otherFrame();
   void connectFields();
+  /// The fields of the figures that are typed beside the cash.
+  std::vector<std::pair<Tender, QLineEdit*>> figures() const;
   void showSettlement();
+  void showTenders();
   void showChange();
 
   bool keyPressed(const QObject* watched, int key);
@@ -55,6 +62,8 @@ class frmEndSell : public QDialog {
   QLineEdit* favorable_;
   QLineEdit* salesman_;
   QLineEdit* bankCard_;
+  QLineEdit* phone_;
+  QLineEdit* slip_;  ///< code of the payer's slip
   QLineEdit* cardNumber_;
   QLineEdit* password_;
 };

@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "platform/PagePrinter.h"
+#include "platform/PageDocument.h"
 
 class ClsSysParam;
 
@@ -10,4 +10,5 @@ class ClsSysParam;
 struct SlipTexts {
   std::string cardNumber, balanceBefore, paid, credited, balanceAfter;
 };
+/// The slip, on the page printer only.
 PageDocument topUpSlip(const ClsSysParam& shop, const SlipTexts& texts);

@@ -12,7 +12,9 @@
 #include "base/Failure.h"
 #include "base/NumberText.h"
 #include "base/Text.h"
+#include "devices/ReceiptPrinter.h"
 #include "members/TopUpSlip.h"
+#include "members/TopUpTexts.h"
 #include "platform/VirtualKey.h"
 #include "saleslib/CardNumber.h"
 #include "shell/Modal.h"
@@ -113,23 +115,21 @@ bool cardStored::handleKey(const QObject* watched, const QKeyEvent& event) {
 }
 
 void cardStored::askForCard() {
-  messageBox(this, tr("会员卡号不能为空,请输入卡号"));
+  messageBox(this, noCardNumber());
   txtBh_->setFocus();
 }
 
 void cardStored::findCard() {
   std::optional<StoredCard> card;
   try {
-    card = findStoredCard(*pos_.gConn, textOf(txtBh_));
+    card = findStoredCard(*pos_.gConn, storedCardNumbers(textOf(txtBh_)));
   } catch (const Failure&) {
     // A card that cannot be read counts as not found.
   }
   txtBh_->setText(shown(card ? card->number : storedCardNumber(textOf(txtBh_))));
   if (!card) return;
   if (!card->isEnabled) {
-    messageBox(
-        this,
-        tr("会员卡被禁用！卡号：%1，持卡人：%2").arg(shown(card->number), shown(card->memberName)));
+    messageBox(this, topUpRefusal({CardOutcome::kBlocked, *card}));
     focusWhole(txtBh_);
     return;
   }
@@ -162,7 +162,7 @@ std::optional<Currency> cardStored::balanceAfter() const {
 /// What is to be stored; nothing when a field is refused, which is said and has the focus then.
 std::optional<TopUp> cardStored::entered() {
   const auto refuse = [this](QLineEdit* edit) -> std::optional<TopUp> {
-    messageBox(this, tr("请输入正数"));
+    messageBox(this, notPositive());
     focusWhole(edit);
     return std::nullopt;
   };
@@ -170,7 +170,8 @@ std::optional<TopUp> cardStored::entered() {
   if (!paid || *paid <= Currency()) return refuse(inMoney_);
   const auto credited = money(addMoney_);
   if (!credited || *credited < Currency()) return refuse(addMoney_);
-  if (!money(beforeMoney_)) return refuse(beforeMoney_);
+  const auto before = money(beforeMoney_);
+  if (!before) return refuse(beforeMoney_);
   if (afterMoney_->text().isEmpty()) {
     const auto after = balanceAfter();
     if (!after) return refuse(addMoney_);
@@ -178,7 +179,7 @@ std::optional<TopUp> cardStored::entered() {
   }
   const auto after = money(afterMoney_);
   if (!after) return refuse(afterMoney_);
-  return TopUp{textOf(txtBh_), *paid, *credited, *after, trimmed(textOf(txtbz_))};
+  return TopUp{textOf(txtBh_), *paid, *credited, *after, trimmed(textOf(txtbz_)), *before};
 }
 
 void cardStored::store() {
@@ -191,21 +192,26 @@ void cardStored::store() {
   if (!topUp) return;
   // The balance shown is that of the card found; another number needs its own look-up first.
   if (topUp->cardNumber != cardFound_) {
-    messageBox(this, tr("卡号已改变，请在卡号处按回车重新查找会员！"));
+    messageBox(this, numberChanged());
     focusWhole(txtBh_);
     return;
   }
-  try {
-    storeTopUp(*pos_.gConn, *topUp);
-  } catch (const Failure& failure) {
-    messageBox(this,
-               tr("充值没有完成，卡内余额没有改变：%1").arg(QString::fromUtf8(failure.what())));
-    return;
-  }
-  messageBox(this, tr("充值成功！本次充值%1,充值后卡内余额%2  ")
-                       .arg(shown(generalNumber(topUp->credited)), afterMoney_->text()));
-  if (pos_.gPosSet.PPort == "USB") printSlip();
+  if (!load(*topUp)) return;
+  printSlip();
   accept();
+}
+
+/// Says what became of it.
+bool cardStored::load(const TopUp& topUp) {
+  try {
+    const CardResult result = storeTopUp(*pos_.gConn, topUp);
+    const bool isLoaded = result.outcome == CardOutcome::kDone;
+    messageBox(this, isLoaded ? topUpDone(topUp, result.card.balance) : topUpRefusal(result));
+    return isLoaded;
+  } catch (const Failure& failure) {
+    messageBox(this, topUpFailed(failure.what()));
+    return false;
+  }
 }
 
 // The money is on the card: a printer that fails costs the slip, not the top-up.
@@ -213,7 +219,7 @@ void cardStored::printSlip() {
   try {
     const SlipTexts texts{textOf(txtBh_), textOf(beforeMoney_), textOf(inMoney_), textOf(addMoney_),
                           textOf(afterMoney_)};
-    pos_.ports.pagePrinter(pos_.gPosSet.PModel)->print(topUpSlip(pos_.gSysParam, texts));
+    ReceiptPrinter::ofSettings(pos_.gPosSet, *pos_.ports)->print(topUpSlip(pos_.gSysParam, texts));
   } catch (const Failure& error) {
     messageBox(this, QString::fromUtf8(error.what()));
   }

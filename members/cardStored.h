@@ -32,6 +32,7 @@ class cardStored : public KeyDrivenDialog {
   std::optional<Currency> balanceAfter() const;
   std::optional<TopUp> entered();
   void store();
+  bool load(const TopUp& topUp);
   void printSlip();
 
   posMod& pos_;

@@ -18,11 +18,11 @@
 #include "platform/PdfName.h"
 #include "platform/PortError.h"
 #include "platform/QtText.h"
+#include "platform/Twips.h"
 
 namespace {
 
 constexpr double kTwipsPerInch = 1440;
-constexpr double kTwipsPerPoint = 20;
 constexpr double kMmPerInch = 25.4;
 /// Between two texts at the same height.
 constexpr double kColumnGap = 40;
@@ -44,13 +44,8 @@ double mmOf(double twips) {
 /// A document on its paper.
 struct Job {
   const PageDocument& document;
-  int paperWidthMm;
+  PageRoll roll;
 };
-
-/// What a line printer on the same roll holds in a line.
-int columnsOn(int paperWidthMm) {
-  return paperWidthMm < 80 ? 32 : 40;
-}
 
 /// Sized in twips, not larger than the document wants and so that a full line fits.
 QFont fixedPitchFont(const Job& job, double lineTwips) {
@@ -61,7 +56,7 @@ QFont fixedPitchFont(const Job& job, double lineTwips) {
   const QFontMetricsF metrics(font);
   const double column =
       std::max(metrics.horizontalAdvance("0"), metrics.horizontalAdvance("中") / 2) / 1000;
-  const double fitting = lineTwips / (columnsOn(job.paperWidthMm) * column);
+  const double fitting = lineTwips / (job.roll.columns * column);
   font.setPixelSize(
       static_cast<int>(std::floor(std::min(job.document.fontPoints * kTwipsPerPoint, fitting))));
   return font;
@@ -140,10 +135,10 @@ void setPaper(QPagedPaintDevice& device, int widthMm, double lengthMm) {
 /// device refuses.
 bool draw(const Job& job, QPagedPaintDevice& device) {
   const QMarginsF margins = marginsOf(device);
-  const double lineTwips = twipsOf(job.paperWidthMm) - margins.left() - margins.right();
+  const double lineTwips = twipsOf(job.roll.widthMm) - margins.left() - margins.right();
   QPainter painter;
   for (const Page& page : pagesOf(job.document)) {
-    setPaper(device, job.paperWidthMm, mmOf(margins.top() + page.bottom - page.top) + kFeedMm);
+    setPaper(device, job.roll.widthMm, mmOf(margins.top() + page.bottom - page.top) + kFeedMm);
     if (!(painter.isActive() ? device.newPage() : painter.begin(&device))) return false;
     painter.resetTransform();
     painter.scale(device.logicalDpiX() / kTwipsPerInch, device.logicalDpiY() / kTwipsPerInch);
@@ -191,16 +186,11 @@ void printOnDefaultPrinter(const Job& job) {
 
 }  // namespace
 
-int PageDocument::lineHeight() const {
-  constexpr double kLeading = 1.2;
-  return static_cast<int>(std::lround(fontPoints * kTwipsPerPoint * kLeading));
-}
-
-PagePrinter::PagePrinter(int paperWidthMm, std::filesystem::path pdfFolder, Clock clock)
-    : paperWidthMm_(paperWidthMm), pdfFolder_(std::move(pdfFolder)), clock_(std::move(clock)) {}
+PagePrinter::PagePrinter(PageRoll roll, std::filesystem::path pdfFolder, Clock clock)
+    : roll_(roll), pdfFolder_(std::move(pdfFolder)), clock_(std::move(clock)) {}
 
 void PagePrinter::print(const PageDocument& document) {
-  const Job job{document, paperWidthMm_};
+  const Job job{document, roll_};
   if (pdfFolder_.empty()) {
     printOnDefaultPrinter(job);
   } else {

@@ -5,7 +5,8 @@
 #include "base/NumberText.h"
 #include "platform/QtText.h"
 
-DayModel::DayModel(QObject* parent) : QAbstractTableModel(parent) {}
+DayModel::DayModel(std::vector<const TenderKind*> tenders, QObject* parent)
+    : QAbstractTableModel(parent), tenders_(std::move(tenders)) {}
 
 void DayModel::show(ClsDayStat::Sells_t bills, const QString& operatorName) {
   beginResetModel();
@@ -19,7 +20,7 @@ int DayModel::rowCount(const QModelIndex& parent) const {
 }
 
 int DayModel::columnCount(const QModelIndex& parent) const {
-  return parent.isValid() ? 0 : kColumns;
+  return parent.isValid() ? 0 : kColumns + static_cast<int>(tenders_.size());
 }
 
 QString DayModel::text(const ClsSell& bill, int column) const {
@@ -32,8 +33,10 @@ QString DayModel::text(const ClsSell& bill, int column) const {
       return qtText(generalNumber(bill.Quantity()));
     case kTime:
       return qtText(generalText(bill.SellTime()));
-    default:
+    case kOperator:
       return operatorName_;
+    default:
+      return qtText(twoDecimals(bill.Tendered(tender(column).tender)));
   }
 }
 
@@ -41,7 +44,7 @@ QVariant DayModel::data(const QModelIndex& index, int role) const {
   if (!index.isValid()) return {};
   if (role == Qt::DisplayRole)
     return text(*bills_[static_cast<std::size_t>(index.row())], index.column());
-  if (role == Qt::TextAlignmentRole && index.column() <= kQuantity)
+  if (role == Qt::TextAlignmentRole && isFigure(index.column()))
     return int(Qt::AlignRight | Qt::AlignVCenter);
   return {};
 }
@@ -49,9 +52,10 @@ QVariant DayModel::data(const QModelIndex& index, int role) const {
 QVariant DayModel::headerData(int section, Qt::Orientation orientation, int role) const {
   const QString headers[kColumns] = {tr("流水号"), tr("金额"), tr("商品数量"), tr("时间"),
                                      tr("收银员")};
-  if (orientation != Qt::Horizontal || section < 0 || section >= kColumns) return {};
-  if (role == Qt::DisplayRole) return headers[section];
-  if (role == Qt::TextAlignmentRole && section <= kQuantity)
+  if (orientation != Qt::Horizontal || section < 0 || section >= columnCount()) return {};
+  if (role == Qt::DisplayRole)
+    return section < kColumns ? headers[section] : tr(tender(section).name);
+  if (role == Qt::TextAlignmentRole && isFigure(section))
     return int(Qt::AlignRight | Qt::AlignVCenter);
   return {};
 }

@@ -9,7 +9,8 @@ class DayModel : public QAbstractTableModel {
   Q_OBJECT
 
  public:
-  explicit DayModel(QObject* parent = nullptr);
+  /// The kinds of payment with a column of their own.
+  DayModel(std::vector<const TenderKind*> tenders, QObject* parent);
   void show(ClsDayStat::Sells_t bills, const QString& operatorName);
 
   int rowCount(const QModelIndex& parent = {}) const override;
@@ -18,9 +19,15 @@ class DayModel : public QAbstractTableModel {
   QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
 
  private:
+  /// The kinds of payment follow.
   enum Column { kBillNo, kAmount, kQuantity, kTime, kOperator, kColumns };
   QString text(const ClsSell& bill, int column) const;
+  static bool isFigure(int column) { return column <= kQuantity || column >= kColumns; }
+  const TenderKind& tender(int column) const {
+    return *tenders_[static_cast<std::size_t>(column - kColumns)];
+  }
 
+  std::vector<const TenderKind*> tenders_;
   ClsDayStat::Sells_t bills_;
   QString operatorName_;
 };

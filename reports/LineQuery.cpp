@@ -1,5 +1,6 @@
 #include "reports/LineQuery.h"
 
+#include <cmath>
 #include <utility>
 
 #include "base/Failure.h"
@@ -11,6 +12,8 @@ namespace {
 /// About a screen's height, to be seen at once; then as many as cost the window little at a time.
 constexpr std::size_t kFirstPage = 64;
 constexpr std::size_t kPage = 16384;
+
+constexpr double kLargestSum = 9e14;  ///< about what fits an amount
 
 }  // namespace
 
@@ -34,10 +37,10 @@ LineQuery::~LineQuery() {
   thread_.wait();
 }
 
-void LineQuery::start(const std::string& statement) {
+void LineQuery::start(const Question& question) {
   const int number = ++wanted_;
   running_ = true;
-  QMetaObject::invokeMethod(reader_, [this, statement, number] { read(statement, number); });
+  QMetaObject::invokeMethod(reader_, [this, question, number] { read(question, number); });
 }
 
 void LineQuery::stop() {
@@ -56,10 +59,10 @@ Connection& LineQuery::connection() {
   return *connection_;
 }
 
-void LineQuery::read(const std::string& statement, int number) {
+void LineQuery::read(const Question& question, int number) {
   if (wanted_ != number) return;
   try {
-    readPages(statement, number);
+    readPages(question, number);
     report(number, [this] {
       end();
       emit finished();
@@ -72,13 +75,17 @@ void LineQuery::read(const std::string& statement, int number) {
   }
 }
 
-void LineQuery::readPages(const std::string& statement, int number) {
+void LineQuery::readPages(const Question& question, int number) {
   const auto unwanted = [this, number] { return wanted_ != number; };
   connection().stopWhen(unwanted);
-  Rows rows = connection().Read(statement);
+  Rows rows = connection().Read(question.lines);
   SoldLineCollector lines;
   std::size_t wantedSize = kFirstPage;
-  const auto give = [&] { report(number, [this, page = lines.page()] { emit found(page); }); };
+  const auto give = [&](std::vector<TenderSum> tenders = {}) {
+    SoldPage page = lines.page();
+    page.tenders = std::move(tenders);
+    report(number, [this, page = std::move(page)] { emit found(page); });
+  };
   while (rows.next()) {
     lines.take(rows);
     if (lines.size() < wantedSize) continue;
@@ -86,7 +93,21 @@ void LineQuery::readPages(const std::string& statement, int number) {
     give();
     wantedSize = kPage;
   }
-  give();
+  give(readTenders(question));
+}
+
+std::vector<TenderSum> LineQuery::readTenders(const Question& question) {
+  std::vector<TenderSum> sums;
+  if (question.kinds.empty()) return sums;
+  Rows row = connection().Read(question.tenders);
+  row.next();
+  for (const TenderKind* kind : question.kinds) {
+    const double sum = row.number(kind->column).value_or(0);
+    const bool fits = std::abs(sum) < kLargestSum;
+    sums.push_back(
+        {kind, fits ? row.currency(kind->column).value_or(Currency()) : std::optional<Currency>()});
+  }
+  return sums;
 }
 
 // What is on its way when its query is stopped arrives unwanted.

@@ -21,8 +21,14 @@ class LineQuery : public QObject {
   explicit LineQuery(DataSource source);
   ~LineQuery() override;
 
+  /// What is asked: the lines, and what their bills came to in these kinds of payment.
+  struct Question {
+    std::string lines;
+    std::vector<const TenderKind*> kinds;
+    std::string tenders;  ///< counts with kinds only
+  };
   /// Starts a query; one that still runs is stopped.
-  void start(const std::string& statement);
+  void start(const Question& question);
   /// Ends the query within milliseconds, in the midst of the engine's sorting too. Nothing more is
   /// heard of it.
   void stop();
@@ -38,8 +44,9 @@ class LineQuery : public QObject {
 
  private:
   Connection& connection();
-  void read(const std::string& statement, int number);
-  void readPages(const std::string& statement, int number);
+  void read(const Question& question, int number);
+  void readPages(const Question& question, int number);
+  std::vector<TenderSum> readTenders(const Question& question);
   void report(int number, std::function<void()> what);
   void end();
 

@@ -28,13 +28,10 @@ std::string totalsLine(const ResultList& list) {
          list.text(totals, kColumnMoney) + " ";
 }
 
-/// Adds lines below each other from `y` on; gives the place below the last one.
-int addLines(PageDocument& page, int y, const std::vector<std::string>& lines) {
-  for (const std::string& line : lines) {
-    page.texts.push_back({0, y, line});
-    y += page.lineHeight();
-  }
-  return y;
+std::vector<std::string> tenderLines(const ResultList& list) {
+  std::vector<std::string> lines;
+  for (const TenderSum& tender : list.tenders()) lines.push_back("其中" + tender.text());
+  return lines;
 }
 
 void addGoodsLine(PageDocument& page, int y, const ResultList& list, std::size_t row) {
@@ -61,15 +58,8 @@ int addGoods(PageDocument& page, const ResultList& list) {
 
 }  // namespace
 
-PageDocument pageOfLines(std::string name, const std::vector<std::string>& lines) {
-  PageDocument page;
-  page.name = std::move(name);
-  addLines(page, 0, lines);
-  return page;
-}
-
-PageDocument reportPage(const ResultList& list, const DateTime& start, const DateTime& end,
-                        const DateTime& now) {
+LineDocument reportSheet(const ResultList& list, const DateTime& start, const DateTime& end,
+                         const DateTime& now) {
   std::vector<std::string> lines = {"      库存报表",
                                     "打印时间" + generalText(now),
                                     "打印报表时间段",
@@ -82,7 +72,8 @@ PageDocument reportPage(const ResultList& list, const DateTime& start, const Dat
     lines.emplace_back();
   }
   lines.push_back(totalsLine(list));
-  return pageOfLines("库存报表", lines);
+  for (const std::string& line : tenderLines(list)) lines.push_back(line);
+  return {"库存报表", std::move(lines)};
 }
 
 PageDocument reprintPage(const ResultList& list, const std::string& billNo, const ClsSysParam& shop,
@@ -90,13 +81,12 @@ PageDocument reprintPage(const ResultList& list, const std::string& billNo, cons
   PageDocument page;
   page.name = "补打小票";
   page.fontPoints = kReprintPoints;
-  addLines(
-      page, 0,
-      {"       " + shop.ShopName(), "**********补打小票********", "打印时间" + generalText(now),
-       "单号：" + trimmed(billNo), "交易时间" + list.text(0, kColumnTime)});
-  const int y = addGoods(page, list);
-  addLines(page, y,
-           {totalsLine(list), shop.ReceiptText2(), shop.ReceiptText1(), shop.ReceiptText3(),
-            shop.ReceiptText4(), shop.ReceiptText5(), shop.ReceiptText6()});
+  page.addLines(
+      0, {"       " + shop.ShopName(), "**********补打小票********", "打印时间" + generalText(now),
+          "单号：" + trimmed(billNo), "交易时间" + list.text(0, kColumnTime)});
+  int y = page.addLines(addGoods(page, list), {totalsLine(list)});
+  y = page.addLines(y, tenderLines(list));
+  page.addLines(y, {shop.ReceiptText2(), shop.ReceiptText1(), shop.ReceiptText3(),
+                    shop.ReceiptText4(), shop.ReceiptText5(), shop.ReceiptText6()});
   return page;
 }

@@ -63,6 +63,7 @@ void ResultList::append(SoldPage page) {
     if (line.money) add(totalMoney_, *line.money);
     order_.push_back(static_cast<std::uint32_t>(order_.size()));
   }
+  if (!page.tenders.empty()) tenders_ = page.tenders;
   lines_.insert(lines_.end(), page.lines.begin(), page.lines.end());
   std::move(page.goods.begin(), page.goods.end(), std::back_inserter(goods_));
 }

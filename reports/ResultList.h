@@ -32,6 +32,9 @@ class ResultList {
   /// Nothing when the sum does not fit.
   std::optional<Currency> totalMoney() const { return totalMoney_; }
 
+  /// What the lines' bills came to in kinds of payment.
+  const std::vector<TenderSum>& tenders() const { return tenders_; }
+
   /// A cell as shown; a missing value is empty, a sum that does not fit is said.
   std::string text(std::size_t row, ResultColumn column) const;
 
@@ -50,6 +53,7 @@ class ResultList {
   std::vector<SoldLine> lines_;
   std::vector<SoldGoods> goods_;
   std::vector<std::uint32_t> order_;  ///< lines by row
+  std::vector<TenderSum> tenders_;
   bool complete_ = false;
   std::optional<std::int64_t> totalQuantity_ = 0;
   std::optional<Currency> totalMoney_ = Currency();

@@ -16,7 +16,7 @@ void ResultModel::begin() {
 
 void ResultModel::append(const SoldPage& page) {
   if (!filling_) begin();
-  if (page.lines.empty()) return;
+  if (page.lines.empty()) return list_->append(page);
   const int first = rowCount();
   beginInsertRows({}, first, first + static_cast<int>(page.lines.size()) - 1);
   list_->append(page);

@@ -6,11 +6,12 @@
 
 namespace {
 
-const char* const kSelect =
+const char* const kColumns =
     "select sellproducts.insert_Date, sellproducts.sellId,sellproducts.bm,sellproducts.name,unit,"
     "sellproducts.amount,sellproducts.price,sellproducts.discount,sellproducts.money,"
-    "sellproducts.in_price,sellproducts.splbmc, spda.f_sptm from sellProducts inner join spda on "
-    "sellproducts.bm=spda.f_spbm where ";
+    "sellproducts.in_price,sellproducts.splbmc, spda.f_sptm";
+const char* const kFrom =
+    " from sellProducts inner join spda on sellproducts.bm=spda.f_spbm where ";
 const char* const kOrder = " order by sellId,insert_Date ";
 
 /// Barcodes have at least this many characters, blanks included; shorter codes are fragments.
@@ -45,7 +46,18 @@ std::string categoryQuery(const SearchCriteria& criteria) {
   return "sellproducts.splbmc=" + quotedText(criteria.category) + " and " + period(criteria);
 }
 
+// Codes have more digits than bill numbers, but for those that a shop writes down shortened.
+std::optional<std::string> slipQuery(const SearchCriteria& criteria) {
+  const std::string bySlip =
+      "sellid in (select id from sell where phone_slip=" + quotedText(slipCode(criteria.billNo)) +
+      ")";
+  const std::optional<std::int32_t> number = parseWhole32(criteria.billNo);
+  const std::string byNumber = number ? "sellid=" + literal(std::int64_t{*number}) + " or " : "";
+  return period(criteria) + "  and (" + byNumber + bySlip + ")";
+}
+
 std::optional<std::string> billQuery(const SearchCriteria& criteria) {
+  if (criteria.takesSlips) return slipQuery(criteria);
   const std::optional<double> number = parseNumber(criteria.billNo);
   if (!number) return std::nullopt;
   return period(criteria) + "  and sellid=" + literal(*number);
@@ -63,7 +75,18 @@ std::optional<std::string> condition(const SearchCriteria& criteria) {
 std::optional<std::string> searchStatement(const SearchCriteria& criteria) {
   const std::optional<std::string> wanted = condition(criteria);
   if (!wanted) return std::nullopt;
-  return kSelect + *wanted + kOrder;
+  return std::string(kColumns) + kFrom + *wanted + kOrder;
+}
+
+std::string tenderStatement(const SearchCriteria& criteria,
+                            const std::vector<const TenderKind*>& kinds) {
+  std::string sums;
+  for (const TenderKind* kind : kinds) {
+    sums += (sums.empty() ? "" : ", ") + ("round(sum(" + std::string(kind->column)) + "), 4) as " +
+            kind->column;
+  }
+  return "select " + sums + " from sell where state=1 and id in (select sellproducts.sellId" +
+         kFrom + condition(criteria).value() + ")";
 }
 
 std::vector<std::string> criteriaText(const SearchCriteria& criteria) {

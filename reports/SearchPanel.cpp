@@ -143,6 +143,10 @@ SearchCriteria SearchPanel::criteria() const {
   return wanted;
 }
 
+void SearchPanel::askForSlips() {
+  findChild<QLabel*>("Label5")->setText(tr("单号/付款码(&N)"));
+}
+
 // A line is found when it is later than the start, which may be midnight.
 void SearchPanel::lookFor(const LastBill& bill) {
   DtBegin->setDate(plusDays(bill.firstDay, -1));

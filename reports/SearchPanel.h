@@ -28,6 +28,8 @@ class SearchPanel : public QFrame {
   DateTime end() const;
   /// As typed; an empty period is the day from its start on.
   SearchCriteria criteria() const;
+  /// The field of the bill number says that it takes slips' codes too.
+  void askForSlips();
   /// Criteria that find this bill.
   void lookFor(const LastBill& bill);
 

@@ -8,6 +8,7 @@
 
 #include "base/Currency.h"
 #include "base/DateTime.h"
+#include "reports/TenderSum.h"
 
 class Row;
 
@@ -31,6 +32,7 @@ struct SoldLine {
 struct SoldPage {
   std::vector<SoldLine> lines;
   std::vector<SoldGoods> goods;
+  std::vector<TenderSum> tenders;  ///< with the last part: of all bills that were found
 };
 
 /// Turns the rows of one query into pages.

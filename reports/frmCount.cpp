@@ -7,13 +7,11 @@
 #include <QTableView>
 #include <QVBoxLayout>
 
-#include "app/DeviceBytes.h"
 #include "app/posMod.h"
 #include "base/NumberText.h"
 #include "platform/PortError.h"
 #include "platform/Twips.h"
 #include "reports/DayModel.h"
-#include "reports/QueryPrints.h"
 #include "reports/ShiftSheet.h"
 #include "reports/TableLook.h"
 #include "saleslib/ClsDayStat.h"
@@ -23,29 +21,17 @@ namespace {
 
 constexpr int kHeight = 7380;
 constexpr int kColumnWidths[] = {1764, 1764, 2540, 4410, 2540};
+constexpr int kTenderWidth = 1764;
 constexpr int kBesideList = 900;  // margins, frame and scroll bar
 
 // As wide as its columns: a cashier with large type should not have to scroll sideways.
-int formWidth() {
-  return std::accumulate(std::begin(kColumnWidths), std::end(kColumnWidths), kBesideList);
+int formWidth(int tenderColumns) {
+  return std::accumulate(std::begin(kColumnWidths), std::end(kColumnWidths),
+                         kBesideList + tenderColumns * kTenderWidth);
 }
 
-ShiftSheet sheetOf(const ClsDayStat& day) {
-  return {day.Sells().size(), day.SumQuantity(), day.SumMoney()};
-}
-
-/// Other ports have no sheet.
-void print(const posMod& pos, const ShiftSheet& sheet) {
-  const std::string& port = pos.gPosSet.PPort;
-  if (port == "USB") {
-    pos.ports.pagePrinter(pos.gPosSet.PModel)->print(pageOfLines("交班表", sheet.lines()));
-  } else {
-    pos.ports.portFile(port)->send(device::printedLines(sheet.lines()));
-  }
-}
-
-bool canPrint(const std::string& port) {
-  return port == "USB" || port == "LPT1" || port == "LPT2";
+ShiftSheet sheetOf(const ClsDayStat& day, const ClsSysParam& rules) {
+  return {day.Sells().size(), day.SumQuantity(), day.SumMoney(), tenderSums(day, rules)};
 }
 
 }  // namespace
@@ -53,10 +39,11 @@ bool canPrint(const std::string& port) {
 frmCount::frmCount(posMod& pos, QWidget* parent)
     : KeyDrivenDialog(pos.gKeyBoard, EnterKey::kMapped, parent),
       pos_(pos),
-      model_(new DayModel(this)) {
+      model_(new DayModel(optionalTenders(pos.gSysParam), this)) {
   setObjectName("frmCount");
   setWindowTitle(tr("销售统计"));
-  resize(pixels(formWidth()), pixels(kHeight));
+  resize(pixels(formWidth(model_->columnCount() - static_cast<int>(std::size(kColumnWidths)))),
+         pixels(kHeight));
   build();
   watchAll();
 }
@@ -72,6 +59,7 @@ void frmCount::build() {
   lookLikeReport(*listSell_);
   int column = 0;
   for (const int width : kColumnWidths) listSell_->setColumnWidth(column++, pixels(width));
+  while (column < model_->columnCount()) listSell_->setColumnWidth(column++, pixels(kTenderWidth));
   lblMsg_ = new QLabel;
   lblMsg_->setObjectName("lblMsg");
   lblMsg_->setWordWrap(true);
@@ -109,16 +97,20 @@ ClsDayStat frmCount::today() const {
 
 void frmCount::show(const ClsDayStat& day) {
   model_->show(day.Sells(), QString::fromStdString(pos_.gOperator->Name()));
-  lblMsg_->setText(tr("今日累计发生 [%1] 笔交易，共交易 [%2] 件商品，交易额 [%3] 元")
-                       .arg(QString::number(day.Sells().size()),
-                            QString::fromStdString(generalNumber(day.SumQuantity())),
-                            QString::fromStdString(sumText(day.SumMoney()))));
+  QString summary = tr("今日累计发生 [%1] 笔交易，共交易 [%2] 件商品，交易额 [%3] 元")
+                        .arg(QString::number(day.Sells().size()),
+                             QString::fromStdString(generalNumber(day.SumQuantity())),
+                             QString::fromStdString(sumText(day.SumMoney())));
+  for (const TenderSum& tender : tenderSums(day, pos_.gSysParam)) {
+    summary += tr("，其中%1").arg(QString::fromStdString(tender.text()));
+  }
+  lblMsg_->setText(summary);
 }
 
 void frmCount::printSheet() {
-  if (!canPrint(pos_.gPosSet.PPort)) return;
   try {
-    print(pos_, sheetOf(today()));
+    const ShiftSheet sheet = sheetOf(today(), pos_.gSysParam);
+    ReceiptPrinter::ofSettings(pos_.gPosSet, *pos_.ports)->print(sheet.document());
   } catch (const PortError& error) {
     messageBox(this, QString::fromUtf8(error.what()));
   }

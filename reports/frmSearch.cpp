@@ -10,6 +10,7 @@
 #include "app/posMod.h"
 #include "base/Failure.h"
 #include "base/NumberText.h"
+#include "devices/ReceiptPrinter.h"
 #include "platform/KeyName.h"
 #include "platform/PortError.h"
 #include "platform/Twips.h"
@@ -78,6 +79,7 @@ void frmSearch::build() {
 
 void frmSearch::load() {
   const Date today = pos_.clock().date;
+  if (takesSlips()) Frame5_->askForSlips();
   Frame5_->DtBegin->setDate(today);
   Frame5_->Dtfinish->setDate(today);
   const Recordset categories = pos_.gConn->Open("select  SPLBMC from SP_LB order by SPLB_ID");
@@ -153,7 +155,8 @@ void frmSearch::search() {
   printWhenFound_ = false;
   if (export_.isRunning() || !Frame5_->check()) return;
   stopQuery();
-  const SearchCriteria wanted = Frame5_->criteria();
+  SearchCriteria wanted = Frame5_->criteria();
+  wanted.takesSlips = takesSlips();
   checkOrder(wanted);
   checkQuantityLimit();
   const std::optional<std::string> statement = searchStatement(wanted);
@@ -164,7 +167,12 @@ void frmSearch::search() {
   }
   asked_ = wanted;
   Frame5_->showWork(tr("正在查询…") + howToStop(), 0, 0);
-  query_->start(*statement);
+  const auto kinds = optionalTenders(pos_.gSysParam);
+  query_->start({*statement, kinds, tenderStatement(wanted, kinds)});
+}
+
+bool frmSearch::takesSlips() const {
+  return pos_.gSysParam.Takes(tenderKind(Tender::kPhone));
 }
 
 void frmSearch::addPage(const SoldPage& page) {
@@ -175,7 +183,11 @@ void frmSearch::addPage(const SoldPage& page) {
 void frmSearch::showAll() {
   ListView1_->complete();
   found_ = asked_;
-  Frame5_->showIdle(tr("共 %L1 行。在列表中按空格键排序。").arg(ListView1_->lineCount()));
+  QString state = tr("共 %L1 行。在列表中按空格键排序。").arg(ListView1_->lineCount());
+  for (const TenderSum& tender : ListView1_->list()->tenders()) {
+    state += tr("其中%1。").arg(QString::fromStdString(tender.text()));
+  }
+  Frame5_->showIdle(state);
   if (std::exchange(printWhenFound_, false)) printReceipt();
 }
 
@@ -210,13 +222,16 @@ bool frmSearch::hasList(const QString& otherwise) {
 
 void frmSearch::printReport() {
   if (!hasList(tr("没有可打印的内容！")) || !Frame5_->check()) return;
-  print(reportPage(*ListView1_->list(), Frame5_->start(), Frame5_->end(), pos_.clock()));
+  print(reportSheet(*ListView1_->list(), Frame5_->start(), Frame5_->end(), pos_.clock()));
 }
 
 void frmSearch::printReceipt() {
   if (!hasList(tr("没有可打印的内容！"))) return;
-  print(reprintPage(*ListView1_->list(), Frame5_->numberSerch->text().toStdString(), pos_.gSysParam,
-                    pos_.clock()));
+  const ResultList& list = *ListView1_->list();
+  const bool bySlip = takesSlips() && list.lineCount() > 0;
+  const std::string number =
+      bySlip ? list.text(0, kColumnBill) : Frame5_->numberSerch->text().toStdString();
+  print(reprintPage(list, number, pos_.gSysParam, pos_.clock()));
 }
 
 // The query shows what is printed, so that the cashier sees which bill it was.
@@ -233,9 +248,10 @@ void frmSearch::reprintLastBill() {
   }
 }
 
-void frmSearch::print(const PageDocument& page) {
+template <class Document>
+void frmSearch::print(const Document& document) {
   try {
-    pos_.ports.pagePrinter(pos_.gPosSet.PModel)->print(page);
+    ReceiptPrinter::ofSystem(pos_.gPosSet, *pos_.ports)->print(document);
   } catch (const PortError& error) {
     messageBox(this, QString::fromUtf8(error.what()));
   }
@@ -251,6 +267,9 @@ void frmSearch::exportList() {
 void frmSearch::exportTo(const std::filesystem::path& file) {
   std::vector<std::string> above = criteriaText(found_);
   above.insert(above.begin(), windowTitle().toStdString());
+  for (const TenderSum& tender : ListView1_->list()->tenders()) {
+    above.push_back("其中" + tender.text());
+  }
   const std::shared_ptr<const ResultList> list = ListView1_->list();
   const int all = static_cast<int>(list->rowCount());
   const auto show = [&](std::size_t rows) {

@@ -10,7 +10,6 @@ class LineQuery;
 class ResultTable;
 class SearchPanel;
 class posMod;
-struct PageDocument;
 struct SoldPage;
 
 /// The sales query: sold lines of a period by item, category or bill, with their totals, to look
@@ -40,6 +39,7 @@ class frmSearch : public KeyDrivenDialog {
   void checkOrder(const SearchCriteria& wanted);
   void checkQuantityLimit();
   void search();
+  bool takesSlips() const;
   void addPage(const SoldPage& page);
   void showAll();
   void stopQuery();
@@ -51,7 +51,8 @@ class frmSearch : public KeyDrivenDialog {
   void printReport();
   void printReceipt();
   void reprintLastBill();
-  void print(const PageDocument& page);
+  template <class Document>
+  void print(const Document& document);
   void exportList();
   void exportTo(const std::filesystem::path& file);
 

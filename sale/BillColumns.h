@@ -2,7 +2,7 @@
 
 #include <array>
 
-#include "checkout/SaleState.h"
+#include "sale/SalePicture.h"
 
 class QFontMetrics;
 class QString;

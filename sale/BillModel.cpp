@@ -32,30 +32,23 @@ int alignment(int column) {
 
 }  // namespace
 
-BillModel::BillModel(const SaleState& state, QObject* parent)
-    : QAbstractTableModel(parent), state_(state), shown_(state.rows) {}
-
-void BillModel::rowsChanged() {
-  const std::size_t common = std::min(shown_.size(), state_.rows.size());
-  for (std::size_t row = 0; row < common; ++row) showChanges(row);
-  const int before = rowCount();
-  const int rows = static_cast<int>(state_.rows.size());
-  if (rows > before) {
-    beginInsertRows({}, before, rows - 1);
-    shown_.insert(shown_.end(), state_.rows.begin() + before, state_.rows.end());
+void BillModel::show(std::span<const BillRow> rows) {
+  const std::size_t before = shown_.size();
+  for (std::size_t row = 0; row < std::min(before, rows.size()); ++row) {
+    if (shown_[row].cells == rows[row].cells) continue;
+    shown_[row].cells = rows[row].cells;
+    const int changed = static_cast<int>(row);
+    emit dataChanged(index(changed, 0), index(changed, BillRow::kColumns - 1));
+  }
+  if (rows.size() > before) {
+    beginInsertRows({}, static_cast<int>(before), static_cast<int>(rows.size()) - 1);
+    shown_.insert(shown_.end(), rows.begin() + static_cast<std::ptrdiff_t>(before), rows.end());
     endInsertRows();
-  } else if (rows < before) {
-    beginRemoveRows({}, rows, before - 1);
-    shown_.resize(state_.rows.size());
+  } else if (rows.size() < before) {
+    beginRemoveRows({}, static_cast<int>(rows.size()), static_cast<int>(before) - 1);
+    shown_.resize(rows.size());
     endRemoveRows();
   }
-}
-
-void BillModel::showChanges(std::size_t row) {
-  if (shown_[row].cells == state_.rows[row].cells) return;
-  shown_[row].cells = state_.rows[row].cells;
-  const int changed = static_cast<int>(row);
-  emit dataChanged(index(changed, 0), index(changed, BillRow::kColumns - 1));
 }
 
 int BillModel::rowCount(const QModelIndex& parent) const {

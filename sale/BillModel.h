@@ -3,16 +3,16 @@
 #include <QAbstractTableModel>
 #include <vector>
 
-#include "checkout/SaleState.h"
+#include "sale/SalePicture.h"
 
-/// The bill's rows for the list view, as they were when it was last told of a change.
+/// The bill's rows for the list view, as they were shown last.
 class BillModel : public QAbstractTableModel {
   Q_OBJECT
 
  public:
-  explicit BillModel(const SaleState& state, QObject* parent = nullptr);
-  /// The state's rows may have changed: the view is told which did.
-  void rowsChanged();
+  using QAbstractTableModel::QAbstractTableModel;
+  /// Shows these rows: the view is told which of them are others than before.
+  void show(std::span<const BillRow> rows);
 
   int rowCount(const QModelIndex& parent = {}) const override;
   int columnCount(const QModelIndex& parent = {}) const override;
@@ -23,8 +23,5 @@ class BillModel : public QAbstractTableModel {
   static constexpr int kTagRole = Qt::UserRole;
 
  private:
-  void showChanges(std::size_t row);
-
-  const SaleState& state_;
   std::vector<BillRow> shown_;
 };

@@ -1,168 +1,70 @@
 #include "sale/HeldBills.h"
 
-#include <QStringList>
 #include <algorithm>
 #include <cstdint>
-#include <vector>
 
-#include "app/posMod.h"
-#include "base/NumberText.h"
-#include "checkout/Checkout.h"
-#include "checkout/CurrentLine.h"
-#include "checkout/CustomerDisplay.h"
-#include "checkout/LineReceipt.h"
-#include "checkout/SaleScreen.h"
-#include "checkout/SaleState.h"
-#include "sale/LineRow.h"
+#include "base/Failure.h"
+#include "platform/QtText.h"
+#include "sale/Checkout.h"
 #include "sale/MemberCard.h"
-#include "sale/OriginalPrice.h"
-#include "saleslib/ClsStock.h"
-#include "store/StoreError.h"
-#include "store/Transaction.h"
+#include "sale/Sale.h"
+#include "sale/SaleDevices.h"
+#include "sale/SaleScreen.h"
+#include "sale/SaleTexts.h"
+#include "saleslib/ClsOperator.h"
 
-namespace {
-
-QString text(const std::string& utf8) {
-  return QString::fromStdString(utf8);
-}
-
-}  // namespace
-
-/// A held bill as it goes on, and all that the screen shows of it.
-struct HeldBills::Recalled {
-  std::shared_ptr<ClsSell> bill;
-  std::shared_ptr<ClsMember> member;
-  std::vector<BillRow> rows;
-  QStringList refusals;
-  std::int64_t origTotal = 0;
-};
-
-HeldBills::HeldBills(posMod& pos, SaleState& state, SaleScreen& screen, Checkout& checkout,
-                     MemberCard& memberCard, CustomerDisplay& display, LineReceipt& receipt)
-    : pos_(pos),
-      state_(state),
+HeldBills::HeldBills(Sale& sale, BillBooks& books, SaleScreen& screen, SaleDevices& devices,
+                     Checkout& checkout, MemberCard& memberCard)
+    : sale_(sale),
+      books_(books),
       screen_(screen),
+      devices_(devices),
       checkout_(checkout),
-      memberCard_(memberCard),
-      display_(display),
-      receipt_(receipt) {}
+      memberCard_(memberCard) {}
 
 void HeldBills::SuspendBill() {
-  receipt_.FeedLines();
-  if (!state_.curLine && state_.curBill->Items().empty()) {
-    screen_.ShowMessage(tr("没有商品，无需结账！"));
-    return;
-  }
-  std::shared_ptr<ClsSell> next;
+  devices_.receipt.FeedLines(*sale_.bill());
+  if (sale_.isEmpty()) return screen_.ShowMessage(tr("没有商品，无需结账！"));
   try {
-    if (state_.curLine) joinCurrentLine(state_);
-    next = putAside();
+    if (sale_.line() != nullptr) sale_.join();
+    auto next = books_.hold(*sale_.bill(), checkout_.cashier().Id());
+    if (!next) return screen_.messageBox(checkout_.operatorGone());
+    sale_.hold(std::move(next), checkout_.cashier().Name());
   } catch (const Failure& failure) {
-    screen_.rowsChanged();
-    screen_.PlaceEditor();
-    screen_.messageBox(text(failure.what()));
+    screen_.messageBox(qtText(failure.what()));
     return;
   }
-  state_.heldBills.push_back(std::move(state_.curBill));
-  state_.origTotal = 0;
-  screen_.setStatus({});
-  checkout_.ShowNextBill(std::move(next));
-}
-
-std::shared_ptr<ClsSell> HeldBills::putAside() {
-  Transaction suspending(*pos_.gConn);
-  if (!state_.curBill->Save()) throw StoreError(state_.curBill->ErrText());
-  auto next = checkout_.openBill();
-  suspending.commit();
-  return next;
+  checkout_.followLastBill();
 }
 
 void HeldBills::RecallBill() {
-  if (state_.curLine || !state_.curBill->Items().empty()) {
-    screen_.ShowMessage(tr("请先结束或挂起本次销售，再执行调用功能。"));
-    return;
+  if (!sale_.isEmpty()) {
+    return screen_.ShowMessage(tr("请先结束或挂起本次销售，再执行调用功能。"));
   }
-  const std::int32_t number = screen_.chooseHeldBill(state_.heldBills);
-  const auto chosen = std::find_if(state_.heldBills.begin(), state_.heldBills.end(),
+  const std::int32_t number = screen_.chooseHeldBill(sale_.held());
+  const auto chosen = std::find_if(sale_.held().begin(), sale_.held().end(),
                                    [&](const auto& bill) { return bill->BillNo() == number; });
-  if (chosen == state_.heldBills.end()) return;
-  Recalled recalled;
+  if (chosen == sale_.held().end()) return;
   try {
-    recalled = takeUp(**chosen);
+    takeUp(**chosen);
   } catch (const Failure& failure) {
-    screen_.messageBox(text(failure.what()));
-    return;
-  }
-  state_.heldBills.erase(chosen);
-  show(std::move(recalled));
-}
-
-// Works on a copy of the bill: the held one is as it was until the data file has the change.
-HeldBills::Recalled HeldBills::takeUp(const ClsSell& held) {
-  Recalled recalled;
-  recalled.bill = std::make_shared<ClsSell>(held);
-  Transaction recalling(*pos_.gConn);
-  state_.curBill->Void();
-  putBackStock(held);
-  takeAgain(recalled);
-  if (!recalled.bill->Save()) throw StoreError(recalled.bill->ErrText());
-  recalled.origTotal = originalPrice(recalled.rows);
-  if (held.MemberId() > 0) recalled.member = pos_.gMemberSvc.GetMemberById(held.MemberId());
-  recalling.commit();
-  return recalled;
-}
-
-void HeldBills::putBackStock(const ClsSell& held) {
-  for (const auto& line : held.Items()) {
-    ClsStock stock;
-    stock.Init(*pos_.gConn, line->SpCode());
-    if (!stock.PutBack(line->StockQuantity())) throw StoreError(stock.ErrText());
+    screen_.messageBox(qtText(failure.what()));
   }
 }
 
-void HeldBills::takeAgain(Recalled& recalled) {
-  const ClsSell::Items_t lines = recalled.bill->Items();
-  for (const auto& line : lines) {
-    ClsStock stock;
-    stock.Init(*pos_.gConn, line->SpCode());
-    if (stock.TakeOut(line->StockQuantity(), 0, pos_.gSysParam.StockRule())) {
-      recalled.rows.push_back(lineRow(*pos_.gConn, *line, recalled.rows.size() + 1));
-      recalled.rows.back().tag = line->Id();
-      continue;
-    }
-    line->Delete();
-    recalled.bill->RemoveItem(*line);
-    recalled.refusals << text(stock.ErrText());
+void HeldBills::takeUp(const ClsSell& held) {
+  const auto recalled = books_.recall(held, *sale_.bill(), [](const ClsSell& bill) {
+    static_cast<void>(originalPrice(bill));  // it must fit before the bill is taken up
+  });
+  sale_.recall(recalled, checkout_.cashier().Name());
+  memberCard_.show(recalled.member);
+  screen_.show(sale_.picture());
+  devices_.receipt.PrintHeader(*sale_.bill());
+  for (const auto& line : sale_.bill()->Items()) {
+    devices_.display().clientView(line->Price(), CustomerDisplay::kPrice);
+    devices_.receipt.PrintLine(*line);
   }
-}
-
-void HeldBills::show(Recalled recalled) {
-  state_.curBill = std::move(recalled.bill);
-  const ClsSell& bill = *state_.curBill;
-  checkout_.ShowBillNo();
-  state_.rows = std::move(recalled.rows);
-  state_.origTotal = recalled.origTotal;
-  state_.AddEntryRow();
-  state_.onEntryRow = true;
-  for (const auto& line : bill.Items()) {
-    display_.clientView(line->Price(), CustomerDisplay::kPrice);
+  for (const StockOutcome& refusal : recalled.refusals) {
+    screen_.ShowMessage(tr("%1，已从本单中去掉。").arg(sale_texts::refusal(refusal)));
   }
-  screen_.setStatus(text(generalNumber(bill.Quantity())) + tr("件商品，合计") +
-                    text(generalNumber(bill.Amount())) + tr("元"));
-  memberCard_.show(std::move(recalled.member));
-  screen_.rowsChanged();
-  screen_.PlaceEditor();
-  printAgain();
-  for (const QString& refusal : recalled.refusals) {
-    screen_.ShowMessage(refusal + tr("，已从本单中去掉。"));
-  }
-}
-
-void HeldBills::printAgain() {
-  receipt_.PrintHeader();
-  for (const auto& line : state_.curBill->Items()) {
-    state_.curLine = line;
-    receipt_.PrintLine();
-  }
-  state_.curLine = nullptr;
 }

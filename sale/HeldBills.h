@@ -1,50 +1,39 @@
 #pragma once
 
 #include <QCoreApplication>
-#include <memory>
 
+class BillBooks;
 class Checkout;
-class ClsSell;
-class CustomerDisplay;
-class LineReceipt;
 class MemberCard;
-class posMod;
+class Sale;
+class SaleDevices;
 class SaleScreen;
-struct SaleState;
 
 /// Puts the open bill aside and takes it up again. A bill put aside stays open in the data file
 /// with its rows, and its goods stay out of stock: after a power cut the next start voids it like
-/// any other open bill. Both ways are one transaction; when it fails, the reason is shown and the
-/// bill stays where it was.
+/// any other open bill. When the books cannot be written, the reason is shown and the bill stays
+/// where it was.
 class HeldBills {
   Q_DECLARE_TR_FUNCTIONS(HeldBills)
 
  public:
-  HeldBills(posMod& pos, SaleState& state, SaleScreen& screen, Checkout& checkout,
-            MemberCard& memberCard, CustomerDisplay& display, LineReceipt& receipt);
+  HeldBills(Sale& sale, BillBooks& books, SaleScreen& screen, SaleDevices& devices,
+            Checkout& checkout, MemberCard& memberCard);
 
   /// Adds the open bill, its current line included, to the held bills, and opens the next one.
   void SuspendBill();
   /// Lets the cashier choose one of the held bills and goes on with it instead of the empty bill on
-  /// the screen, which is dropped. Its stock goes back and is taken again line by line; a line
-  /// whose stock is refused now leaves the bill, and the cashier is told.
+  /// the screen, which is dropped. A line whose stock is refused now leaves the bill, and the
+  /// cashier is told.
   void RecallBill();
 
  private:
-  struct Recalled;
+  void takeUp(const class ClsSell& held);
 
-  std::shared_ptr<ClsSell> putAside();
-  Recalled takeUp(const ClsSell& held);
-  void putBackStock(const ClsSell& held);
-  void takeAgain(Recalled& recalled);
-  void show(Recalled recalled);
-  void printAgain();
-
-  posMod& pos_;
-  SaleState& state_;
+  Sale& sale_;
+  BillBooks& books_;
   SaleScreen& screen_;
+  SaleDevices& devices_;
   Checkout& checkout_;
   MemberCard& memberCard_;
-  CustomerDisplay& display_;
-  LineReceipt& receipt_;
 };

@@ -4,27 +4,15 @@
 
 #include "app/posMod.h"
 #include "base/Failure.h"
-#include "checkout/BillStock.h"
+#include "base/NumberText.h"
 #include "checkout/PaidBill.h"
-#include "checkout/SaleScreen.h"
+#include "platform/QtText.h"
 #include "platform/VirtualKey.h"
 #include "sale/TopUpReport.h"
-#include "saleslib/ClsDayStat.h"
-#include "store/Connection.h"
-#include "store/StoreError.h"
 
 namespace {
 
 constexpr int kModifiers[] = {16, 17, 18};  // Shift, Ctrl, Alt
-
-Outage::Report reportTo(SaleScreen& screen) {
-  return [&screen](const QString& text) { screen.ShowMessage(text); };
-}
-
-// The display's reason is the system's own, and comes in the system's box.
-Outage::Report boxOf(SaleScreen& screen) {
-  return [&screen](const QString& text) { screen.messageBox(text); };
-}
 
 }  // namespace
 
@@ -32,77 +20,60 @@ SaleSession::SaleSession(posMod& pos, SaleScreen& screen, Openers openers)
     : pos_(pos),
       screen_(screen),
       openers_(std::move(openers)),
-      display_(pos.ports, pos.gPosSet, state, boxOf(screen)),
-      drawer_(pos.ports, pos.gPosSet, state, display_, reportTo(screen)),
-      receipt_(pos, state, drawer_, reportTo(screen)),
-      checkout_(pos, state, screen, display_, receipt_),
-      cell_(state, screen),
-      lookup_(pos, state, screen),
-      lines_(pos, state, screen, cell_, lookup_, checkout_, display_, receipt_),
-      memberCard_(pos, state, screen, checkout_),
-      held_(pos, state, screen, checkout_, memberCard_, display_, receipt_) {
+      books_(*pos.gConn, pos.gSysParam, pos.clock),
+      devices_(pos, screen),
+      checkout_(pos, sale_, books_, screen, devices_),
+      lookup_(sale_, {*pos.gConn, pos.gSysParam, pos.clock}, screen, pos.gSysParam),
+      lines_(sale_, books_, screen, devices_, pos.gSysParam, lookup_, checkout_),
+      memberCard_(sale_, books_, screen, pos.gMemberSvc),
+      held_(sale_, books_, screen, devices_, checkout_, memberCard_) {
   fillCommands();
   fillMenu();
 }
 
 bool SaleSession::open() {
   ensure(pos_.gOperator != nullptr, "somebody is logged in before the sale screen opens");
-  loadSettings();
+  devices_.open();
   completePaidBills(pos_, screen_);
-  reportIncompleteTopUps(pos_, screen_);
-  voidOpenBills();
+  reportIncompleteTopUps(*pos_.gConn, screen_);
+  checkout_.tell(books_.cancelOpen(pos_.gOperator->Id()));
+  sale_.follow(books_.lastSettled());
   if (clockIsBehind()) {
     screen_.messageBox(tr("电脑系统时间错误！") + "\n" + lastBillDated(), tr("致命错误"));
     screen_.endProgram();
     return false;
   }
   checkout_.PrepareNextBill();
-  return state.curBill != nullptr;
-}
-
-void SaleSession::loadSettings() {
-  const ClsPosSet& settings = pos_.gPosSet;
-  state.linePrint = !settings.PPort.empty() && settings.PPort != "USB";
-  if (!settings.PPort.empty()) state.receiptCols = ReceiptColumns::forModel(settings.PModel);
-  state.hasDrawer = !settings.MBPort.empty();
-  state.hasDisplay = !settings.CVProt.empty();
-  if (state.hasDisplay) display_.OpenDisplayPort();
-}
-
-void SaleSession::voidOpenBills() {
-  ClsDayStat bills;
-  bills.OpenQuery(*pos_.gConn, pos_.gOperator->Id());
-  for (const auto& bill : bills.Sells()) VoidBill(pos_, screen_, *bill);
-  state.lastBill = bills.LastSell(*pos_.gConn);
+  show();
+  return sale_.bill() != nullptr;
 }
 
 bool SaleSession::clockIsBehind() const {
-  return state.lastBill && state.lastBill->SellTime().date > pos_.clock().date;
+  return sale_.last() && sale_.last()->SellTime().date > pos_.clock().date;
 }
 
 // One bill of a day when the clock was ahead would keep the shop closed until that day.
 QString SaleSession::lastBillDated() const {
   return tr("单据 %1 的时间是 %2，今天却是 %3。\n请先看电脑的日期对不对；电脑对了，"
             "就请店主改正这张单据：\ntilladmin bill redate %4 %1")
-      .arg(state.lastBill->BillNo())
-      .arg(QString::fromStdString(generalText(state.lastBill->SellTime())),
-           QString::fromStdString(dateText(pos_.clock().date)),
-           QString::fromStdString(pos_.gConn->source().path.string()));
+      .arg(sale_.last()->BillNo())
+      .arg(qtText(generalText(sale_.last()->SellTime())), qtText(dateText(pos_.clock().date)),
+           qtText(books_.file()));
 }
 
 // The order is the one in which a key mapped twice finds its command.
 void SaleSession::fillCommands() {
   commands_ = {
-      {&KeyBoard::mLeft, [this] { return cell_.moveColumn(-1); }},
+      {&KeyBoard::mLeft, [this] { return sale_.selectCell(-1); }},
       {&KeyBoard::mUp,
        [this] {
-         cell_.MoveRow(true);
+         sale_.selectLine();
          return true;
        }},
-      {&KeyBoard::mRight, [this] { return cell_.moveColumn(1); }},
+      {&KeyBoard::mRight, [this] { return sale_.selectCell(1); }},
       {&KeyBoard::mDown,
        [this] {
-         cell_.MoveRow(false);
+         sale_.selectEntry();
          return true;
        }},
       {&KeyBoard::mEnter,
@@ -125,7 +96,7 @@ void SaleSession::fillCommands() {
   add(&KeyBoard::mF6, [this] { held_.RecallBill(); });
   addOpener(&KeyBoard::mF8, "search");
   addOpener(&KeyBoard::mF9, "topup");
-  add(&KeyBoard::mF10, [this] { drawer_.OpenDrawer(); });
+  add(&KeyBoard::mF10, [this] { devices_.drawer().OpenDrawer(); });
   addOpener(&KeyBoard::mF11, "search");
   add(&KeyBoard::mF12, [this] { lines_.CancelBill(); });
   add(&KeyBoard::mEsc, [this] { exit(); });
@@ -155,35 +126,40 @@ void SaleSession::fillMenu() {
   add("search", {});
 }
 
-bool SaleSession::key(int code) {
+bool SaleSession::key(int code, const QString& text) {
   if (std::find(std::begin(kModifiers), std::end(kModifiers), code) != std::end(kModifiers))
     return false;
-  textComing();
+  sale_.type(text);
+  const bool used = run(code);
+  if (used || sale_.input() != text) show();
+  return used;
+}
+
+bool SaleSession::run(int code) {
   code = pos_.gKeyBoard.meaning(code);
   if (const KeyCommand* command = commandFor(commands_, pos_.gKeyBoard, code)) {
-    if (command->run()) state.clearOnKey = true;
+    if (command->run()) sale_.replaceInput();
     return true;
   }
   return quickKey(code);
 }
 
-void SaleSession::textComing() {
-  if (!state.clearOnKey) return;
-  state.clearOnKey = false;
-  screen_.setInput({});
+void SaleSession::textComing(const QString& text) {
+  sale_.type(text);
+  if (sale_.input() != text) show();
 }
 
-bool SaleSession::mayRepeat(int code) const {
+bool SaleSession::mayRepeat(int code, const QString& text) const {
   const KeyBoard& keys = pos_.gKeyBoard;
   if (code == vk::kEnter) return false;
-  if (commandFor(commands_, keys, code) == nullptr) return quickKeyFor(code) == nullptr;
+  if (commandFor(commands_, keys, code) == nullptr) return quickKeyFor(code, text) == nullptr;
   return code == keys.mLeft || code == keys.mRight || code == keys.mUp || code == keys.mDown;
 }
 
 // Quick keys work on an empty input line only. One without an item code is none: with nothing on
 // the input line, Enter would settle.
-const clsQk* SaleSession::quickKeyFor(int code) const {
-  if (code == 0 || !screen_.input().isEmpty()) return nullptr;
+const clsQk* SaleSession::quickKeyFor(int code, const QString& text) const {
+  if (code == 0 || !text.isEmpty()) return nullptr;
   const std::vector<clsQk>& quickKeys = pos_.gKeyBoard.QK;
   const auto quick = std::find_if(quickKeys.begin(), quickKeys.end(), [code](const clsQk& each) {
     return each.QK_int == code && !each.QK_Bm.empty();
@@ -192,21 +168,25 @@ const clsQk* SaleSession::quickKeyFor(int code) const {
 }
 
 bool SaleSession::quickKey(int code) {
-  const clsQk* quick = quickKeyFor(code);
+  const clsQk* quick = quickKeyFor(code, sale_.input());
   if (quick == nullptr) return false;
-  lines_.EnterQuickKey(QString::fromStdString(quick->QK_Bm));
-  state.clearOnKey = true;
+  lines_.EnterQuickKey(qtText(quick->QK_Bm));
+  sale_.replaceInput();
   return true;
 }
 
 void SaleSession::listClicked() {
-  if (state.rows.size() > 1) cell_.toEntryRow();
+  if (sale_.isEmpty()) return;
+  sale_.selectEntry();
+  show();
 }
 
 void SaleSession::menu(const QString& entry) {
   const auto found = std::find_if(menu_.begin(), menu_.end(),
                                   [&](const MenuCommand& command) { return command.key == entry; });
-  if (found != menu_.end()) found->run();
+  if (found == menu_.end()) return;
+  found->run();
+  show();
 }
 
 std::vector<std::pair<QString, QString>> SaleSession::menuEntries() const {
@@ -218,31 +198,29 @@ std::vector<std::pair<QString, QString>> SaleSession::menuEntries() const {
 }
 
 void SaleSession::toggleLinePrint() {
-  const std::string& port = pos_.gPosSet.PPort;
-  const bool possible = !port.empty() && port != "USB";
-  state.linePrint = possible && !state.linePrint;
-  if (possible) {
-    screen_.ShowMessage(state.linePrint ? tr("打印机已打开。") : tr("打印机已关闭。"));
-  } else {
-    screen_.ShowMessage(port.empty() ? tr("没有设置打印机，打印机开关保持关闭。")
-                                     : tr("USB 打印机不逐行打印，打印机开关保持关闭。"));
+  devices_.receipt.toggle();
+  switch (devices_.printerKind()) {
+    case ReceiptPrinter::Kind::kNone:
+      return screen_.ShowMessage(tr("没有设置打印机，打印机开关保持关闭。"));
+    case ReceiptPrinter::Kind::kPage:
+      return screen_.ShowMessage(tr("USB 打印机不逐行打印，打印机开关保持关闭。"));
+    case ReceiptPrinter::Kind::kLine:
+      screen_.ShowMessage(devices_.receipt.isOn() ? tr("打印机已打开。") : tr("打印机已关闭。"));
   }
 }
 
 // A row that cannot be deleted now is voided when the screen opens next.
 void SaleSession::exit() {
-  if (!state.curBill->Items().empty() || state.curLine || !state.heldBills.empty()) {
+  if (!sale_.isEmpty() || !sale_.held().empty()) {
     screen_.ShowMessage(tr("还没结束销售或还有挂起单子，不能退出。"));
     return;
   }
   try {
-    state.curBill->Void();
-  } catch (const StoreError& failure) {
-    screen_.messageBox(QString::fromStdString(failure.what()));
+    books_.drop(*sale_.bill());
+  } catch (const Failure& failure) {
+    screen_.messageBox(qtText(failure.what()));
   }
-  state.lastBill = nullptr;
-  state.curBill = nullptr;
-  state.curMember = nullptr;
-  display_.close();
+  sale_.clear();
+  devices_.close();
   left_ = true;
 }

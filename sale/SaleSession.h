@@ -7,20 +7,17 @@
 #include <utility>
 #include <vector>
 
-#include "checkout/CashDrawer.h"
-#include "checkout/Checkout.h"
-#include "checkout/CustomerDisplay.h"
-#include "checkout/LineReceipt.h"
-#include "checkout/SaleState.h"
 #include "sale/BillLines.h"
-#include "sale/EditedCell.h"
+#include "sale/Checkout.h"
 #include "sale/HeldBills.h"
 #include "sale/ItemLookup.h"
 #include "sale/KeyDispatch.h"
 #include "sale/MemberCard.h"
+#include "sale/Sale.h"
+#include "sale/SaleDevices.h"
+#include "sale/SaleScreen.h"
 
 class posMod;
-class SaleScreen;
 struct clsQk;
 
 /// The sale screen without its window: the state, everything that works on it, and what each key
@@ -45,15 +42,15 @@ class SaleSession {
   void exit();
   bool left() const { return left_; }
 
-  /// A key on the input line, as virtual-key code. True when the key was used up; false leaves it
-  /// to the text box. Shift, Ctrl and Alt alone are no key press: the shown value stays for the key
-  /// that follows.
-  [[nodiscard]] bool key(int code);
+  /// A key on the input line, as virtual-key code, and the text that stands there. True when the
+  /// key was used up, and the screen shows what came of it; false leaves it to the text box. Shift,
+  /// Ctrl and Alt alone are no key press: the shown value stays for the key that follows.
+  [[nodiscard]] bool key(int code, const QString& text);
   /// Whether a key that is held down may repeat: typing and the arrows may, a command or a quick
   /// key may not, or a key held too long would settle a bill or ring an item ten times.
-  [[nodiscard]] bool mayRepeat(int code) const;
-  /// A text that an input method commits comes instead of a key press.
-  void textComing();
+  [[nodiscard]] bool mayRepeat(int code, const QString& text) const;
+  /// A text that an input method commits comes instead of a key press, to that text.
+  void textComing(const QString& text);
   /// A click on a row of the list: the selection returns to the entry row.
   void listClicked();
 
@@ -62,7 +59,7 @@ class SaleSession {
   /// The function menu's entries that have an action: key and caption.
   std::vector<std::pair<QString, QString>> menuEntries() const;
 
-  SaleState state;
+  const Sale& sale() const { return sale_; }
 
  private:
   struct MenuCommand {
@@ -71,25 +68,24 @@ class SaleSession {
     std::function<void()> run;
   };
 
-  void loadSettings();
-  void voidOpenBills();
   bool clockIsBehind() const;
   QString lastBillDated() const;
   void fillCommands();
   void fillMenu();
   void addOpener(int KeyBoard::*key, const QString& screen);
-  const clsQk* quickKeyFor(int code) const;
+  bool run(int code);
+  const clsQk* quickKeyFor(int code, const QString& text) const;
   bool quickKey(int code);
+  void show() { screen_.show(sale_.picture()); }
   void toggleLinePrint();
 
   posMod& pos_;
   SaleScreen& screen_;
   Openers openers_;
-  CustomerDisplay display_;
-  CashDrawer drawer_;
-  LineReceipt receipt_;
+  Sale sale_;
+  BillBooks books_;
+  SaleDevices devices_;
   Checkout checkout_;
-  EditedCell cell_;
   ItemLookup lookup_;
   BillLines lines_;
   MemberCard memberCard_;

@@ -3,27 +3,27 @@
 #include <QCoreApplication>
 #include <QStringList>
 
-#include "app/posMod.h"
+#include "base/Failure.h"
 #include "base/NumberText.h"
-#include "checkout/SaleScreen.h"
+#include "checkout/Messages.h"
+#include "platform/QtText.h"
 #include "saleslib/TopUp.h"
-#include "store/StoreError.h"
 
 namespace {
 
 QString shown(Currency money) {
-  return QString::fromStdString(twoDecimals(money));
+  return qtText(twoDecimals(money));
 }
 
 QString lineOf(const TopUp& topUp) {
   return QCoreApplication::translate("TopUpReport", "卡号 %1，付款 %2，充值 %3")
-      .arg(QString::fromStdString(topUp.cardNumber), shown(topUp.paid), shown(topUp.credited));
+      .arg(qtText(topUp.cardNumber), shown(topUp.paid), shown(topUp.credited));
 }
 
 }  // namespace
 
-void reportIncompleteTopUps(posMod& pos, SaleScreen& screen) {
-  std::vector<IncompleteTopUp> untold = incompleteTopUps(*pos.gConn);
+void reportIncompleteTopUps(Connection& connection, Messages& screen) {
+  std::vector<IncompleteTopUp> untold = incompleteTopUps(connection);
   std::erase_if(untold, [](const IncompleteTopUp& each) { return each.isReported; });
   if (untold.empty()) return;
   QStringList lines;
@@ -32,8 +32,8 @@ void reportIncompleteTopUps(posMod& pos, SaleScreen& screen) {
       QCoreApplication::translate("TopUpReport", "以下充值没有记入卡内，请核对后重新充值：\n%1")
           .arg(lines.join("\n")));
   try {
-    for (const IncompleteTopUp& each : untold) noteReported(*pos.gConn, each);
-  } catch (const StoreError&) {
+    for (const IncompleteTopUp& each : untold) noteReported(connection, each);
+  } catch (const Failure&) {
     // What cannot be noted is told again at the next opening.
   }
 }

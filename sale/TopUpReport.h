@@ -1,9 +1,9 @@
 #pragma once
 
-class posMod;
-class SaleScreen;
+class Connection;
+class Messages;
 
 /// Tells the cashier, once, which top-ups of stored-value cards were recorded without the card's
 /// balance, because the program ended or the data file failed between the two. Throws StoreError
 /// when they cannot be read.
-void reportIncompleteTopUps(posMod& pos, SaleScreen& screen);
+void reportIncompleteTopUps(Connection& connection, Messages& screen);

@@ -20,14 +20,10 @@
 #include "sale/frmRecord.h"
 #include "shell/frmInput.h"
 #include "shell/frmMenu.h"
-#include "store/Connection.h"
-#include "store/StoreError.h"
 
 namespace {
 
 constexpr int kClockInterval = 1000;  // milliseconds
-// So long without a key press after a sale, and nobody waits for the log to be tidied.
-constexpr int kIdleInterval = 1500;
 
 }  // namespace
 
@@ -46,10 +42,7 @@ frmSell::frmSell(posMod& pos, SaleSession::Openers openers, std::function<void()
   controls_.t->installEventFilter(this);
   Timer1_.setObjectName("Timer1");
   Timer1_.setInterval(kClockInterval);
-  idle_.setInterval(kIdleInterval);
-  idle_.setSingleShot(true);
   connect(&Timer1_, &QTimer::timeout, this, &frmSell::showTime);
-  connect(&idle_, &QTimer::timeout, this, &frmSell::checkpoint);
 
   // After the colour dialog the six colours are applied again.
   if (const auto colour = openers_.find("color"); colour != openers_.end()) {
@@ -66,7 +59,6 @@ void frmSell::openModal() {
   begin();
   const auto closing = qScopeGuard([this] { finish(); });
   if (!session_->open() || ended_) return;
-  settled_ = session_->state.lastBill.get();
   QEventLoop loop;
   const QScopedValueRollback running(loop_, &loop);
   loop.exec();
@@ -75,7 +67,7 @@ void frmSell::openModal() {
 void frmSell::begin() {
   SaleScreen& screen = *this;
   session_ = std::make_unique<SaleSession>(pos_, screen, openers_);
-  model_ = std::make_unique<BillModel>(session_->state);
+  model_ = std::make_unique<BillModel>();
   controls_.lv->setModel(model_.get());
   myMenu_ = std::make_unique<frmMenu>(pos_.gKeyBoard, this);
   myMenu_->setObjectName("myMenu");
@@ -86,10 +78,10 @@ void frmSell::begin() {
 
   const QString shop = QString::fromStdString(pos_.gSysParam.ShopName());
   controls_.title->showText(shop.isEmpty() ? tr("收  银  台") : shop);
-  setTitle1(tr("单号：") + tr("收银员："));
-  setTitle3({});
-  setStatus({});
-  setMemberInfo({});
+  controls_.title1->showText(tr("单号：收银员："));
+  controls_.title3->showText({});
+  controls_.txtmoney->showText({});
+  controls_.showMember({});
   showTime();
   arrange();
   // At its full size before the first message of the opening is placed over it, with no input line
@@ -104,7 +96,6 @@ void frmSell::begin() {
 
 void frmSell::finish() {
   Timer1_.stop();
-  idle_.stop();
   hide();
   controls_.lv->setModel(nullptr);
   model_.reset();
@@ -113,9 +104,7 @@ void frmSell::finish() {
 }
 
 void frmSell::ShowSaleMenu() {
-  session_->state.menuIdle = false;
   myMenu_->ShowMenu(0);
-  session_->state.menuIdle = true;
   afterCommand();
 }
 
@@ -124,7 +113,7 @@ void frmSell::showTime() {
 }
 
 bool frmSell::eventFilter(QObject* watched, QEvent* event) {
-  if (watched != controls_.t || !session_ || !session_->state.curBill)
+  if (watched != controls_.t || !session_ || !session_->sale().bill())
     return QWidget::eventFilter(watched, event);
   if (event->type() == QEvent::KeyPress) return keyPressed(*static_cast<QKeyEvent*>(event));
   // No shortcut is looked for before a typed character.
@@ -136,7 +125,7 @@ bool frmSell::eventFilter(QObject* watched, QEvent* event) {
     const auto& composed = *static_cast<QInputMethodEvent*>(event);
     if (!composed.preeditString().isEmpty() || !composed.commitString().isEmpty()) {
       controls_.lv->showCurrent();
-      session_->textComing();
+      session_->textComing(controls_.t->text());
     }
   }
   return false;
@@ -145,10 +134,9 @@ bool frmSell::eventFilter(QObject* watched, QEvent* event) {
 bool frmSell::keyPressed(QKeyEvent& event) {
   if (ended_) return true;
   const int code = virtualKey(event);
-  if (event.isAutoRepeat() && !session_->mayRepeat(code)) return true;
-  idle_.stop();
+  if (event.isAutoRepeat() && !session_->mayRepeat(code, controls_.t->text())) return true;
   controls_.lv->showCurrent();
-  if (session_->key(code)) {
+  if (session_->key(code, controls_.t->text())) {
     afterCommand();
     return true;
   }
@@ -160,23 +148,7 @@ bool frmSell::keyPressed(QKeyEvent& event) {
 // Not every window system makes the window under a closed modal one active again.
 void frmSell::afterCommand() {
   if (!isActiveWindow()) activateWindow();
-  if (session_->left() && loop_ != nullptr) {
-    loop_->quit();
-    return;
-  }
-  const ClsSell* previous = session_->state.lastBill.get();
-  if (previous != settled_) idle_.start();
-  settled_ = previous;
-}
-
-// A log that cannot be tidied now loses nothing; the next sale will say what is wrong with the
-// file.
-void frmSell::checkpoint() {
-  try {
-    pos_.gConn->checkpoint();
-  } catch (const StoreError&) {
-    return;
-  }
+  if (session_->left() && loop_ != nullptr) loop_->quit();
 }
 
 void frmSell::closeEvent(QCloseEvent* event) {
@@ -201,61 +173,35 @@ void frmSell::arrange() {
   moveEditor();
 }
 
-// Who changes the selection places the editor, too.
-void frmSell::rowsChanged() {
-  model_->rowsChanged();
-}
-
 // What has changed in the list is painted first: it is what the cashier waits for.
-void frmSell::PlaceEditor() {
-  SaleState& state = session_->state;
+void frmSell::show(const SalePicture& picture) {
   controls_.t->setUpdatesEnabled(false);
+  model_->show(picture.rows);
+  shown_ = picture;
+  shown_.rows = {};
   moveEditor();
   controls_.lv->paintNow();
-  const BillRow& row = state.rows[static_cast<std::size_t>(state.selected)];
-  setInput(QString::fromStdString(row.cells[static_cast<std::size_t>(state.editColumn())]));
+  showInput(picture);
   controls_.t->setUpdatesEnabled(true);
-  state.clearOnKey = true;
+  controls_.title1->showText(picture.title1);
+  controls_.title3->showText(picture.title3);
+  controls_.txtmoney->showText(picture.status);
+  controls_.showMember(picture.memberInfo);
+}
+
+// Given to be corrected, it is selected, so that what is typed next replaces it.
+void frmSell::showInput(const SalePicture& picture) {
+  if (controls_.t->text() != picture.input) controls_.t->setText(picture.input);
+  if (picture.inputIsGiven && !picture.input.isEmpty()) controls_.t->selectAll();
 }
 
 void frmSell::moveEditor() {
-  if (!session_ || session_->state.selected < 0) return;
-  const SaleState& state = session_->state;
-  const bool entersCode = state.selected + 1 == static_cast<int>(state.rows.size()) &&
-                          state.editColumn() == BillRow::kNumber;
-  // A barcode needs more room than the row's number, and the cell of its code is still empty.
-  controls_.lv->showCell(state.selected, state.editColumn(),
-                         entersCode ? BillRow::kCode : state.editColumn());
-  const QModelIndex cell = model_->index(state.selected, state.editColumn());
+  if (!model_ || model_->rowCount() == 0) return;
+  controls_.lv->showCell(shown_.row, shown_.column, shown_.lastColumn);
+  const QModelIndex cell = model_->index(shown_.row, shown_.column);
   const Qt::Alignment side(cell.data(Qt::TextAlignmentRole).toInt());
   if (controls_.t->alignment() != side) controls_.t->setAlignment(side);
   controls_.t->setGeometry(controls_.lv->insideOfCurrentCell());
-}
-
-QString frmSell::input() const {
-  return controls_.t->text();
-}
-
-// Selected, so that what is typed next replaces a value shown for correction.
-void frmSell::setInput(const QString& text) {
-  controls_.t->setText(text);
-  if (!text.isEmpty()) controls_.t->selectAll();
-}
-
-void frmSell::setTitle1(const QString& text) {
-  controls_.title1->showText(text);
-}
-
-void frmSell::setTitle3(const QString& text) {
-  controls_.title3->showText(text);
-}
-
-void frmSell::setStatus(const QString& text) {
-  controls_.txtmoney->showText(text);
-}
-
-void frmSell::setMemberInfo(const QString& text) {
-  controls_.showMember(text);
 }
 
 void frmSell::ShowMessage(const QString& text) {

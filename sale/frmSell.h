@@ -5,8 +5,8 @@
 #include <functional>
 #include <memory>
 
-#include "checkout/SaleScreen.h"
 #include "sale/SaleMessages.h"
+#include "sale/SalePicture.h"
 #include "sale/SaleSession.h"
 #include "sale/SellControls.h"
 
@@ -42,14 +42,7 @@ class frmSell : public QWidget, private SaleScreen {
   void contextMenuEvent(QContextMenuEvent* event) override;
 
  private:
-  void rowsChanged() override;
-  void PlaceEditor() override;
-  QString input() const override;
-  void setInput(const QString& text) override;
-  void setTitle1(const QString& text) override;
-  void setTitle3(const QString& text) override;
-  void setStatus(const QString& text) override;
-  void setMemberInfo(const QString& text) override;
+  void show(const SalePicture& picture) override;
   void ShowMessage(const QString& text) override;
   void messageBox(const QString& text, const QString& title) override;
   bool askYesNo(const QString& text, const QString& title, bool yesPreselected) override;
@@ -62,11 +55,11 @@ class frmSell : public QWidget, private SaleScreen {
   void begin();
   void finish();
   void arrange();
+  void showInput(const SalePicture& picture);
   void moveEditor();
   void showTime();
   bool keyPressed(QKeyEvent& event);
   void afterCommand();
-  void checkpoint();
 
   posMod& pos_;
   SaleMessages messages_{this};
@@ -75,8 +68,8 @@ class frmSell : public QWidget, private SaleScreen {
   std::unique_ptr<SaleSession> session_;  ///< while the screen is open
   std::unique_ptr<BillModel> model_;
   QEventLoop* loop_ = nullptr;
-  bool ended_ = false;                ///< the program is ending
-  const ClsSell* settled_ = nullptr;  ///< the previous bill as last seen, to notice a settlement
+  bool ended_ = false;  ///< the program is ending
+  SalePicture shown_;   ///< without its rows, which the model keeps
 
   SellControls controls_{this};
   std::unique_ptr<frmMenu> myMenu_;
@@ -84,5 +77,4 @@ class frmSell : public QWidget, private SaleScreen {
   frmInput* input_ = nullptr;
   frmRecord* record_ = nullptr;
   QTimer Timer1_;
-  QTimer idle_;
 };

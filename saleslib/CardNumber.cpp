@@ -40,3 +40,8 @@ std::vector<std::string> memberNumbers(std::string_view typed) {
 std::vector<std::string> storedCardNumbers(std::string_view typed) {
   return eachOnce({std::string(typed), memberNumber(typed), storedCardNumber(typed)});
 }
+
+std::vector<std::string> payingCardNumbers(std::string_view typed) {
+  const bool isTrack = halfWidth(typed).find_first_of(kSentinels) != std::string::npos;
+  return isTrack ? storedCardNumbers(typed) : memberNumbers(typed);
+}

@@ -20,3 +20,6 @@ TESSALY_API std::string storedCardNumber(std::string_view typed);
 TESSALY_API std::vector<std::string> memberNumbers(std::string_view typed);
 /// As memberNumbers, for a card that is to be topped up: at last without its small letters too.
 TESSALY_API std::vector<std::string> storedCardNumbers(std::string_view typed);
+/// As memberNumbers, for a card that pays: only a swiped track loses its small letters, so that
+/// "vip10" is not the card 10.
+TESSALY_API std::vector<std::string> payingCardNumbers(std::string_view typed);

@@ -44,12 +44,21 @@ double ClsDayStat::SumQuantity() const {
   return sum;
 }
 
-std::optional<Currency> ClsDayStat::SumMoney() const {
+template <class Figure>
+std::optional<Currency> ClsDayStat::sumOf(const Figure& figure) const {
   try {
     Currency sum;
-    for (const auto& bill : sells_) sum += bill->Amount();
+    for (const auto& bill : sells_) sum += figure(*bill);
     return sum;
   } catch (const Overflow&) {
     return std::nullopt;
   }
+}
+
+std::optional<Currency> ClsDayStat::SumMoney() const {
+  return sumOf([](const ClsSell& bill) { return bill.Amount(); });
+}
+
+std::optional<Currency> ClsDayStat::SumTendered(Tender tender) const {
+  return sumOf([tender](const ClsSell& bill) { return bill.Tendered(tender); });
 }

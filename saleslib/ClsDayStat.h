@@ -36,9 +36,13 @@ class TESSALY_API ClsDayStat {
   double SumQuantity() const;
   /// Nothing when the sum does not fit.
   std::optional<Currency> SumMoney() const;
+  /// Settled with that kind of payment; nothing when the sum does not fit.
+  std::optional<Currency> SumTendered(Tender tender) const;
 
  private:
   void select(Connection& connection, Rows rows);
+  template <class Figure>
+  std::optional<Currency> sumOf(const Figure& figure) const;
 
   Sells_t sells_;
 };

@@ -61,6 +61,8 @@ bool ClsMember::Save() {
   birthday_.markWritten(*connection_);
   balance_.markWritten(*connection_);
   password_.markWritten(*connection_);
+  newTotal_.markWritten(*connection_);
+  newPoints_.markWritten(*connection_);
   edited_ = false;
   return true;
 }
@@ -114,11 +116,12 @@ void ClsMember::insert() {
 void ClsMember::update() {
   const std::int64_t changed = connection_->run(
       "update member set bh = ?, name = ?, sex = ?, age = ?, phone = ?, address = ?, other = ?,"
-      " enabled = ?, total_spent = ?, points = ?, discount = ?, birthday = coalesce(?, birthday),"
+      " enabled = ?, total_spent = coalesce(?, total_spent), points = coalesce(?, points),"
+      " discount = ?, birthday = coalesce(?, birthday),"
       " card = coalesce(?, card), password = coalesce(?, password) where id = ?",
-      bh_, name_, sex_, age_, phone_, address_, other_, enabled_, totalSpent_, points_, discount_,
-      birthday_.unwritten(*connection_), balance_.unwritten(*connection_),
-      password_.unwritten(*connection_), id_);
+      bh_, name_, sex_, age_, phone_, address_, other_, enabled_, newTotal_.unwritten(*connection_),
+      newPoints_.unwritten(*connection_), discount_, birthday_.unwritten(*connection_),
+      balance_.unwritten(*connection_), password_.unwritten(*connection_), id_);
   if (changed == 0) throw StoreError("会员 " + bh_ + " 已被删除，没有保存！");
 }
 

@@ -29,8 +29,8 @@ class TESSALY_API ClsMember {
   /// in ErrText: no number or name, number taken, a text of more than 100 characters or with
   /// control characters, a negative age, balance or discount. A loaded member's personal data are
   /// only judged when they were set: points and purchases of an old record with flaws can still be
-  /// kept. A loaded member's balance, card password and birthday are only written when they were
-  /// set.
+  /// kept. A loaded member's balance, card password, birthday, purchases and points are only
+  /// written when they were set: sales go on changing them.
   [[nodiscard]] bool Save();
   /// As Save, for a loaded member only.
   [[nodiscard]] bool Update();
@@ -52,7 +52,10 @@ class TESSALY_API ClsMember {
   }  ///< kept without blanks around
   const std::string& ErrText() const { return errText_; }
   std::int16_t Points() const { return points_; }
-  void setPoints(std::int16_t points) { points_ = points; }
+  void setPoints(std::int16_t points) {
+    points_ = points;
+    newPoints_ = {points};
+  }
   Date JoinDate() const { return joined_.date; }
   const std::string& Other() const { return other_; }  ///< remark
   void setOther(std::string other) { edit(other_, std::move(other)); }
@@ -61,7 +64,10 @@ class TESSALY_API ClsMember {
   bool Enabled() const { return enabled_; }  ///< card usable
   void setEnabled(bool enabled) { enabled_ = enabled; }
   Currency TotalSpent() const { return totalSpent_; }
-  void setTotalSpent(Currency total) { totalSpent_ = total; }
+  void setTotalSpent(Currency total) {
+    totalSpent_ = total;
+    newTotal_ = {total};
+  }
   double Discount() const {
     return discount_.value_or(1.0);
   }  ///< factor; 1 when the record has none
@@ -71,8 +77,7 @@ class TESSALY_API ClsMember {
   void setPassword(std::string password) { edit(password_, {std::move(password)}); }
 
  private:
-  /// What the program sets but never reads: written once, again only when that write was taken
-  /// back.
+  /// What is written only when it was set: once, again only when that write was taken back.
   template <class T>
   struct WriteOnly {
     std::optional<T> value;
@@ -105,5 +110,7 @@ class TESSALY_API ClsMember {
   std::optional<double> discount_;
   WriteOnly<DateTime> birthday_;
   WriteOnly<Currency> balance_;
+  WriteOnly<Currency> newTotal_;
+  WriteOnly<int> newPoints_;
   WriteOnly<std::string> password_;
 };

@@ -27,6 +27,13 @@ Totals totalsOf(const ClsSell::Items_t& lines) {
   return totals;
 }
 
+std::string tenderAssignments() {
+  std::string assignments;
+  for (const TenderKind& kind : tenderKinds())
+    assignments += std::string(", ") + kind.column + " = ?";
+  return assignments;
+}
+
 }  // namespace
 
 bool ClsSell::Open(Connection& connection, std::int32_t billNo, std::int32_t operatorId,
@@ -80,28 +87,41 @@ void ClsSell::read(const Row& row) {
   quantity_ = row.number("quantity").value_or(0);
   goodsAmount_ = money(row, "goods_amount");
   amount_ = money(row, "amount");
-  cash_ = money(row, "cash");
-  favorable_ = money(row, "favorable");
-  bankCard_ = money(row, "bank_card");
-  cardPay_ = money(row, "card_pay");
+  for (const TenderKind& kind : tenderKinds()) setTendered(kind.tender, money(row, kind.column));
   cardNo_ = row.text("card_no");
+  slip_ = row.text("phone_slip");
   salesman_ = whole16(row, "salesman");
   memberId_ = whole32(row, "member_id");
+}
+
+void ClsSell::setSlip(std::string code) {
+  ensure(code == slipCode(code), "a slip's code is a sound text");
+  slip_ = std::move(code);
+}
+
+Currency ClsSell::Change() const {
+  Currency change = Currency() - amount_;
+  for (const Currency figure : tendered_) change += figure;
+  return change;
 }
 
 bool ClsSell::FiguresFit() const {
   try {
     static_cast<void>(Change());
-    static_cast<void>(cash_ - amount_);
-    static_cast<void>(amount_ - favorable_);
+    static_cast<void>(Cash() - amount_);
+    static_cast<void>(amount_ - Favorable());
     return true;
   } catch (const Overflow&) {
     return false;
   }
 }
 
+bool ClsSell::AddsUp() const {
+  return totalsOf(items_) == Totals{quantity_, goodsAmount_};
+}
+
 bool ClsSell::Save() {
-  ensure(totalsOf(items_) == Totals{quantity_, goodsAmount_}, "a bill's lines add up to the bill");
+  ensure(AddsUp(), "a bill's lines add up to the bill");
   errText_.clear();
   try {
     Transaction transaction(*connection_);
@@ -125,14 +145,19 @@ bool ClsSell::SavePaid() {
 
 // The mark goes with the state that settles the bill, in one statement.
 void ClsSell::store() {
-  const std::int64_t changed = connection_->run(
-      "update sell set sell_time = ?, state = ?, quantity = ?, goods_amount = ?, amount = ?, cash "
-      "= ?,"
-      " favorable = ?, bank_card = ?, card_pay = ?, card_no = ?, salesman = ?, member_id = ?,"
-      " paid = ? where id = ?",
-      sellTime_, state_, quantity_, goodsAmount_, amount_, cash_, favorable_, bankCard_, cardPay_,
-      cardNo_, salesman_, memberId_, Paid(), billNo_);
-  if (changed == 0) throw StoreError("单据 " + std::to_string(billNo_) + " 已不在数据文件中！");
+  static const std::string statement =
+      "update sell set sell_time = ?, state = ?, quantity = ?, goods_amount = ?, amount = ?,"
+      " card_no = ?, phone_slip = nullif(?, ''), salesman = ?, member_id = ?, paid = ?" +
+      tenderAssignments() + " where id = ?";
+  std::vector<Value> values = {toValue(sellTime_),    toValue(state_),    toValue(quantity_),
+                               toValue(goodsAmount_), toValue(amount_),   toValue(cardNo_),
+                               toValue(slip_),        toValue(salesman_), toValue(memberId_),
+                               toValue(Paid())};
+  for (const Currency figure : tendered_) values.push_back(toValue(figure));
+  values.push_back(toValue(billNo_));
+  if (connection_->runBound(statement.c_str(), std::move(values)) == 0) {
+    throw StoreError("单据 " + std::to_string(billNo_) + " 已不在数据文件中！");
+  }
 }
 
 void ClsSell::Void() {
@@ -151,7 +176,7 @@ void ClsSell::LoadLines() {
   }
   if (state_ == kOpen && !Paid()) {
     Recalculate();
-  } else if (totalsOf(items_) != Totals{quantity_, goodsAmount_}) {
+  } else if (!AddsUp()) {
     throw StoreError("单据 " + std::to_string(billNo_) +
                      " 的商品明细与合计不符，数据文件可能已损坏，请与管理员联系！");
   }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <array>
 #include <cstdint>
 #include <memory>
 #include <string>
@@ -10,6 +11,7 @@
 #include "base/DateTime.h"
 #include "saleslib/ClsSellItem.h"
 #include "saleslib/Export.h"
+#include "saleslib/Tenders.h"
 
 class Connection;
 class Row;
@@ -58,8 +60,13 @@ class TESSALY_API ClsSell {
   std::int32_t BillNo() const { return billNo_; }
   Currency Amount() const { return amount_; }  ///< amount due
   void setAmount(Currency amount) { amount_ = amount; }
-  Currency Cash() const { return cash_; }
-  void setCash(Currency cash) { cash_ = cash; }
+  /// What of each kind the bill is settled with.
+  Currency Tendered(Tender tender) const { return tendered_[static_cast<std::size_t>(tender)]; }
+  void setTendered(Tender tender, Currency amount) {
+    tendered_[static_cast<std::size_t>(tender)] = amount;
+  }
+  Currency Cash() const { return Tendered(Tender::kCash); }
+  void setCash(Currency cash) { setTendered(Tender::kCash, cash); }
   /// When the bill was made: opened, and from its first line on the time that line was entered, so
   /// that the first sale of a morning is not dated back to the evening before, when its bill was
   /// opened. It never moves back: a bill that was open when the clock was set back shows that.
@@ -72,22 +79,28 @@ class TESSALY_API ClsSell {
   std::int16_t State() const { return state_; }  ///< 0 open, 1 settled
   void setState(std::int16_t state) { state_ = state; }
   bool Paid() const { return paid_ && state_ == kOpen; }  ///< has the mark of SavePaid
-  Currency Favorable() const { return favorable_; }       ///< discount amount given at settlement
-  void setFavorable(Currency favorable) { favorable_ = favorable; }
+  /// Discount amount given at settlement.
+  Currency Favorable() const { return Tendered(Tender::kFavorable); }
+  void setFavorable(Currency favorable) { setTendered(Tender::kFavorable, favorable); }
   std::int16_t Salesman() const { return salesman_; }
   void setSalesman(std::int16_t salesman) { salesman_ = salesman; }
-  Currency BankCard() const { return bankCard_; }
-  void setBankCard(Currency amount) { bankCard_ = amount; }
-  Currency CardPay() const { return cardPay_; }
-  void setCardPay(Currency amount) { cardPay_ = amount; }
+  Currency BankCard() const { return Tendered(Tender::kBankCard); }
+  void setBankCard(Currency amount) { setTendered(Tender::kBankCard, amount); }
+  Currency CardPay() const { return Tendered(Tender::kStoredCard); }
+  void setCardPay(Currency amount) { setTendered(Tender::kStoredCard, amount); }
   const std::string& CardNo() const { return cardNo_; }
   void setCardNo(std::string number) { cardNo_ = std::move(number); }
+  /// The code on the payer's slip, as slipCode makes it (ensure); empty for none.
+  const std::string& Slip() const { return slip_; }
+  void setSlip(std::string code);
   const std::string& ErrText() const { return errText_; }
 
+  /// Whether the lines add up to quantity and goods amount, which Save wants (see there).
+  [[nodiscard]] bool AddsUp() const;
   /// Sum of the lines' amounts, before the shop's rounding.
   Currency GoodsAmount() const { return goodsAmount_; }
-  /// Cash + bank card + stored-value card + discount - amount due. Throws Overflow.
-  Currency Change() const { return cash_ + bankCard_ + cardPay_ + favorable_ - amount_; }
+  /// All that the bill is settled with - amount due. Throws Overflow.
+  Currency Change() const;
   /// Whether all that screens and receipts work out from the payment fits. A data file may hold
   /// settled bills of which it does not.
   [[nodiscard]] bool FiguresFit() const;
@@ -109,7 +122,8 @@ class TESSALY_API ClsSell {
   bool paid_ = false;
   std::int32_t memberId_ = 0;
   double quantity_ = 0;
-  Currency goodsAmount_, amount_, cash_, favorable_, bankCard_, cardPay_;
-  std::string cardNo_, errText_;
+  Currency goodsAmount_, amount_;
+  std::array<Currency, kTenders> tendered_;
+  std::string cardNo_, slip_, errText_;
   Items_t items_;
 };

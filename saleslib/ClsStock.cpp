@@ -5,10 +5,12 @@
 
 #include "base/NumberText.h"
 #include "store/Connection.h"
+#include "store/Transaction.h"
 
 namespace {
 
 constexpr double kLargestMovement = 1e12;
+constexpr std::int16_t kMayGoNegative = 0;
 
 }  // namespace
 
@@ -19,29 +21,43 @@ void ClsStock::Init(Connection& connection, std::string itemCode) {
 }
 
 bool ClsStock::PutBack(double quantity, int) {
-  if (!acceptable(quantity)) return false;
-  add(quantity);
-  return true;
+  return moveAlone(-quantity, kMayGoNegative);
 }
 
 bool ClsStock::TakeOut(double quantity, int, std::int16_t stockRule) {
-  if (!acceptable(quantity)) return false;
-  // A negative take (a line of negative quantity) fills the stock, which no rule refuses.
-  if (stockRule == 0 || quantity <= 0) {
-    add(-quantity);
-    return true;
-  }
-  if (takeIfEnough(quantity)) return true;
-  errText_ =
-      "库存不足：" + goodsName() + "（" + itemCode_ + "）现有库存 " + generalNumber(StockQty());
-  return false;
+  return moveAlone(quantity, stockRule);
 }
 
-bool ClsStock::acceptable(double quantity) {
+bool ClsStock::moveAlone(double quantity, std::int16_t stockRule) {
+  Transaction moving(*connection_);
+  const StockOutcome outcome = Move(quantity, stockRule);
   errText_.clear();
-  if (std::isfinite(quantity) && std::abs(quantity) <= kLargestMovement) return true;
-  errText_ = "数量超出范围：" + goodsName() + "（" + itemCode_ + "）";
-  return false;
+  if (outcome.done()) {
+    moving.commit();
+  } else if (outcome.kind == StockOutcome::kShort) {
+    errText_ = "库存不足：" + outcome.goods + "现有库存 " + generalNumber(outcome.left);
+  } else {
+    errText_ = "数量超出范围：" + outcome.goods;
+  }
+  return outcome.done();
+}
+
+// A negative take (a line of negative quantity) fills the stock, which no rule refuses.
+StockOutcome ClsStock::Move(double quantity, std::int16_t stockRule) {
+  if (!std::isfinite(quantity) || std::abs(quantity) > kLargestMovement) {
+    return refused(StockOutcome::kOutOfRange, 0);
+  }
+  const double before = StockQty();
+  const double left = roundedQuantity(before - quantity);
+  if (stockRule != kMayGoNegative && quantity > 0 && left < 0) {
+    return refused(StockOutcome::kShort, before);
+  }
+  add(-quantity);
+  return {.left = left, .goods = {}};
+}
+
+StockOutcome ClsStock::refused(StockOutcome::Kind kind, double left) const {
+  return {kind, left, goodsName() + "（" + itemCode_ + "）"};
 }
 
 void ClsStock::add(double quantity) {
@@ -51,14 +67,6 @@ void ClsStock::add(double quantity) {
   if (changed != 0) return;
   connection_->run("insert into stock (spbm, quantity) values (?, round(?, 6))", itemCode_,
                    quantity);
-}
-
-// One statement decides and takes, so that no other writer comes in between.
-bool ClsStock::takeIfEnough(double quantity) {
-  return connection_->run(
-             "update stock set quantity = round(quantity - ?, 6)"
-             " where spbm = ? and round(quantity - ?, 6) >= 0",
-             quantity, itemCode_, quantity) != 0;
 }
 
 double ClsStock::StockQty() const {

@@ -6,6 +6,7 @@
 #include "base/Failure.h"
 #include "base/NumberText.h"
 #include "base/Text.h"
+#include "saleslib/Tenders.h"
 #include "store/Connection.h"
 #include "store/Transaction.h"
 
@@ -81,6 +82,7 @@ constexpr std::array kDefinitions = {
     Definition{"GoldRate", &kRate, "1", "金卡打几折（九折写 0.9）"},
     Definition{"BackupOnExit", &kSwitch, "0", "退出程序时备份数据文件：0 否，1 是"},
     Definition{"CheckPayment", &kSwitch, "0", "收款、价格、折扣像打错时先问一声：0 否，1 是"},
+    Definition{"PhonePay", &kSwitch, "0", "收手机扫码付款：0 否，1 是"},
 };
 
 const Definition* find(std::string_view name) {
@@ -201,4 +203,7 @@ bool ClsSysParam::BackupOnExit() const {
 }
 bool ClsSysParam::CheckPayment() const {
   return isOn("CheckPayment");
+}
+bool ClsSysParam::Takes(const TenderKind& kind) const {
+  return kind.parameter == nullptr || isOn(kind.parameter);
 }

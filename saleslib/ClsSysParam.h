@@ -10,6 +10,7 @@
 #include "saleslib/Export.h"
 
 class Connection;
+struct TenderKind;
 
 /// The shop's parameters, read from the data file when bound and kept in memory; each has a sound
 /// value when none is set.
@@ -36,6 +37,9 @@ class TESSALY_API ClsSysParam {
   Currency GoldRate() const;       ///< of 金卡; 1
   bool BackupOnExit() const;       ///< off
   bool CheckPayment() const;       ///< ask before figures that are likely mistyped; off
+  /// Whether the shop takes that kind of payment: those with a parameter of their own (PhonePay)
+  /// are off.
+  bool Takes(const TenderKind& kind) const;
 
   /// A parameter as the owner's tool lists it.
   struct Parameter {

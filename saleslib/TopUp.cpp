@@ -1,7 +1,8 @@
 #include "saleslib/TopUp.h"
 
+#include <optional>
+
 #include "base/NumberText.h"
-#include "saleslib/CardNumber.h"
 #include "saleslib/Fields.h"
 #include "store/Connection.h"
 #include "store/Literal.h"
@@ -31,35 +32,33 @@ std::int64_t writeRecord(Connection& connection, const TopUp& topUp) {
   return record.value();
 }
 
-void writeBalance(Connection& connection, const TopUp& topUp, std::int64_t record) {
+/// The record's balance becomes what is on the card, should another sale have used it meanwhile.
+void load(Connection& connection, const TopUp& topUp, std::int64_t record) {
   Transaction both(connection);
-  const std::int64_t cards = connection.Execute(" update member set card=" + amount(topUp.balance) +
-                                                " where bh= " + quotedText(topUp.cardNumber));
+  const std::int64_t cards =
+      connection.run("update member set card = round(card + ?, 4) where bh = ?",
+                     topUp.balance - topUp.before, topUp.cardNumber);
   if (cards == 0) {
     throw StoreError("会员卡 " + topUp.cardNumber + " 已不在数据文件中，余额没有保存！");
   }
-  connection.run("update cardStored set complete = 1 where id = ?", record);
+  connection.run(
+      "update cardStored set complete = 1, commerce = (select card from member where bh = cardbh)"
+      " where id = ?",
+      record);
   both.commit();
 }
 
 }  // namespace
 
-std::optional<StoredCard> findStoredCard(Connection& connection, std::string_view typed) {
-  for (const std::string& number : storedCardNumbers(typed)) {
-    Rows rows = connection.Read("select * from member where bh=" + quotedText(number));
-    if (!rows.next()) continue;
-    return StoredCard{.number = rows.text("bh"),
-                      .memberName = rows.text("name"),
-                      .discountClass = rows.text("hyzklb"),
-                      .balance = money(rows, "card"),
-                      .isEnabled = rows.whole("enabled").value_or(0) != 0};
-  }
-  return std::nullopt;
-}
-
-void storeTopUp(Connection& connection, const TopUp& topUp) {
+CardResult storeTopUp(Connection& connection, const TopUp& topUp) {
+  const std::optional<StoredCard> card = findStoredCard(connection, {topUp.cardNumber});
+  if (!card) return {};
+  if (!card->isEnabled) return {CardOutcome::kBlocked, *card};
+  CardResult result{CardOutcome::kDone, *card};
+  result.card.balance += topUp.balance - topUp.before;
   const std::optional<std::int64_t> begun = begunRecord(connection, topUp);
-  writeBalance(connection, topUp, begun ? *begun : writeRecord(connection, topUp));
+  load(connection, topUp, begun ? *begun : writeRecord(connection, topUp));
+  return result;
 }
 
 std::vector<IncompleteTopUp> incompleteTopUps(Connection& connection) {

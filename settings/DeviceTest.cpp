@@ -3,14 +3,13 @@
 #include <utility>
 
 #include "app/ClsPosSet.h"
-#include "app/DeviceBytes.h"
 #include "app/Ports.h"
-#include "base/Failure.h"
 #include "base/Gbk.h"
+#include "devices/CashDrawer.h"
+#include "devices/CustomerDisplay.h"
+#include "devices/ReceiptPrinter.h"
 
 namespace {
-
-constexpr int kTotalMode = 2;
 
 QString portText(const std::string& port) {
   return QString::fromStdString(port);
@@ -23,7 +22,11 @@ Currency testFigure() {
 }  // namespace
 
 DeviceTest::DeviceTest(const Ports& ports, const ClsPosSet& settings, Clock clock)
-    : ports_(ports), settings_(settings), clock_(std::move(clock)) {}
+    : ports_(ports),
+      settings_(settings),
+      clock_(std::move(clock)),
+      report_([this](const std::string& text) { fault_ = QString::fromStdString(text); }),
+      display_(std::make_unique<CustomerDisplay>(settings, ports, report_)) {}
 
 DeviceTest::~DeviceTest() = default;
 
@@ -38,43 +41,36 @@ std::vector<DeviceTest::Result> DeviceTest::run() {
 DeviceTest::Result DeviceTest::result(const QString& device, const std::string& port,
                                       const Trial& trial) {
   if (port.empty()) return {device, tr("没有设定端口，未测试"), false};
-  try {
-    return {device, trial(), false};
-  } catch (const Failure& error) {
-    return {device, QString::fromUtf8(error.what()), true};
-  }
+  fault_.clear();
+  const QString done = trial();
+  return {device, fault_.isEmpty() ? done : fault_, !fault_.isEmpty()};
 }
 
 // As wide as the paper, so that the paper model can be judged too.
-QString DeviceTest::tryPrinter() const {
-  const bool wide = settings_.PModel == 1;
-  const std::string line = gbk::centred("打印测试 " + generalText(clock_()), wide ? 40 : 32, '-');
-  if (settings_.PPort == "USB") {
-    PageDocument page;
-    page.name = "打印测试";
-    page.texts.push_back({0, 0, line});
-    ports_.pagePrinter(settings_.PModel)->print(page);
-    return tr("测试行已送到系统打印机");
-  }
-  // Four empty lines move the test line out from under the cover.
-  ports_.portFile(settings_.PPort)->send(device::printedLines({line, "", "", "", ""}));
-  return tr("测试行已送到 %1").arg(portText(settings_.PPort));
+QString DeviceTest::tryPrinter() {
+  const auto printer = ReceiptPrinter::ofSettings(settings_, ports_);
+  const auto columns = static_cast<std::size_t>(printer->paper().line);
+  const std::string line = gbk::centred("打印测试 " + generalText(clock_()), columns, '-');
+  const bool isPage = printer->kind() == ReceiptPrinter::Kind::kPage;
+  Outage(report_).tried([&] {
+    if (isPage) return printer->print(LineDocument{"打印测试", {line}});
+    // Four empty lines move the test line out from under the cover.
+    printer->printLines({line, "", "", "", ""});
+  });
+  return isPage ? tr("测试行已送到系统打印机")
+                : tr("测试行已送到 %1").arg(portText(settings_.PPort));
 }
 
 QString DeviceTest::tryDisplay() {
-  if (!device::isKnownDisplay(settings_.CVModel)) return tr("没有选定客显型号，未测试");
-  const std::string port = device::displayPort(settings_.CVProt);
-  auto line = ports_.serialLine(port);
-  line->send(device::displayFigure(testFigure(), kTotalMode));
-  display_ = std::move(line);
-  return tr("8888.88 已送到 %1").arg(portText(port));
+  if (!CustomerDisplay::isKnownModel(settings_.CVModel)) return tr("没有选定客显型号，未测试");
+  display_->OpenDisplayPort();
+  display_->clientView(testFigure(), CustomerDisplay::kTotal);
+  return tr("8888.88 已送到 %1").arg(portText(display_->port()));
 }
 
 QString DeviceTest::tryDrawer() {
-  if (display_ && settings_.MBPort == settings_.CVProt) {
-    display_->send(device::kDrawerThroughDisplay);
-    return tr("开箱信号已通过客显送到 %1").arg(portText(settings_.MBPort));
-  }
-  ports_.portFile(settings_.MBPort)->send(device::kDrawerPulse);
-  return tr("开箱信号已送到 %1").arg(portText(settings_.MBPort));
+  CashDrawer drawer(settings_, ports_, *display_, report_);
+  const bool throughDisplay = drawer.OpenDrawer() == CashDrawer::Way::kThroughDisplay;
+  const QString sent = throughDisplay ? tr("开箱信号已通过客显送到 %1") : tr("开箱信号已送到 %1");
+  return sent.arg(portText(settings_.MBPort));
 }

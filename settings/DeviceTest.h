@@ -7,9 +7,10 @@
 #include <vector>
 
 #include "base/DateTime.h"
+#include "devices/Outage.h"
 
-class ByteSink;
 class ClsPosSet;
+class CustomerDisplay;
 class Ports;
 
 /// Tries the devices of a till's settings: a line on the receipt printer, 8888.88 on the display, a
@@ -33,13 +34,15 @@ class DeviceTest {
 
  private:
   using Trial = std::function<QString()>;
-  static Result result(const QString& device, const std::string& port, const Trial& trial);
-  QString tryPrinter() const;
+  Result result(const QString& device, const std::string& port, const Trial& trial);
+  QString tryPrinter();
   QString tryDisplay();
   QString tryDrawer();
 
   const Ports& ports_;
   const ClsPosSet& settings_;
   Clock clock_;
-  std::unique_ptr<ByteSink> display_;  ///< none when the display did not work
+  QString fault_;  ///< of the device that is being tried
+  Outage::Report report_;
+  std::unique_ptr<CustomerDisplay> display_;
 };

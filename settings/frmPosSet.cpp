@@ -161,7 +161,7 @@ ClsPosSet frmPosSet::chosen() const {
 
 void frmPosSet::test() {
   const ClsPosSet settings = chosen();
-  DeviceTest devices(pos_.ports, settings, pos_.clock);
+  DeviceTest devices(*pos_.ports, settings, pos_.clock);
   QStringList lines;
   bool failed = false;
   for (const DeviceTest::Result& result : devices.run()) {

@@ -4,12 +4,12 @@
 #include <QScreen>
 #include <utility>
 
-#include "checkout/frmUnSell.h"
 #include "members/cardStored.h"
 #include "members/frmFMember.h"
 #include "platform/QtText.h"
 #include "reports/frmCount.h"
 #include "reports/frmSearch.h"
+#include "returns/frmUnSell.h"
 #include "sale/frmSell.h"
 #include "settings/frmColor.h"
 #include "settings/frmKeyset.h"

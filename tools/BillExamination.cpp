@@ -1,4 +1,5 @@
 #include <optional>
+#include <set>
 #include <utility>
 
 #include "base/Currency.h"
@@ -50,6 +51,7 @@ class BillExamination {
   void examine(const ClsSell& bill, const LineSums& lines);
   void examineSums(const ClsSell& bill, const LineSums& lines);
   void examineDue(const ClsSell& bill);
+  void examineTenders(const ClsSell& bill);
   void examinePayment(const ClsSell& bill);
   void examineTime(const ClsSell& bill, const LineSums& lines);
   void fault(const std::string& text) const { books_.fault(bill_ + text); }
@@ -58,6 +60,7 @@ class BillExamination {
   Rows bills_, lines_, returns_;
   bool moreLines_, moreReturns_;
   bool mayRound_ = false;  ///< a rule was set once, so that an amount due may have been rounded
+  std::set<std::string> unset_;  ///< parameters that the owner never set
   bool isReturned_ = false;
   std::string bill_;  ///< "单据 5", for the texts
 };
@@ -74,6 +77,7 @@ BillExamination::BillExamination(const Examination& books)
   rules.Conn(books.connection);
   for (const ClsSysParam::Parameter& rule : rules.list()) {
     if (rule.name == "RoundJiao" || rule.name == "RoundYuan") mayRound_ |= rule.isSet;
+    if (!rule.isSet) unset_.insert(rule.name);
   }
 }
 
@@ -150,6 +154,7 @@ void BillExamination::examine(const ClsSell& bill, const LineSums& lines) {
   if (bill.State() == 1 || isPaid) {
     examineSums(bill, lines);
     examineDue(bill);
+    examineTenders(bill);
     examinePayment(bill);
   } else if (!bill.Cash().isZero() || !bill.CardPay().isZero() || !bill.CardNo().empty()) {
     fault(" 还没结账，却已有付款");
@@ -181,6 +186,15 @@ void BillExamination::examineDue(const ClsSell& bill) {
     fault(figures + "，抹零到不了这么多");
   } else if (!isReturned_ && due.scaled() % kJiao != 0) {
     fault(figures + "，抹零之后却不是整角");
+  }
+}
+
+void BillExamination::examineTenders(const ClsSell& bill) {
+  for (const TenderKind& kind : tenderKinds()) {
+    const Currency figure = bill.Tendered(kind.tender);
+    if (kind.parameter == nullptr || figure.isZero() || !unset_.contains(kind.parameter)) continue;
+    fault(" 有" + std::string(kind.name) + "付款 " + twoDecimals(figure) + "，店里却从来没有设过 " +
+          kind.parameter);
   }
 }
 
@@ -231,6 +245,17 @@ void examineDoubles(const Examination& books) {
   }
 }
 
+// A slip pays one bill.
+void examineSlips(const Examination& books) {
+  Rows rows = books.connection.query(
+      "select min(id) as id, max(id) as other, phone_slip from sell"
+      " where phone_slip is not null group by phone_slip having count(*) > 1");
+  while (rows.next()) {
+    books.remark("单据 " + rows.text("id") + " 和 " + rows.text("other") + " 的付款码相同：" +
+                 rows.text("phone_slip"));
+  }
+}
+
 }  // namespace
 
 bool isFarFrom(const DateTime& bill, const DateTime& line) {
@@ -240,6 +265,7 @@ bool isFarFrom(const DateTime& bill, const DateTime& line) {
 void examineBills(const Examination& books) {
   BillExamination(books).run();
   examineDoubles(books);
+  examineSlips(books);
   Rows unowned = books.connection.query(
       "select id, operator_id from sell "
       "where state = 0 and operator_id not in (select id from operators)");

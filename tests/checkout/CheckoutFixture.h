@@ -1,60 +1,70 @@
 #pragma once
 
-#include "SaleFixture.h"
+#include "ShopFixture.h"
 #include "base/NumberText.h"
-#include "checkout/BillStock.h"
-#include "checkout/CurrentLine.h"
+#include "checkout/LineReceipt.h"
+#include "checkout/Messages.h"
+#include "checkout/PaidBill.h"
+#include "checkout/ReceiptLines.h"
+#include "checkout/Settlement.h"
+#include "devices/Devices.h"
+#include "saleslib/BillBooks.h"
 
-/// The sale fixture with an open bill and lines entered as the sale screen enters them.
-class CheckoutFixture : public SaleFixture {
+/// The shop with an open bill, its devices, and lines entered and payments taken as the sale screen
+/// does it.
+class CheckoutFixture : public ShopFixture {
  protected:
-  CheckoutFixture() { checkout.PrepareNextBill(); }
+  CheckoutFixture() { openNext(); }
 
-  /// Enters a line; it is the current line until the next one or the settlement.
+  void openNext() { bill = books.open(pos.gOperator->Id()); }
   void enter(const std::string& name, const char* price, double quantity = 1,
              const char* code = "1001", double discount = 1, std::int16_t ratio = 1) {
-    if (state.curLine) commitCurrentLine(state, receipt);
-    state.curLine = std::make_shared<ClsSellItem>();
-    ClsSellItem& line = *state.curLine;
-    line.Init(*pos.gConn, state.curBill->BillNo(), 0, pos.clock);
-    line.setSpCode("1001");
-    line.setSpName(name);
-    line.setEntryCode(code);
-    line.setPrice(Currency::parse(price).value());
-    line.setQuantity(quantity);
-    line.setDiscount(Discount(discount));
-    line.setRatio(ratio);
-    EXPECT_TRUE(TakeStock(pos, screen, line.SpCode(), line.StockQuantity(), [&] { line.Save(); }));
-
-    auto& cells = state.rows.back().cells;
-    cells[BillRow::kName] = name;
-    cells[BillRow::kPrice] = twoDecimals(line.Price());
-    cells[BillRow::kQuantity] = generalNumber(quantity);
-    cells[BillRow::kDiscount] = generalNumber(discount);
-    cells[BillRow::kMoney] = twoDecimals(line.Money());
-    cells[BillRow::kSpCode] = line.SpCode();
-    state.AddEntryRow();
+    auto line = std::make_shared<ClsSellItem>();
+    line->Init(*pos.gConn, bill->BillNo(), 0, pos.clock);
+    line->setSpCode("1001");
+    line->setSpName(name);
+    line->setEntryCode(code);
+    line->setPrice(Currency::parse(price).value());
+    line->setQuantity(quantity);
+    line->setDiscount(Discount(discount));
+    line->setRatio(ratio);
+    EXPECT_TRUE(books.ring(*line).done());
+    bill->AddItem(line);
+    receipt.PrintLine(*line);
   }
-
+  Settlement settlement() {
+    return {pos, *bill, devices.display(), screen, [this] { receipt.PrintFoot(*bill, facts()); }};
+  }
   /// The settle key, and a cashier who types that cash figure.
   void payCash(const char* cash) {
-    screen.pay = [cash](Settlement& s) { s.confirmCash(cash); };
-    checkout.SettleBill();
+    settlement().confirmCash(cash);
+    EXPECT_TRUE(storeSettled(pos, *bill));
+    openNext();
   }
-
   void attachMember() {
-    state.curMember = pos.gMemberSvc.GetMember("8001");
-    state.curBill->setMemberId(state.curMember->Id());
+    member = pos.gMemberSvc.GetMember("8001");
+    bill->setMemberId(member->Id());
+  }
+  ReceiptFacts facts() const { return {pos.gOperator->Code(), member, originalPrice}; }
+  /// Devices at these ports; "" is none.
+  void connect(const char* printer, const char* kick = "", const char* shown = "",
+               int paperModel = 1) {
+    pos.gPosSet.PPort = printer;
+    pos.gPosSet.MBPort = kick;
+    pos.gPosSet.CVProt = shown;
+    pos.gPosSet.PModel = paperModel;
+    devices.open(pos.gPosSet);
+    receipt.begin();
   }
 
-  void showOn(const char* port, int model = 1) {
-    pos.gPosSet.CVProt = port;
-    pos.gPosSet.CVModel = model;
-    state.hasDisplay = true;
-    display.OpenDisplayPort();
-  }
-  void openDrawerOn(const char* port) {
-    pos.gPosSet.MBPort = port;
-    state.hasDrawer = true;
-  }
+  Told<Messages> screen;
+  const Outage::Report report = [this](const std::string& text) {
+    screen.messages.push_back(text);
+  };
+  Devices devices{ports, report, report};
+  LineReceipt receipt{pos.gSysParam, devices};
+  BillBooks books{*pos.gConn, pos.gSysParam, pos.clock};
+  std::shared_ptr<ClsSell> bill;
+  std::shared_ptr<ClsMember> member;
+  std::int64_t originalPrice = 0;
 };

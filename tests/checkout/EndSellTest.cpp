@@ -11,14 +11,11 @@
 /// The dialog with a bill of 88.5, driven by real key events while it is shown.
 class EndSell : public CheckoutFixture {
  protected:
-  EndSell() {
-    enter("水", "88.50");
-    commitCurrentLine(state, receipt);
-  }
+  EndSell() { enter("水", "88.50"); }
 
   /// Shows the dialog, lets the cashier act, and gives whether payment was confirmed.
   bool show(const std::function<void()>& cashier) {
-    Settlement settlement(pos, *state.curBill, display, receipt, screen);
+    Settlement settlement = CheckoutFixture::settlement();
     QTimer::singleShot(0, &dialog, [&] {
       EXPECT_TRUE(QTest::qWaitForWindowActive(&dialog));
       EXPECT_EQ(focused(), "txtInMoney");
@@ -49,7 +46,7 @@ TEST_F(EndSell, cashFigureReplacesTheAmountDueAndShowsTheChange) {
     press(Qt::Key_Backspace);
     press(Qt::Key_F1);
   }));
-  EXPECT_EQ(state.curBill->Cash(), Currency::fromYuan(100));
+  EXPECT_EQ(bill->Cash(), Currency::fromYuan(100));
 }
 
 TEST_F(EndSell, otherFieldsAreReachedByTabAndLeftByEnter) {
@@ -70,12 +67,31 @@ TEST_F(EndSell, otherFieldsAreReachedByTabAndLeftByEnter) {
     EXPECT_EQ(focused(), "txtInMoney");
     press(Qt::Key_Escape);
   }));
-  EXPECT_EQ(generalNumber(state.curBill->Favorable()), "3");
+  EXPECT_EQ(generalNumber(bill->Favorable()), "3");
   // Opened again: what the bill holds, and nothing of the dialog before.
   EXPECT_FALSE(show([this] {
     EXPECT_EQ(fieldText("favorable"), "3");
     dialog.close();
   }));
+}
+
+TEST_F(EndSell, thePhonePaysBehindTheBankCardWhereTheShopTakesIt) {
+  setParameter("PhonePay", "1");
+  EXPECT_TRUE(show([this] {
+    for (const char* name : {"favorable", "salesman", "yhk", "sm"}) {
+      press(Qt::Key_Tab);
+      EXPECT_EQ(focused(), name);
+    }
+    type("88.5");
+    press(Qt::Key_Tab);
+    type("28AB 01 ");
+    press(Qt::Key_Return);
+    EXPECT_EQ(fieldText("smbh") + " " + focused(), "28AB 01 txtInMoney");
+    type("0");
+    EXPECT_EQ(labelText("lbl1"), "0.0");
+    press(Qt::Key_Return);
+  }));
+  EXPECT_EQ(stored("phone_pay || ' ' || phone_slip as v from sell"), "88.5 28AB 01");
 }
 
 TEST_F(EndSell, mappedKeysCountAndTheEnterKeyAlwaysDoes) {

@@ -6,11 +6,6 @@ using testing::StartsWith;
 
 class LinePrinter : public CheckoutFixture {
  protected:
-  void printOn(int paperModel) {
-    pos.gPosSet.PPort = "LPT1";
-    state.linePrint = true;
-    state.receiptCols = ReceiptColumns::forModel(paperModel);
-  }
   /// What is on the paper, a pulse of the drawer as "<drawer>".
   std::string paper() const {
     const std::string pulse("\x1B\x70\x00\x3C\xFF\r\n", 7);
@@ -20,11 +15,10 @@ class LinePrinter : public CheckoutFixture {
 };
 
 TEST_F(LinePrinter, wideReceiptWithMemberAndDrawer) {
-  printOn(1);
-  openDrawerOn("LPT1");
-  state.origTotal = 89;
+  connect("LPT1", "LPT1");
+  originalPrice = 89;
   attachMember();
-  receipt.PrintHeader();
+  receipt.PrintHeader(*bill);
   enter("矿泉水550毫升", "2.00", 3);
   enter("特别特别特别长的名字的饼干😀", "12.50", 0.5);
   enter("😀表情巧克力", "76.25");
@@ -53,8 +47,8 @@ TEST_F(LinePrinter, wideReceiptWithMemberAndDrawer) {
 
 // A figure too wide for its column takes room from the name, then from the margin.
 TEST_F(LinePrinter, narrowReceipt) {
-  printOn(2);
-  receipt.PrintHeader();
+  connect("LPT1", "", "", 2);
+  receipt.PrintHeader(*bill);
   enter("矿\x1Bp\r\n水", "2.00", 3);  // no command to the printer, no line of its own
   enter("特别特别特别长名字的饼干", "12.50");
   enter("特别特别特别长名字的饼干", "1237.70");
@@ -84,18 +78,17 @@ TEST_F(LinePrinter, narrowReceipt) {
 }
 
 TEST_F(LinePrinter, withoutLinePrintingOnlyTheDrawerOpens) {
-  pos.gPosSet.PPort = "USB";
-  openDrawerOn("LPT1");
+  connect("USB", "LPT1");
   enter("水", "1");
   payCash("1");
-  receipt.FeedLines();
+  receipt.FeedLines(*bill);
   EXPECT_EQ(paper(), "<drawer>\n");
 }
 
 // A printer that is off costs one message. Switched on in the middle of a bill, it prints that
 // bill from its first line on; a bill that was over before is not printed any more.
 TEST_F(LinePrinter, aPrinterThatWasOffPrintsWholeBills) {
-  printOn(2);
+  connect("LPT1", "", "", 2);
   const auto plug = [this](const std::string& path) { pos.configIni.write("Ports", "LPT1", path); };
   plug(folder.path().string());
   enter("糕", "1");

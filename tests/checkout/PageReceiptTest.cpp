@@ -8,22 +8,16 @@ using testing::IsSupersetOf;
 
 class PageReceiptTest : public CheckoutFixture {
  protected:
-  /// The bill is stored and its rows are still on the screen.
   void settled(const char* cash, const char* bankCard) {
-    commitCurrentLine(state, receipt);
-    state.curBill->setCash(Currency::parse(cash).value());
-    state.curBill->setBankCard(Currency::parse(bankCard).value());
-    state.curBill->setState(1);
-    ASSERT_TRUE(state.curBill->Save());
-    state.lastBill = state.curBill;
+    bill->setCash(Currency::parse(cash).value());
+    bill->setBankCard(Currency::parse(bankCard).value());
   }
   /// The receipt's texts with their places: "x,y text".
   std::vector<std::string> printed(int paperModel, const char* option) {
-    pos.gPosSet.PModel = paperModel;
-    pos.gPosSet.printOption = option;
-    state.receiptCols = ReceiptColumns::forModel(paperModel);
     std::vector<std::string> placed;
-    for (const PlacedText& text : pageReceipt(pos, state).texts)
+    const PageDocument page =
+        pageReceipt(*bill, facts(), pos.gSysParam, Paper::ofModel(paperModel), option);
+    for (const PlacedText& text : page.texts)
       placed.push_back(std::to_string(text.x) + "," + std::to_string(text.y) + " " + text.text);
     return placed;
   }
@@ -31,10 +25,10 @@ class PageReceiptTest : public CheckoutFixture {
 
 TEST_F(PageReceiptTest, wholeReceiptOnWidePaper) {
   attachMember();
-  state.origTotal = 89;
+  originalPrice = 89;
   enter("矿泉水五百五十毫升", "4.00", 2);
   enter("茶", "80.50");
-  state.curBill->setFavorable(Currency::fromYuan(1));
+  bill->setFavorable(Currency::fromYuan(1));
   settled("80", "10");
   EXPECT_THAT(
       printed(1, "打印商品前7个字简称"),
@@ -70,9 +64,9 @@ TEST_F(PageReceiptTest, longBillContinuesOnTheSameRoll) {
 
 TEST_F(PageReceiptTest, paymentByStoredValueCard) {
   enter("茶", "80.50");
-  state.origTotal = 81;
-  state.curBill->setCardPay(Currency::parse("80.5").value());
-  state.curBill->setCardNo("8001");
+  originalPrice = 81;
+  bill->setCardPay(Currency::parse("80.5").value());
+  bill->setCardNo("8001");
   settled("0", "0");
   const auto placed = printed(2, "");
   EXPECT_THAT(placed.at(7), EndsWith(" 原价总计81.0   应收80.5"));

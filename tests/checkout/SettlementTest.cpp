@@ -1,18 +1,15 @@
 #include "CheckoutFixture.h"
 #include "checkout/AmountDue.h"
 
-using enum Settlement::CardResult;
+using enum CardOutcome;
 
 class SettlementTest : public CheckoutFixture {
  protected:
-  SettlementTest() {
-    enter("水", "88.50");
-    commitCurrentLine(state, receipt);
-    showOn("COM1");
-  }
+  SettlementTest() { enter("水", "88.50"); }
   std::string balance() { return stored("card as v from member where bh='8001'"); }
 
-  Settlement settlement{pos, *state.curBill, display, receipt, screen};
+  const bool isConnected = (connect("", "", "COM1"), true);
+  Settlement settlement = CheckoutFixture::settlement();
 };
 
 TEST_F(SettlementTest, amountDueFollowsTheShopsRounding) {
@@ -42,23 +39,28 @@ TEST_F(SettlementTest, figuresTypedGoIntoTheBillAtOnce) {
                {"5.", "5.", "5", 5},
                {"99999999999999999999", "0", "0", 0}};
   for (const auto& each : cases) {
-    EXPECT_EQ(settlement.favorableChanged(each.typed), each.accepted);
-    EXPECT_EQ(settlement.bankCardChanged(each.typed), each.accepted);
+    for (const Tender tender : {Tender::kFavorable, Tender::kBankCard, Tender::kPhone}) {
+      EXPECT_EQ(settlement.figureChanged(tender, each.typed), each.accepted);
+      EXPECT_EQ(generalNumber(bill->Tendered(tender)), each.amount);
+    }
     EXPECT_EQ(settlement.salesmanChanged(each.typed), each.accepted);
-    EXPECT_EQ(generalNumber(state.curBill->Favorable()), each.amount);
-    EXPECT_EQ(generalNumber(state.curBill->BankCard()), each.amount);
-    EXPECT_EQ(state.curBill->Salesman(), each.salesman);
+    EXPECT_EQ(bill->Salesman(), each.salesman);
   }
+  EXPECT_EQ(settlement.slipChanged("\t２８00\x01\u0085 " + QString(70, '9')),
+            "2800 " + QString(59, '9'));
 }
 
 TEST_F(SettlementTest, changeIsOneDecimalOrNothing) {
-  EXPECT_EQ(settlement.change("50", "8.5", "40"), "10.0");
-  EXPECT_TRUE(settlement.change("", "0", "0").isNull());
-  EXPECT_EQ(settlement.change("922337203685477", "922337203685477", "0"), "超出范围");
+  bill->setFavorable(Currency::parse("8.5").value());
+  bill->setBankCard(Currency::fromYuan(40));
+  EXPECT_EQ(settlement.change("50"), "10.0");
+  EXPECT_TRUE(settlement.change("").isNull());
+  bill->setBankCard(Currency::fromYuan(922337203685477));
+  EXPECT_EQ(settlement.change("922337203685477"), "超出范围");
 }
 
 TEST_F(SettlementTest, cashTextThatIsNoNumberLeavesTheFigure) {
-  state.curBill->setCash(Currency::fromYuan(7));
+  bill->setCash(Currency::fromYuan(7));
   for (const char* typed : {"七", "100"}) settlement.confirmCash(typed);  // the first one settles
   EXPECT_EQ(screen.said(), "") << "asked although the shop does not want it";
   EXPECT_EQ(stored("paid || ' ' || cash as v from sell"), "1 7");
@@ -76,9 +78,9 @@ TEST_F(SettlementTest, asksOnceBeforeAPaymentThatLooksMistyped) {
       {"0", "88.5", "0", ""}};
   setParameter("CheckPayment", "1");
   for (const auto& [favorable, bankCard, cash, question] : cases) {
-    Settlement fresh{pos, *state.curBill, display, receipt, screen};
-    static_cast<void>(fresh.favorableChanged(favorable));
-    static_cast<void>(fresh.bankCardChanged(bankCard));
+    Settlement fresh = CheckoutFixture::settlement();
+    static_cast<void>(fresh.figureChanged(Tender::kFavorable, favorable));
+    static_cast<void>(fresh.figureChanged(Tender::kBankCard, bankCard));
     fresh.confirmCash(cash);
     EXPECT_EQ(screen.said(),
               *question == 0 ? "" : std::string(":") + question + "\n确定这样收款吗？ 否")
@@ -105,30 +107,30 @@ TEST_F(SettlementTest, refusedCardsChargeNothing) {
       "('8002', '李雷', 500, 'x', 0, '2026-01-02'), ('8003', '韩梅', 88.49, '', 1, '')");
   const struct {
     const char *number, *password;
-    Settlement::CardResult result;
+    CardOutcome result;
     const char* said;
   } cases[] = {
-      {"9999", "Pw1", kUnknownCard, "储值卡号错误,请重输"},
+      {"9999", "Pw1", kUnknown, "储值卡号错误,请重输"},
       {"8001", "pw1", kWrongPassword, "储值卡密码错误,请重输"},
-      {"8002", "x", kUnknownCard, "会员卡被禁用！卡号：8002，持卡人：李雷"},
+      {"8002", "x", kUnknown, "会员卡被禁用！卡号：8002，持卡人：李雷"},
       {"8003", "", kTooLittle, "储值卡余额不够,请先充值"},
   };
   for (const auto& each : cases) {
     EXPECT_EQ(settlement.payByCard(each.number, each.password), each.result) << each.number;
     EXPECT_EQ(screen.said(), each.said);
   }
-  state.curBill->setAmount(Currency::fromYuan(-5));
-  EXPECT_EQ(settlement.payByCard("8001", "Pw1"), kFailed);
+  bill->setAmount(Currency::fromYuan(-5));
+  EXPECT_FALSE(settlement.payByCard("8001", "Pw1"));
   EXPECT_EQ(screen.said(), "应收是负数，不能用储值卡付款。");
   EXPECT_FALSE(settlement.settled());
   EXPECT_EQ(stored("sum(card) as v from member"), "676.99");
 }
 
 TEST_F(SettlementTest, cardPaysTheWholeAmountDueOnce) {
-  state.curBill->setFavorable(Currency::fromYuan(5));
-  state.curBill->setCash(Currency::fromYuan(100));
+  bill->setFavorable(Currency::fromYuan(5));
+  bill->setCash(Currency::fromYuan(100));
   for (const char* left : {"0", "200"}) {
-    EXPECT_EQ(settlement.payByCard("8001", "Pw1"), kPaid);
+    EXPECT_EQ(settlement.payByCard("8001", "Pw1"), kDone);
     EXPECT_EQ(balance(), left);
     pos.gConn->run("update member set card = 200");
   }
@@ -141,7 +143,7 @@ TEST_F(SettlementTest, cardPaysTheWholeAmountDueOnce) {
 // The balance can be written, the mark of the paid bill cannot.
 TEST_F(SettlementTest, aPaymentThatCannotBeStoredIsNoneAndCanBeRepeated) {
   breakStore("update on sell");
-  EXPECT_EQ(settlement.payByCard("8001", "Pw1"), kFailed);
+  EXPECT_FALSE(settlement.payByCard("8001", "Pw1"));
   settlement.confirmCash("100");
   EXPECT_THAT(screen.said(), testing::ContainsRegex("储值卡没有扣款：.*没有收款，请再确认一次："));
   EXPECT_EQ(ports.shown, "") << "shown before it was durable";

@@ -43,14 +43,14 @@ class DiskFaultTest : public FaultyTill, public testing::WithParamInterface<Faul
 
   /// The cashier rings, settles and goes on to the next bill. What was told is what counts.
   void sellOne(Tender tender, bool member) {
-    const auto last = session.state.lastBill;
-    const std::int32_t bill = session.state.curBill->BillNo();
+    const auto last = session.sale().last();
+    const std::int32_t number = bill().BillNo();
     const std::size_t told = till.messages.size();
     ringGoods();
     if (member) attachMember();
     settle(tender);
-    const bool done = session.state.lastBill != last;
-    if (done) settledBills.push_back(bill);
+    const bool done = session.sale().last() != last;
+    if (done) settledBills.push_back(number);
     EXPECT_TRUE(done || till.messages.size() > told) << "the cashier is told";
     countChargeInVain(told, tender);
   }
@@ -129,7 +129,7 @@ class DiskFaultTest : public FaultyTill, public testing::WithParamInterface<Faul
     open();
     if (till.messages.empty()) return;
     ASSERT_NE(till.messages.front().find("现在已补存"), std::string::npos) << till.messages.front();
-    settledBills.push_back(session.state.curBill->BillNo() - 1);
+    settledBills.push_back(bill().BillNo() - 1);
     --reentered;
     ++completed;
     chargedInVain = chargedBefore;

@@ -29,16 +29,14 @@ class FaultyTill : public WithDisk, public TillFixture {
     press(38);
     enter("3");
   }
-  void attachMember() {
-    session.state.curMember = pos.gMemberSvc.GetMember("8001");
-    session.state.curBill->setMemberId(session.state.curMember->Id());
-  }
+  /// At the prices that were rung already.
+  void attachMember() { bill().setMemberId(pos.gMemberSvc.GetMember("8001")->Id()); }
   void settle(
       Tender tender, std::function<void()> asked = [] {}) {
     till.pay = [tender, asked](Settlement& payment) {
       asked();
       if (tender == Tender::kCash) return payment.confirmCash("20");
-      if (payment.payByCard("8001", "Pw1") == Settlement::CardResult::kPaid) payment.sayCardPaid();
+      if (payment.payByCard("8001", "Pw1") == CardOutcome::kDone) payment.sayCardPaid();
     };
     enter("");
   }

@@ -29,6 +29,7 @@ struct Settled {
 class PowerCutTest : public FaultyTill {
  protected:
   PowerCutTest() {
+    ports.isReal = true;
     pos.gPosSet.PPort = "LPT1";
     pos.gPosSet.MBPort = "LPT2";
     pos.gPosSet.CVProt = "COM1";
@@ -74,7 +75,7 @@ class PowerCutTest : public FaultyTill {
   void sell(Tender tender, bool member) {
     ringGoods();
     if (member) attachMember();
-    Settled sale{session.state.curBill->BillNo(), 0, 0, 0, {}, {}};
+    Settled sale{bill().BillNo(), 0, 0, 0, {}, {}};
     settle(tender, [&] {
       sale.asked = disk.events.size();
       sale.seenOutside = seenOutside();
@@ -104,12 +105,11 @@ class PowerCutTest : public FaultyTill {
     for (const bool first : {true, false}) {
       TillScreen told;
       SaleSession opened(again, told, {});
-      told.session = &opened;
       EXPECT_TRUE(opened.open());
       if (first) completed = !told.messages.empty();
       EXPECT_TRUE(first || told.messages.empty()) << "told once: " << told.messages.front();
       compareBooks(*again.gConn, passed);
-      EXPECT_GT(opened.state.curBill->BillNo(), storedCount == 0 ? 0 : sales[storedCount - 1].bill);
+      EXPECT_GT(opened.sale().bill()->BillNo(), storedCount == 0 ? 0 : sales[storedCount - 1].bill);
     }
     return completed;
   }

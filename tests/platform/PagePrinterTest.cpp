@@ -13,6 +13,8 @@ namespace {
 
 namespace fs = std::filesystem;
 
+constexpr PageRoll kWide{80, 40}, kNarrow{58, 32};
+
 PageDocument receipt(const std::string& name, int lines) {
   PageDocument document;
   document.name = name;
@@ -40,7 +42,7 @@ TEST(PagePrinterTest, NamesSortInPrintOrder) {
   const TemporaryFolder folder;
   DateTime now{{2026, 11, 22}, 9, 5, 3};
   const auto print = [&](const std::string& name) {
-    PagePrinter(80, folder.path(), [&now] { return now; }).print(receipt(name, 1));
+    PagePrinter(kWide, folder.path(), [&now] { return now; }).print(receipt(name, 1));
   };
   print("a/..\n:b");
   print("小票");
@@ -53,15 +55,15 @@ TEST(PagePrinterTest, NamesSortInPrintOrder) {
 }
 
 TEST(PagePrinterTest, PaperIsAsWideAsTheRollAndAsLongAsTheText) {
-  for (const auto& [width, lines] : {std::pair{80, 3}, {58, 3}, {80, 200}}) {
+  for (const auto& [roll, lines] : {std::pair{kWide, 3}, {kNarrow, 3}, {kWide, 200}}) {
     const TemporaryFolder folder;
     PageDocument document = receipt("r", lines);
     document.texts.push_back({1, 0, {}});
     document.texts.back().text.assign(10'000, 'x');
-    PagePrinter(width, folder.path()).print(document);
+    PagePrinter(roll, folder.path()).print(document);
     const auto size = QRegularExpression(R"(Pages: +1\n[^$]*Page size: +([\d.]+) x ([\d.]+) pts)")
                           .match(told("pdfinfo", folder.path()));
-    EXPECT_NEAR(size.captured(1).toDouble(), width / 25.4 * 72, 1);
+    EXPECT_NEAR(size.captured(1).toDouble(), roll.widthMm / 25.4 * 72, 1);
     const double textBottom = (document.texts[lines - 1].y + document.lineHeight()) / 20.0;
     EXPECT_NEAR(size.captured(2).toDouble(), textBottom + 15, 15);
   }
@@ -71,7 +73,7 @@ TEST(PagePrinterTest, ATextEndsBeforeTheNextColumnAndHasNoControlCharacters) {
   const TemporaryFolder folder;
   PageDocument document;
   document.texts = {{1, 0, "\r\x1Bp\u202E7\n "}, {1900, 0, " 12345.678 "}, {2300, 0, "5.0"}};
-  PagePrinter(58, folder.path()).print(document);
+  PagePrinter(kNarrow, folder.path()).print(document);
   const QString words = told("pdftotext", folder.path(), {"-bbox", "-"});
   const QRegularExpression word(R"re(xMin="([\d.]+)".* xMax="([\d.]+)".*>(.+)</word>)re");
   QString texts;
@@ -87,7 +89,7 @@ TEST(PagePrinterTest, ATextEndsBeforeTheNextColumnAndHasNoControlCharacters) {
 
 TEST(PagePrinterTest, ARollLongerThanAPageContinuesOnTheNext) {
   const TemporaryFolder folder;
-  PagePrinter(80, folder.path()).print(receipt("r", 2000));
+  PagePrinter(kWide, folder.path()).print(receipt("r", 2000));
   const QString text = told("pdftotext", folder.path(), {"-"});
   EXPECT_EQ(text.count("3.00"), 2000);
   EXPECT_EQ(text.count('\f'), 3) << "800,000 twips in pages of 280,000";
@@ -99,7 +101,7 @@ TEST(PagePrinterTest, SaysThatThereIsNowhereToPrint) {
   const std::pair<fs::path, const char*> cases[] = {
       {folder.path() / "missing", "写不进：文件夹不存在"}, {{}, "没有默认打印机"}};
   for (const auto& [to, why] : cases) {
-    EXPECT_THAT([&] { PagePrinter(80, to).print(receipt("r", 1)); },
+    EXPECT_THAT([&] { PagePrinter(kWide, to).print(receipt("r", 1)); },
                 testing::ThrowsMessage<PortError>(testing::HasSubstr(why)));
   }
 }

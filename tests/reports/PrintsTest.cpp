@@ -29,8 +29,8 @@ std::vector<std::string> texts(const PageDocument& page) {
 }
 
 TEST(ShiftSheetTest, HasTheShiftsFiguresAndTwoLinesToSignOn) {
-  const ShiftSheet sheet{3, 7.25, *Currency::parse("56.5")};
-  EXPECT_THAT(sheet.lines(),
+  const ShiftSheet sheet{3, 7.25, *Currency::parse("56.5"), {}};
+  EXPECT_THAT(sheet.document().lines,
               ElementsAre("    销售交班表", "今日累计发生 [3] 笔交易", "共交易 [7.25] 件商品",
                           "交易额 [56.50] 元", "", "", "", "", "_ _ _ _ _ _ _ _ _ _ _ _ ", "", "",
                           "", "", "_ _ _ _ _ _ _ _ _ _ _ _ _"));
@@ -40,13 +40,12 @@ TEST(ReportTest, PrintsEveryLineAndTheTotals) {
   TestShop shop;
   shop.sell(12, "2026-11-22 09:05:03", "A1", 2.5, "2", "5");
   shop.sell(13, "2026-11-22 09:05:04", "C3", 1, "1.5", "1.5");
-  const PageDocument page =
-      reportPage(soldIn(shop), {{2026, 11, 22}}, {{2026, 11, 22}, 23, 59, 59}, kNow);
-  EXPECT_THAT(texts(page), ElementsAre("      库存报表", "打印时间2026-11-22 12:00:00",
+  const LineDocument sheet =
+      reportSheet(soldIn(shop), {{2026, 11, 22}}, {{2026, 11, 22}, 23, 59, 59}, kNow);
+  EXPECT_THAT(sheet.lines, ElementsAre("      库存报表", "打印时间2026-11-22 12:00:00",
                                        "打印报表时间段", "从2026-11-22 ", "至2026-11-22 23:59:59 ",
                                        "单号   编码   品名 数量", "12  A1 康师傅红烧牛肉面  2.5   ",
                                        "", "13  C3 矿泉水  1   ", "", "数量合计3 金额合计6.5 "));
-  EXPECT_EQ(page.texts.back().y, 10 * page.lineHeight());
 }
 
 TEST(ReprintTest, PlacesTheLinesOfAReceipt) {

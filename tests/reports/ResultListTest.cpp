@@ -14,12 +14,13 @@ struct Found : ResultList {
            const char* barcode) {
     const auto money = Currency::parse(price);
     append({{{parseDateTime(time), bill, goods++, quantity, money, 0.9F, money}},
-            {{"A1", name, "包", barcode, ""}}});
+            {{"A1", name, "包", barcode, ""}},
+            {}});
   }
   void addEmpty() {
     SoldLine line;
     line.goods = goods++;
-    append({{line}, {{}}});
+    append({{line}, {{}}, {}});
   }
   std::uint32_t goods = 0;
 };

@@ -60,6 +60,38 @@ TEST(SearchTest, EachCriterionFindsItsLines) {
   }
 }
 
+TEST(SearchTest, ASlipFindsItsBillAndWhatThePhonePaid) {
+  TestShop shop;
+  const struct {
+    int bill;
+    const char *phone, *slip;
+  } bills[] = {{3, "0.1", "28A1"}, {4, "0.2", "3"}, {5, "7", "9999999999"}};
+  for (const auto& [bill, phone, slip] : bills) {
+    shop.sell(bill, "2026-11-22 09:00:00", "A1", 1, "2", "2");
+    shop.settle(bill, "2026-11-22 09:00:00", 1, "2");
+    shop.store().run("update sell set phone_pay = ?, phone_slip = ? where id = ?",
+                     *Currency::parse(phone), std::string(slip), bill);
+  }
+  const struct {
+    const char* typed;
+    std::vector<std::string> lines;
+    const char* sum;
+  } cases[] = {{" ２８a1 ", {"3 A1"}, "0.1"},
+               {"3", {"3 A1", "4 A1"}, "0.3"},  // a bill's number, and the code of another's slip
+               {"9999999999", {"5 A1"}, "7"},
+               {"' or ''='", {}, ""}};
+  for (const auto& c : cases) {
+    SearchCriteria criteria;
+    criteria.start = {{2026, 11, 22}};
+    criteria.end = {{2026, 11, 23}};
+    criteria.billNo = c.typed;
+    criteria.takesSlips = true;
+    EXPECT_EQ(found(shop.store(), searchStatement(criteria).value()), c.lines);
+    const auto sums = tenderStatement(criteria, {&tenderKind(Tender::kPhone)});
+    EXPECT_EQ(shop.store().Open(sums).row(0).text("phone_pay"), c.sum);
+  }
+}
+
 TEST(SearchTest, ABillNumberThatIsNoneAsksNothing) {
   SearchCriteria criteria;
   for (const char* typed : {"x", " ", "1 or 1=1", "1;2", "--"}) {

@@ -64,12 +64,15 @@ TEST(frmCountTest, ShowsTheDayAndPrintsTheSheet) {
   shop.settle(5, "2026-11-21 23:59:59", 9, "99");
   shop.settle(6, "2026-11-22 11:00:00", 9, "99");
   shop.store().run("update sell set operator_id = 8 where id = 6");
+  shop.store().run("update sell set phone_pay = 0.5 where id >= 4");
+  ASSERT_EQ(shop.pos().gSysParam.set("PhonePay", "1"), "");
   hands.at("frmCount", [&](QWidget& form) {
     QStringList rows;
-    for (int i = 0; i < 10; ++i) rows += cell(form, "listSell", i / 5, i % 5);
+    for (int i = 0; i < 12; ++i) rows += cell(form, "listSell", i / 6, i % 6);
     EXPECT_EQ(rows.join('|'),
-              "3|12.00|1.25|2026-11-22 09:05:03|张三|"
-              "4|0.50|2|2026-11-22 10:00:00|张三");
+              "3|12.00|1.25|2026-11-22 09:05:03|张三|0.00|"
+              "4|0.50|2|2026-11-22 10:00:00|张三|0.50");
+    EXPECT_TRUE(caption(form, "lblMsg").endsWith("交易额 [12.50] 元，其中扫码 [0.50] 元"));
     tabTo(form, "print1");
     for (const char* port : {"LPT1", "USB", "usb"}) {
       shop.pos().gPosSet.PPort = port;
@@ -80,7 +83,8 @@ TEST(frmCountTest, ShowsTheDayAndPrintsTheSheet) {
   frmCount(shop.pos()).init();
   EXPECT_THAT(
       shop.bytes("lpt1"),
-      HasSubstr(gbk::encode("[2] 笔交易\r\n共交易 [3.25] 件商品\r\n交易额 [12.50] 元\r\n")));
+      HasSubstr(gbk::encode(
+          "[2] 笔交易\r\n共交易 [3.25] 件商品\r\n交易额 [12.50] 元\r\n其中扫码 [0.50] 元\r\n")));
   EXPECT_THAT(shop.paperWidthsMm(), testing::ElementsAre(58)) << "\"usb\" is no printer";
 }
 
@@ -159,10 +163,13 @@ TEST_F(frmSearchTest, TheLastBillIsPrintedAgainByOneKeyWithItsAmountsInSight) {
   shop_.sell(3, "2026-11-22 09:00:00", "A1", 2, "2.5", "5");
   shop_.settle(2, "2026-11-20 00:00:00", 2, "5");
   shop_.store().run("update sellProducts set name = ?", std::string(60, 'W'));
+  shop_.store().run("update sell set phone_pay = 5");
+  ASSERT_EQ(shop_.pos().gSysParam.set("PhonePay", "1"), "");
   open();
   form_->resize(1000, 740);
   QTest::keyClick(form_.get(), Key_L, Qt::AltModifier);
   ASSERT_TRUE(showsRows(2));
+  EXPECT_TRUE(state().endsWith("其中扫码 [5.00] 元。"));
   EXPECT_EQ(shop_.paperWidthsMm().size(), 1u);
   EXPECT_EQ(form_->findChild<QLineEdit*>("numberSerch")->text() + at(0, 8), "25");
   const auto* list = form_->findChild<QTableView*>("ListView1");

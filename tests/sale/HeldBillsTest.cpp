@@ -33,7 +33,7 @@ TEST_F(HeldBillsTest, aRecalledBillHasItsRowsAndGoesOn) {
   EXPECT_EQ(cell(1, BillRow::kNumber) + cell(1, BillRow::kName) + cell(1, BillRow::kStock),
             "2矿泉水整箱88");
   press(kUp);
-  EXPECT_EQ(session.state.selected, 2) << "recalled lines are committed";
+  EXPECT_EQ(till.framed.first, 2) << "recalled lines are committed";
   enter("80g");
   EXPECT_EQ(till.status, "3件商品，原价合计44   合计44.00元");
   press(kF6);
@@ -57,7 +57,7 @@ TEST_F(HeldBillsTest, whenTheStoreFailsTheBillStaysWhereItWas) {
   breakStore("update on sell");
   press(kF5);
   EXPECT_NE(till.said(), "");
-  EXPECT_EQ(session.state.curBill->Items().size(), 1U);
+  EXPECT_EQ(bill().Items().size(), 1U);
   EXPECT_EQ(books(), "99 / 1 / 1:1001x1");
   mendStore();
   press(kF5);
@@ -68,31 +68,26 @@ TEST_F(HeldBillsTest, whenTheStoreFailsTheBillStaysWhereItWas) {
   recall(0);
   EXPECT_NE(till.said(), "");
   EXPECT_EQ(books(), "-5 / 1,2 / 1:1001x1");
-  ASSERT_EQ(session.state.heldBills.size(), 1U);
-  EXPECT_EQ(session.state.heldBills.front()->Items().size(), 1U);
-  EXPECT_EQ(session.state.curBill->BillNo(), 2);
+  ASSERT_EQ(session.sale().held().size(), 1U);
+  EXPECT_EQ(session.sale().held().front()->Items().size(), 1U);
+  EXPECT_EQ(bill().BillNo(), 2);
 }
 
 TEST_F(HeldBillsTest, theCustomerSeesEachPriceAgain) {
-  CustomerDisplay pole{ports, pos.gPosSet, session.state, report};
-  Checkout itsCheckout{pos, session.state, till, pole, receipt};
-  MemberCard card{pos, session.state, till, itsCheckout};
-  HeldBills held{pos, session.state, till, itsCheckout, card, pole, receipt};
+  press(kEsc);
   pos.gPosSet.CVProt = "COM1";
-  pos.gPosSet.CVModel = 1;
-  session.state.hasDisplay = true;
-  pole.OpenDisplayPort();
+  open();
   for (const char* code : {kWater, kCrate}) enter(code);
   press(kF5);
-  till.choice = 0;
-  held.RecallBill();
+  ports.shown.clear();
+  recall(0);
   EXPECT_EQ(ports.shown, "\x1Bs1\x1BQA2.50\r\x1Bs1\x1BQA28.00\r");
 }
 
 TEST_F(HeldBillsTest, paperFeedsAtSuspensionAndRepeatsTheBillAtRecall) {
+  press(kEsc);
   pos.gPosSet.PPort = "LPT1";
-  session.state.linePrint = true;
-  std::ofstream(folder.file("lpt1"));
+  open();
   enter(kWater);
   press(kF5);
   EXPECT_EQ(fileBytes(folder.file("lpt1")), "\r\n\r\n") << "the current line joins unprinted";

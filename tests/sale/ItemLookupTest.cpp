@@ -7,7 +7,7 @@ class ItemLookupTest : public TillFixture {
  protected:
   ItemLookupTest() { open(); }
   std::string line() const {
-    const auto& current = session.state.curLine;
+    const ClsSellItem* current = session.sale().line();
     return current ? current->SpCode() + "/" + current->SpName() + "/" + current->EntryCode()
                    : "none";
   }

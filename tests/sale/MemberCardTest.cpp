@@ -22,8 +22,8 @@ class MemberCardTest : public TillFixture {
     till.question.clear();
   }
   std::string attached() const {
-    const auto& member = session.state.curMember;
-    EXPECT_EQ(session.state.curBill->MemberId(), member ? member->Id() : 0);
+    const ClsMember* member = session.sale().member();
+    EXPECT_EQ(bill().MemberId(), member ? member->Id() : 0);
     return member ? member->Name() : "";
   }
 };

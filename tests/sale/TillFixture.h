@@ -1,23 +1,21 @@
 #pragma once
 
-#include "SaleFixture.h"
+#include "ShopFixture.h"
+#include "checkout/Settlement.h"
 #include "sale/SaleSession.h"
 
-/// A screen that behaves like the sale window: the input line shows the edited cell.
-class TillScreen : public FakeScreen {
+/// A sale screen without a window: keeps the picture that it was shown last.
+class TillScreen : public Told<SaleScreen> {
  public:
-  TillScreen() : FakeScreen(unused_) {}
-
-  void PlaceEditor() override {
-    SaleState& state = session->state;
-    const BillRow& row = state.rows.at(static_cast<std::size_t>(state.selected));
-    text = QString::fromStdString(row.cells[state.editColumn()]);
-    state.clearOnKey = true;
-  }
-  int choose(int count, const std::function<QString(int)>& caption) override {
-    offered.clear();
-    for (int position = 0; position < count; ++position) offered << caption(position);
-    return choice;
+  void show(const SalePicture& picture) override {
+    rows.clear();
+    for (const BillRow& row : picture.rows) rows.push_back(row.cells);
+    framed = {picture.row, picture.column};
+    text = picture.input;
+    title1 = picture.title1.toStdString();
+    title3 = picture.title3.toStdString();
+    status = picture.status.toStdString();
+    memberInfo = picture.memberInfo.toStdString();
   }
   /// The answers in their order. The question repeats for ever without one that it takes.
   QString prompt(const QString& title, const QString& message) override {
@@ -25,17 +23,37 @@ class TillScreen : public FakeScreen {
     if (answers.isEmpty()) throw std::logic_error("a question is asked and no answer is left");
     return answers.takeFirst();
   }
+  int choose(int count, const std::function<QString(int)>& caption) override {
+    offered.clear();
+    for (int position = 0; position < count; ++position) offered << caption(position);
+    return choice;
+  }
+  std::int32_t chooseHeldBill(const std::vector<std::shared_ptr<ClsSell>>& bills) override {
+    const auto position = static_cast<std::size_t>(choice);
+    return choice < 0 ? 0 : bills.at(position)->BillNo();
+  }
+  bool settle(Settlement& settlement) override {
+    settlement.begin();
+    pay(settlement);
+    return settlement.settled();
+  }
+  void endProgram() override { ended = true; }
 
-  SaleSession* session = nullptr;
+  std::vector<std::array<std::string, BillRow::kColumns>> rows;
+  std::pair<int, BillRow::Column> framed;  ///< row and column of the framed cell
+  QString text;                            ///< of the input line
+  std::string title1, title3, status, memberInfo;
+
   QStringList offered, answers;
   QString question;  ///< title and message expected; empty for the price question
-
- private:
-  SaleState unused_;
+  int choice = -1;
+  /// What the cashier does in the settlement dialog.
+  std::function<void(Settlement&)> pay = [](Settlement& s) { s.confirmCash(s.cashText()); };
+  bool ended = false;
 };
 
 /// A till whose sale screen has just opened, in a shop with goods of every kind.
-class TillFixture : public SaleFixture {
+class TillFixture : public ShopFixture {
  protected:
   static constexpr int kEnter = 13, kEsc = 27, kLeft = 37, kUp = 38, kRight = 39, kDown = 40,
                        kF1 = 112, kF2 = 113, kF4 = 115, kF5 = 116, kF6 = 117, kF12 = 123;
@@ -60,26 +78,28 @@ class TillFixture : public SaleFixture {
         ('2002', '橡皮', 'XP-02', '块', Null, 0.5, 1, ''),
         ('2003', '茶杯', 'X50g', '只', 9, Null, 1, '');
     )");
-    till.session = &session;
   }
   void open() { ASSERT_TRUE(session.open()); }
 
-  void press(int code) { static_cast<void>(session.key(code)); }
+  /// A key, with what the window's input line shows; true when it was used up.
+  bool key(int code) { return session.key(code, till.text); }
+  void press(int code) { static_cast<void>(key(code)); }
   /// Types a text as the window would: the first key empties a shown value.
   void type(const QString& typed) {
     for (const QChar each : typed) {
-      if (!session.key(each.toUpper().unicode())) till.text += each;
+      if (!key(each.toUpper().unicode())) till.text += each;
     }
   }
   void enter(const QString& typed) {
-    session.textComing();
+    session.textComing(till.text);
     till.text = typed;
     press(kEnter);
   }
   std::string lines() { return stored("count(*) as v from sellProducts"); }
-  std::string cell(int row, BillRow::Column column) const {
-    return session.state.rows.at(static_cast<std::size_t>(row)).cells[column];
+  const std::string& cell(int row, BillRow::Column column) const {
+    return till.rows.at(static_cast<std::size_t>(row)).at(column);
   }
+  ClsSell& bill() const { return *session.sale().bill(); }
 
   TillScreen till;
   int searches = 0;

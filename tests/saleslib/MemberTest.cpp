@@ -1,6 +1,7 @@
 #include "Shop.h"
 #include "saleslib/ClsMember.h"
 #include "saleslib/ClsMemberSvc.h"
+#include "saleslib/StoredCard.h"
 #include "store/Transaction.h"
 
 class MemberTest : public Shop {
@@ -62,6 +63,17 @@ TEST_F(MemberTest, FlawsAreRefusedExceptInAnOldRecord) {
   const auto old = members.GetMember("1");
   old->setPoints(3);
   EXPECT_TRUE(old->Save()) << "its points are earned all the same";
+}
+
+TEST_F(MemberTest, ChargesAreTakenFromWhatIsOnTheCardToTheLastFen) {
+  ASSERT_TRUE(newMember("1").Save());
+  connection.run("update member set card = 0.3");
+  for (const char* left : {"0.2", "0.1", "0"}) {
+    EXPECT_EQ(chargeCard(connection, "1", "", yuan("0.1")).outcome, CardOutcome::kDone);
+    EXPECT_EQ(stored("select card from member"), left);
+  }
+  EXPECT_EQ(chargeCard(connection, "1", "", yuan("0.0001")).outcome, CardOutcome::kTooLittle);
+  EXPECT_DEATH(chargeCard(connection, "1", "", yuan("-1")), "loads no card");
 }
 
 TEST_F(MemberTest, AMemberTakenBackIsStillNew) {

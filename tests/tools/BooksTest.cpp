@@ -50,9 +50,11 @@ TEST_F(BooksTest, AreRightWithWhatTheTillWritesAndWhileItWrites) {
   EXPECT_THAT(owner.out, HasSubstr("有 1 张单据已收款、还没存完"));
   EXPECT_THAT(owner.out,
               HasSubstr("充值 1 没有完成，卡内余额没有改变：卡号 8001，付款 90.00，充值 100.00"));
+  till->run("update sell set phone_slip = '28A'");
   till->run("update sell set operator_id = 8 where id = 1");
   EXPECT_EQ(owner.run({"check", owner.shop}), 0) << "an operator may have been removed";
   EXPECT_THAT(owner.out, HasSubstr("请看一看：操作员 8 已不在名单里，有 1 张已结的单据"));
+  EXPECT_THAT(owner.out, HasSubstr("单据 1 和 2 的付款码相同：28A"));
 }
 
 TEST_F(BooksTest, NameEachFault) {
@@ -76,6 +78,7 @@ TEST_F(BooksTest, NameEachFault) {
       {"update sell set card_pay = 4.99, card_no = '8001' where id = 1",
        "储值卡付款是 4.99，应收是 5.00，不够"},
       {"update sell set card_pay = 5 where id = 1", "单据 1 用储值卡付款，却没有卡号"},
+      {"update sell set phone_pay = 5 where id = 1", "店里却从来没有设过 PhonePay"},
       {"update sqlite_sequence set seq = 1 where name = 'sell'", "流水号会重复：最大的是 2"},
       {"update sellProducts set price = 4 where id = 3",
        "单据 2 的商品行 3（面）金额是 31.50，按单价、数量、折扣应是 28.00"},

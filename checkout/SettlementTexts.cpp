@@ -1,0 +1,91 @@
+#include "checkout/SettlementTexts.h"
+
+#include <QCoreApplication>
+
+#include "base/DateTime.h"
+#include "base/NumberText.h"
+#include "saleslib/ClsSell.h"
+
+namespace {
+
+QString shown(const std::string& text) {
+  return QString::fromStdString(text);
+}
+
+QString tr(const char* text) {
+  return QCoreApplication::translate("Settlement", text);
+}
+
+std::string plainFigure(Currency amount) {
+  return generalNumber(amount);
+}
+
+}  // namespace
+
+QString settlementTitle(const ClsSell& bill, const DateTime& now, const std::string& cashier) {
+  return tr("单号：%1结账时间：%2收银员：%3")
+      .arg(QString::number(bill.BillNo()), shown(shortTime(now)), shown(cashier));
+}
+
+QString goodsCount(const ClsSell& bill) {
+  return tr("共 %1 件商品").arg(shown(generalNumber(bill.Quantity())));
+}
+
+std::string tenderFigures(const std::vector<const TenderKind*>& kinds, const ClsSell& bill,
+                          std::string (*figure)(Currency)) {
+  std::string text;
+  for (const TenderKind* kind : kinds) text += kind->name + figure(bill.Tendered(kind->tender));
+  return text;
+}
+
+QString statusText(const ClsSell& bill, const ClsSysParam& rules) {
+  return tr("应收%1 %2找零%3元")
+      .arg(shown(plainFigure(bill.Amount())),
+           shown(tenderFigures(tendersOf(bill, rules), bill, plainFigure)),
+           shown(plainFigure(bill.Change())));
+}
+
+QString lastBillText(const ClsSell& bill, const ClsSysParam& rules) {
+  return tr("上一单：金额 %1实收%2找零%3  优惠%4")
+      .arg(shown(oneDecimal(bill.Amount())),
+           shown(tenderFigures(moneyTendersOf(bill, rules), bill, oneDecimal)),
+           bill.FiguresFit() ? shown(oneDecimal(bill.Change())) : kDoesNotFit,
+           shown(plainFigure(bill.Favorable())));
+}
+
+QString cardRefusal(const CardResult& result) {
+  switch (result.outcome) {
+    case CardOutcome::kUnknown:
+      return tr("储值卡号错误,请重输");
+    case CardOutcome::kBlocked:
+      return tr("会员卡被禁用！卡号：%1，持卡人：%2")
+          .arg(shown(result.card.number), shown(result.card.memberName));
+    case CardOutcome::kWrongPassword:
+      return tr("储值卡密码错误,请重输");
+    case CardOutcome::kTooLittle:
+      return tr("储值卡余额不够,请先充值");
+    case CardOutcome::kDone:
+      break;
+  }
+  return {};
+}
+
+QString cardPaid(Currency balance) {
+  return tr(" 储值卡消费成功！余额：%1 ").arg(shown(plainFigure(balance)));
+}
+
+QString cardNotCharged(const char* why) {
+  return tr("储值卡没有扣款：%1").arg(QString::fromUtf8(why));
+}
+
+QString cashNotStored(const std::string& why) {
+  return tr("没有收款，请再确认一次：%1").arg(shown(why));
+}
+
+QString changeDoesNotFit() {
+  return tr("没有收款：金额太大，找零算不出来。");
+}
+
+QString noCardForRefunds() {
+  return tr("应收是负数，不能用储值卡付款。");
+}

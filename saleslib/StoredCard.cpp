@@ -1,0 +1,95 @@
+#include "saleslib/StoredCard.h"
+
+#include "base/Failure.h"
+#include "saleslib/ClsSell.h"
+#include "saleslib/Fields.h"
+#include "store/Connection.h"
+#include "store/Literal.h"
+#include "store/StoreError.h"
+#include "store/Transaction.h"
+
+// Balances, purchases and points are written as what they change by, never as what they were read
+// as plus something: whatever else wrote them meanwhile is kept. Money is rounded as its columns
+// hold it, since the engine adds in binary.
+
+namespace {
+
+StoredCard cardOf(const Row& row) {
+  return {.number = row.text("bh"),
+          .memberName = row.text("name"),
+          .discountClass = row.text("hyzklb"),
+          .balance = money(row, "card"),
+          .isEnabled = row.whole("enabled").value_or(0) != 0};
+}
+
+CardOutcome refusal(Connection& connection, const StoredCard& card, const std::string& password,
+                    Currency due) {
+  if (!card.isEnabled) return CardOutcome::kBlocked;
+  const bool isTheirs =
+      connection.query("select id from member where bh = ? and password = ?", card.number, password)
+          .next();
+  if (!isTheirs) return CardOutcome::kWrongPassword;
+  return card.balance < due ? CardOutcome::kTooLittle : CardOutcome::kDone;
+}
+
+}  // namespace
+
+std::optional<StoredCard> findStoredCard(Connection& connection,
+                                         const std::vector<std::string>& numbers) {
+  for (const std::string& number : numbers) {
+    Rows rows = connection.Read("select * from member where bh=" + quotedText(number));
+    if (rows.next()) return cardOf(rows);
+  }
+  return std::nullopt;
+}
+
+CardResult chargeCard(Connection& connection, const std::string& number,
+                      const std::string& password, Currency due) {
+  ensure(due >= Currency(), "a charge loads no card");
+  Transaction charging(connection);
+  const std::optional<StoredCard> found = findStoredCard(connection, {number});
+  if (!found) return {};
+  CardResult result{refusal(connection, *found, password, due), *found};
+  if (result.outcome != CardOutcome::kDone) return result;
+  const std::int64_t charged =
+      connection.run("update member set card = round(card - ?, 4) where bh = ? and card >= ?", due,
+                     found->number, due);
+  if (charged == 0) return {CardOutcome::kTooLittle, *found};
+  charging.commit();
+  result.card.balance -= due;
+  return result;
+}
+
+CardResult payByCard(Connection& connection, ClsSell& bill, const std::string& password) {
+  ensure(bill.CardPay() == roundedToFen(bill.Amount()), "a card pays all that is due");
+  Transaction paying(connection);
+  const CardResult result = chargeCard(connection, bill.CardNo(), password, bill.CardPay());
+  if (result.outcome != CardOutcome::kDone) return result;
+  if (!bill.SavePaid()) throw StoreError(bill.ErrText());
+  paying.commit();
+  return result;
+}
+
+void creditPurchase(Connection& connection, std::int32_t memberId, Currency amount,
+                    std::int16_t pointUnit) {
+  Transaction crediting(connection);
+  Rows rows = connection.query("select total_spent, points from member where id = ?", memberId);
+  if (!rows.next()) return;
+  const std::int16_t points = whole16(rows, "points");
+  try {
+    static_cast<void>(money(rows, "total_spent") + amount);
+  } catch (const Overflow&) {
+    return;
+  }
+  const int earned = pointsAfter(amount, pointUnit, points).value_or(points) - points;
+  connection.run(
+      "update member set total_spent = round(total_spent + ?, 4), points = points + ?"
+      " where id = ?",
+      amount, earned, memberId);
+  crediting.commit();
+}
+
+void debitPurchase(Connection& connection, std::int32_t memberId, Currency refund) {
+  connection.run("update member set total_spent = round(total_spent - ?, 4) where id = ?", refund,
+                 memberId);
+}
