@@ -75,7 +75,9 @@ std::optional<std::string> condition(const SearchCriteria& criteria) {
 std::optional<std::string> searchStatement(const SearchCriteria& criteria) {
   const std::optional<std::string> wanted = condition(criteria);
   if (!wanted) return std::nullopt;
-  return std::string(kColumns) + kFrom + *wanted + kOrder;
+  std::string statement = kColumns;
+  statement.append(kFrom).append(*wanted).append(kOrder);
+  return statement;
 }
 
 std::string tenderStatement(const SearchCriteria& criteria,
