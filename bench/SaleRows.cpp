@@ -68,8 +68,8 @@ void settle(Run& run, ShopSize size, benchmark::State& state, Measured& row) {
   Syncs syncs;
   long bills = 0;
   for (auto _ : state) {
-    pair.ringLines(kLines);
     pair.till.attach(kMember);
+    pair.ringLines(kLines);
     const Syncs before = syncCount();
     state.SetIterationTime(row.till.time([&] { pair.till.settle(); }));
     syncs += syncCount() - before;
