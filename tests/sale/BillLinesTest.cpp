@@ -90,10 +90,21 @@ TEST_F(BillLinesTest, figuresThatDoNotFitAreRefused) {
   correct(0, "99999");
   EXPECT_NE(till.said(), "");
   EXPECT_EQ(cell(0, BillRow::kQuantity), "1");
+  EXPECT_EQ(till.text, "1") << "the quantity that stands, to be typed over";
   press(kDown);
   enter(kNoPrice);
   EXPECT_NE(till.said(), "") << "the sum of two lines";
   expectInStep();
+}
+
+TEST_F(BillLinesTest, theCustomerSeesThePriceOfEachLineAndOfItsCorrection) {
+  press(kEsc);
+  pos.gPosSet.CVProt = "COM1";
+  open();
+  ports.shown.clear();
+  enter(kWater);
+  correct(0, "3");
+  EXPECT_EQ(ports.shown, "\x1Bs1\x1BQA2.50\r\x1Bs1\x1BQA2.50\r");
 }
 
 TEST_F(BillLinesTest, originalPriceRoundsHalvesToEvenAndDoesNotWrap) {
