@@ -12,9 +12,9 @@
 #include "saleslib/CardNumber.h"
 #include "saleslib/ClsLogin.h"
 #include "saleslib/TopUp.h"
+#include "shop/Importer.h"
+#include "shop/Refusal.h"
 #include "store/StoreError.h"
-#include "tools/Importer.h"
-#include "tools/Refusal.h"
 
 namespace {
 
