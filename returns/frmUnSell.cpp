@@ -131,15 +131,6 @@ QLayout* frmUnSell::returnRow() {
   return grid;
 }
 
-bool frmUnSell::eventFilter(QObject* watched, QEvent* event) {
-  if (event->type() == QEvent::FocusIn && (watched == txtAmount_ || watched == txtmoney_)) {
-    static_cast<QLineEdit*>(watched)->selectAll();
-  }
-  if (event->type() == QEvent::FocusOut && watched == txtAmount_) quantityLeft();
-  if (event->type() == QEvent::FocusOut && watched == txtmoney_) rewriteRefund();
-  return KeyDrivenDialog::eventFilter(watched, event);
-}
-
 void frmUnSell::setUpEnter() {
   onEnter(txtNo_, [this] { loadBill(); });
   onEnter(txttm_, [this] { chooseTyped(); });
@@ -152,6 +143,8 @@ void frmUnSell::setUpEnter() {
     if (returns_.line() != nullptr) focusWhole(txtmoney_);
   });
   onEnter(txtmoney_, [this] { cmdUnSell_->click(); });
+  onLeaving(txtAmount_, [this] { quantityLeft(); });
+  onLeaving(txtmoney_, [this] { rewriteRefund(); });
 }
 
 void frmUnSell::message(const QString& text) {

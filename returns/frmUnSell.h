@@ -18,9 +18,6 @@ class frmUnSell : public KeyDrivenDialog {
  public:
   explicit frmUnSell(posMod& pos, QWidget* parent = nullptr);
 
- protected:
-  bool eventFilter(QObject* watched, QEvent* event) override;
-
  private:
   QLineEdit* figure(const char* name);
   void setUpList();
