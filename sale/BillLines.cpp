@@ -9,7 +9,6 @@
 #include "checkout/FigureCheck.h"
 #include "platform/QtText.h"
 #include "sale/Checkout.h"
-#include "sale/ItemLookup.h"
 #include "sale/Sale.h"
 #include "sale/SaleDevices.h"
 #include "sale/SaleScreen.h"
@@ -35,15 +34,8 @@ bool isBarcode(const QString& typed) {
 
 }  // namespace
 
-BillLines::BillLines(Sale& sale, BillBooks& books, SaleScreen& screen, SaleDevices& devices,
-                     const ClsSysParam& rules, ItemLookup& lookup, Checkout& checkout)
-    : sale_(sale),
-      books_(books),
-      screen_(screen),
-      devices_(devices),
-      rules_(rules),
-      lookup_(lookup),
-      checkout_(checkout) {}
+BillLines::BillLines(const SalePart& part, Checkout& checkout)
+    : SalePart(part), lookup_(sale_, books_, screen_), checkout_(checkout) {}
 
 void BillLines::Enter() {
   const QString typed = sale_.input();
@@ -122,7 +114,7 @@ void BillLines::changeQuantity(const QString& typed) {
 void BillLines::changeDiscount(const QString& typed) {
   const auto factor = parseNumber(typed.toStdString());
   const bool meant =
-      factor && *factor >= 0 && FigureCheck(rules_, screen_).discount(Discount(*factor));
+      factor && *factor >= 0 && FigureCheck(books_.rules(), screen_).discount(Discount(*factor));
   if (!meant) return sale_.setInput({});
   ClsSellItem changed = *sale_.line();
   changed.setDiscount(Discount(*factor));
@@ -145,7 +137,7 @@ bool BillLines::correct(ClsSellItem changed) {
 
 QString BillLines::statusWith(const ClsSellItem& line) const {
   SaleFigures figures = sale_.figuresWith(&line);
-  const std::string due = myCStr(figures.goods, rules_);
+  const std::string due = myCStr(figures.goods, books_.rules());
   return sale_texts::rung(figures, due);
 }
 

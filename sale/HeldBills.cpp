@@ -11,25 +11,15 @@
 #include "sale/SaleDevices.h"
 #include "sale/SaleScreen.h"
 #include "sale/SaleTexts.h"
-#include "saleslib/ClsOperator.h"
-
-HeldBills::HeldBills(Sale& sale, BillBooks& books, SaleScreen& screen, SaleDevices& devices,
-                     Checkout& checkout, MemberCard& memberCard)
-    : sale_(sale),
-      books_(books),
-      screen_(screen),
-      devices_(devices),
-      checkout_(checkout),
-      memberCard_(memberCard) {}
 
 void HeldBills::SuspendBill() {
   devices_.receipt.FeedLines(*sale_.bill());
   if (sale_.isEmpty()) return screen_.ShowMessage(tr("没有商品，无需结账！"));
   try {
     if (sale_.line() != nullptr) sale_.join();
-    auto next = books_.hold(*sale_.bill(), checkout_.cashier().Id());
+    auto next = books_.hold(*sale_.bill());
     if (!next) return screen_.messageBox(checkout_.operatorGone());
-    sale_.hold(std::move(next), checkout_.cashier().Name());
+    sale_.hold(std::move(next), books_.cashier().Name());
   } catch (const Failure& failure) {
     screen_.messageBox(qtText(failure.what()));
     return;
@@ -56,7 +46,7 @@ void HeldBills::takeUp(const ClsSell& held) {
   const auto recalled = books_.recall(held, *sale_.bill(), [](const ClsSell& bill) {
     static_cast<void>(originalPrice(bill));  // it must fit before the bill is taken up
   });
-  sale_.recall(recalled, checkout_.cashier().Name());
+  sale_.recall(recalled, books_.cashier().Name());
   memberCard_.show(recalled.member);
   screen_.show(sale_.picture());
   devices_.receipt.PrintHeader(*sale_.bill());

@@ -8,10 +8,6 @@
 #include "saleslib/CardNumber.h"
 #include "saleslib/ClsMemberSvc.h"
 
-MemberCard::MemberCard(Sale& sale, BillBooks& books, SaleScreen& screen,
-                       const ClsMemberSvc& members)
-    : sale_(sale), books_(books), screen_(screen), members_(members) {}
-
 void MemberCard::AttachMember() {
   if (!sale_.isEmpty()) {
     screen_.ShowMessage(tr("会员卡只能在还没有开始销售时加入！"));

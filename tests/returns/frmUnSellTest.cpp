@@ -39,7 +39,7 @@ class frmUnSellTest : public ReturnsFixture {
     EXPECT_TRUE(hands.idle());
   }
 
-  frmUnSell dialog{pos};
+  frmUnSell dialog{pos.gKeyBoard, pos.returnBooks()};
   Hands hands;
   std::vector<std::string> messages;
 };
@@ -125,7 +125,7 @@ TEST_F(frmUnSellTest, WhatIsMissingOrUnknownIsSaidAndReturnsNothing) {
 }
 
 TEST_F(frmUnSellTest, TheWindowMayGoWhileAFieldIsBeingTypedIn) {
-  frmUnSell other(pos);
+  frmUnSell other(pos.gKeyBoard, pos.returnBooks());
   other.show();
   auto* quantity = other.findChild<QLineEdit*>("txtAmount");
   quantity->setFocus();

@@ -1,0 +1,20 @@
+#pragma once
+
+class BillBooks;
+class Sale;
+class SaleDevices;
+class SaleScreen;
+
+/// What the parts of the sale screen's work have in common: the sale, its books, the screen and the
+/// devices. These outlive the part.
+class SalePart {
+ public:
+  SalePart(Sale& sale, BillBooks& books, SaleScreen& screen, SaleDevices& devices)
+      : sale_(sale), books_(books), screen_(screen), devices_(devices) {}
+
+ protected:
+  Sale& sale_;
+  BillBooks& books_;
+  SaleScreen& screen_;
+  SaleDevices& devices_;
+};
