@@ -2,7 +2,6 @@
 
 #include <algorithm>
 
-#include "base/Failure.h"
 #include "base/NumberText.h"
 #include "base/Text.h"
 #include "checkout/AmountDue.h"
@@ -146,15 +145,6 @@ void BillLines::tell(const QString& status) {
   devices_.display().clientView(sale_.line()->Price(), CustomerDisplay::kPrice);
 }
 
-bool BillLines::guarded(const std::function<bool()>& work) {
-  try {
-    return work();
-  } catch (const Failure& failure) {
-    screen_.messageBox(qtText(failure.what()));
-    return false;
-  }
-}
-
 void BillLines::CancelBill() {
   devices_.receipt.FeedLines(*sale_.bill());
   if (sale_.isEmpty()) return screen_.ShowMessage(tr("没有商品，无需删除！"));
@@ -179,7 +169,7 @@ void BillLines::DeleteCurrentLine() {
                             : tr("没有可删除的行：已确认的商品不能单独删除，只能整单撤消。"));
     return;
   }
-  static_cast<void>(guarded([this] {
+  guarded([this] {
     const StockOutcome stock = books_.remove(*sale_.line());
     if (!stock.done()) {
       screen_.ShowMessage(sale_texts::refusal(stock));
@@ -188,5 +178,5 @@ void BillLines::DeleteCurrentLine() {
     sale_.remove();
     sale_.setStatus(sale_texts::removed(*sale_.bill(), sale_.figures()));
     return true;
-  }));
+  });
 }

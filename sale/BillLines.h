@@ -2,7 +2,6 @@
 
 #include <QCoreApplication>
 #include <QString>
-#include <functional>
 #include <memory>
 
 #include "sale/ItemLookup.h"
@@ -37,7 +36,6 @@ class BillLines : private SalePart {
   bool correct(ClsSellItem changed);
   QString statusWith(const ClsSellItem& line) const;
   void tell(const QString& status);
-  bool guarded(const std::function<bool()>& work);
 
   ItemLookup lookup_;
   Checkout& checkout_;

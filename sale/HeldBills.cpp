@@ -3,8 +3,6 @@
 #include <algorithm>
 #include <cstdint>
 
-#include "base/Failure.h"
-#include "platform/QtText.h"
 #include "sale/Checkout.h"
 #include "sale/MemberCard.h"
 #include "sale/Sale.h"
@@ -15,16 +13,17 @@
 void HeldBills::SuspendBill() {
   devices_.receipt.FeedLines(*sale_.bill());
   if (sale_.isEmpty()) return screen_.ShowMessage(tr("没有商品，无需结账！"));
-  try {
+  const bool isHeld = guarded([this] {
     if (sale_.line() != nullptr) sale_.join();
     auto next = books_.hold(*sale_.bill());
-    if (!next) return screen_.messageBox(checkout_.operatorGone());
-    sale_.hold(std::move(next), books_.cashier().Name());
-  } catch (const Failure& failure) {
-    screen_.messageBox(qtText(failure.what()));
-    return;
-  }
-  checkout_.followLastBill();
+    if (next) {
+      sale_.hold(std::move(next), books_.cashier().Name());
+      return true;
+    }
+    screen_.messageBox(checkout_.operatorGone());
+    return false;
+  });
+  if (isHeld) checkout_.followLastBill();
 }
 
 void HeldBills::RecallBill() {
@@ -35,11 +34,10 @@ void HeldBills::RecallBill() {
   const auto chosen = std::find_if(sale_.held().begin(), sale_.held().end(),
                                    [&](const auto& bill) { return bill->BillNo() == number; });
   if (chosen == sale_.held().end()) return;
-  try {
+  guarded([&] {
     takeUp(**chosen);
-  } catch (const Failure& failure) {
-    screen_.messageBox(qtText(failure.what()));
-  }
+    return true;
+  });
 }
 
 void HeldBills::takeUp(const ClsSell& held) {

@@ -1,6 +1,5 @@
 #include "sale/MemberCard.h"
 
-#include "base/Failure.h"
 #include "platform/QtText.h"
 #include "sale/Sale.h"
 #include "sale/SaleScreen.h"
@@ -16,11 +15,10 @@ void MemberCard::AttachMember() {
   const QString typed = screen_.prompt(tr("会员卡"), tr("输入会员卡号或电话："));
   const std::string number = typed.toStdString();
   std::shared_ptr<ClsMember> member;
-  try {
+  guarded([&] {
     if (!memberNumber(number).empty()) member = find(number);
-  } catch (const Failure& failure) {
-    screen_.messageBox(qtText(failure.what()));
-  }
+    return member != nullptr;
+  });
   sale_.bill()->setMemberId(member ? member->Id() : 0);
   show(std::move(member));
 }
@@ -51,10 +49,9 @@ std::shared_ptr<ClsMember> MemberCard::chooseByPhone(const std::string& phone) {
 
 void MemberCard::show(std::shared_ptr<ClsMember> member) {
   QString info;
-  try {
+  guarded([&] {
     if (member) info = sale_texts::memberInfo(*member, books_.lastPurchase(*member).get());
-  } catch (const Failure& failure) {
-    screen_.messageBox(qtText(failure.what()));
-  }
+    return member != nullptr;
+  });
   sale_.attach(std::move(member), info);
 }

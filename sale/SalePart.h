@@ -1,5 +1,7 @@
 #pragma once
 
+#include <functional>
+
 class BillBooks;
 class Sale;
 class SaleDevices;
@@ -13,6 +15,10 @@ class SalePart {
       : sale_(sale), books_(books), screen_(screen), devices_(devices) {}
 
  protected:
+  /// Does that work. A Failure is shown, and the sale goes on; false then, and when the work says
+  /// so.
+  bool guarded(const std::function<bool()>& work) const;
+
   Sale& sale_;
   BillBooks& books_;
   SaleScreen& screen_;
