@@ -1,6 +1,7 @@
 #include "reports/frmSearch.h"
 
 #include <QCloseEvent>
+#include <QComboBox>
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QPushButton>

@@ -50,7 +50,7 @@ std::shared_ptr<ClsSell> BillBooks::open() {
 StockOutcome BillBooks::ring(ClsSellItem& line) {
   ensure(line.Id() == 0, "a line is rung once");
   Transaction ringing(connection_);
-  const StockOutcome outcome = take(line, line.StockQuantity(), rules_.StockRule());
+  StockOutcome outcome = take(line, line.StockQuantity(), rules_.StockRule());
   if (!outcome.done()) return outcome;
   line.Save();
   ringing.commit();
@@ -63,7 +63,7 @@ StockOutcome BillBooks::correct(ClsSellItem& line, ClsSellItem changed) {
          "a line is corrected by a changed copy of itself");
   Transaction correcting(connection_);
   const double more = roundedQuantity(changed.StockQuantity() - line.StockQuantity());
-  const StockOutcome outcome = take(line, more, rules_.StockRule());
+  StockOutcome outcome = take(line, more, rules_.StockRule());
   if (!outcome.done()) return outcome;
   changed.Save();
   correcting.commit();
@@ -74,7 +74,7 @@ StockOutcome BillBooks::correct(ClsSellItem& line, ClsSellItem changed) {
 StockOutcome BillBooks::remove(ClsSellItem& line) {
   ensure(line.Id() != 0, "only a stored line is removed");
   Transaction removing(connection_);
-  const StockOutcome outcome = putBack(line);
+  StockOutcome outcome = putBack(line);
   if (!outcome.done()) return outcome;
   line.Delete();
   removing.commit();
