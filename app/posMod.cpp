@@ -9,7 +9,10 @@
 #include "base/FileName.h"
 #include "base/OwnerOnly.h"
 #include "platform/MousePointer.h"
+#include "saleslib/BillBooks.h"
 #include "saleslib/ClsRights.h"
+#include "saleslib/ReturnBooks.h"
+#include "saleslib/TopUpBooks.h"
 #include "store/Connection.h"
 #include "store/DataFile.h"
 #include "store/DataFileCopy.h"
@@ -84,6 +87,18 @@ void posMod::start() {
   if (gPosSet.VMouse == 0) ShowMouse(false);
 }
 
+BillBooks posMod::billBooks() const {
+  return {*gConn, gSysParam, clock, gOperator};
+}
+
+ReturnBooks posMod::returnBooks() const {
+  return {*gConn, clock, gOperator};
+}
+
+TopUpBooks posMod::topUpBooks() const {
+  return TopUpBooks(*gConn);
+}
+
 void posMod::ShowMouse(bool show) {
   showMousePointer(show);
 }
@@ -97,17 +112,8 @@ void posMod::logOff() {
   gOperator.reset();
 }
 
-std::string posMod::dataFileFault() const {
-  try {
-    gConn->requireItsFile();
-    return {};
-  } catch (const Failure& failure) {
-    return failure.what();
-  }
-}
-
 bool posMod::wantsBackUp() const {
-  return !dataFileFault().empty() || gSysParam.BackupOnExit();
+  return !gConn->fileFault().empty() || gSysParam.BackupOnExit();
 }
 
 void posMod::backUp() {
