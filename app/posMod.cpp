@@ -11,7 +11,10 @@
 #include "base/OwnerOnly.h"
 #include "platform/MousePointer.h"
 #include "platform/QtText.h"
+#include "saleslib/BillBooks.h"
 #include "saleslib/ClsRights.h"
+#include "saleslib/ReturnBooks.h"
+#include "saleslib/TopUpBooks.h"
 #include "store/Connection.h"
 #include "store/DataFile.h"
 #include "store/DataFileCopy.h"
@@ -89,6 +92,18 @@ void posMod::start() {
   if (gPosSet.VMouse == 0) ShowMouse(false);
 }
 
+BillBooks posMod::billBooks() const {
+  return {*gConn, gSysParam, clock, gOperator};
+}
+
+ReturnBooks posMod::returnBooks() const {
+  return {*gConn, clock, gOperator};
+}
+
+TopUpBooks posMod::topUpBooks() const {
+  return TopUpBooks(*gConn);
+}
+
 void posMod::ShowMouse(bool show) {
   showMousePointer(show);
 }
@@ -102,17 +117,8 @@ void posMod::logOff() {
   gOperator.reset();
 }
 
-std::string posMod::dataFileFault() const {
-  try {
-    gConn->requireItsFile();
-    return {};
-  } catch (const Failure& failure) {
-    return failure.what();
-  }
-}
-
 bool posMod::wantsBackUp() const {
-  return !dataFileFault().empty() || gSysParam.BackupOnExit();
+  return !gConn->fileFault().empty() || gSysParam.BackupOnExit();
 }
 
 void posMod::backUp() {

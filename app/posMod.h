@@ -14,8 +14,11 @@
 #include "saleslib/ClsOperator.h"
 #include "saleslib/ClsSysParam.h"
 
+class BillBooks;
 class Connection;
 class DataFileLock;
+class ReturnBooks;
+class TopUpBooks;
 struct DataSource;
 
 /// The process-wide objects of the till, made once at start and handed by reference to every
@@ -60,14 +63,15 @@ class posMod {
   /// Binds the services to the data file and loads keyboard map and terminal settings; hides the
   /// pointer unless the settings show it. Needs the data file open. Throws StoreError.
   void start();
+  /// The books, kept by who is logged in (ensure); what they are made of outlives them.
+  BillBooks billBooks() const;
+  ReturnBooks returnBooks() const;
+  TopUpBooks topUpBooks() const;
   /// Forces the mouse pointer visible or hidden.
   void ShowMouse(bool show);
   /// Logs the operator off, if one is logged in. Throws Failure, for a data file that has been
   /// deleted, replaced or linked even when nobody is; whoever was logged in still is then.
   void logOff();
-  /// An empty text, or why the open data file is no longer the one of its name (deleted, replaced,
-  /// linked), for a message.
-  [[nodiscard]] std::string dataFileFault() const;
   /// Whether the end of the program makes a backup: as the shop has it, and in any case when what
   /// was stored last is in a file that lost its name.
   [[nodiscard]] bool wantsBackUp() const;

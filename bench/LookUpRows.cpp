@@ -29,8 +29,8 @@ class LookUp {
 
  private:
   BenchShop shop_;
-  const ClsSysParam& rules_ = shop_.pos().gSysParam;
-  ItemLookup lookUp_{shop_.sale(), {*shop_.pos().gConn, rules_, shop_.pos().clock}, shop_, rules_};
+  BillBooks books_ = shop_.pos().billBooks();
+  ItemLookup lookUp_{shop_.sale(), books_, shop_};
 };
 
 void require(bool found) {

@@ -6,6 +6,7 @@
 #include "base/NumberText.h"
 #include "base/Text.h"
 #include "checkout/Messages.h"
+#include "platform/QtText.h"
 #include "saleslib/ClsSell.h"
 #include "saleslib/ClsSysParam.h"
 
@@ -23,7 +24,7 @@ bool looksLikeBarcode(const QString& typed) {
 }
 
 QString yuan(Currency amount) {
-  return QString::fromStdString(twoDecimals(amount));
+  return qtText(twoDecimals(amount));
 }
 
 }  // namespace
@@ -38,8 +39,7 @@ bool FigureCheck::price(const QString& typed, Currency price) const {
 
 bool FigureCheck::discount(Discount factor) const {
   if (factor <= Discount()) return true;
-  return isMeant(tr("折扣 %1 大于 1，会比原价贵，确定吗？")
-                     .arg(QString::fromStdString(generalNumber(factor))));
+  return isMeant(tr("折扣 %1 大于 1，会比原价贵，确定吗？").arg(qtText(generalNumber(factor))));
 }
 
 bool FigureCheck::payment(const ClsSell& bill, const QString& cash) const {

@@ -1,20 +1,16 @@
 #include "checkout/Settlement.h"
 
-#include "app/posMod.h"
+#include "base/Failure.h"
 #include "base/NumberText.h"
 #include "checkout/FigureCheck.h"
 #include "checkout/Messages.h"
 #include "checkout/SettlementTexts.h"
 #include "devices/CustomerDisplay.h"
-#include "saleslib/CardNumber.h"
-#include "saleslib/ClsSell.h"
-#include "store/StoreError.h"
+#include "platform/QtText.h"
+#include "saleslib/BillBooks.h"
+#include "saleslib/ClsSysParam.h"
 
 namespace {
-
-QString shown(const std::string& text) {
-  return QString::fromStdString(text);
-}
 
 std::optional<Currency> money(const QString& text) {
   return Currency::parse(text.toStdString());
@@ -22,16 +18,19 @@ std::optional<Currency> money(const QString& text) {
 
 }  // namespace
 
-Settlement::Settlement(posMod& pos, ClsSell& bill, CustomerDisplay& display, Messages& screen,
+Settlement::Settlement(BillBooks& books, ClsSell& bill, CustomerDisplay& display, Messages& screen,
                        std::function<void()> paid)
-    : pos_(pos), bill_(bill), display_(display), screen_(screen), paid_(std::move(paid)) {}
+    : books_(books), bill_(bill), display_(display), screen_(screen), paid_(std::move(paid)) {
+  ensure(bill_.State() == 0 && bill_.AddsUp(), "payment is taken for an open bill of its lines");
+}
 
 void Settlement::begin() {
+  ensure(!settled_, "a bill is settled once");
   display_.clientView(bill_.Amount(), CustomerDisplay::kTotal);
 }
 
 QString Settlement::title() const {
-  return settlementTitle(bill_, pos_.clock(), pos_.gOperator->Name());
+  return settlementTitle(bill_, books_.now(), books_.cashier().Name());
 }
 
 QString Settlement::countText() const {
@@ -39,39 +38,44 @@ QString Settlement::countText() const {
 }
 
 QString Settlement::dueText() const {
-  return shown(twoDecimals(bill_.Amount()));
+  return qtText(twoDecimals(bill_.Amount()));
 }
 QString Settlement::cashText() const {
-  return shown(generalNumber(bill_.Amount()));
+  return qtText(generalNumber(bill_.Amount()));
 }
 QString Settlement::figureText(Tender tender) const {
-  return shown(generalNumber(bill_.Tendered(tender)));
+  return qtText(generalNumber(bill_.Tendered(tender)));
 }
 QString Settlement::salesmanText() const {
   return QString::number(bill_.Salesman());
 }
 QString Settlement::slipText() const {
-  return shown(bill_.Slip());
+  return qtText(bill_.Slip());
 }
 
 bool Settlement::takes(Tender tender) const {
-  return pos_.gSysParam.Takes(tenderKind(tender));
+  return books_.rules().Takes(tenderKind(tender));
+}
+
+ClsSell& Settlement::unpaid() {
+  ensure(!settled_, "what was paid is not changed");
+  return bill_;
 }
 
 QString Settlement::figureChanged(Tender tender, const QString& text) {
   const auto amount = money(text);
-  bill_.setTendered(tender, amount.value_or(Currency()));
+  unpaid().setTendered(tender, amount.value_or(Currency()));
   return amount ? text : QStringLiteral("0");
 }
 
 QString Settlement::salesmanChanged(const QString& text) {
   const auto number = parseWhole16(text.toStdString());
-  bill_.setSalesman(number.value_or(std::int16_t{0}));
+  unpaid().setSalesman(number.value_or(std::int16_t{0}));
   return number ? text : QStringLiteral("0");
 }
 
 QString Settlement::slipChanged(const QString& text) {
-  bill_.setSlip(slipCode(text.toStdString()));
+  unpaid().setSlip(slipCode(text.toStdString()));
   return slipText();
 }
 
@@ -80,7 +84,7 @@ QString Settlement::change(const QString& cash) const {
   if (!amount) return {};
   ClsSell paid = bill_;
   paid.setCash(*amount);
-  return shown(paid.FiguresFit() ? oneDecimal(paid.Change()) : kDoesNotFit);
+  return qtText(paid.FiguresFit() ? oneDecimal(paid.Change()) : kDoesNotFit);
 }
 
 void Settlement::say(const QString& text) {
@@ -88,7 +92,7 @@ void Settlement::say(const QString& text) {
 }
 
 bool Settlement::mayBePaid(const ClsSell& paid, const QString& cash) {
-  if (paid.FiguresFit()) return FigureCheck(pos_.gSysParam, screen_).payment(paid, cash);
+  if (paid.FiguresFit()) return FigureCheck(books_.rules(), screen_).payment(paid, cash);
   say(changeDoesNotFit());
   return false;
 }
@@ -99,8 +103,9 @@ void Settlement::confirmCash(const QString& cash) {
   if (const auto amount = money(cash)) paid.setCash(*amount);
   if (!mayBePaid(paid, cash)) return;
   bill_.setCash(paid.Cash());
-  settled_ = bill_.SavePaid();
-  if (!settled_) return say(cashNotStored(bill_.ErrText()));
+  const std::string fault = books_.markPaid(bill_);
+  if (!fault.empty()) return say(cashNotStored(fault));
+  settled_ = true;
   showAndPrint();
 }
 
@@ -108,10 +113,10 @@ void Settlement::confirmCash(const QString& cash) {
 QString Settlement::checkCard(const QString& number) {
   CardResult refused;
   try {
-    const auto card = findStoredCard(*pos_.gConn, payingCardNumbers(number.toStdString()));
-    if (card && card->isEnabled) return shown(card->number);
+    const auto card = books_.payingCard(number.toStdString());
+    if (card && card->isEnabled) return qtText(card->number);
     if (card) refused = {CardOutcome::kBlocked, *card};
-  } catch (const StoreError&) {
+  } catch (const Failure&) {
     // counts as a card that is not known
   }
   say(cardRefusal(refused));
@@ -136,28 +141,30 @@ std::optional<CardOutcome> Settlement::payByCard(const QString& number, const QS
 
 std::optional<CardOutcome> Settlement::charge(ClsSell paid, const QString& password) {
   try {
-    const CardResult result = ::payByCard(*pos_.gConn, paid, password.toStdString());
+    const CardResult result = books_.payByCard(paid, password.toStdString());
     settled_ = result.outcome == CardOutcome::kDone;
     if (settled_) {
+      ensure(paid.Paid() && paid.BillNo() == bill_.BillNo(), "the card paid for this bill");
       bill_ = std::move(paid);
       cardBalance_ = result.card.balance;
     } else {
       say(cardRefusal(result));
     }
     return result.outcome;
-  } catch (const StoreError& error) {
+  } catch (const Failure& error) {
     say(cardNotCharged(error.what()));
     return std::nullopt;
   }
 }
 
 void Settlement::sayCardPaid() {
-  ensure(settled_, "the card has paid before it is said");
+  ensure(settled_ && !bill_.CardNo().empty(), "the card has paid before it is said");
   say(cardPaid(cardBalance_));
   showAndPrint();
 }
 
 void Settlement::showAndPrint() {
+  ensure(settled_ && bill_.Paid(), "a payment is durable before it is shown and printed");
   display_.clientView(bill_.Cash(), CustomerDisplay::kReceived);
   paid_();
 }

@@ -8,9 +8,9 @@
 #include "saleslib/StoredCard.h"
 #include "saleslib/Tenders.h"
 
+class BillBooks;
 class ClsSell;
 class CustomerDisplay;
-class posMod;
 class Messages;
 
 /// Taking payment for one bill, without its window: what each figure typed means, the change, and
@@ -18,8 +18,8 @@ class Messages;
 /// left.
 class Settlement {
  public:
-  /// `paid` is called once, when the payment is durable and shown.
-  Settlement(posMod& pos, ClsSell& bill, CustomerDisplay& display, Messages& screen,
+  /// The bill is open (ensure). `paid` is called once, when the payment is durable and shown.
+  Settlement(BillBooks& books, ClsSell& bill, CustomerDisplay& display, Messages& screen,
              std::function<void()> paid);
 
   /// The dialog opens: shows the amount due on the customer display.
@@ -50,9 +50,10 @@ class Settlement {
 
   /// Confirms with the cash text; a text that is no number leaves the bill's cash figure. What
   /// looks mistyped is asked for first (see FigureCheck), and a No confirms nothing. The figures
-  /// become durable with the mark of a paid bill (see ClsSell::SavePaid); then the cash is shown on
-  /// the display and the footer printed. What cannot be made durable, or has a change that does not
-  /// fit, is said, and payment is not confirmed (see settled). Once confirmed, does nothing more.
+  /// become durable with the mark of a paid bill (see BillBooks::markPaid); then the cash is shown
+  /// on the display and the footer printed. What cannot be made durable, or has a change that does
+  /// not fit, is said, and payment is not confirmed (see settled). Once confirmed, does nothing
+  /// more.
   void confirmCash(const QString& cash);
   /// The number of the usable stored-value card that was typed or swiped (see payingCardNumbers).
   /// Nothing (null) when there is none, and says why. A query that fails counts as an unknown card.
@@ -71,11 +72,12 @@ class Settlement {
 
  private:
   void say(const QString& text);
+  ClsSell& unpaid();
   bool mayBePaid(const ClsSell& paid, const QString& cash);
   std::optional<CardOutcome> charge(ClsSell paid, const QString& password);
   void showAndPrint();
 
-  posMod& pos_;
+  BillBooks& books_;
   ClsSell& bill_;
   CustomerDisplay& display_;
   Messages& screen_;

@@ -4,13 +4,10 @@
 
 #include "base/DateTime.h"
 #include "base/NumberText.h"
+#include "platform/QtText.h"
 #include "saleslib/ClsSell.h"
 
 namespace {
-
-QString shown(const std::string& text) {
-  return QString::fromStdString(text);
-}
 
 QString tr(const char* text) {
   return QCoreApplication::translate("Settlement", text);
@@ -24,11 +21,11 @@ std::string plainFigure(Currency amount) {
 
 QString settlementTitle(const ClsSell& bill, const DateTime& now, const std::string& cashier) {
   return tr("单号：%1结账时间：%2收银员：%3")
-      .arg(QString::number(bill.BillNo()), shown(shortTime(now)), shown(cashier));
+      .arg(QString::number(bill.BillNo()), qtText(shortTime(now)), qtText(cashier));
 }
 
 QString goodsCount(const ClsSell& bill) {
-  return tr("共 %1 件商品").arg(shown(generalNumber(bill.Quantity())));
+  return tr("共 %1 件商品").arg(qtText(generalNumber(bill.Quantity())));
 }
 
 std::string tenderFigures(const std::vector<const TenderKind*>& kinds, const ClsSell& bill,
@@ -40,17 +37,17 @@ std::string tenderFigures(const std::vector<const TenderKind*>& kinds, const Cls
 
 QString statusText(const ClsSell& bill, const ClsSysParam& rules) {
   return tr("应收%1 %2找零%3元")
-      .arg(shown(plainFigure(bill.Amount())),
-           shown(tenderFigures(tendersOf(bill, rules), bill, plainFigure)),
-           shown(plainFigure(bill.Change())));
+      .arg(qtText(plainFigure(bill.Amount())),
+           qtText(tenderFigures(tendersOf(bill, rules), bill, plainFigure)),
+           qtText(plainFigure(bill.Change())));
 }
 
 QString lastBillText(const ClsSell& bill, const ClsSysParam& rules) {
   return tr("上一单：金额 %1实收%2找零%3  优惠%4")
-      .arg(shown(oneDecimal(bill.Amount())),
-           shown(tenderFigures(moneyTendersOf(bill, rules), bill, oneDecimal)),
-           bill.FiguresFit() ? shown(oneDecimal(bill.Change())) : kDoesNotFit,
-           shown(plainFigure(bill.Favorable())));
+      .arg(qtText(oneDecimal(bill.Amount())),
+           qtText(tenderFigures(moneyTendersOf(bill, rules), bill, oneDecimal)),
+           bill.FiguresFit() ? qtText(oneDecimal(bill.Change())) : kDoesNotFit,
+           qtText(plainFigure(bill.Favorable())));
 }
 
 QString cardRefusal(const CardResult& result) {
@@ -59,7 +56,7 @@ QString cardRefusal(const CardResult& result) {
       return tr("储值卡号错误,请重输");
     case CardOutcome::kBlocked:
       return tr("会员卡被禁用！卡号：%1，持卡人：%2")
-          .arg(shown(result.card.number), shown(result.card.memberName));
+          .arg(qtText(result.card.number), qtText(result.card.memberName));
     case CardOutcome::kWrongPassword:
       return tr("储值卡密码错误,请重输");
     case CardOutcome::kTooLittle:
@@ -71,15 +68,15 @@ QString cardRefusal(const CardResult& result) {
 }
 
 QString cardPaid(Currency balance) {
-  return tr(" 储值卡消费成功！余额：%1 ").arg(shown(plainFigure(balance)));
+  return tr(" 储值卡消费成功！余额：%1 ").arg(qtText(plainFigure(balance)));
 }
 
 QString cardNotCharged(const char* why) {
-  return tr("储值卡没有扣款：%1").arg(QString::fromUtf8(why));
+  return tr("储值卡没有扣款：%1").arg(qtText(why));
 }
 
 QString cashNotStored(const std::string& why) {
-  return tr("没有收款，请再确认一次：%1").arg(shown(why));
+  return tr("没有收款，请再确认一次：%1").arg(qtText(why));
 }
 
 QString changeDoesNotFit() {

@@ -12,7 +12,6 @@
 #include "platform/KeyName.h"
 #include "platform/Twips.h"
 #include "platform/VirtualKey.h"
-#include "shell/Modal.h"
 
 namespace {
 
@@ -34,13 +33,12 @@ void showAccepted(QLineEdit& field, const QString& accepted) {
 }  // namespace
 
 frmEndSell::frmEndSell(const KeyBoard& keys, QWidget* parent)
-    : QDialog(parent),
-      keys_(keys),
-      title_(label("title")),
-      count_(label("PCount")),
+    : KeyDrivenDialog(keys, EnterKey::kMapped, parent),
+      title_(label("title", {})),
+      count_(label("PCount", {})),
       money_(label("Money", tr("0000.00"))),
       change_(label("lbl1", tr("0.00"))),
-      hint_(label("lblHint")),
+      hint_(label("lblHint", {})),
       cash_(field("txtInMoney")),
       favorable_(field("favorable")),
       salesman_(field("salesman")),
@@ -64,20 +62,7 @@ frmEndSell::frmEndSell(const KeyBoard& keys, QWidget* parent)
   all->addWidget(hint_, 0, Qt::AlignHCenter);
   all->setSizeConstraint(QLayout::SetFixedSize);
   connectFields();
-}
-
-QLabel* frmEndSell::label(const char* name, const QString& text) {
-  auto* made = new QLabel(text, this);
-  made->setObjectName(name);
-  return made;
-}
-
-// Made in the order of the Tab key.
-QLineEdit* frmEndSell::field(const char* name) {
-  auto* made = new QLineEdit(this);
-  made->setObjectName(name);
-  made->installEventFilter(this);
-  return made;
+  setUpEnter();
 }
 
 QFrame* frmEndSell::amountFrame() {
@@ -139,6 +124,14 @@ void frmEndSell::connectFields() {
   });
 }
 
+void frmEndSell::setUpEnter() {
+  onEnter(cash_, [this] { confirmCash(); });
+  for (QLineEdit* field : {favorable_, salesman_, bankCard_, phone_, slip_})
+    enterLeads(field, cash_);
+  onEnter(cardNumber_, [this] { checkCard(); });
+  onEnter(password_, [this] { payByCard(); });
+}
+
 std::vector<std::pair<Tender, QLineEdit*>> frmEndSell::figures() const {
   return {
       {Tender::kFavorable, favorable_}, {Tender::kBankCard, bankCard_}, {Tender::kPhone, phone_}};
@@ -176,7 +169,7 @@ void frmEndSell::showTenders() {
   const QString hint =
       phone ? tr("现金栏：%1 收款，%2 返回单据；Tab 转到优惠、业务员、银行卡、扫码、储值卡")
             : tr("现金栏：%1 收款，%2 返回单据；Tab 转到优惠、业务员、银行卡、储值卡");
-  hint_->setText(hint.arg(keyName(keys_.mEnter), keyName(keys_.mEsc)));
+  hint_->setText(hint.arg(keyName(keys().mEnter), keyName(keys().mEsc)));
 }
 
 void frmEndSell::showChange() {
@@ -184,53 +177,19 @@ void frmEndSell::showChange() {
   if (!change.isNull()) change_->setText(change);
 }
 
-void frmEndSell::showEvent(QShowEvent* event) {
-  QDialog::showEvent(event);
-  centreOnScreen(*this);
-  cash_->setFocus();
-  cash_->selectAll();
-}
-
-bool frmEndSell::eventFilter(QObject* watched, QEvent* event) {
-  if (event->type() == QEvent::FocusIn && watched == cash_) cash_->selectAll();
-  if (event->type() == QEvent::KeyPress) {
-    const auto& pressed = *static_cast<QKeyEvent*>(event);
-    const int key = virtualKey(pressed);
+// The card fields know the plain Enter key alone: a mapped one may be a character of theirs. Esc
+// leaves the dialog from the cash field only.
+bool frmEndSell::handleKey(const QObject* watched, const QKeyEvent& event) {
+  const int code = virtualKey(event);
+  const int key = keys().meaning(code);
+  const bool onCard = watched == cardNumber_ || watched == password_;
+  if (onCard ? code != vk::kEnter : key == keys().mEsc && watched != cash_) return false;
+  if (watched == cash_ && key != 0 && key == keys().mF1) {
     // The key that opened the dialog may still be held down; that confirms nothing.
-    const bool confirms = key == vk::kEnter || key == keys_.mEnter || key == keys_.mF1;
-    return (pressed.isAutoRepeat() && confirms) || keyPressed(watched, key);
-  }
-  return QDialog::eventFilter(watched, event);
-}
-
-// A dialog of its own accord closes on Escape; this one is only left from the cash field.
-void frmEndSell::keyPressEvent(QKeyEvent* event) {
-  event->accept();
-}
-
-bool frmEndSell::keyPressed(const QObject* watched, int key) {
-  if (watched == cardNumber_ || watched == password_) {
-    if (key != vk::kEnter) return false;
-    watched == cardNumber_ ? checkCard() : payByCard();
+    if (!event.isAutoRepeat()) confirmCash();
     return true;
   }
-  key = keys_.meaning(key);
-  if (watched == cash_) return cashKey(key);
-  if (key != keys_.mEnter || key == 0) return false;
-  cash_->setFocus();
-  return true;
-}
-
-bool frmEndSell::cashKey(int key) {
-  if (key == 0) return false;
-  if (key == keys_.mEnter || key == keys_.mF1) {
-    confirmCash();
-  } else if (key == keys_.mEsc) {
-    close();
-  } else {
-    return false;
-  }
-  return true;
+  return KeyDrivenDialog::handleKey(watched, event);
 }
 
 void frmEndSell::confirmCash() {
@@ -244,9 +203,9 @@ void frmEndSell::confirmCash() {
 
 void frmEndSell::checkCard() {
   const QString card = settlement_->checkCard(cardNumber_->text());
-  if (!card.isNull()) cardNumber_->setText(card);
-  (card.isNull() ? cardNumber_ : password_)->setFocus();
-  if (card.isNull()) cardNumber_->selectAll();
+  if (card.isNull()) return focusWhole(cardNumber_);
+  cardNumber_->setText(card);
+  password_->setFocus();
 }
 
 void frmEndSell::payByCard() {
@@ -261,13 +220,9 @@ void frmEndSell::payByCard() {
       return;
     case CardOutcome::kUnknown:
     case CardOutcome::kBlocked:
-      cardNumber_->setFocus();
-      cardNumber_->selectAll();
-      return;
+      return focusWhole(cardNumber_);
     case CardOutcome::kWrongPassword:
-      password_->setFocus();
-      password_->selectAll();
-      return;
+      return focusWhole(password_);
     case CardOutcome::kTooLittle:
       return;
   }

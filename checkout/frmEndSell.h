@@ -1,16 +1,12 @@
 #pragma once
 
-#include <QDialog>
 #include <utility>
 #include <vector>
 
 #include "saleslib/Tenders.h"
+#include "shell/KeyDrivenDialog.h"
 
-class KeyBoard;
 class QFrame;
-class QGridLayout;
-class QLabel;
-class QLineEdit;
 class Settlement;
 
 /// The dialog in which the cashier takes payment. Draws a Settlement and turns keys into its calls.
@@ -20,7 +16,7 @@ class Settlement;
 /// discount, salesman, bank card, telephone and slip returns to the cash field; Enter on the card
 /// number checks it, Enter on the password pays by card. The mapped keys count; the Enter key
 /// itself always is one, and on the two card fields the only one.
-class frmEndSell : public QDialog {
+class frmEndSell : public KeyDrivenDialog {
   Q_OBJECT
 
  public:
@@ -29,29 +25,23 @@ class frmEndSell : public QDialog {
   [[nodiscard]] bool init(Settlement& settlement);
 
  protected:
-  bool eventFilter(QObject* watched, QEvent* event) override;
-  void keyPressEvent(QKeyEvent* event) override;
-  void showEvent(QShowEvent* event) override;
+  bool handleKey(const QObject* watched, const QKeyEvent& event) override;
 
  private:
-  QLabel* label(const char* name, const QString& text = {});
-  QLineEdit* field(const char* name);
   QFrame* amountFrame();
   QFrame* otherFrame();
   void connectFields();
+  void setUpEnter();
   /// The fields of the figures that are typed beside the cash.
   std::vector<std::pair<Tender, QLineEdit*>> figures() const;
   void showSettlement();
   void showTenders();
   void showChange();
 
-  bool keyPressed(const QObject* watched, int key);
-  bool cashKey(int key);
   void confirmCash();
   void checkCard();
   void payByCard();
 
-  const KeyBoard& keys_;
   Settlement* settlement_ = nullptr;  ///< while the dialog shows
   QLabel* title_;
   QLabel* count_;

@@ -10,10 +10,10 @@
 #include "Target.h"
 #include "base/CsvReader.h"
 #include "base/CsvRow.h"
+#include "shop/Importer.h"
 #include "store/Connection.h"
 #include "store/DataFile.h"
 #include "store/Transaction.h"
-#include "tools/Importer.h"
 
 namespace {
 

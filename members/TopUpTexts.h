@@ -2,7 +2,7 @@
 
 #include <QString>
 
-#include "saleslib/TopUp.h"
+#include "saleslib/TopUpBooks.h"
 
 /// What the top-up dialog says.
 

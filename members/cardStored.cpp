@@ -119,7 +119,7 @@ void cardStored::askForCard() {
 void cardStored::findCard() {
   std::optional<StoredCard> card;
   try {
-    card = findStoredCard(*pos_.gConn, storedCardNumbers(textOf(txtBh_)));
+    card = pos_.topUpBooks().card(textOf(txtBh_));
   } catch (const Failure&) {
     // A card that cannot be read counts as not found.
   }
@@ -201,7 +201,7 @@ void cardStored::store() {
 /// Says what became of it.
 bool cardStored::load(const TopUp& topUp) {
   try {
-    const CardResult result = storeTopUp(*pos_.gConn, topUp);
+    const CardResult result = pos_.topUpBooks().store(topUp);
     const bool isLoaded = result.outcome == CardOutcome::kDone;
     messageBox(this, isLoaded ? topUpDone(topUp, result.card.balance) : topUpRefusal(result));
     return isLoaded;

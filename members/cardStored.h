@@ -5,7 +5,7 @@
 #include <string>
 
 #include "base/Currency.h"
-#include "saleslib/TopUp.h"
+#include "saleslib/TopUpBooks.h"
 #include "shell/KeyDrivenDialog.h"
 
 class posMod;

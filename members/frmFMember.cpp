@@ -154,8 +154,7 @@ void frmFMember::numberEntered() {
 
 void frmFMember::startMember() {
   enableEntry(true);
-  member_ = std::make_shared<ClsMember>();
-  member_->Init(*pos_.gConn, 0, pos_.clock);
+  member_ = pos_.gMemberSvc.NewMember(pos_.clock);
   for (QLineEdit* edit : {txtName_, txtAddress_, txtPhone_, txtOther_}) edit->clear();
   txtOld_->setText("25");
   txtPostcode_->setText("0");
@@ -205,7 +204,7 @@ void frmFMember::addMember() {
 void frmFMember::store() {
   txtBh_->setText(qtText(memberNumber(textOf(txtBh_))));
   // Nothing of an attempt that was refused before.
-  member_->Init(*pos_.gConn, 0, pos_.clock);
+  member_ = pos_.gMemberSvc.NewMember(pos_.clock);
   member_->setAddress(textOf(txtAddress_));
   member_->setBh(textOf(txtBh_));
   if (trimmed(textOf(txtName_)).empty()) {

@@ -2,17 +2,17 @@
 
 #include <QCoreApplication>
 
-#include "app/posMod.h"
 #include "base/Failure.h"
 #include "base/FileName.h"
 #include "base/OwnerOnly.h"
+#include "platform/IniFile.h"
 #include "platform/QtText.h"
 
 namespace fs = std::filesystem;
 
-fs::path exportFolder(const posMod& pos) {
-  const std::string set = pos.configIni.read("Till", "ExportFolder").value_or("");
-  return findIgnoringCase((pos.folder / (set.empty() ? "Exports" : set)).string());
+fs::path exportFolder(const IniFile& settings, const fs::path& programFolder) {
+  const std::string set = settings.read("Till", "ExportFolder").value_or("");
+  return findIgnoringCase((programFolder / (set.empty() ? "Exports" : set)).string());
 }
 
 // A folder that somebody else made keeps its rights: it may be a memory stick's.

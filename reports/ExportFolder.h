@@ -2,10 +2,11 @@
 
 #include <filesystem>
 
-class posMod;
+class IniFile;
 
 /// Where exports go: `ExportFolder` of section Till, where a relative one starts at the program's
 /// folder; a folder Exports there when nothing is set.
-std::filesystem::path exportFolder(const posMod& pos);
+std::filesystem::path exportFolder(const IniFile& settings,
+                                   const std::filesystem::path& programFolder);
 /// Makes the folder, for its owner only, unless it is there. Throws Failure.
 void makeExportFolder(const std::filesystem::path& folder);

@@ -17,7 +17,8 @@ constexpr double kLargestSum = 9e14;  ///< about what fits an amount
 
 }  // namespace
 
-LineQuery::LineQuery(DataSource source) : source_(std::move(source)), reader_(new QObject) {
+LineQuery::LineQuery(const Connection& shop)
+    : source_(std::make_unique<DataSource>(shop.source())), reader_(new QObject) {
   reader_->moveToThread(&thread_);
   connect(&thread_, &QThread::finished, reader_, &QObject::deleteLater);
   thread_.start();
@@ -54,7 +55,7 @@ void LineQuery::end() {
 
 Connection& LineQuery::connection() {
   if (!connection_) {
-    connection_ = std::make_unique<Connection>(source_, Connection::Mode::kExisting);
+    connection_ = std::make_unique<Connection>(*source_, Connection::Mode::kExisting);
   }
   return *connection_;
 }

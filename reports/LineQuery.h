@@ -7,9 +7,9 @@
 #include <string>
 
 #include "reports/SoldLines.h"
-#include "store/DataFile.h"
 
 class Connection;
+struct DataSource;
 
 /// Runs sales queries beside the window, so that it lives while a year is sorted and read: a thread
 /// with a reading connection of its own. Queries start, stop and report in the window's thread.
@@ -17,8 +17,9 @@ class LineQuery : public QObject {
   Q_OBJECT
 
  public:
-  /// Opens its connection at once, beside the window, so that it stands when the first query comes.
-  explicit LineQuery(DataSource source);
+  /// Reads the file of that connection by one of its own, which it opens at once, beside the
+  /// window, so that it stands when the first query comes.
+  explicit LineQuery(const Connection& shop);
   ~LineQuery() override;
 
   /// What is asked: the lines, and what their bills came to in these kinds of payment.
@@ -50,7 +51,7 @@ class LineQuery : public QObject {
   void report(int number, std::function<void()> what);
   void end();
 
-  DataSource source_;
+  std::unique_ptr<const DataSource> source_;
   std::atomic<int> wanted_ = 0;  ///< number of the query that is still wanted
   bool running_ = false;
 

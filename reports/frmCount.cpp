@@ -15,6 +15,7 @@
 #include "reports/DayModel.h"
 #include "reports/ShiftSheet.h"
 #include "reports/TableLook.h"
+#include "saleslib/BillBooks.h"
 #include "saleslib/ClsDayStat.h"
 #include "shell/Modal.h"
 
@@ -85,15 +86,9 @@ void frmCount::build() {
 
 void frmCount::init() {
   Label1_->setText(tr("%1今日销售统计表").arg(qtText(pos_.gOperator->Name())));
-  show(today());
+  show(pos_.billBooks().today());
   centreOnScreen(*this);
   exec();
-}
-
-ClsDayStat frmCount::today() const {
-  ClsDayStat day;
-  day.DayQuery(*pos_.gConn, pos_.clock().date, 0, pos_.gOperator->Id());
-  return day;
 }
 
 void frmCount::show(const ClsDayStat& day) {
@@ -110,7 +105,7 @@ void frmCount::show(const ClsDayStat& day) {
 
 void frmCount::printSheet() {
   try {
-    const ShiftSheet sheet = sheetOf(today(), pos_.gSysParam);
+    const ShiftSheet sheet = sheetOf(pos_.billBooks().today(), pos_.gSysParam);
     ReceiptPrinter::ofSettings(pos_.gPosSet, *pos_.ports)->print(sheet.document());
   } catch (const PortError& error) {
     messageBox(this, qtText(error.what()));

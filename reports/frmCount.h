@@ -21,7 +21,6 @@ class frmCount : public KeyDrivenDialog {
 
  private:
   void build();
-  ClsDayStat today() const;
   void show(const ClsDayStat& day);
   void printSheet();
 

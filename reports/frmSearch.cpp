@@ -25,9 +25,9 @@
 #include "reports/ResultList.h"
 #include "reports/ResultTable.h"
 #include "reports/SearchPanel.h"
+#include "saleslib/GoodsLookup.h"
 #include "shell/DateField.h"
 #include "shell/Modal.h"
-#include "store/Connection.h"
 
 namespace {
 
@@ -55,7 +55,7 @@ frmSearch::frmSearch(posMod& pos, QWidget* parent)
       pos_(pos),
       Frame5_(new SearchPanel(this)),
       ListView1_(new ResultTable(this)),
-      query_(new LineQuery(pos.gConn->source())) {
+      query_(new LineQuery(*pos.gConn)) {
   query_->setParent(this);
   setObjectName("frmSearch");
   setWindowTitle(tr("商品查询"));
@@ -87,10 +87,9 @@ void frmSearch::load() {
   if (takesSlips()) Frame5_->askForSlips();
   Frame5_->DtBegin->setDate(today);
   Frame5_->Dtfinish->setDate(today);
-  const Recordset categories = pos_.gConn->Open("select  SPLBMC from SP_LB order by SPLB_ID");
   const QString choose = Frame5_->Combo1->currentText();
-  for (std::size_t row = 0; row < categories.count(); ++row)
-    Frame5_->Combo1->addItem(qtText(categories.row(row).text("SPLBMC")));
+  for (const std::string& category : goodsCategories(*pos_.gConn))
+    Frame5_->Combo1->addItem(qtText(category));
   Frame5_->Combo1->setEditText(choose);
   const KeyBoard& keys = pos_.gKeyBoard;
   Frame5_->showIdle(tr("%1：查询　%2：退出").arg(shownKey(keys.mEnter), shownKey(keys.mEsc)));
@@ -267,7 +266,7 @@ void frmSearch::print(const Document& document) {
 void frmSearch::exportList() {
   if (!hasList(tr("没有可导出的内容！"))) return;
   const QString name = qtText(kExportTitle) + ' ' + qtText(dateText(pos_.clock().date));
-  ExportDialog dialog(pos_.gKeyBoard, exportFolder(pos_), name, this);
+  ExportDialog dialog(pos_.gKeyBoard, exportFolder(pos_.configIni, pos_.folder), name, this);
   if (dialog.exec() == QDialog::Accepted) exportTo(dialog.file());
 }
 

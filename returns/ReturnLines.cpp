@@ -1,6 +1,7 @@
 #include "returns/ReturnLines.h"
 
 #include "base/NumberText.h"
+#include "platform/QtText.h"
 #include "saleslib/ClsSell.h"
 
 void ReturnLines::show(const ClsSell* bill) {
@@ -35,17 +36,17 @@ QString ReturnLines::cell(int row, int column) const {
   const ClsSellItem& line = *bill_->Items()[static_cast<std::size_t>(row)];
   switch (column) {
     case kCode:
-      return QString::fromStdString(line.EntryCode());
+      return qtText(line.EntryCode());
     case kName:
-      return QString::fromStdString(line.SpName());
+      return qtText(line.SpName());
     case kPrice:
-      return QString::fromStdString(twoDecimals(line.Price()));
+      return qtText(twoDecimals(line.Price()));
     case kQuantity:
-      return QString::fromStdString(generalNumber(line.Quantity()));
+      return qtText(generalNumber(line.Quantity()));
     case kDiscount:
-      return QString::fromStdString(generalNumber(line.Discount()));
+      return qtText(generalNumber(line.Discount()));
     case kMoney:
-      return QString::fromStdString(twoDecimals(line.Money()));
+      return qtText(twoDecimals(line.Money()));
     default:
       return QString::number(line.Id());
   }

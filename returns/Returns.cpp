@@ -2,25 +2,14 @@
 
 #include <algorithm>
 #include <optional>
+#include <utility>
 
-#include "app/posMod.h"
 #include "base/Failure.h"
 #include "base/NumberText.h"
 #include "base/Text.h"
-#include "saleslib/ClsSell.h"
-#include "saleslib/ClsStock.h"
-#include "saleslib/ClsUnSell.h"
-#include "saleslib/StoredCard.h"
-#include "store/StoreError.h"
-#include "store/Transaction.h"
+#include "platform/QtText.h"
 
 namespace {
-
-constexpr std::int16_t kSettled = 1;
-
-QString shown(const std::string& text) {
-  return QString::fromStdString(text);
-}
 
 /// A typed bill number; nothing for one that no bill can have.
 std::optional<std::int32_t> billNumber(const std::string& typed) {
@@ -36,7 +25,7 @@ std::string comparable(const std::string& code) {
 
 }  // namespace
 
-Returns::Returns(posMod& pos) : pos_(pos) {}
+Returns::Returns(ReturnBooks books) : books_(std::move(books)) {}
 
 void Returns::unload() {
   bill_ = nullptr;
@@ -55,30 +44,34 @@ QString Returns::load(const QString& number) {
 }
 
 QString Returns::open(std::int32_t billNo) {
-  bill_ = std::make_shared<ClsSell>();
-  if (!bill_->Open(*pos_.gConn, billNo, 0)) return tr("没有找到“%1”单据！").arg(billNo);
-  if (bill_->State() != kSettled) return tr("单据“%1”还没有结账，不能退货！").arg(billNo);
-  try {
-    bill_->LoadLines();
-  } catch (const StoreError& damaged) {
-    return shown(damaged.what());
+  ReturnBooks::Found found = books_.find(billNo);
+  bill_ = std::move(found.bill);
+  ensure((bill_ != nullptr) == (found.kind == ReturnBooks::Found::kSettled),
+         "goods come back against a settled bill");
+  switch (found.kind) {
+    case ReturnBooks::Found::kUnknown:
+      return tr("没有找到“%1”单据！").arg(billNo);
+    case ReturnBooks::Found::kOpen:
+      return tr("单据“%1”还没有结账，不能退货！").arg(billNo);
+    case ReturnBooks::Found::kDamaged:
+      return qtText(found.damage);
+    case ReturnBooks::Found::kSettled:
+      break;
   }
   return {};
 }
 
 QString Returns::billText() const {
-  ClsOperator cashier;
-  cashier.Init(*pos_.gConn, static_cast<std::int16_t>(bill_->OperatorId()));
+  ensure(bill_ != nullptr, "a loaded bill is told of");
   std::string text = "流水号：" + std::to_string(bill_->BillNo()) + " 商品数量：" +
                      generalNumber(bill_->Quantity()) + " 金额：" + twoDecimals(bill_->Amount()) +
                      "\r\n 销售时间：" + generalText(bill_->SellTime()) + " 收银员：" +
-                     cashier.Name();
+                     books_.cashierOf(*bill_).Name();
   if (bill_->MemberId() > 0) {
-    ClsMember member;
-    member.Init(*pos_.gConn, bill_->MemberId());
+    const ClsMember member = books_.memberOf(*bill_);
     text += "会员卡号：" + member.Bh() + " 会员姓名：" + member.Name();
   }
-  return shown(text);
+  return qtText(text);
 }
 
 void Returns::chooseByCode(const QString& code) {
@@ -98,11 +91,13 @@ void Returns::chooseById(std::int32_t lineId) {
 }
 
 double Returns::quantityOf(const QString& typed) const {
+  ensure(line_ != nullptr, "a quantity is a chosen line's");
   const auto quantity = parseNumber(typed.toStdString());
   return quantity ? roundedQuantity(std::min(*quantity, line_->Quantity())) : 0;
 }
 
 Currency Returns::worth(double quantity) const {
+  ensure(line_ != nullptr, "goods have the worth of a chosen line");
   return quantity > 0 ? lineAmount(line_->Price(), quantity, line_->Discount()) : Currency();
 }
 
@@ -110,7 +105,7 @@ Currency Returns::worth(double quantity) const {
 // that goods that come back in steps raise no question of a fen.
 Currency Returns::overpaid() const {
   Currency refunded, worthOfAll;
-  for (const ClsUnSell::Earlier& earlier : ClsUnSell::OfLine(*pos_.gConn, line_->Id())) {
+  for (const ClsUnSell::Earlier& earlier : books_.earlier(*line_)) {
     refunded += earlier.money;
     worthOfAll += worth(earlier.quantity);
   }
@@ -122,7 +117,7 @@ QString Returns::doubt(double quantity, Currency refund) const {
   const Currency pieces = worth(quantity);
   const Currency left = std::max(worth(line_->Quantity()) - overpaid(), Currency());
   const auto question = [&](const QString& text, Currency most) {
-    return text.arg(shown(twoDecimals(refund)), shown(twoDecimals(most)));
+    return text.arg(qtText(twoDecimals(refund)), qtText(twoDecimals(most)));
   };
   if (refund > pieces && pieces <= left) {
     return question(tr("实退金额 %1 元超过了所退商品的金额 %2 元，确定要退吗？"), pieces);
@@ -135,16 +130,16 @@ QString Returns::doubt(double quantity, Currency refund) const {
 }
 
 QString Returns::takeBack(double quantity, Currency refund) {
-  ensure(line_ != nullptr && pos_.gOperator != nullptr, "a line is taken back by an operator");
+  ensure(bill_ != nullptr && line_ != nullptr, "a line of a loaded bill is taken back");
   if (!(quantity > 0)) return tr("没有可退的数量！");
   if (refund < Currency()) return tr("实退金额不能是负数！");
-  std::string refusal;
+  QString refusal;
   try {
     refusal = store(quantity, refund);
   } catch (const Failure& broken) {
-    refusal = broken.what();
+    refusal = qtText(broken.what());
   }
-  if (refusal.empty()) {
+  if (refusal.isEmpty()) {
     line_ = nullptr;
   } else {
     // The bill at hand was being changed: what counts is what the data file holds.
@@ -152,38 +147,11 @@ QString Returns::takeBack(double quantity, Currency refund) {
     const QString gone = load(QString::number(bill_->BillNo()));
     if (gone.isEmpty()) chooseById(lineId);
   }
-  return shown(refusal);
+  return refusal;
 }
 
-std::string Returns::store(double quantity, Currency refund) {
-  Transaction all(*pos_.gConn);
-  ClsUnSell record;
-  record.Init(*pos_.gConn, bill_->BillNo(), 0, pos_.clock);
-  record.setUnQty(quantity);
-  record.setUnMoney(refund);
-  record.setItemId(line_->Id());
-  record.setOperatorId(pos_.gOperator->Id());
-  record.setCost(line_->Cost());
-  record.setRatio(line_->Ratio());
-  record.setDiscount(line_->Discount());
-  record.Save();
-  // The record says how much really came back; everything else follows it.
-  if (!(record.UnQty() > 0)) return tr("没有可退的数量！").toStdString();
-
-  ClsStock stock;
-  stock.Init(*pos_.gConn, line_->SpCode());
-  if (!stock.PutBack(roundedQuantity(record.UnQty() * line_->Ratio()))) return stock.ErrText();
-  lowerLine(record.UnQty());
-  if (bill_->MemberId() > 0) debitPurchase(*pos_.gConn, bill_->MemberId(), record.UnMoney());
-  if (!bill_->Save()) return bill_->ErrText();
-  all.commit();
-  return {};
-}
-
-void Returns::lowerLine(double quantity) {
-  const Currency rounding = bill_->Amount() - bill_->GoodsAmount();
-  line_->setQuantity(roundedQuantity(line_->Quantity() - quantity));
-  line_->Save();
-  bill_->Recalculate();
-  if (!bill_->GoodsAmount().isZero()) bill_->setAmount(bill_->GoodsAmount() + rounding);
+QString Returns::store(double quantity, Currency refund) {
+  const ReturnBooks::Outcome outcome = books_.takeBack(*bill_, *line_, quantity, refund);
+  if (outcome.kind == ReturnBooks::Outcome::kNothingHeld) return tr("没有可退的数量！");
+  return qtText(outcome.why);
 }

@@ -7,13 +7,10 @@
 #include <string>
 
 #include "base/Currency.h"
-
-class ClsSell;
-class ClsSellItem;
-class posMod;
+#include "saleslib/ReturnBooks.h"
 
 /// Taking goods back against a stored bill, without its window: which bill, which of its lines, how
-/// much of it, and what is then written. Needs an operator logged in.
+/// much of it, and what is then written.
 ///
 /// What a return does to the bill: the line holds less, and the bill's quantity and goods amount
 /// follow its lines. The amount due falls by what the goods taken back were sold for; the rounding
@@ -25,7 +22,7 @@ class Returns {
   Q_DECLARE_TR_FUNCTIONS(Returns)
 
  public:
-  explicit Returns(posMod& pos);
+  explicit Returns(ReturnBooks books);
 
   /// Loads the settled bill of that typed number, with no line chosen. An empty text, or why not. A
   /// text that is no number leaves everything as it was; any other refusal leaves no bill.
@@ -61,10 +58,9 @@ class Returns {
   void unload();
   QString open(std::int32_t billNo);
   Currency overpaid() const;
-  std::string store(double quantity, Currency refund);
-  void lowerLine(double quantity);
+  QString store(double quantity, Currency refund);
 
-  posMod& pos_;
+  ReturnBooks books_;
   std::shared_ptr<ClsSell> bill_;
   std::shared_ptr<ClsSellItem> line_;
 };

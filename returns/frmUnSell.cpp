@@ -8,20 +8,16 @@
 #include <QPushButton>
 #include <QTableView>
 #include <QVBoxLayout>
+#include <utility>
 
-#include "app/posMod.h"
 #include "base/Failure.h"
 #include "base/NumberText.h"
+#include "platform/QtText.h"
 #include "returns/ReturnLines.h"
-#include "saleslib/ClsSell.h"
 #include "shell/Modal.h"
 #include "shell/frmMsg.h"
 
 namespace {
-
-QString shown(const std::string& text) {
-  return QString::fromStdString(text);
-}
 
 /// Whether a text still being typed ("12.", "12.50") only lacks its end to be that number.
 bool onItsWayTo(QString text, const QString& plain) {
@@ -33,10 +29,9 @@ bool onItsWayTo(QString text, const QString& plain) {
 
 }  // namespace
 
-frmUnSell::frmUnSell(posMod& pos, QWidget* parent)
-    : KeyDrivenDialog(pos.gKeyBoard, EnterKey::kPlain, parent),
-      pos_(pos),
-      returns_(pos),
+frmUnSell::frmUnSell(const KeyBoard& keys, ReturnBooks books, QWidget* parent)
+    : KeyDrivenDialog(keys, EnterKey::kPlain, parent),
+      returns_(std::move(books)),
       lines_(new ReturnLines(this)),
       txtNo_(field("txtNo")),
       txttm_(field("txttm")),
@@ -131,15 +126,6 @@ QLayout* frmUnSell::returnRow() {
   return grid;
 }
 
-bool frmUnSell::eventFilter(QObject* watched, QEvent* event) {
-  if (event->type() == QEvent::FocusIn && (watched == txtAmount_ || watched == txtmoney_)) {
-    static_cast<QLineEdit*>(watched)->selectAll();
-  }
-  if (event->type() == QEvent::FocusOut && watched == txtAmount_) quantityLeft();
-  if (event->type() == QEvent::FocusOut && watched == txtmoney_) rewriteRefund();
-  return KeyDrivenDialog::eventFilter(watched, event);
-}
-
 void frmUnSell::setUpEnter() {
   onEnter(txtNo_, [this] { loadBill(); });
   onEnter(txttm_, [this] { chooseTyped(); });
@@ -152,6 +138,8 @@ void frmUnSell::setUpEnter() {
     if (returns_.line() != nullptr) focusWhole(txtmoney_);
   });
   onEnter(txtmoney_, [this] { cmdUnSell_->click(); });
+  onLeaving(txtAmount_, [this] { quantityLeft(); });
+  onLeaving(txtmoney_, [this] { rewriteRefund(); });
 }
 
 void frmUnSell::message(const QString& text) {
@@ -204,9 +192,9 @@ void frmUnSell::showLine() {
     for (QLineEdit* edit : {Text1_, Text2_, txtAmount_, txtmoney_}) edit->clear();
     return;
   }
-  txttm_->setText(shown(line->EntryCode()));
-  Text1_->setText(shown(twoDecimals(line->Price())));
-  Text2_->setText(shown(generalNumber(line->Quantity())));
+  txttm_->setText(qtText(line->EntryCode()));
+  Text1_->setText(qtText(twoDecimals(line->Price())));
+  Text2_->setText(qtText(generalNumber(line->Quantity())));
   txtAmount_->setText(Text2_->text());
   confirmedQuantity_ = txtAmount_->text();
   showRefund(line->Money());
@@ -218,7 +206,7 @@ void frmUnSell::showLine() {
 void frmUnSell::confirmQuantity() {
   if (returns_.line() == nullptr) return;
   const double quantity = returns_.quantityOf(txtAmount_->text());
-  txtAmount_->setText(shown(generalNumber(quantity)));
+  txtAmount_->setText(qtText(generalNumber(quantity)));
   confirmedQuantity_ = txtAmount_->text();
   cmdUnSell_->setEnabled(quantity > 0);
   showRefund(returns_.worth(quantity));
@@ -230,7 +218,7 @@ void frmUnSell::quantityLeft() {
 }
 
 void frmUnSell::showRefund(Currency refund) {
-  txtmoney_->setText(shown(generalNumber(refund)));
+  txtmoney_->setText(qtText(generalNumber(refund)));
 }
 
 // In plain number text at every change; while the figure is being typed, its end is waited for, so
@@ -239,7 +227,7 @@ void frmUnSell::rewriteRefund() {
   const QString text = txtmoney_->text();
   const auto refund = Currency::parse(text.toStdString());
   if (!refund) return;
-  const QString plain = shown(generalNumber(*refund));
+  const QString plain = qtText(generalNumber(*refund));
   if (text == plain || (focusWidget() == txtmoney_ && onItsWayTo(text, plain))) return;
   txtmoney_->setText(plain);
 }
@@ -270,7 +258,7 @@ bool frmUnSell::refundAgreed(double quantity, Currency refund) {
     const QString doubt = returns_.doubt(quantity, refund);
     return doubt.isEmpty() || askYesNo(this, doubt, tr("退货"), false);
   } catch (const Failure& failure) {
-    message(shown(failure.what()));
+    message(qtText(failure.what()));
     return false;
   }
 }

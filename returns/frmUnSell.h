@@ -11,15 +11,12 @@ class QTableView;
 class ReturnLines;
 
 /// The returns screen: a stored bill, one of its lines, how much of it comes back and what is
-/// refunded. Draws a Returns and turns keys into its calls. Opened by a logged-in operator.
+/// refunded. Draws a Returns and turns keys into its calls.
 class frmUnSell : public KeyDrivenDialog {
   Q_OBJECT
 
  public:
-  explicit frmUnSell(posMod& pos, QWidget* parent = nullptr);
-
- protected:
-  bool eventFilter(QObject* watched, QEvent* event) override;
+  frmUnSell(const KeyBoard& keys, ReturnBooks books, QWidget* parent = nullptr);
 
  private:
   QLineEdit* figure(const char* name);
@@ -42,7 +39,6 @@ class frmUnSell : public KeyDrivenDialog {
   void storeReturn();
   bool refundAgreed(double quantity, Currency refund);
 
-  posMod& pos_;
   Returns returns_;
   ReturnLines* lines_;
   QLineEdit* txtNo_;

@@ -2,14 +2,12 @@
 
 #include <algorithm>
 
-#include "base/Failure.h"
 #include "base/NumberText.h"
 #include "base/Text.h"
 #include "checkout/AmountDue.h"
 #include "checkout/FigureCheck.h"
 #include "platform/QtText.h"
 #include "sale/Checkout.h"
-#include "sale/ItemLookup.h"
 #include "sale/Sale.h"
 #include "sale/SaleDevices.h"
 #include "sale/SaleScreen.h"
@@ -35,15 +33,8 @@ bool isBarcode(const QString& typed) {
 
 }  // namespace
 
-BillLines::BillLines(Sale& sale, BillBooks& books, SaleScreen& screen, SaleDevices& devices,
-                     const ClsSysParam& rules, ItemLookup& lookup, Checkout& checkout)
-    : sale_(sale),
-      books_(books),
-      screen_(screen),
-      devices_(devices),
-      rules_(rules),
-      lookup_(lookup),
-      checkout_(checkout) {}
+BillLines::BillLines(const SalePart& part, Checkout& checkout)
+    : SalePart(part), lookup_(sale_, books_, screen_), checkout_(checkout) {}
 
 void BillLines::Enter() {
   const QString typed = sale_.input();
@@ -122,7 +113,7 @@ void BillLines::changeQuantity(const QString& typed) {
 void BillLines::changeDiscount(const QString& typed) {
   const auto factor = parseNumber(typed.toStdString());
   const bool meant =
-      factor && *factor >= 0 && FigureCheck(rules_, screen_).discount(Discount(*factor));
+      factor && *factor >= 0 && FigureCheck(books_.rules(), screen_).discount(Discount(*factor));
   if (!meant) return sale_.setInput({});
   ClsSellItem changed = *sale_.line();
   changed.setDiscount(Discount(*factor));
@@ -145,22 +136,13 @@ bool BillLines::correct(ClsSellItem changed) {
 
 QString BillLines::statusWith(const ClsSellItem& line) const {
   SaleFigures figures = sale_.figuresWith(&line);
-  const std::string due = myCStr(figures.goods, rules_);
+  const std::string due = myCStr(figures.goods, books_.rules());
   return sale_texts::rung(figures, due);
 }
 
 void BillLines::tell(const QString& status) {
   sale_.setStatus(status);
   devices_.display().clientView(sale_.line()->Price(), CustomerDisplay::kPrice);
-}
-
-bool BillLines::guarded(const std::function<bool()>& work) {
-  try {
-    return work();
-  } catch (const Failure& failure) {
-    screen_.messageBox(qtText(failure.what()));
-    return false;
-  }
 }
 
 void BillLines::CancelBill() {
@@ -187,7 +169,7 @@ void BillLines::DeleteCurrentLine() {
                             : tr("没有可删除的行：已确认的商品不能单独删除，只能整单撤消。"));
     return;
   }
-  static_cast<void>(guarded([this] {
+  guarded([this] {
     const StockOutcome stock = books_.remove(*sale_.line());
     if (!stock.done()) {
       screen_.ShowMessage(sale_texts::refusal(stock));
@@ -196,5 +178,5 @@ void BillLines::DeleteCurrentLine() {
     sale_.remove();
     sale_.setStatus(sale_texts::removed(*sale_.bill(), sale_.figures()));
     return true;
-  }));
+  });
 }

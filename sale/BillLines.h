@@ -2,25 +2,20 @@
 
 #include <QCoreApplication>
 #include <QString>
-#include <functional>
+#include <memory>
 
-class BillBooks;
+#include "sale/ItemLookup.h"
+#include "sale/SalePart.h"
+
 class Checkout;
-class ClsSellItem;
-class ClsSysParam;
-class ItemLookup;
-class Sale;
-class SaleDevices;
-class SaleScreen;
 
 /// Bill lines and totals: what Enter does, and how lines are rung, changed and removed. That the
 /// figures fit is known before the books are written; a failure is shown and the sale goes on.
-class BillLines {
+class BillLines : private SalePart {
   Q_DECLARE_TR_FUNCTIONS(BillLines)
 
  public:
-  BillLines(Sale& sale, BillBooks& books, SaleScreen& screen, SaleDevices& devices,
-            const ClsSysParam& rules, ItemLookup& lookup, Checkout& checkout);
+  BillLines(const SalePart& part, Checkout& checkout);
 
   /// The mapped Enter key on the input line.
   void Enter();
@@ -41,13 +36,7 @@ class BillLines {
   bool correct(ClsSellItem changed);
   QString statusWith(const ClsSellItem& line) const;
   void tell(const QString& status);
-  bool guarded(const std::function<bool()>& work);
 
-  Sale& sale_;
-  BillBooks& books_;
-  SaleScreen& screen_;
-  SaleDevices& devices_;
-  const ClsSysParam& rules_;
-  ItemLookup& lookup_;
+  ItemLookup lookup_;
   Checkout& checkout_;
 };

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 
+#include "platform/QtText.h"
 #include "sale/BillColumns.h"
 
 namespace {
@@ -63,7 +64,7 @@ QVariant BillModel::data(const QModelIndex& index, int role) const {
   if (!index.isValid()) return {};
   if (role == Qt::DisplayRole) {
     const BillRow& row = shown_[static_cast<std::size_t>(index.row())];
-    return QString::fromStdString(row.cells[static_cast<std::size_t>(index.column())]);
+    return qtText(row.cells[static_cast<std::size_t>(index.column())]);
   }
   if (role == Qt::TextAlignmentRole) return alignment(index.column());
   return {};

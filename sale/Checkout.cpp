@@ -1,12 +1,12 @@
 #include "sale/Checkout.h"
 
 #include <optional>
+#include <utility>
 
-#include "app/posMod.h"
 #include "base/Failure.h"
 #include "base/NumberText.h"
 #include "checkout/AmountDue.h"
-#include "checkout/PaidBill.h"
+#include "checkout/ReceiptLines.h"
 #include "checkout/Settlement.h"
 #include "checkout/SettlementTexts.h"
 #include "platform/QtText.h"
@@ -28,21 +28,17 @@ std::optional<Currency> amountDue(const ClsSell& bill, const ClsSysParam& rules)
 
 }  // namespace
 
-Checkout::Checkout(posMod& pos, Sale& sale, BillBooks& books, SaleScreen& screen,
-                   SaleDevices& devices)
-    : pos_(pos), sale_(sale), books_(books), screen_(screen), devices_(devices) {}
-
 void Checkout::SettleBill() {
   if (sale_.isEmpty()) return screen_.ShowMessage(tr("没有商品，无需结账！"));
   if (!canStore()) return screen_.endProgram();
   if (sale_.line() != nullptr) commitLine();
   screen_.show(sale_.picture());
   if (!takePayment()) return;
-  ensure(sale_.bill()->Paid(), "a bill is stored as settled after its payment is durable");
-  if (storeSettled(pos_, *sale_.bill())) {
-    sale_.settle(statusText(*sale_.bill(), pos_.gSysParam));
+  if (books_.settle(*sale_.bill())) {
+    sale_.settle(statusText(*sale_.bill(), books_.rules()));
     screen_.show(sale_.picture());
-    devices_.printReceipts(*sale_.last());
+    const ClsSell& settled = *sale_.last();
+    devices_.printReceipts(settled, [&] { return facts(books_.member(settled.MemberId())); });
   } else {
     dropUnstored();
   }
@@ -50,6 +46,7 @@ void Checkout::SettleBill() {
 }
 
 void Checkout::commitLine() {
+  ensure(sale_.line() != nullptr, "a current line is committed");
   sale_.join();
   devices_.receipt.PrintLine(*sale_.bill()->Items().back());
 }
@@ -58,7 +55,7 @@ void Checkout::commitLine() {
 // the copy that the end of the program makes.
 bool Checkout::canStore() {
   while (true) {
-    const std::string fault = pos_.dataFileFault();
+    const std::string fault = books_.fileFault();
     if (fault.empty()) return true;
     const QString question = tr("%1\n文件已经放好，继续收款吗？选“否”将退出程序。");
     if (!screen_.askYesNo(question.arg(qtText(fault)), {}, true)) return false;
@@ -67,20 +64,28 @@ bool Checkout::canStore() {
 
 bool Checkout::takePayment() {
   ClsSell& bill = *sale_.bill();
-  const auto due = amountDue(bill, pos_.gSysParam);
+  const auto due = amountDue(bill, books_.rules());
   if (!due) {
     screen_.ShowMessage(tr("应收金额太大，不能结账。"));
     return false;
   }
   bill.setAmount(*due);
-  Settlement settlement(pos_, bill, devices_.display(), screen_,
-                        [this, &bill] { devices_.printFoot(bill, sale_.sharedMember()); });
-  return screen_.settle(settlement);
+  Settlement settlement(books_, bill, devices_.display(), screen_, [this, &bill] {
+    devices_.receipt.PrintFoot(bill, facts(sale_.sharedMember()));
+  });
+  const bool isPaid = screen_.settle(settlement);
+  ensure(isPaid == bill.Paid(), "what the cashier confirmed is in the books, and nothing else");
+  return isPaid;
+}
+
+ReceiptFacts Checkout::facts(std::shared_ptr<const ClsMember> member) const {
+  return {books_.cashier().Code(), std::move(member), originalPrice(*sale_.bill())};
 }
 
 // Withdrawn before the cashier is told to enter it again: a message waits, and a power cut
 // meanwhile must not leave a paid bill behind that the next opening completes beside the new one.
 void Checkout::dropUnstored() {
+  ensure(!dropped_ && sale_.bill()->Paid(), "one paid bill is withdrawn at a time");
   QString text = tr("保存单据出错，请重新录入本单！");
   dropped_ = std::make_unique<ClsSell>(*sale_.bill());
   if (dropped_->CardPay() != Currency()) {
@@ -109,7 +114,7 @@ void Checkout::tell(const std::vector<StockOutcome>& refusals) {
 void Checkout::PrepareNextBill() {
   auto next = openNextBill();
   if (!next) return screen_.endProgram();
-  sale_.begin(std::move(next), cashier().Name());
+  sale_.begin(std::move(next), books_.cashier().Name());
   followLastBill();
 }
 
@@ -120,7 +125,8 @@ std::shared_ptr<ClsSell> Checkout::openNextBill() {
     QString reason;
     try {
       withdrawDropped();
-      if (auto next = books_.open(cashier().Id())) return next;
+      ensure(!dropped_, "nothing is stored before a dropped bill is withdrawn");
+      if (auto next = books_.open()) return next;
       reason = operatorGone();
     } catch (const Failure& failure) {
       reason = qtText(failure.what());
@@ -132,18 +138,15 @@ std::shared_ptr<ClsSell> Checkout::openNextBill() {
   }
 }
 
-const ClsOperator& Checkout::cashier() const {
-  return *pos_.gOperator;
-}
-
 QString Checkout::operatorGone() const {
-  return tr("操作员“%1”已被删除，不能再开单。").arg(qtText(cashier().Name()));
+  return tr("操作员“%1”已被删除，不能再开单。").arg(qtText(books_.cashier().Name()));
 }
 
 void Checkout::followLastBill() {
+  ensure(sale_.bill() && sale_.isEmpty(), "the bill before is told of over an empty one");
   if (!sale_.last()) return;
   const ClsSell& last = *sale_.last();
-  sale_.setPrevious(lastBillText(last, pos_.gSysParam));
+  sale_.setPrevious(lastBillText(last, books_.rules()));
   if (last.FiguresFit()) {
     devices_.display().clientView(last.Cash() - last.Amount(), CustomerDisplay::kChange);
   }

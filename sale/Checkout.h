@@ -2,21 +2,21 @@
 
 #include <QCoreApplication>
 #include <memory>
+#include <vector>
 
-class BillBooks;
-class ClsOperator;
+#include "sale/SalePart.h"
+
+class ClsMember;
 class ClsSell;
-class posMod;
-class Sale;
-class SaleDevices;
-class SaleScreen;
+struct ReceiptFacts;
+struct StockOutcome;
 
 /// From the settle key to the next empty bill.
-class Checkout {
+class Checkout : private SalePart {
   Q_DECLARE_TR_FUNCTIONS(Checkout)
 
  public:
-  Checkout(posMod& pos, Sale& sale, BillBooks& books, SaleScreen& screen, SaleDevices& devices);
+  explicit Checkout(const SalePart& part) : SalePart(part) {}
 
   /// Takes payment for the open bill, stores it and credits the member in one transaction, prints,
   /// opens the next bill. A bill that cannot be stored is dropped and its stock put back; nothing
@@ -33,12 +33,10 @@ class Checkout {
   /// Tells of the bill before, and of its change on the display; ends the program when the clock is
   /// behind that bill. For a bill that has just begun.
   void followLastBill();
-  /// Who sells. Needs an operator logged in.
-  const ClsOperator& cashier() const;
   /// What a bill cannot be opened for, when its operator was removed.
   QString operatorGone() const;
   /// Tells of goods whose stock could not be put back.
-  void tell(const std::vector<struct StockOutcome>& refusals);
+  void tell(const std::vector<StockOutcome>& refusals);
 
  private:
   bool canStore();
@@ -46,12 +44,8 @@ class Checkout {
   void dropUnstored();
   void withdrawDropped();
   std::shared_ptr<ClsSell> openNextBill();
+  ReceiptFacts facts(std::shared_ptr<const ClsMember> member) const;
 
-  posMod& pos_;
-  Sale& sale_;
-  BillBooks& books_;
-  SaleScreen& screen_;
-  SaleDevices& devices_;
   /// Paid, but could not be stored; still in the data file until it can be voided there. Nothing is
   /// stored before that, so that the bill is not both completed at the next opening and entered
   /// again.

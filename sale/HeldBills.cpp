@@ -3,38 +3,27 @@
 #include <algorithm>
 #include <cstdint>
 
-#include "base/Failure.h"
-#include "platform/QtText.h"
 #include "sale/Checkout.h"
 #include "sale/MemberCard.h"
 #include "sale/Sale.h"
 #include "sale/SaleDevices.h"
 #include "sale/SaleScreen.h"
 #include "sale/SaleTexts.h"
-#include "saleslib/ClsOperator.h"
-
-HeldBills::HeldBills(Sale& sale, BillBooks& books, SaleScreen& screen, SaleDevices& devices,
-                     Checkout& checkout, MemberCard& memberCard)
-    : sale_(sale),
-      books_(books),
-      screen_(screen),
-      devices_(devices),
-      checkout_(checkout),
-      memberCard_(memberCard) {}
 
 void HeldBills::SuspendBill() {
   devices_.receipt.FeedLines(*sale_.bill());
   if (sale_.isEmpty()) return screen_.ShowMessage(tr("没有商品，无需结账！"));
-  try {
+  const bool isHeld = guarded([this] {
     if (sale_.line() != nullptr) sale_.join();
-    auto next = books_.hold(*sale_.bill(), checkout_.cashier().Id());
-    if (!next) return screen_.messageBox(checkout_.operatorGone());
-    sale_.hold(std::move(next), checkout_.cashier().Name());
-  } catch (const Failure& failure) {
-    screen_.messageBox(qtText(failure.what()));
-    return;
-  }
-  checkout_.followLastBill();
+    auto next = books_.hold(*sale_.bill());
+    if (next) {
+      sale_.hold(std::move(next), books_.cashier().Name());
+      return true;
+    }
+    screen_.messageBox(checkout_.operatorGone());
+    return false;
+  });
+  if (isHeld) checkout_.followLastBill();
 }
 
 void HeldBills::RecallBill() {
@@ -45,18 +34,17 @@ void HeldBills::RecallBill() {
   const auto chosen = std::find_if(sale_.held().begin(), sale_.held().end(),
                                    [&](const auto& bill) { return bill->BillNo() == number; });
   if (chosen == sale_.held().end()) return;
-  try {
+  guarded([&] {
     takeUp(**chosen);
-  } catch (const Failure& failure) {
-    screen_.messageBox(qtText(failure.what()));
-  }
+    return true;
+  });
 }
 
 void HeldBills::takeUp(const ClsSell& held) {
   const auto recalled = books_.recall(held, *sale_.bill(), [](const ClsSell& bill) {
     static_cast<void>(originalPrice(bill));  // it must fit before the bill is taken up
   });
-  sale_.recall(recalled, checkout_.cashier().Name());
+  sale_.recall(recalled, books_.cashier().Name());
   memberCard_.show(recalled.member);
   screen_.show(sale_.picture());
   devices_.receipt.PrintHeader(*sale_.bill());

@@ -2,23 +2,22 @@
 
 #include <QCoreApplication>
 
-class BillBooks;
+#include "sale/SalePart.h"
+
 class Checkout;
+class ClsSell;
 class MemberCard;
-class Sale;
-class SaleDevices;
-class SaleScreen;
 
 /// Puts the open bill aside and takes it up again. A bill put aside stays open in the data file
 /// with its rows, and its goods stay out of stock: after a power cut the next start voids it like
 /// any other open bill. When the books cannot be written, the reason is shown and the bill stays
 /// where it was.
-class HeldBills {
+class HeldBills : private SalePart {
   Q_DECLARE_TR_FUNCTIONS(HeldBills)
 
  public:
-  HeldBills(Sale& sale, BillBooks& books, SaleScreen& screen, SaleDevices& devices,
-            Checkout& checkout, MemberCard& memberCard);
+  HeldBills(const SalePart& part, Checkout& checkout, MemberCard& memberCard)
+      : SalePart(part), checkout_(checkout), memberCard_(memberCard) {}
 
   /// Adds the open bill, its current line included, to the held bills, and opens the next one.
   void SuspendBill();
@@ -28,12 +27,8 @@ class HeldBills {
   void RecallBill();
 
  private:
-  void takeUp(const class ClsSell& held);
+  void takeUp(const ClsSell& held);
 
-  Sale& sale_;
-  BillBooks& books_;
-  SaleScreen& screen_;
-  SaleDevices& devices_;
   Checkout& checkout_;
   MemberCard& memberCard_;
 };

@@ -8,9 +8,8 @@
 #include "sale/SaleScreen.h"
 #include "sale/SaleTexts.h"
 
-ItemLookup::ItemLookup(const Sale& sale, GoodsLookup goods, SaleScreen& screen,
-                       const ClsSysParam& rules)
-    : sale_(sale), goods_(std::move(goods)), screen_(screen), rules_(rules) {}
+ItemLookup::ItemLookup(const Sale& sale, const BillBooks& books, SaleScreen& screen)
+    : sale_(sale), books_(books), goods_(books.goods()), screen_(screen) {}
 
 ItemLookup::Line ItemLookup::LookupBarcode(const QString& code) {
   return lookUp([&] { return goods_.byBarcode(code.toStdString()); });
@@ -61,6 +60,6 @@ Currency ItemLookup::askPrice() {
     const QString typed = screen_.prompt({}, {});
     const auto price = Currency::parse(typed.toStdString());
     if (!price || *price < Currency()) continue;
-    if (FigureCheck(rules_, screen_).price(typed, *price)) return *price;
+    if (FigureCheck(books_.rules(), screen_).price(typed, *price)) return *price;
   }
 }

@@ -7,6 +7,7 @@
 
 #include "saleslib/GoodsLookup.h"
 
+class BillBooks;
 class Sale;
 class SaleScreen;
 
@@ -18,7 +19,7 @@ class ItemLookup {
 
  public:
   using Line = std::shared_ptr<ClsSellItem>;
-  ItemLookup(const Sale& sale, GoodsLookup goods, SaleScreen& screen, const ClsSysParam& rules);
+  ItemLookup(const Sale& sale, const BillBooks& books, SaleScreen& screen);
 
   /// tmda by exact barcode.
   [[nodiscard]] Line LookupBarcode(const QString& code);
@@ -33,7 +34,7 @@ class ItemLookup {
   Currency askPrice();
 
   const Sale& sale_;
+  const BillBooks& books_;
   GoodsLookup goods_;
   SaleScreen& screen_;
-  const ClsSysParam& rules_;
 };

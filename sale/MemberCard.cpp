@@ -1,16 +1,11 @@
 #include "sale/MemberCard.h"
 
-#include "base/Failure.h"
 #include "platform/QtText.h"
 #include "sale/Sale.h"
 #include "sale/SaleScreen.h"
 #include "sale/SaleTexts.h"
 #include "saleslib/CardNumber.h"
 #include "saleslib/ClsMemberSvc.h"
-
-MemberCard::MemberCard(Sale& sale, BillBooks& books, SaleScreen& screen,
-                       const ClsMemberSvc& members)
-    : sale_(sale), books_(books), screen_(screen), members_(members) {}
 
 void MemberCard::AttachMember() {
   if (!sale_.isEmpty()) {
@@ -20,11 +15,10 @@ void MemberCard::AttachMember() {
   const QString typed = screen_.prompt(tr("会员卡"), tr("输入会员卡号或电话："));
   const std::string number = typed.toStdString();
   std::shared_ptr<ClsMember> member;
-  try {
+  guarded([&] {
     if (!memberNumber(number).empty()) member = find(number);
-  } catch (const Failure& failure) {
-    screen_.messageBox(qtText(failure.what()));
-  }
+    return member != nullptr;
+  });
   sale_.bill()->setMemberId(member ? member->Id() : 0);
   show(std::move(member));
 }
@@ -55,10 +49,9 @@ std::shared_ptr<ClsMember> MemberCard::chooseByPhone(const std::string& phone) {
 
 void MemberCard::show(std::shared_ptr<ClsMember> member) {
   QString info;
-  try {
+  guarded([&] {
     if (member) info = sale_texts::memberInfo(*member, books_.lastPurchase(*member).get());
-  } catch (const Failure& failure) {
-    screen_.messageBox(qtText(failure.what()));
-  }
+    return member != nullptr;
+  });
   sale_.attach(std::move(member), info);
 }

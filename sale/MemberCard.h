@@ -4,18 +4,18 @@
 #include <memory>
 #include <string>
 
-class BillBooks;
+#include "sale/SalePart.h"
+
 class ClsMember;
 class ClsMemberSvc;
-class Sale;
-class SaleScreen;
 
 /// The member card of the open bill.
-class MemberCard {
+class MemberCard : private SalePart {
   Q_DECLARE_TR_FUNCTIONS(MemberCard)
 
  public:
-  MemberCard(Sale& sale, BillBooks& books, SaleScreen& screen, const ClsMemberSvc& members);
+  MemberCard(const SalePart& part, const ClsMemberSvc& members)
+      : SalePart(part), members_(members) {}
 
   /// Asks for a card or telephone number and attaches that member to the bill, before its first
   /// item only. No answer, or one that finds no usable card, leaves the bill without a member.
@@ -28,8 +28,5 @@ class MemberCard {
   std::shared_ptr<ClsMember> find(const std::string& number);
   std::shared_ptr<ClsMember> chooseByPhone(const std::string& phone);
 
-  Sale& sale_;
-  BillBooks& books_;
-  SaleScreen& screen_;
   const ClsMemberSvc& members_;
 };

@@ -125,6 +125,11 @@ void Sale::settle(const QString& status) {
   check();
 }
 
+void Sale::follow(Bill last) {
+  ensure(!last || last->State() == 1, "the bill before is a settled one");
+  last_ = std::move(last);
+}
+
 void Sale::attach(std::shared_ptr<ClsMember> member, const QString& info) {
   ensure(!member || (bill_ && bill_->MemberId() == member->Id()), "the bill keeps its member");
   member_ = std::move(member);
@@ -210,6 +215,7 @@ void Sale::addEntryRow() {
 }
 
 std::size_t Sale::selectedRow() const {
+  ensure(rows_.size() > (onLine_ ? 1 : 0), "the selected row is there");
   return rows_.size() - (onLine_ ? 2 : 1);
 }
 

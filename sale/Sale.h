@@ -50,7 +50,7 @@ class Sale {
   /// The member that counts for the bill, or none, with the lines that tell of it.
   void attach(std::shared_ptr<ClsMember> member, const QString& info);
   /// The bill that was settled last, by whichever till.
-  void follow(Bill last) { last_ = std::move(last); }
+  void follow(Bill last);
 
   // The cell that typing goes to
 

@@ -2,12 +2,11 @@
 
 #include <QCoreApplication>
 
-#include "app/posMod.h"
+#include "app/ClsPosSet.h"
 #include "checkout/Messages.h"
 #include "checkout/PageReceipt.h"
 #include "checkout/ReceiptLines.h"
 #include "platform/QtText.h"
-#include "sale/Sale.h"
 
 namespace {
 
@@ -26,27 +25,20 @@ Outage::Report boxOf(Messages& screen) {
 
 }  // namespace
 
-SaleDevices::SaleDevices(posMod& pos, Messages& screen)
-    : pos_(pos),
+SaleDevices::SaleDevices(const Ports& ports, const ClsPosSet& settings, const ClsSysParam& shop,
+                         Messages& screen)
+    : settings_(settings),
+      shop_(shop),
       screen_(screen),
-      devices_(*pos.ports, reportTo(screen), boxOf(screen)),
-      receipt(pos.gSysParam, devices_) {}
+      devices_(ports, reportTo(screen), boxOf(screen)),
+      receipt(shop, devices_) {}
 
 void SaleDevices::open() {
-  devices_.open(pos_.gPosSet);
+  devices_.open(settings_);
   receipt.begin();
 }
 
-ReceiptFacts SaleDevices::factsOf(const ClsSell& bill,
-                                  std::shared_ptr<const ClsMember> member) const {
-  return {pos_.gOperator->Code(), std::move(member), originalPrice(bill)};
-}
-
-void SaleDevices::printFoot(const ClsSell& bill, std::shared_ptr<const ClsMember> member) {
-  receipt.PrintFoot(bill, factsOf(bill, std::move(member)));
-}
-
-void SaleDevices::printReceipts(const ClsSell& bill) {
+void SaleDevices::printReceipts(const ClsSell& bill, const std::function<ReceiptFacts()>& facts) {
   const PrintMode mode = devices_.printer().mode();
   int copies = mode.copies;
   if (mode.asks && screen_.askYesNo(tr("确定要打印吗"), tr("提示"), mode.yesPreselected)) {
@@ -54,10 +46,7 @@ void SaleDevices::printReceipts(const ClsSell& bill) {
   }
   for (int i = 0; i < copies; ++i) {
     devices_.print([&](ReceiptPrinter& printer) {
-      // with the points credited
-      const ReceiptFacts facts = factsOf(bill, pos_.gMemberSvc.GetMemberById(bill.MemberId()));
-      printer.print(
-          pageReceipt(bill, facts, pos_.gSysParam, printer.paper(), pos_.gPosSet.printOption));
+      printer.print(pageReceipt(bill, facts(), shop_, printer.paper(), settings_.printOption));
     });
   }
 }

@@ -1,21 +1,21 @@
 #pragma once
 
-#include <memory>
+#include <functional>
 
 #include "checkout/LineReceipt.h"
 #include "devices/Devices.h"
 
-class ClsMember;
 class ClsSell;
+class ClsSysParam;
 class Messages;
-class posMod;
 struct ReceiptFacts;
 
 /// The devices of a sale screen, and the receipts that they print. One that fails is told of once
 /// per outage.
 class SaleDevices {
  public:
-  SaleDevices(posMod& pos, Messages& screen);
+  SaleDevices(const Ports& ports, const ClsPosSet& settings, const ClsSysParam& shop,
+              Messages& screen);
   /// Takes the settings over and opens the display.
   void open();
   void close() { devices_.close(); }
@@ -23,15 +23,13 @@ class SaleDevices {
   CustomerDisplay& display() { return devices_.display(); }
   CashDrawer& drawer() { return devices_.drawer(); }
   ReceiptPrinter::Kind printerKind() const { return devices_.printer().kind(); }
-  /// The footer of a bill's receipt on the line printer. The member is as before the bill.
-  void printFoot(const ClsSell& bill, std::shared_ptr<const ClsMember> member);
-  /// Prints the receipts of a settled bill on the page printer, as many as wanted.
-  void printReceipts(const ClsSell& bill);
+  /// Prints the receipts of a settled bill on the page printer, as many as wanted. The facts are
+  /// asked for each; the member's points are those after the bill.
+  void printReceipts(const ClsSell& bill, const std::function<ReceiptFacts()>& facts);
 
  private:
-  ReceiptFacts factsOf(const ClsSell& bill, std::shared_ptr<const ClsMember> member) const;
-
-  posMod& pos_;
+  const ClsPosSet& settings_;
+  const ClsSysParam& shop_;
   Messages& screen_;
   Devices devices_;
 

@@ -9,6 +9,7 @@
 #include "platform/QtText.h"
 #include "platform/VirtualKey.h"
 #include "sale/TopUpReport.h"
+#include "saleslib/TopUpBooks.h"
 
 namespace {
 
@@ -20,23 +21,23 @@ SaleSession::SaleSession(posMod& pos, SaleScreen& screen, Openers openers)
     : pos_(pos),
       screen_(screen),
       openers_(std::move(openers)),
-      books_(*pos.gConn, pos.gSysParam, pos.clock),
-      devices_(pos, screen),
-      checkout_(pos, sale_, books_, screen, devices_),
-      lookup_(sale_, {*pos.gConn, pos.gSysParam, pos.clock}, screen, pos.gSysParam),
-      lines_(sale_, books_, screen, devices_, pos.gSysParam, lookup_, checkout_),
-      memberCard_(sale_, books_, screen, pos.gMemberSvc),
-      held_(sale_, books_, screen, devices_, checkout_, memberCard_) {
+      books_(pos.billBooks()),
+      devices_(*pos.ports, pos.gPosSet, pos.gSysParam, screen),
+      part_(sale_, books_, screen, devices_),
+      checkout_(part_),
+      lines_(part_, checkout_),
+      memberCard_(part_, pos.gMemberSvc),
+      held_(part_, checkout_, memberCard_) {
   fillCommands();
   fillMenu();
 }
 
 bool SaleSession::open() {
-  ensure(pos_.gOperator != nullptr, "somebody is logged in before the sale screen opens");
   devices_.open();
-  completePaidBills(pos_, screen_);
-  reportIncompleteTopUps(*pos_.gConn, screen_);
-  checkout_.tell(books_.cancelOpen(pos_.gOperator->Id()));
+  completePaidBills(books_, screen_);
+  TopUpBooks topUps = pos_.topUpBooks();
+  reportIncompleteTopUps(topUps, screen_);
+  checkout_.tell(books_.cancelOpen());
   sale_.follow(books_.lastSettled());
   if (clockIsBehind()) {
     screen_.messageBox(tr("电脑系统时间错误！") + "\n" + lastBillDated(), tr("致命错误"));

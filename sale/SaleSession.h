@@ -10,7 +10,6 @@
 #include "sale/BillLines.h"
 #include "sale/Checkout.h"
 #include "sale/HeldBills.h"
-#include "sale/ItemLookup.h"
 #include "sale/KeyDispatch.h"
 #include "sale/MemberCard.h"
 #include "sale/Sale.h"
@@ -31,11 +30,12 @@ class SaleSession {
   /// "unsell". A name that is missing has no key and no menu entry.
   using Openers = std::map<QString, std::function<void()>>;
 
+  /// Needs an operator logged in (ensure).
   SaleSession(posMod& pos, SaleScreen& screen, Openers openers);
 
   /// What the screen does when it opens, after its widgets stand: settings, devices, clearing up
-  /// after an earlier run, clock check, first bill. False when the program is to end. Needs an
-  /// operator. Throws StoreError.
+  /// after an earlier run, clock check, first bill. False when the program is to end. Throws
+  /// StoreError.
   [[nodiscard]] bool open();
   /// ExitSale: refused, with a message, while anything is pending. Else it closes the devices,
   /// drops the empty bill, and left() is true from then on.
@@ -85,8 +85,8 @@ class SaleSession {
   Sale sale_;
   BillBooks books_;
   SaleDevices devices_;
+  SalePart part_;
   Checkout checkout_;
-  ItemLookup lookup_;
   BillLines lines_;
   MemberCard memberCard_;
   HeldBills held_;

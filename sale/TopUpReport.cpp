@@ -7,7 +7,7 @@
 #include "base/NumberText.h"
 #include "checkout/Messages.h"
 #include "platform/QtText.h"
-#include "saleslib/TopUp.h"
+#include "saleslib/TopUpBooks.h"
 
 namespace {
 
@@ -22,8 +22,8 @@ QString lineOf(const TopUp& topUp) {
 
 }  // namespace
 
-void reportIncompleteTopUps(Connection& connection, Messages& screen) {
-  std::vector<IncompleteTopUp> untold = incompleteTopUps(connection);
+void reportIncompleteTopUps(TopUpBooks& topUps, Messages& screen) {
+  std::vector<IncompleteTopUp> untold = topUps.incomplete();
   std::erase_if(untold, [](const IncompleteTopUp& each) { return each.isReported; });
   if (untold.empty()) return;
   QStringList lines;
@@ -32,7 +32,7 @@ void reportIncompleteTopUps(Connection& connection, Messages& screen) {
       QCoreApplication::translate("TopUpReport", "以下充值没有记入卡内，请核对后重新充值：\n%1")
           .arg(lines.join("\n")));
   try {
-    for (const IncompleteTopUp& each : untold) noteReported(connection, each);
+    for (const IncompleteTopUp& each : untold) topUps.noteReported(each);
   } catch (const Failure&) {
     // What cannot be noted is told again at the next opening.
   }

@@ -9,6 +9,7 @@
 #include <QVBoxLayout>
 
 #include "base/NumberText.h"
+#include "platform/QtText.h"
 #include "sale/ListModel.h"
 #include "saleslib/ClsSell.h"
 
@@ -17,37 +18,33 @@ namespace {
 enum BillColumn { kNumber, kAmount, kTime };
 enum LineColumn { kCode, kName, kUnit, kPrice, kQuantity, kDiscount, kMoney };
 
-QString text(const std::string& utf8) {
-  return QString::fromStdString(utf8);
-}
-
 QString billCell(const ClsSell& bill, int column, const DateTime& now) {
   switch (column) {
     case kNumber:
       return QString::number(bill.BillNo());
     case kAmount:
-      return text(twoDecimals(bill.Amount()));
+      return qtText(twoDecimals(bill.Amount()));
     default:
-      return text(shortTime(now));
+      return qtText(shortTime(now));
   }
 }
 
 QString lineCell(const ClsSellItem& line, int column) {
   switch (column) {
     case kCode:
-      return text(line.EntryCode());
+      return qtText(line.EntryCode());
     case kName:
-      return text(line.SpName());
+      return qtText(line.SpName());
     case kUnit:
-      return text(line.Unit());
+      return qtText(line.Unit());
     case kPrice:
-      return text(twoDecimals(line.Price()));
+      return qtText(twoDecimals(line.Price()));
     case kQuantity:
-      return text(generalNumber(line.Quantity()));
+      return qtText(generalNumber(line.Quantity()));
     case kDiscount:
-      return text(generalNumber(line.Discount()));
+      return qtText(generalNumber(line.Discount()));
     default:
-      return text(twoDecimals(line.Money()));
+      return qtText(twoDecimals(line.Money()));
   }
 }
 

@@ -13,6 +13,7 @@
 
 #include "app/posMod.h"
 #include "checkout/frmEndSell.h"
+#include "platform/QtText.h"
 #include "platform/VirtualKey.h"
 #include "sale/BillModel.h"
 #include "sale/BillView.h"
@@ -76,7 +77,7 @@ void frmSell::begin() {
   myMenu_->MenuClick = [this](const MenuItem& Menu) { session_->menu(Menu.Key); };
   myMenu_->closed = [this] { endProgram(); };
 
-  const QString shop = QString::fromStdString(pos_.gSysParam.ShopName());
+  const QString shop = qtText(pos_.gSysParam.ShopName());
   controls_.title->showText(shop.isEmpty() ? tr("收  银  台") : shop);
   controls_.title1->showText(tr("单号：收银员："));
   controls_.title3->showText({});
@@ -109,7 +110,7 @@ void frmSell::ShowSaleMenu() {
 }
 
 void frmSell::showTime() {
-  controls_.title2->setText(tr("当前时间：") + QString::fromStdString(longTime(pos_.clock())));
+  controls_.title2->setText(tr("当前时间：") + qtText(longTime(pos_.clock())));
 }
 
 bool frmSell::eventFilter(QObject* watched, QEvent* event) {

@@ -4,7 +4,9 @@
 
 #include "base/Failure.h"
 #include "base/NumberText.h"
+#include "saleslib/CardNumber.h"
 #include "saleslib/ClsDayStat.h"
+#include "saleslib/ClsMemberSvc.h"
 #include "saleslib/ClsSysParam.h"
 #include "store/Connection.h"
 #include "store/StoreError.h"
@@ -13,6 +15,7 @@
 namespace {
 
 constexpr std::int16_t kMayGoNegative = 0;
+constexpr std::int16_t kOpen = 0, kSettled = 1;
 
 void save(ClsSell& bill) {
   if (!bill.Save()) throw StoreError(bill.ErrText());
@@ -20,8 +23,14 @@ void save(ClsSell& bill) {
 
 }  // namespace
 
-BillBooks::BillBooks(Connection& connection, const ClsSysParam& rules, Clock clock)
-    : connection_(connection), rules_(rules), clock_(std::move(clock)) {}
+BillBooks::BillBooks(Connection& connection, const ClsSysParam& rules, Clock clock,
+                     std::shared_ptr<const ClsOperator> cashier)
+    : connection_(connection),
+      rules_(rules),
+      clock_(std::move(clock)),
+      cashier_(std::move(cashier)) {
+  ensure(cashier_ != nullptr, "somebody is logged in who keeps the books");
+}
 
 StockOutcome BillBooks::take(const ClsSellItem& line, double quantity, std::int16_t rule) {
   ClsStock stock;
@@ -33,15 +42,15 @@ StockOutcome BillBooks::putBack(const ClsSellItem& line) {
   return take(line, -line.StockQuantity(), kMayGoNegative);
 }
 
-std::shared_ptr<ClsSell> BillBooks::open(std::int32_t operatorId) {
+std::shared_ptr<ClsSell> BillBooks::open() {
   auto bill = std::make_shared<ClsSell>();
-  return bill->Open(connection_, 0, operatorId, clock_) ? bill : nullptr;
+  return bill->Open(connection_, 0, cashier_->Id(), clock_) ? bill : nullptr;
 }
 
 StockOutcome BillBooks::ring(ClsSellItem& line) {
   ensure(line.Id() == 0, "a line is rung once");
   Transaction ringing(connection_);
-  const StockOutcome outcome = take(line, line.StockQuantity(), rules_.StockRule());
+  StockOutcome outcome = take(line, line.StockQuantity(), rules_.StockRule());
   if (!outcome.done()) return outcome;
   line.Save();
   ringing.commit();
@@ -54,7 +63,7 @@ StockOutcome BillBooks::correct(ClsSellItem& line, ClsSellItem changed) {
          "a line is corrected by a changed copy of itself");
   Transaction correcting(connection_);
   const double more = roundedQuantity(changed.StockQuantity() - line.StockQuantity());
-  const StockOutcome outcome = take(line, more, rules_.StockRule());
+  StockOutcome outcome = take(line, more, rules_.StockRule());
   if (!outcome.done()) return outcome;
   changed.Save();
   correcting.commit();
@@ -65,7 +74,7 @@ StockOutcome BillBooks::correct(ClsSellItem& line, ClsSellItem changed) {
 StockOutcome BillBooks::remove(ClsSellItem& line) {
   ensure(line.Id() != 0, "only a stored line is removed");
   Transaction removing(connection_);
-  const StockOutcome outcome = putBack(line);
+  StockOutcome outcome = putBack(line);
   if (!outcome.done()) return outcome;
   line.Delete();
   removing.commit();
@@ -73,7 +82,7 @@ StockOutcome BillBooks::remove(ClsSellItem& line) {
 }
 
 std::vector<StockOutcome> BillBooks::cancel(ClsSell& bill, ClsSellItem* line) {
-  ensure(bill.State() == 0, "a settled bill is not cancelled");
+  ensure(bill.State() == kOpen, "a settled bill is not cancelled");
   ensure(line == nullptr || line->BillNo() == bill.BillNo(), "a line goes with its own bill");
   std::vector<StockOutcome> refusals;
   Transaction cancelling(connection_);
@@ -87,11 +96,12 @@ std::vector<StockOutcome> BillBooks::cancel(ClsSell& bill, ClsSellItem* line) {
   return refusals;
 }
 
-std::shared_ptr<ClsSell> BillBooks::hold(ClsSell& bill, std::int32_t operatorId) {
+std::shared_ptr<ClsSell> BillBooks::hold(ClsSell& bill) {
   ensure(!bill.Items().empty(), "an empty bill is not put aside");
+  ensure(bill.State() == kOpen && !bill.Paid(), "a bill that was paid is not put aside");
   Transaction holding(connection_);
   save(bill);
-  auto next = open(operatorId);
+  auto next = open();
   if (next) holding.commit();
   return next;
 }
@@ -99,22 +109,19 @@ std::shared_ptr<ClsSell> BillBooks::hold(ClsSell& bill, std::int32_t operatorId)
 BillBooks::Recalled BillBooks::recall(const ClsSell& held, ClsSell& empty,
                                       const std::function<void(const ClsSell&)>& accept) {
   ensure(empty.BillNo() != held.BillNo(), "a held bill takes the place of another one");
+  ensure(held.State() == kOpen && held.AddsUp(), "a held bill is open, and what its lines are");
   Recalled recalled;
   recalled.bill = std::make_shared<ClsSell>(held);
   Transaction recalling(connection_);
   drop(empty);
   for (const auto& line : held.Items()) {
     const StockOutcome outcome = putBack(*line);
-    if (!outcome.done()) throw StoreError("数量超出范围：" + outcome.goods);
+    if (!outcome.done()) throw StoreError(outcome.refusal());
   }
   takeAgain(recalled);
   save(*recalled.bill);
   accept(*recalled.bill);
-  if (held.MemberId() > 0) {
-    recalled.member = std::make_shared<ClsMember>();
-    recalled.member->Init(connection_, held.MemberId());
-    if (recalled.member->Id() == 0) recalled.member = nullptr;
-  }
+  recalled.member = member(held.MemberId());
   recalling.commit();
   ensure(recalled.stock.size() == recalled.bill->Items().size(), "each line has its stock figure");
   return recalled;
@@ -135,18 +142,85 @@ void BillBooks::takeAgain(Recalled& recalled) {
 }
 
 void BillBooks::drop(ClsSell& empty) {
-  ensure(empty.State() == 0 && empty.Items().empty(), "only an empty bill goes without its stock");
+  ensure(empty.State() == kOpen && !empty.Paid() && empty.Items().empty(),
+         "only an empty bill goes without its stock");
   empty.Void();
 }
 
-std::vector<StockOutcome> BillBooks::cancelOpen(std::int32_t operatorId) {
+std::vector<StockOutcome> BillBooks::cancelOpen() {
   ClsDayStat bills;
-  bills.OpenQuery(connection_, operatorId);
+  bills.OpenQuery(connection_, cashier_->Id());
   std::vector<StockOutcome> refusals;
   for (const auto& bill : bills.Sells()) {
     for (StockOutcome& each : cancel(*bill)) refusals.push_back(std::move(each));
   }
   return refusals;
+}
+
+std::optional<StoredCard> BillBooks::payingCard(const std::string& typed) const {
+  return findStoredCard(connection_, payingCardNumbers(typed));
+}
+
+std::string BillBooks::markPaid(ClsSell& bill) {
+  ensure(bill.CardPay().isZero(), "a card is charged together with the mark");
+  if (!bill.SavePaid()) return bill.ErrText();
+  ensure(bill.Paid() && !connection_.inTransaction(), "a payment is durable before it is shown");
+  return {};
+}
+
+CardResult BillBooks::payByCard(ClsSell& bill, const std::string& password) {
+  ensure(bill.CardPay() == roundedToFen(bill.Amount()), "a card pays all that is due");
+  ensure(!bill.Paid(), "a bill is paid once");
+  Transaction paying(connection_);
+  CardResult result = chargeCard(connection_, bill.CardNo(), password, bill.CardPay());
+  if (result.outcome != CardOutcome::kDone) return result;
+  if (!bill.SavePaid()) throw StoreError(bill.ErrText());
+  paying.commit();
+  ensure(!connection_.inTransaction(), "a payment is durable before it is shown");
+  return result;
+}
+
+bool BillBooks::settle(ClsSell& bill) {
+  ensure(bill.Paid(), "a bill is stored as settled after its payment is durable");
+  bill.setState(kSettled);
+  try {
+    Transaction settling(connection_);
+    if (bill.Save()) {
+      creditMember(bill);
+      settling.commit();
+      return true;
+    }
+  } catch (const Failure&) {
+    // not stored
+  }
+  bill.setState(kOpen);
+  ensure(bill.Paid(), "a payment stays what it was when its bill cannot be stored");
+  return false;
+}
+
+void BillBooks::creditMember(const ClsSell& bill) {
+  if (bill.MemberId() == 0) return;
+  try {
+    creditPurchase(connection_, bill.MemberId(), bill.Amount(), rules_.PointUnit());
+  } catch (const StoreError&) {
+    return;
+  }
+}
+
+std::vector<BillBooks::PaidBill> BillBooks::completePaid() {
+  ClsDayStat bills;
+  bills.PaidQuery(connection_);
+  std::vector<PaidBill> paid;
+  for (const auto& bill : bills.Sells()) {
+    paid.push_back({bill});
+    try {
+      bill->LoadLines();
+      paid.back().isSettled = settle(*bill);
+    } catch (const Failure& failure) {
+      paid.back().fault = failure.what();
+    }
+  }
+  return paid;
 }
 
 std::shared_ptr<ClsSell> BillBooks::lastSettled() const {
@@ -160,6 +234,23 @@ std::shared_ptr<ClsSell> BillBooks::lastPurchase(const ClsMember& member) const 
   return latest;
 }
 
+ClsDayStat BillBooks::today() const {
+  ClsDayStat day;
+  day.DayQuery(connection_, clock_().date, 0, cashier_->Id());
+  return day;
+}
+
+std::shared_ptr<ClsMember> BillBooks::member(std::int32_t id) const {
+  if (id == 0) return nullptr;
+  ClsMemberSvc members;
+  members.Conn(connection_);
+  return members.GetMemberById(id);
+}
+
 std::string BillBooks::file() const {
   return connection_.source().path.string();
+}
+
+std::string BillBooks::fileFault() const {
+  return connection_.fileFault();
 }

@@ -3,27 +3,43 @@
 #include <cstdint>
 #include <functional>
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
 #include "base/DateTime.h"
 #include "saleslib/ClsMember.h"
+#include "saleslib/ClsOperator.h"
 #include "saleslib/ClsSell.h"
 #include "saleslib/ClsStock.h"
 #include "saleslib/Export.h"
+#include "saleslib/GoodsLookup.h"
+#include "saleslib/StoredCard.h"
 
-class Connection;
+class ClsDayStat;
 class ClsSysParam;
+class Connection;
 
-/// The books behind a sale screen: bills and the stock that their lines take. Each step is one
-/// transaction; a step that is refused or fails has written nothing and left bill and line as they
-/// were. A refused movement of stock is an outcome, a broken store throws StoreError.
+/// The books behind a sale screen, kept by one cashier: bills, the stock that their lines take, and
+/// what they are paid with. Each step is one transaction; a step that is refused or fails has
+/// written nothing and left bill and line as they were. A refused movement of stock is an outcome,
+/// a broken store throws StoreError.
 class TESSALY_API BillBooks {
  public:
-  BillBooks(Connection& connection, const ClsSysParam& rules, Clock clock);
+  /// Connection and rules outlive the books. There is a cashier (ensure).
+  BillBooks(Connection& connection, const ClsSysParam& rules, Clock clock,
+            std::shared_ptr<const ClsOperator> cashier);
 
-  /// A new empty bill of that operator; none when the operator was removed.
-  [[nodiscard]] std::shared_ptr<ClsSell> open(std::int32_t operatorId);
+  const ClsOperator& cashier() const { return *cashier_; }
+  const ClsSysParam& rules() const { return rules_; }
+  DateTime now() const { return clock_(); }
+  /// The goods that lines are made of, at the shop's prices of now.
+  GoodsLookup goods() const { return {connection_, rules_, clock_}; }
+
+  // A bill and its lines
+
+  /// A new empty bill of the cashier; none when the operator was removed.
+  [[nodiscard]] std::shared_ptr<ClsSell> open();
   /// Takes the stock of a new line, under the shop's stock rule, and stores the line.
   [[nodiscard]] StockOutcome ring(ClsSellItem& line);
   /// Makes a stored line what `changed`, a copy of it, is by now; the stock follows.
@@ -33,9 +49,9 @@ class TESSALY_API BillBooks {
   /// Deletes the bill with its lines and `line`, stored but not yet in the bill, if there is one.
   /// Their stock goes back; what of it is refused is given, and keeps nothing from being deleted.
   [[nodiscard]] std::vector<StockOutcome> cancel(ClsSell& bill, ClsSellItem* line = nullptr);
-  /// Stores a bill that is put aside, and opens the operator's next one; none, and nothing is
+  /// Stores a bill that is put aside, and opens the cashier's next one; none, and nothing is
   /// stored, when the operator was removed.
-  [[nodiscard]] std::shared_ptr<ClsSell> hold(ClsSell& bill, std::int32_t operatorId);
+  [[nodiscard]] std::shared_ptr<ClsSell> hold(ClsSell& bill);
 
   struct Recalled {
     std::shared_ptr<ClsSell> bill;
@@ -50,22 +66,60 @@ class TESSALY_API BillBooks {
                                 const std::function<void(const ClsSell&)>& accept);
   /// Deletes a bill without lines.
   void drop(ClsSell& empty);
-  /// Cancels what an earlier run of the program left open of that operator.
-  [[nodiscard]] std::vector<StockOutcome> cancelOpen(std::int32_t operatorId);
+  /// Cancels what an earlier run of the program left open of the cashier.
+  [[nodiscard]] std::vector<StockOutcome> cancelOpen();
+
+  // Payment
+
+  /// The card of a typed or swiped number (see payingCardNumbers), blocked or not; none when there
+  /// is none.
+  std::optional<StoredCard> payingCard(const std::string& typed) const;
+  /// Payment is taken for an open bill, which is stored with the mark of a paid one (see
+  /// ClsSell::SavePaid). An empty text, or why it is not marked, for people.
+  [[nodiscard]] std::string markPaid(ClsSell& bill);
+  /// The same by the card that the bill names (CardNo), which pays all that is due, in fen
+  /// (CardPay; ensure): the card is charged together with the mark. Nothing is written unless it is
+  /// done.
+  [[nodiscard]] CardResult payByCard(ClsSell& bill, const std::string& password);
+  /// Stores a paid bill (ensure) as settled, and credits its member with purchase and points. False
+  /// when the store failed: nothing was written, and the bill is as paid as it was. A member that
+  /// is gone or cannot be credited costs points, not the sale.
+  [[nodiscard]] bool settle(ClsSell& bill);
+
+  struct PaidBill {
+    std::shared_ptr<ClsSell> bill;
+    bool isSettled = false;
+    std::string fault = {};  ///< why it cannot be read, for people
+  };
+  /// Settles the bills, of all operators, whose payment was taken by an earlier run of the program
+  /// that ended before it stored them. One that cannot be settled now waits for the next time.
+  std::vector<PaidBill> completePaid();
+
+  // What was sold
 
   /// The shop's settled bill with the latest time, without lines; none when there is none.
   std::shared_ptr<ClsSell> lastSettled() const;
   /// The member's latest settled bill with its lines; none when there is none.
   std::shared_ptr<ClsSell> lastPurchase(const ClsMember& member) const;
+  /// The cashier's settled bills of today.
+  ClsDayStat today() const;
+  /// A member as the books have it now; none without an id, or when the member is gone.
+  std::shared_ptr<ClsMember> member(std::int32_t id) const;
+
   /// The data file's path, for messages.
   std::string file() const;
+  /// An empty text, or why the open data file is no longer the one of its name (deleted, replaced,
+  /// linked), for a message.
+  std::string fileFault() const;
 
  private:
   StockOutcome take(const ClsSellItem& line, double quantity, std::int16_t rule);
   StockOutcome putBack(const ClsSellItem& line);
   void takeAgain(Recalled& recalled);
+  void creditMember(const ClsSell& bill);
 
   Connection& connection_;
   const ClsSysParam& rules_;
   Clock clock_;
+  std::shared_ptr<const ClsOperator> cashier_;
 };

@@ -10,6 +10,13 @@ void ClsMemberSvc::Conn(Connection& connection) {
   connection_ = &connection;
 }
 
+std::shared_ptr<ClsMember> ClsMemberSvc::NewMember(const Clock& clock) const {
+  ensure(connection_ != nullptr, "ClsMemberSvc is bound before it is used");
+  auto member = std::make_shared<ClsMember>();
+  member->Init(*connection_, 0, clock);
+  return member;
+}
+
 void ClsMemberSvc::AddMember(const ClsMember&) {}
 
 std::shared_ptr<ClsMember> ClsMemberSvc::GetMember(std::string_view number) const {

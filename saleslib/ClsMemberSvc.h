@@ -14,6 +14,8 @@ class Connection;
 class TESSALY_API ClsMemberSvc {
  public:
   void Conn(Connection& connection);
+  /// A new, empty member, who joins at the time of that clock when stored.
+  std::shared_ptr<ClsMember> NewMember(const Clock& clock) const;
   /// Takes note of a member that was just stored. Nothing is kept here: the next look-up reads it.
   void AddMember(const ClsMember& member);
   /// The member with that typed or swiped card number (see memberNumbers); else the member with

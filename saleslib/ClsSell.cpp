@@ -69,6 +69,7 @@ bool ClsSell::start(std::int32_t operatorId) {
       sellTime_, operatorId);
   if (!opened) return false;
   billNo_ = key32(*opened);
+  ensure(billNo_ > 0 && items_.empty() && AddsUp(), "a new bill has a number and no lines");
   return true;
 }
 
@@ -92,6 +93,11 @@ void ClsSell::read(const Row& row) {
   slip_ = row.text("phone_slip");
   salesman_ = whole16(row, "salesman");
   memberId_ = whole32(row, "member_id");
+}
+
+void ClsSell::setState(std::int16_t state) {
+  ensure(state == kOpen || state == kSettled, "a bill is open or settled");
+  state_ = state;
 }
 
 void ClsSell::setSlip(std::string code) {
@@ -121,6 +127,7 @@ bool ClsSell::AddsUp() const {
 }
 
 bool ClsSell::Save() {
+  ensure(connection_ != nullptr && billNo_ > 0, "a bill is opened before it is stored");
   ensure(AddsUp(), "a bill's lines add up to the bill");
   errText_.clear();
   try {
@@ -140,6 +147,7 @@ bool ClsSell::SavePaid() {
   ensure(state_ == kOpen, "payment is taken for an open bill");
   paid_ = true;
   paid_ = Save();
+  ensure(paid_ == Paid(), "only an open bill waits for its settlement");
   return paid_;
 }
 
@@ -161,6 +169,7 @@ void ClsSell::store() {
 }
 
 void ClsSell::Void() {
+  ensure(state_ == kOpen && billNo_ > 0, "a settled bill is never deleted");
   Transaction transaction(*connection_);
   connection_->run("delete from sellProducts where sellId = ?", billNo_);
   connection_->run("delete from sell where id = ?", billNo_);
@@ -168,6 +177,7 @@ void ClsSell::Void() {
 }
 
 void ClsSell::LoadLines() {
+  ensure(connection_ != nullptr && billNo_ > 0, "a stored bill has lines to load");
   items_.clear();
   Rows rows =
       connection_->query("select * from sellProducts where sellId = ? order by id", billNo_);
@@ -184,6 +194,7 @@ void ClsSell::LoadLines() {
 
 void ClsSell::AddItem(std::shared_ptr<ClsSellItem> line) {
   ensure(line != nullptr && line->BillNo() == billNo_, "a line joins its own bill");
+  ensure(!Paid(), "a bill that was paid keeps its lines");
   const Currency money = line->Money();
   if (items_.empty() && state_ == kOpen) sellTime_ = std::max(sellTime_, line->EntryTime());
   quantity_ = roundedQuantity(quantity_ + line->Quantity());
@@ -193,10 +204,9 @@ void ClsSell::AddItem(std::shared_ptr<ClsSellItem> line) {
 }
 
 void ClsSell::RemoveItem(const ClsSellItem& line) {
-  ensure(state_ == kOpen, "a settled bill keeps its lines");
-  items_.erase(std::remove_if(items_.begin(), items_.end(),
-                              [&line](const auto& item) { return item.get() == &line; }),
-               items_.end());
+  ensure(state_ == kOpen && !Paid(), "a bill that was paid keeps its lines");
+  const auto gone = std::erase_if(items_, [&](const auto& item) { return item.get() == &line; });
+  ensure(gone == 1, "a line leaves its own bill");
   Recalculate();
 }
 

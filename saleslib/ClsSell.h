@@ -51,7 +51,8 @@ class TESSALY_API ClsSell {
   /// Adds a committed line of this bill (ensure): quantity and amount are the sums over its lines
   /// again, whatever the settlement rounded the amount to before.
   void AddItem(std::shared_ptr<ClsSellItem> line);
-  /// Takes a line off an open bill; quantity and amount follow. The line's row is the caller's.
+  /// Takes a line (ensure: one of its own) off an open bill; quantity and amount follow. The line's
+  /// row is the caller's.
   void RemoveItem(const ClsSellItem& line);
   /// Works quantity and amount out again from the lines, after one of them was changed. Save wants
   /// that (see there).
@@ -76,8 +77,9 @@ class TESSALY_API ClsSell {
   double Quantity() const { return quantity_; }
   std::int32_t MemberId() const { return memberId_; }  ///< 0 for none
   void setMemberId(std::int32_t memberId) { memberId_ = memberId; }
-  std::int16_t State() const { return state_; }  ///< 0 open, 1 settled
-  void setState(std::int16_t state) { state_ = state; }
+  /// 0 open, 1 settled (ensure: nothing else).
+  std::int16_t State() const { return state_; }
+  void setState(std::int16_t state);
   bool Paid() const { return paid_ && state_ == kOpen; }  ///< has the mark of SavePaid
   /// Discount amount given at settlement.
   Currency Favorable() const { return Tendered(Tender::kFavorable); }
@@ -106,7 +108,7 @@ class TESSALY_API ClsSell {
   [[nodiscard]] bool FiguresFit() const;
 
  private:
-  static constexpr std::int16_t kOpen = 0;
+  static constexpr std::int16_t kOpen = 0, kSettled = 1;
 
   bool start(std::int32_t operatorId);
   bool load(Rows rows);

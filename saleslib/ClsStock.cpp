@@ -3,6 +3,7 @@
 #include <cmath>
 #include <utility>
 
+#include "base/Failure.h"
 #include "base/NumberText.h"
 #include "store/Connection.h"
 #include "store/Transaction.h"
@@ -13,6 +14,12 @@ constexpr double kLargestMovement = 1e12;
 constexpr std::int16_t kMayGoNegative = 0;
 
 }  // namespace
+
+std::string StockOutcome::refusal() const {
+  ensure(!done(), "what was done has no refusal");
+  if (kind == kOutOfRange) return "数量超出范围：" + goods;
+  return "库存不足：" + goods + "现有库存 " + generalNumber(left);
+}
 
 void ClsStock::Init(Connection& connection, std::string itemCode) {
   connection_ = &connection;
@@ -29,21 +36,22 @@ bool ClsStock::TakeOut(double quantity, int, std::int16_t stockRule) {
 }
 
 bool ClsStock::moveAlone(double quantity, std::int16_t stockRule) {
+  ensure(connection_ != nullptr, "an item is chosen before its stock moves");
   Transaction moving(*connection_);
   const StockOutcome outcome = Move(quantity, stockRule);
   errText_.clear();
   if (outcome.done()) {
     moving.commit();
-  } else if (outcome.kind == StockOutcome::kShort) {
-    errText_ = "库存不足：" + outcome.goods + "现有库存 " + generalNumber(outcome.left);
   } else {
-    errText_ = "数量超出范围：" + outcome.goods;
+    errText_ = outcome.refusal();
   }
   return outcome.done();
 }
 
 // A negative take (a line of negative quantity) fills the stock, which no rule refuses.
 StockOutcome ClsStock::Move(double quantity, std::int16_t stockRule) {
+  ensure(connection_ != nullptr && connection_->inTransaction(),
+         "stock moves together with what it moves for");
   if (!std::isfinite(quantity) || std::abs(quantity) > kLargestMovement) {
     return refused(StockOutcome::kOutOfRange, 0);
   }
@@ -64,6 +72,7 @@ void ClsStock::add(double quantity) {
   if (quantity == 0) return;
   const std::int64_t changed = connection_->run(
       "update stock set quantity = round(quantity + ?, 6) where spbm = ?", quantity, itemCode_);
+  ensure(changed <= 1, "an item has one stock");
   if (changed != 0) return;
   connection_->run("insert into stock (spbm, quantity) values (?, round(?, 6))", itemCode_,
                    quantity);

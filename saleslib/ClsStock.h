@@ -8,13 +8,15 @@
 class Connection;
 
 /// What became of a movement of stock.
-struct StockOutcome {
+struct TESSALY_API StockOutcome {
   enum Kind { kDone, kShort, kOutOfRange };
   Kind kind = kDone;
   double left = 0;    ///< in stock after it, or now when it was refused; in stock units
   std::string goods;  ///< of a refusal: the goods' name and code
 
   [[nodiscard]] bool done() const { return kind == kDone; }
+  /// Why it was refused (ensure), for people.
+  std::string refusal() const;
 };
 
 /// The stock of one item, in stock units, kept to six decimals: what is taken out and put back
@@ -31,8 +33,9 @@ class TESSALY_API ClsStock {
   /// make it negative, with a text that names the goods and the stock. False on that refusal and on
   /// those of PutBack. Throws StoreError.
   [[nodiscard]] bool TakeOut(double quantity, int unused, std::int16_t stockRule);
-  /// Takes that much out of stock, or puts it back when negative, within the caller's transaction,
-  /// under the rule of TakeOut. The stock is read once, before it is written. Throws StoreError.
+  /// Takes that much out of stock, or puts it back when negative, within the caller's transaction
+  /// (ensure), under the rule of TakeOut. The stock is read once, before it is written. Throws
+  /// StoreError.
   [[nodiscard]] StockOutcome Move(double quantity, std::int16_t stockRule);
   /// The quantity in stock now; 0 for an item that has no stock record.
   double StockQty() const;

@@ -111,3 +111,11 @@ FoundGoods GoodsLookup::byItemNumber(const std::string& fragment) const {
           connection_.Open("select * from spda where f_sphh like" + likeFragment(fragment) + " "),
           {}};
 }
+
+std::vector<std::string> goodsCategories(Connection& connection) {
+  const Recordset rows = connection.Open("select  SPLBMC from SP_LB order by SPLB_ID");
+  std::vector<std::string> names;
+  for (std::size_t row = 0; row < rows.count(); ++row)
+    names.push_back(rows.row(row).text("SPLBMC"));
+  return names;
+}

@@ -4,6 +4,7 @@
 #include <memory>
 #include <optional>
 #include <string>
+#include <vector>
 
 #include "base/DateTime.h"
 #include "saleslib/ClsSellItem.h"
@@ -46,6 +47,9 @@ class TESSALY_API FoundGoods {
   std::shared_ptr<const Recordset> rows_;
   std::string code_;  ///< typed; empty for rows of the item table, which have a code of their own
 };
+
+/// The names of the goods' categories, in the shop's order. Throws StoreError.
+TESSALY_API std::vector<std::string> goodsCategories(Connection& connection);
 
 /// Finds goods by what a cashier types or scans. Throws StoreError.
 class TESSALY_API GoodsLookup {

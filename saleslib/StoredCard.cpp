@@ -1,11 +1,9 @@
 #include "saleslib/StoredCard.h"
 
 #include "base/Failure.h"
-#include "saleslib/ClsSell.h"
 #include "saleslib/Fields.h"
 #include "store/Connection.h"
 #include "store/Literal.h"
-#include "store/StoreError.h"
 #include "store/Transaction.h"
 
 // Balances, purchases and points are written as what they change by, never as what they were read
@@ -54,19 +52,11 @@ CardResult chargeCard(Connection& connection, const std::string& number,
   const std::int64_t charged =
       connection.run("update member set card = round(card - ?, 4) where bh = ? and card >= ?", due,
                      found->number, due);
+  ensure(charged <= 1, "a card's number is one member's");
   if (charged == 0) return {CardOutcome::kTooLittle, *found};
   charging.commit();
   result.card.balance -= due;
-  return result;
-}
-
-CardResult payByCard(Connection& connection, ClsSell& bill, const std::string& password) {
-  ensure(bill.CardPay() == roundedToFen(bill.Amount()), "a card pays all that is due");
-  Transaction paying(connection);
-  const CardResult result = chargeCard(connection, bill.CardNo(), password, bill.CardPay());
-  if (result.outcome != CardOutcome::kDone) return result;
-  if (!bill.SavePaid()) throw StoreError(bill.ErrText());
-  paying.commit();
+  ensure(result.card.balance >= Currency(), "a card is charged what it holds at most");
   return result;
 }
 

@@ -8,7 +8,6 @@
 #include "base/Currency.h"
 #include "saleslib/Export.h"
 
-class ClsSell;
 class Connection;
 
 /// A member's stored-value card.
@@ -36,11 +35,6 @@ struct CardResult {
 /// is kDone. Throws StoreError.
 TESSALY_API CardResult chargeCard(Connection& connection, const std::string& number,
                                   const std::string& password, Currency due);
-/// Settles an open bill by the card that it names (CardNo), which pays all that is due, in fen
-/// (CardPay; ensure): charges the card and marks the bill as paid (see ClsSell::SavePaid), in one
-/// transaction. Throws StoreError.
-TESSALY_API CardResult payByCard(Connection& connection, ClsSell& bill,
-                                 const std::string& password);
 
 /// Adds what a member has bought to purchases and points; a member that is gone, or whose figures
 /// have no room for more, stays as it is. Throws StoreError.

@@ -47,6 +47,10 @@ void KeyDrivenDialog::onEnter(const QWidget* control, std::function<void()> acti
   enterActions_[control] = std::move(action);
 }
 
+void KeyDrivenDialog::onLeaving(const QWidget* control, std::function<void()> action) {
+  leaveActions_[control] = std::move(action);
+}
+
 void KeyDrivenDialog::enterLeads(const QWidget* from, QWidget* to) {
   onEnter(from, [to] { focusWhole(to); });
 }
@@ -139,6 +143,11 @@ void KeyDrivenDialog::focusFrom(const QObject* control, int by) {
 bool KeyDrivenDialog::eventFilter(QObject* watched, QEvent* event) {
   if (event->type() == QEvent::KeyPress && handleKey(watched, *static_cast<QKeyEvent*>(event))) {
     return true;
+  }
+  if (event->type() == QEvent::FocusOut) {
+    if (const auto action = leaveActions_.find(watched); action != leaveActions_.end()) {
+      action->second();
+    }
   }
   return QDialog::eventFilter(watched, event);
 }

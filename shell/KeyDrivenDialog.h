@@ -45,6 +45,8 @@ class KeyDrivenDialog : public QDialog {
   static QHBoxLayout* buttonRow(std::initializer_list<QPushButton*> buttons);
 
   void onEnter(const QWidget* control, std::function<void()> action);
+  /// What is done when the focus leaves the control, to another or with the window.
+  void onLeaving(const QWidget* control, std::function<void()> action);
   /// The focus goes on to the other control, and a text there is selected.
   void enterLeads(const QWidget* from, QWidget* to);
   static void focusWhole(QWidget* control);
@@ -56,6 +58,7 @@ class KeyDrivenDialog : public QDialog {
   /// Sees the keys of every control that the dialog has by now.
   void watchAll();
 
+  const KeyBoard& keys() const { return keys_; }
   /// What the mapped Esc does.
   virtual void cancel();
   /// True when the key was used up. `watched` is where it was pressed.
@@ -74,6 +77,6 @@ class KeyDrivenDialog : public QDialog {
   const KeyBoard& keys_;
   EnterKey enterKey_;
   QWidget* first_ = nullptr;
-  std::map<const QObject*, std::function<void()>> enterActions_;
+  std::map<const QObject*, std::function<void()>> enterActions_, leaveActions_;
   std::vector<QWidget*> walk_;  ///< the controls to walk through, if any
 };

@@ -104,6 +104,15 @@ void Connection::requireItsFile() const {
   if (file_) requireSameDataFile(source_.path, *file_);
 }
 
+std::string Connection::fileFault() const {
+  try {
+    requireItsFile();
+    return {};
+  } catch (const StoreError& error) {
+    return error.what();
+  }
+}
+
 std::int64_t Connection::Execute(const std::string& statement) {
   EngineStatement engineForm = translate(statement);
   return runToEnd(engineForm.text, std::move(engineForm.values));

@@ -42,6 +42,10 @@ class Connection {
   /// linked since it was opened: what is written now would be lost. So do Execute, run and a
   /// transaction's beginning.
   void requireItsFile() const;
+  /// The same as a text: empty when the file is its own.
+  std::string fileFault() const;
+  /// Whether what is written now waits for a commit.
+  bool inTransaction() const { return transactionDepth_ > 0; }
 
   /// Runs a statement that returns no rows; gives the number of rows changed.
   std::int64_t Execute(const std::string& statement);

@@ -2,9 +2,9 @@
 
 #include "base/DateTime.h"
 #include "platform/IniFile.h"
+#include "shop/DemoShop.h"
 #include "store/Connection.h"
 #include "store/DataFile.h"
-#include "tools/DemoShop.h"
 
 namespace fs = std::filesystem;
 

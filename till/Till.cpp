@@ -47,7 +47,7 @@ std::map<QString, frmMain::Screen> Till::screens() {
   return {{"sell", {true, [this] { frmSell_->openModal(); }}},
           {"count", {true, [this] { frmCount(pos_, QApplication::activeWindow()).init(); }}},
           {"search", {true, [this] { show<frmSearch>(); }}},
-          {"unsell", {true, [this] { show<frmUnSell>(); }}},
+          {"unsell", {true, [this] { takeBack(); }}},
           {"addmen", {true, [this] { show<frmFMember>(); }}},
           {"editpwd", {false, [this] { show<frmEditPwd>(); }}},
           {"posset", {true, [this] { show<frmPosSet>(); }}},
@@ -59,6 +59,10 @@ SaleSession::Openers Till::saleScreens() {
           {"topup", [this] { show<cardStored>(); }},
           {"search", [this] { show<frmSearch>(); }},
           {"color", [this] { show<frmColor>(); }}};
+}
+
+void Till::takeBack() {
+  frmUnSell(pos_.gKeyBoard, pos_.returnBooks(), QApplication::activeWindow()).exec();
 }
 
 template <class Form>

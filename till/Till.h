@@ -29,6 +29,7 @@ class Till {
   /// The screens of the main window's menus, and those that the sale screen opens.
   std::map<QString, frmMain::Screen> screens();
   SaleSession::Openers saleScreens();
+  void takeBack();
   /// Shows a dialog made for the occasion, over whichever window is in front.
   template <class Form>
   void show();

@@ -5,11 +5,11 @@
 #include <optional>
 #include <string>
 
+#include "shop/Refusal.h"
 #include "store/Connection.h"
 #include "tools/BillDate.h"
 #include "tools/DataFileOptions.h"
 #include "tools/ParserTexts.h"
-#include "tools/Refusal.h"
 
 namespace {
 

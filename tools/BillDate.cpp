@@ -3,11 +3,11 @@
 #include <string>
 #include <vector>
 
+#include "shop/Refusal.h"
 #include "store/Connection.h"
 #include "store/StoreError.h"
 #include "store/Transaction.h"
 #include "tools/Examination.h"
-#include "tools/Refusal.h"
 
 namespace {
 

@@ -4,7 +4,7 @@
 #include <memory>
 
 #include "base/NumberText.h"
-#include "saleslib/TopUp.h"
+#include "saleslib/TopUpBooks.h"
 #include "store/Connection.h"
 #include "store/FragmentIndex.h"
 #include "tools/Books.h"
@@ -27,7 +27,7 @@ void repairIndex(Connection& connection, Console& console) {
 
 // Not a fault: such a record loaded nothing, and the books go without it.
 void nameIncompleteTopUps(Connection& connection, Console& console) {
-  for (const IncompleteTopUp& each : incompleteTopUps(connection)) {
+  for (const IncompleteTopUp& each : TopUpBooks(connection).incomplete()) {
     console.out << "充值 " << each.id << " 没有完成，卡内余额没有改变：卡号 "
                 << each.topUp.cardNumber << "，付款 " << twoDecimals(each.topUp.paid) << "，充值 "
                 << twoDecimals(each.topUp.credited)

@@ -3,7 +3,7 @@
 #include <termios.h>
 #include <unistd.h>
 
-#include "tools/Refusal.h"
+#include "shop/Refusal.h"
 
 namespace {
 

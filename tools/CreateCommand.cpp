@@ -3,9 +3,9 @@
 #include <CLI/CLI.hpp>
 #include <memory>
 
+#include "shop/DemoShop.h"
 #include "store/Connection.h"
 #include "tools/DataFileOptions.h"
-#include "tools/DemoShop.h"
 
 namespace {
 

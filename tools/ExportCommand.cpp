@@ -7,11 +7,11 @@
 #include <string>
 
 #include "base/WholeFile.h"
+#include "shop/Exporter.h"
+#include "shop/Refusal.h"
 #include "store/Connection.h"
 #include "tools/DataFileOptions.h"
-#include "tools/Exporter.h"
 #include "tools/ParserTexts.h"
-#include "tools/Refusal.h"
 
 namespace {
 

@@ -8,12 +8,12 @@
 #include <vector>
 
 #include "base/Text.h"
+#include "shop/Importer.h"
+#include "shop/Refusal.h"
 #include "store/Connection.h"
 #include "store/Transaction.h"
 #include "tools/DataFileOptions.h"
-#include "tools/Importer.h"
 #include "tools/ParserTexts.h"
-#include "tools/Refusal.h"
 
 namespace {
 

@@ -10,12 +10,12 @@
 #include "base/Text.h"
 #include "saleslib/ClsOperator.h"
 #include "saleslib/ClsRights.h"
+#include "shop/Operators.h"
+#include "shop/Refusal.h"
 #include "store/Connection.h"
 #include "store/Transaction.h"
 #include "tools/DataFileOptions.h"
-#include "tools/Operators.h"
 #include "tools/ParserTexts.h"
-#include "tools/Refusal.h"
 
 namespace {
 

@@ -6,10 +6,10 @@
 #include <vector>
 
 #include "saleslib/ClsSysParam.h"
+#include "shop/Refusal.h"
 #include "store/Connection.h"
 #include "store/Transaction.h"
 #include "tools/DataFileOptions.h"
-#include "tools/Refusal.h"
 
 namespace {
 

@@ -3,10 +3,10 @@
 
 #include "base/Failure.h"
 #include "saleslib/ClsSysParam.h"
+#include "shop/Operators.h"
 #include "store/Connection.h"
 #include "store/Integrity.h"
 #include "tools/Examination.h"
-#include "tools/Operators.h"
 
 namespace {
 

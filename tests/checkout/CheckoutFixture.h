@@ -16,7 +16,7 @@ class CheckoutFixture : public ShopFixture {
  protected:
   CheckoutFixture() { openNext(); }
 
-  void openNext() { bill = books.open(pos.gOperator->Id()); }
+  void openNext() { bill = books.open(); }
   void enter(const std::string& name, const char* price, double quantity = 1,
              const char* code = "1001", double discount = 1, std::int16_t ratio = 1) {
     auto line = std::make_shared<ClsSellItem>();
@@ -33,12 +33,12 @@ class CheckoutFixture : public ShopFixture {
     receipt.PrintLine(*line);
   }
   Settlement settlement() {
-    return {pos, *bill, devices.display(), screen, [this] { receipt.PrintFoot(*bill, facts()); }};
+    return {books, *bill, devices.display(), screen, [this] { receipt.PrintFoot(*bill, facts()); }};
   }
   /// The settle key, and a cashier who types that cash figure.
   void payCash(const char* cash) {
     settlement().confirmCash(cash);
-    EXPECT_TRUE(storeSettled(pos, *bill));
+    EXPECT_TRUE(books.settle(*bill));
     openNext();
   }
   void attachMember() {
@@ -63,7 +63,7 @@ class CheckoutFixture : public ShopFixture {
   };
   Devices devices{ports, report, report};
   LineReceipt receipt{pos.gSysParam, devices};
-  BillBooks books{*pos.gConn, pos.gSysParam, pos.clock};
+  BillBooks books = pos.billBooks();
   std::shared_ptr<ClsSell> bill;
   std::shared_ptr<ClsMember> member;
   std::int64_t originalPrice = 0;

@@ -30,7 +30,7 @@ TEST_F(PaidBill, OfAnotherOperatorIsCompletedOnceWithItsRoundingAndNotVoided) {
   EXPECT_THAT(unpaid.Sells(), SizeIs(0)) << "what is open and unpaid is voided";
 
   pos.gOperator->Init(*pos.gConn, 1);
-  for (int opening = 0; opening < 2; ++opening) completePaidBills(pos, screen);
+  for (int opening = 0; opening < 2; ++opening) completePaidBills(books, screen);
   EXPECT_EQ(screen.said(),
             "上次程序中断前已收款的单据，现在已补存，请勿重新录入：\n流水号 2，金额 16.30");
   EXPECT_EQ(stored("state || paid || ' ' || amount || ' of ' || goods_amount || ', ' || favorable"
@@ -49,11 +49,11 @@ TEST_F(PaidBill, ThatCannotBeCompletedWaitsAndLetsOthersPass) {
                          " where sellId = 2");
   };
   damage("5");
-  completePaidBills(pos, screen);
+  completePaidBills(books, screen);
   EXPECT_EQ(stored("group_concat(id || state || paid) as v from sell"), "100,201,310");
   EXPECT_THAT(screen.messages, ElementsAre(HasSubstr("流水号 3"),
                                            HasSubstr("流水号 2，金额 1.00：单据 2 的商品明细")));
   damage("1");
-  completePaidBills(pos, screen);
+  completePaidBills(books, screen);
   EXPECT_EQ(stored("group_concat(id || state || paid) as v from sell"), "100,210,310");
 }

@@ -11,10 +11,10 @@
 #include "reports/SearchCriteria.h"
 #include "saleslib/CardNumber.h"
 #include "saleslib/ClsLogin.h"
-#include "saleslib/TopUp.h"
+#include "saleslib/TopUpBooks.h"
+#include "shop/Importer.h"
+#include "shop/Refusal.h"
 #include "store/StoreError.h"
-#include "tools/Importer.h"
-#include "tools/Refusal.h"
 
 namespace {
 
@@ -180,8 +180,8 @@ class TypedTextTest : public WithSpy, public TillFixture {
   }
   void topUp(const std::string& number, const std::string& remark) {
     const CardOutcome wanted = number == "8001" ? CardOutcome::kDone : CardOutcome::kUnknown;
-    EXPECT_EQ(storeTopUp(*pos.gConn, {number, {}, {}, {}, remark}).outcome, wanted);
-    EXPECT_EQ(storeTopUp(*pos.gConn, {"8001", {}, {}, {}, remark}).outcome, CardOutcome::kDone);
+    EXPECT_EQ(pos.topUpBooks().store({number, {}, {}, {}, remark}).outcome, wanted);
+    EXPECT_EQ(pos.topUpBooks().store({"8001", {}, {}, {}, remark}).outcome, CardOutcome::kDone);
     EXPECT_TRUE(
         pos.gConn->query("select 1 from cardStored where bz = ? collate binary", remark).next());
   }

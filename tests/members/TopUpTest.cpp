@@ -1,4 +1,4 @@
-#include "saleslib/TopUp.h"
+#include "saleslib/TopUpBooks.h"
 
 #include "MembersTill.h"
 #include "members/TopUpSlip.h"
@@ -18,8 +18,7 @@ TEST_F(TopUpTest, ANumberIsLookedUpAsTypedAndThenWithoutWhatTheReaderTypes) {
       {"vip9", "vip9"},           {" ；VIP9? ", "vip9"}, {"v9", "9"},
       {"' or ''='", "'  ''='"}};
   for (const auto& [typed, number] : cases) {
-    EXPECT_EQ(findStoredCard(*till.pos.gConn, storedCardNumbers(typed)).value().number, number)
-        << typed;
+    EXPECT_EQ(till.pos.topUpBooks().card(typed).value().number, number) << typed;
   }
   EXPECT_EQ(till.pos.gMemberSvc.GetMember(" vip9 ")->Bh(), "vip9");
   EXPECT_EQ(till.pos.gMemberSvc.GetMember("v9"), nullptr) << "a member's number keeps its letters";
@@ -30,6 +29,7 @@ TEST_F(TopUpTest, ARecordWithoutItsBalanceStaysAndIsCompletedByTheSameTopUp) {
       "88001234", Currency::fromYuan(90), Currency::fromYuan(100), Currency::fromYuan(150),
       "优惠",     Currency::fromYuan(50)};
   Connection& file = *till.pos.gConn;
+  TopUpBooks topUps(file);
   const auto books = [this] {
     return stored(
         "group_concat(complete||':'||commerce)||' '||(select card from member) as v"
@@ -38,16 +38,16 @@ TEST_F(TopUpTest, ARecordWithoutItsBalanceStaysAndIsCompletedByTheSameTopUp) {
   const auto fail = [&] {
     file.runScript(
         "create trigger broken before update on member begin select raise(abort, 'disk'); end");
-    EXPECT_THROW(storeTopUp(file, topUp), StoreError);
+    EXPECT_THROW(topUps.store(topUp), StoreError);
     file.runScript("drop trigger broken");
   };
   fail();
   EXPECT_EQ(books(), "0:150 50");
-  storeTopUp(file, topUp);
+  topUps.store(topUp);
   EXPECT_EQ(books(), "1:150 150");
   fail();
-  noteReported(file, incompleteTopUps(file).at(0));
-  storeTopUp(file, topUp);
+  topUps.noteReported(topUps.incomplete().at(0));
+  topUps.store(topUp);
   EXPECT_EQ(books(), "1:150,0:150,1:250 250")
       << "what the cashier was told of stays as it was told";
 }

@@ -9,7 +9,7 @@ class ReturnsTest : public ReturnsFixture {
     return returns.takeBack(quantity, Currency::parse(refund).value()).toStdString();
   }
 
-  Returns returns{pos};
+  Returns returns{pos.returnBooks()};
 };
 
 TEST_F(ReturnsTest, OnlyASettledBillOfThatNumberLoads) {

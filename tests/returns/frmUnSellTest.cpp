@@ -39,7 +39,7 @@ class frmUnSellTest : public ReturnsFixture {
     EXPECT_TRUE(hands.idle());
   }
 
-  frmUnSell dialog{pos};
+  frmUnSell dialog{pos.gKeyBoard, pos.returnBooks()};
   Hands hands;
   std::vector<std::string> messages;
 };
@@ -62,7 +62,7 @@ TEST_F(frmUnSellTest, BillLineQuantityAndRefundByKeyboardAlone) {
   look([this] {
     EXPECT_EQ(text("txtAmount") + " " + text("txtmoney"), "3 27") << "no more than was sold";
     // Back to the quantity; left by Tab, the refund follows it all the same.
-    field("txtAmount")->setFocus();
+    field("txtAmount")->setFocus(Qt::BacktabFocusReason);
   });
   hands.type(kWindow, "1").press(kWindow, {Qt::Key_Tab});
   look([this] { EXPECT_EQ(text("txtmoney"), "9"); });
@@ -125,7 +125,7 @@ TEST_F(frmUnSellTest, WhatIsMissingOrUnknownIsSaidAndReturnsNothing) {
 }
 
 TEST_F(frmUnSellTest, TheWindowMayGoWhileAFieldIsBeingTypedIn) {
-  frmUnSell other(pos);
+  frmUnSell other(pos.gKeyBoard, pos.returnBooks());
   other.show();
   auto* quantity = other.findChild<QLineEdit*>("txtAmount");
   quantity->setFocus();

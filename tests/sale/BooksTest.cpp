@@ -6,7 +6,7 @@
 #include "TillFixture.h"
 #include "base/NumberText.h"
 #include "returns/Returns.h"
-#include "saleslib/TopUp.h"
+#include "saleslib/TopUpBooks.h"
 
 /// A cashier who does anything in any order, at the till and in the model at once. Every step takes
 /// its figures from the random numbers of its sequence.
@@ -148,7 +148,7 @@ class BooksTest : public TillFixture {
     const std::int64_t quantity = std::min(any(1, 20), line.quantity);
     if (quantity == 0) return;
     const std::int64_t refund = shop.takeBack(sold, line, quantity);
-    Returns returns(pos);
+    Returns returns(pos.returnBooks());
     ASSERT_EQ(returns.load(QString::number(sold.number)), "");
     returns.chooseById(returns.bill()->Items().at(position)->Id());
     const double typed =
@@ -159,10 +159,10 @@ class BooksTest : public TillFixture {
     ShopModel::Member& member = anyOf(shop.members);
     const std::int64_t amount = any(1, 9000);
     shop.topUp(member, amount);
-    storeTopUp(*pos.gConn,
-               {member.card, Currency::fromScaled(amount * 100), Currency::fromScaled(amount * 100),
-                Currency::fromScaled(member.balance * 100), "",
-                Currency::fromScaled((member.balance - amount) * 100)});
+    pos.topUpBooks().store({member.card, Currency::fromScaled(amount * 100),
+                            Currency::fromScaled(amount * 100),
+                            Currency::fromScaled(member.balance * 100), "",
+                            Currency::fromScaled((member.balance - amount) * 100)});
   }
   /// The owner counts the goods and writes down what is there, which may be less than was thought.
   void countStock() {

@@ -6,7 +6,7 @@
 
 #include "Owner.h"
 #include "base/Gbk.h"
-#include "tools/Table.h"
+#include "shop/Table.h"
 
 namespace {
 

@@ -7,7 +7,7 @@
 #include <vector>
 
 #include "base/DateTime.h"
-#include "tools/Column.h"
+#include "shop/Column.h"
 
 /// A table that the owner may import and export.
 struct Table {

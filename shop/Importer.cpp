@@ -1,4 +1,4 @@
-#include "tools/Importer.h"
+#include "shop/Importer.h"
 
 #include <algorithm>
 #include <iterator>
@@ -7,12 +7,12 @@
 
 #include "base/CsvReader.h"
 #include "base/Text.h"
+#include "shop/Refusal.h"
+#include "shop/RowDoubts.h"
 #include "store/Connection.h"
 #include "store/FragmentIndex.h"
 #include "store/StoreError.h"
 #include "store/Transaction.h"
-#include "tools/Refusal.h"
-#include "tools/RowDoubts.h"
 
 namespace {
 

@@ -1,4 +1,4 @@
-#include "tools/Exporter.h"
+#include "shop/Exporter.h"
 
 #include "base/CsvRow.h"
 #include "store/Connection.h"

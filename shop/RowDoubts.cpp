@@ -1,10 +1,10 @@
-#include "tools/RowDoubts.h"
+#include "shop/RowDoubts.h"
 
 #include <algorithm>
 #include <optional>
 #include <variant>
 
-#include "tools/Table.h"
+#include "shop/Table.h"
 
 namespace {
 

@@ -1,12 +1,12 @@
-#include "tools/Operators.h"
+#include "shop/Operators.h"
 
 #include <set>
 
 #include "base/Text.h"
 #include "saleslib/ClsRights.h"
+#include "shop/Refusal.h"
 #include "store/Connection.h"
 #include "store/Transaction.h"
-#include "tools/Refusal.h"
 
 namespace {
 

@@ -4,7 +4,7 @@
 #include <functional>
 #include <string_view>
 
-#include "tools/Table.h"
+#include "shop/Table.h"
 
 class Connection;
 

@@ -1,4 +1,4 @@
-#include "tools/GoodsSheet.h"
+#include "shop/GoodsSheet.h"
 
 #include "base/Failure.h"
 #include "base/NumberText.h"

@@ -1,4 +1,4 @@
-#include "tools/Column.h"
+#include "shop/Column.h"
 
 #include <algorithm>
 #include <cmath>

@@ -8,10 +8,10 @@
 #include <string>
 #include <vector>
 
+#include "shop/RowNumbers.h"
+#include "shop/Table.h"
 #include "store/RowWriter.h"
 #include "store/Value.h"
-#include "tools/RowNumbers.h"
-#include "tools/Table.h"
 
 class Connection;
 class CsvReader;

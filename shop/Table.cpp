@@ -1,7 +1,7 @@
-#include "tools/Table.h"
+#include "shop/Table.h"
 
 #include "base/Text.h"
-#include "tools/Refusal.h"
+#include "shop/Refusal.h"
 
 namespace {
 

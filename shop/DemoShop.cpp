@@ -1,4 +1,4 @@
-#include "tools/DemoShop.h"
+#include "shop/DemoShop.h"
 
 #include <optional>
 #include <set>
@@ -11,12 +11,12 @@
 #include "base/NumberText.h"
 #include "saleslib/ClsMember.h"
 #include "saleslib/ClsSysParam.h"
+#include "shop/DemoGoods.h"
+#include "shop/GoodsSheet.h"
+#include "shop/Operators.h"
 #include "store/Connection.h"
 #include "store/FragmentIndex.h"
 #include "store/Transaction.h"
-#include "tools/DemoGoods.h"
-#include "tools/GoodsSheet.h"
-#include "tools/Operators.h"
 
 namespace {
 

@@ -1,0 +1,14 @@
+#include "sale/SalePart.h"
+
+#include "base/Failure.h"
+#include "platform/QtText.h"
+#include "sale/SaleScreen.h"
+
+bool SalePart::guarded(const std::function<bool()>& work) const {
+  try {
+    return work();
+  } catch (const Failure& failure) {
+    screen_.messageBox(qtText(failure.what()));
+    return false;
+  }
+}
