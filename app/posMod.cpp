@@ -1,5 +1,6 @@
 #include "app/posMod.h"
 
+#include <QStringList>
 #include <algorithm>
 #include <iterator>
 #include <utility>
@@ -9,6 +10,7 @@
 #include "base/FileName.h"
 #include "base/OwnerOnly.h"
 #include "platform/MousePointer.h"
+#include "platform/QtText.h"
 #include "saleslib/BillBooks.h"
 #include "saleslib/ClsRights.h"
 #include "saleslib/ReturnBooks.h"
@@ -48,11 +50,10 @@ std::string posMod::OpenDataStore() {
     return {};
   } catch (const Failure& failure) {
     lock_.reset();
-    const bool isMissing = !std::filesystem::exists(source.path, ignored);
-    return failure.what() +
-           (isMissing
-                ? "\n还没有数据文件的话，请店主建立一个：\ntilladmin create " + source.path.string()
-                : std::string());
+    if (std::filesystem::exists(source.path, ignored)) return failure.what();
+    return tr("%1\n还没有数据文件的话，请店主建立一个：\ntilladmin create %2")
+        .arg(qtText(failure.what()), qtText(source.path.string()))
+        .toStdString();
   }
 }
 
@@ -61,8 +62,10 @@ std::string posMod::missingOperator() const {
       "select 1 from operator_rights join operators on id = operator_id where right_key = ?",
       kRightSell);
   if (rows.next()) return {};
-  return "还没有能收银的操作员。请店主增加一位：\ntilladmin operator add " +
-         gConn->source().path.string() + " --number 1 --name 姓名 --right sell";
+  return tr("还没有能收银的操作员。请店主增加一位：\n"
+            "tilladmin operator add %1 --number 1 --name 姓名 --right sell")
+      .arg(qtText(gConn->source().path.string()))
+      .toStdString();
 }
 
 std::string posMod::protectFiles() const {
@@ -74,9 +77,11 @@ std::string posMod::protectFiles() const {
   std::copy_if(others.begin(), others.end(), std::back_inserter(exposed),
                [](const auto& file) { return !makeOwnerOnly(file); });
   if (exposed.empty()) return {};
-  std::string text = "下列文件别人也能读写，本程序无权更改，请让管理员收回权限：";
-  for (const auto& file : exposed) text += "\n" + file.string();
-  return text;
+  QStringList names;
+  for (const auto& file : exposed) names += qtText(file.string());
+  return tr("下列文件别人也能读写，本程序无权更改，请让管理员收回权限：\n%1")
+      .arg(names.join('\n'))
+      .toStdString();
 }
 
 void posMod::start() {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QCoreApplication>
 #include <filesystem>
 #include <memory>
 #include <string>
@@ -23,6 +24,8 @@ struct DataSource;
 /// The process-wide objects of the till, made once at start and handed by reference to every
 /// window. Knows no window.
 class posMod {
+  Q_DECLARE_TR_FUNCTIONS(posMod)
+
  public:
   /// `folder` is the program's folder, the one of the executable.
   explicit posMod(std::filesystem::path programFolder, Clock presentTime = localTime);

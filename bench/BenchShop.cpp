@@ -3,6 +3,7 @@
 #include <stdexcept>
 
 #include "checkout/Settlement.h"
+#include "platform/QtText.h"
 
 std::unique_ptr<posMod> openTill(const std::filesystem::path& folder, const Date& day) {
   const DateTime now{day, 9, 5, 3};
@@ -25,14 +26,14 @@ BenchShop::BenchShop(const std::filesystem::path& folder) : pos_(openTill(folder
 
 void BenchShop::enter(const std::string& code) {
   session_->textComing({});
-  if (!session_->key(pos_->gKeyBoard.mEnter, QString::fromStdString(code)))
+  if (!session_->key(pos_->gKeyBoard.mEnter, qtText(code)))
     throw std::runtime_error("Enter did nothing");
 }
 
 void BenchShop::attach(int memberId) {
   ClsMember member;
   member.Init(*pos_->gConn, memberId);
-  member_ = QString::fromStdString(member.Bh());
+  member_ = qtText(member.Bh());
   static_cast<void>(session_->key(pos_->gKeyBoard.mF2, {}));
 }
 

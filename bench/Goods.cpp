@@ -28,7 +28,7 @@ const char* oneOf(const std::array<const char*, count>& choices, int item) {
 // Four characters of thirty-six count 1,679,616; the factor, which has no divisor in common with
 // them, makes neighbours look different.
 std::string ownCode(int item) {
-  constexpr std::int64_t kCodes = 36 * 36 * 36 * 36;
+  constexpr std::int64_t kCodes = std::int64_t{36} * 36 * 36 * 36;
   std::int64_t rest = item * std::int64_t{1'000'003} % kCodes;
   std::string code(4, '0');
   for (char& character : code) {

@@ -23,6 +23,7 @@ namespace {
 double runTool(std::vector<std::string> arguments) {
   arguments.insert(arguments.begin(), ownersTool().string());
   std::vector<char*> words;
+  words.reserve(arguments.size() + 1);
   for (std::string& argument : arguments) words.push_back(argument.data());
   words.push_back(nullptr);
   const pid_t process = fork();

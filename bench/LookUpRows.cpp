@@ -4,6 +4,7 @@
 #include "bench/BenchShop.h"
 #include "bench/Goods.h"
 #include "bench/Run.h"
+#include "platform/QtText.h"
 #include "sale/ItemLookup.h"
 
 namespace {
@@ -55,7 +56,7 @@ void barcode(Run& run, ShopSize size, benchmark::State& state, Measured& row) {
   const auto one = [&](Samples& till, Samples& bare) {
     item = nextItem(item, size);
     const std::string code = goods::barcode(item);
-    const QString typed = QString::fromStdString(code);
+    const QString typed = qtText(code);
     bare.time([&] { require(select.bind(1, code).readAll() == 1); });
     return till.time([&] { require(lookUp.barcode(typed)); });
   };
@@ -80,7 +81,7 @@ void fragment(Run& run, Find find, benchmark::State& state, Measured& row) {
   for (auto _ : state) {
     const int item = goods::itemWithRareWord(n * 7 % (goods / 100));
     const int characters = 2 + n % 4;
-    const QString piece = QString::fromStdString(goods::fragment(item, characters));
+    const QString piece = qtText(goods::fragment(item, characters));
     state.SetIterationTime(row.till.time([&] { require((lookUp.*find)(piece)); }));
     row.bare.time([&] {
       for (const int found : goods::itemsWithFragment(item, characters, goods)) {

@@ -21,7 +21,7 @@ void removeOutdated(const fs::path& folder, const std::string& beginning) {
 
 fs::path Shops::kept(ShopSize size) const {
   const std::string beginning = "shop-" + std::to_string(size.goods) + "-";
-  const fs::path file = folder_ / (beginning + shop_file::version() + ".mdb");
+  fs::path file = folder_ / (beginning + shop_file::version() + ".mdb");
   if (fs::exists(file)) return file;
   fs::create_directories(folder_);
   removeOutdated(folder_, beginning);

@@ -7,6 +7,7 @@
 #include "bench/Run.h"
 #include "bench/SaleWindow.h"
 #include "bench/Stopwatch.h"
+#include "platform/QtText.h"
 #include "store/Connection.h"
 #include "store/DataFile.h"
 
@@ -152,7 +153,7 @@ void showToolkitsList(PaintWatch& paint) {
   QListWidget list;
   list.setObjectName("list");
   for (int entry = 0; entry < goods::kLooseGoods; ++entry) {
-    list.addItem(QString::fromStdString(goods::name(entry) + " " + goods::barcode(entry)));
+    list.addItem(qtText(goods::name(entry) + " " + goods::barcode(entry)));
   }
   list.setWindowState(Qt::WindowMaximized);
   list.setAttribute(Qt::WA_ShowWithoutActivating);  // the keyboard stays with the sale window

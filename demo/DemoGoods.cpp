@@ -19,7 +19,7 @@ std::string itemNumberFragment(Connection& shop) {
   Rows rows = shop.query("select f_sphh from spda where f_xsdj > 0 order by f_spbm");
   while (rows.next()) {
     const std::string number = rows.text("f_sphh");
-    const std::string fragment = firstCharacters(number, 5);
+    std::string fragment = firstCharacters(number, 5);
     if (characters(fragment) < 2) continue;
     const std::string pattern = "%" + fragment + "%";
     Rows same = shop.query("select count(*) as n from spda where f_sphh like ?", pattern);

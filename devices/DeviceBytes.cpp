@@ -5,6 +5,7 @@
 #include "base/Gbk.h"
 #include "base/NumberText.h"
 #include "platform/PortError.h"
+#include "platform/QtText.h"
 
 namespace device {
 
@@ -27,7 +28,9 @@ std::string displayFigure(Currency money, int mode) {
 std::string displayPort(const std::string& setting) {
   if (setting == "COM1" || setting == "COM2") return setting;
   const auto number = parseWhole32(setting);
-  if (!number) throw PortError("客户显示屏的端口“" + setting + "”不是有效的端口号");
+  if (!number) {
+    throw PortError(PortError::tr("客户显示屏的端口“%1”不是有效的端口号").arg(qtText(setting)));
+  }
   return "COM" + std::to_string(*number);
 }
 

@@ -56,7 +56,7 @@ void TillDriver::send(const std::string& command) {
 
 /// Nothing when the till has gone. Throws when it stands still.
 std::optional<std::string> TillDriver::receiveLine() {
-  for (std::size_t end; (end = received_.find('\n')) == std::string::npos;) {
+  while (received_.find('\n') == std::string::npos) {
     pollfd ready{socket_, POLLIN, 0};
     if (poll(&ready, 1, kStandstillMs) == 0) throw std::runtime_error("the till stands still");
     char bytes[4096];
@@ -65,7 +65,7 @@ std::optional<std::string> TillDriver::receiveLine() {
     received_.append(bytes, std::size_t(got));
   }
   const std::size_t end = received_.find('\n');
-  const std::string line = received_.substr(0, end);
+  std::string line = received_.substr(0, end);
   received_.erase(0, end + 1);
   return line;
 }

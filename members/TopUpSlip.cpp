@@ -2,6 +2,7 @@
 
 #include "saleslib/ClsSysParam.h"
 
+// Papers are Chinese whatever the screens speak.
 PageDocument topUpSlip(const ClsSysParam& shop, const SlipTexts& texts) {
   PageDocument slip;
   slip.name = "充值单";

@@ -15,15 +15,12 @@
 #include "devices/ReceiptPrinter.h"
 #include "members/TopUpSlip.h"
 #include "members/TopUpTexts.h"
+#include "platform/QtText.h"
 #include "platform/VirtualKey.h"
 #include "saleslib/CardNumber.h"
 #include "shell/Modal.h"
 
 namespace {
-
-QString shown(const std::string& text) {
-  return QString::fromStdString(text);
-}
 
 std::string textOf(const QLineEdit* edit) {
   return edit->text().toStdString();
@@ -98,7 +95,7 @@ void cardStored::setUpEnter() {
   onEnter(txtBh_, [this] { findCard(); });
   enterLeads(inMoney_, addMoney_);
   onEnter(addMoney_, [this] {
-    if (const auto after = balanceAfter()) afterMoney_->setText(shown(generalNumber(*after)));
+    if (const auto after = balanceAfter()) afterMoney_->setText(qtText(generalNumber(*after)));
   });
   enterLeads(txtbz_, cmdOk2_);
 }
@@ -126,7 +123,7 @@ void cardStored::findCard() {
   } catch (const Failure&) {
     // A card that cannot be read counts as not found.
   }
-  txtBh_->setText(shown(card ? card->number : storedCardNumber(textOf(txtBh_))));
+  txtBh_->setText(qtText(card ? card->number : storedCardNumber(textOf(txtBh_))));
   if (!card) return;
   if (!card->isEnabled) {
     messageBox(this, topUpRefusal({CardOutcome::kBlocked, *card}));
@@ -138,9 +135,9 @@ void cardStored::findCard() {
 
 void cardStored::showCard(const StoredCard& card) {
   cardFound_ = card.number;
-  txtName_->setText(shown(card.memberName));
-  zklb_->setText(shown(card.discountClass));
-  beforeMoney_->setText(shown(generalNumber(card.balance)));
+  txtName_->setText(qtText(card.memberName));
+  zklb_->setText(qtText(card.discountClass));
+  beforeMoney_->setText(qtText(generalNumber(card.balance)));
   // What was worked out for a card before is not this card's balance.
   afterMoney_->clear();
   txtName_->setEnabled(false);
@@ -175,7 +172,7 @@ std::optional<TopUp> cardStored::entered() {
   if (afterMoney_->text().isEmpty()) {
     const auto after = balanceAfter();
     if (!after) return refuse(addMoney_);
-    afterMoney_->setText(shown(generalNumber(*after)));
+    afterMoney_->setText(qtText(generalNumber(*after)));
   }
   const auto after = money(afterMoney_);
   if (!after) return refuse(afterMoney_);
@@ -183,7 +180,7 @@ std::optional<TopUp> cardStored::entered() {
 }
 
 void cardStored::store() {
-  txtBh_->setText(shown(memberNumber(textOf(txtBh_))));
+  txtBh_->setText(qtText(memberNumber(textOf(txtBh_))));
   if (txtBh_->text().isEmpty()) {
     askForCard();
     return;
@@ -221,6 +218,6 @@ void cardStored::printSlip() {
                           textOf(afterMoney_)};
     ReceiptPrinter::ofSettings(pos_.gPosSet, *pos_.ports)->print(topUpSlip(pos_.gSysParam, texts));
   } catch (const Failure& error) {
-    messageBox(this, QString::fromUtf8(error.what()));
+    messageBox(this, qtText(error.what()));
   }
 }

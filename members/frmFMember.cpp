@@ -14,16 +14,13 @@
 #include "base/Failure.h"
 #include "base/NumberText.h"
 #include "base/Text.h"
+#include "platform/QtText.h"
 #include "saleslib/CardNumber.h"
 #include "saleslib/ClsMember.h"
 #include "shell/DateField.h"
 #include "shell/Modal.h"
 
 namespace {
-
-QString shown(const std::string& text) {
-  return QString::fromStdString(text);
-}
 
 std::string textOf(const QLineEdit* edit) {
   return edit->text().toStdString();
@@ -145,11 +142,11 @@ void frmFMember::enableEntry(bool enabled) {
 
 void frmFMember::numberEntered() {
   const std::string typed = textOf(txtBh_);
-  txtBh_->setText(shown(memberNumber(typed)));
+  txtBh_->setText(qtText(memberNumber(typed)));
   try {
     member_ = pos_.gMemberSvc.GetMember(typed);
   } catch (const Failure& error) {
-    report(QString::fromUtf8(error.what()));
+    report(qtText(error.what()));
     return;
   }
   member_ ? showMember() : startMember();
@@ -172,15 +169,15 @@ void frmFMember::startMember() {
 }
 
 void frmFMember::showMember() {
-  txtBh_->setText(shown(member_->Bh()));
-  txtName_->setText(shown(member_->Name()));
+  txtBh_->setText(qtText(member_->Bh()));
+  txtName_->setText(qtText(member_->Name()));
   txtOld_->setText(QString::number(member_->Age()));
   (member_->Sex() == "男" ? OptBoy_ : OptGirl_)->setChecked(true);
-  txtAddress_->setText(shown(member_->Address()));
+  txtAddress_->setText(qtText(member_->Address()));
   txtPostcode_->setText(QString::number(member_->Points()));
-  txtPhone_->setText(shown(member_->Phone()));
-  txtOther_->setText(shown(member_->Other()));
-  zklb2_->setEditText(shown(generalNumber(member_->Discount())));
+  txtPhone_->setText(qtText(member_->Phone()));
+  txtOther_->setText(qtText(member_->Other()));
+  zklb2_->setEditText(qtText(generalNumber(member_->Discount())));
   // Written for a new member, but not read back.
   for (QLineEdit* edit : {card_, password_, static_cast<QLineEdit*>(DTPicker1_)}) edit->clear();
   cmdCancel_->setFocus();
@@ -189,8 +186,8 @@ void frmFMember::showMember() {
   Label10_->hide();
   lblStatus_->setText(tr("卡状态：%1\r\n累计消费：%2\r\n加入时间：%3")
                           .arg(member_->Enabled() ? tr("可用") : tr("禁用"),
-                               shown(twoDecimals(member_->TotalSpent())),
-                               shown(dateText(member_->JoinDate()))));
+                               qtText(twoDecimals(member_->TotalSpent())),
+                               qtText(dateText(member_->JoinDate()))));
   lblStatus_->show();
   adjustSize();
   centreOnScreen(*this);
@@ -200,12 +197,12 @@ void frmFMember::addMember() {
   try {
     store();
   } catch (const Failure& error) {
-    report(QString::fromUtf8(error.what()));
+    report(qtText(error.what()));
   }
 }
 
 void frmFMember::store() {
-  txtBh_->setText(shown(memberNumber(textOf(txtBh_))));
+  txtBh_->setText(qtText(memberNumber(textOf(txtBh_))));
   // Nothing of an attempt that was refused before.
   member_ = pos_.gMemberSvc.NewMember(pos_.clock);
   member_->setAddress(textOf(txtAddress_));
@@ -230,7 +227,7 @@ void frmFMember::store() {
   member_->setPassword(textOf(password_));
   member_->setSex(OptBoy_->isChecked() ? "男" : "女");
   if (!member_->Save()) {
-    messageBox(this, shown(member_->ErrText()), tr("出错"));
+    messageBox(this, qtText(member_->ErrText()), tr("出错"));
     return;
   }
   pos_.gMemberSvc.AddMember(*member_);

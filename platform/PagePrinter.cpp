@@ -155,7 +155,7 @@ QByteArray pdfOf(const Job& job) {
   buffer.open(QIODevice::WriteOnly);
   QPdfWriter writer(&buffer);
   writer.setTitle(qtText(job.document.name));
-  if (!draw(job, writer)) throw PortError("打印失败：不能生成 PDF");
+  if (!draw(job, writer)) throw PortError(PortError::tr("打印失败：不能生成 PDF"));
   return bytes;
 }
 
@@ -167,20 +167,21 @@ void printToFolder(const Job& job, const std::filesystem::path& folder, const Da
     file.append({pdf.data(), static_cast<std::size_t>(pdf.size())});
     file.finish();
   } catch (const FileError& error) {
-    throw PortError("打印文件夹写不进：" + std::string(error.what()));
+    throw PortError(PortError::tr("打印文件夹写不进：%1").arg(qtText(error.what())));
   } catch (const std::filesystem::filesystem_error& error) {
-    throw PortError("打印文件夹 " + folder.string() + " 写不进：" +
-                    fileFault(error.code().value()));
+    const std::string why = fileFault(error.code().value());
+    throw PortError(
+        PortError::tr("打印文件夹 %1 写不进：%2").arg(qtText(folder.string()), qtText(why)));
   }
 }
 
 void printOnDefaultPrinter(const Job& job) {
   const QPrinterInfo info = QPrinterInfo::defaultPrinter();
-  if (info.isNull()) throw PortError("没有默认打印机");
+  if (info.isNull()) throw PortError(PortError::tr("没有默认打印机"));
   QPrinter printer(info, QPrinter::HighResolution);
   printer.setDocName(qtText(job.document.name));
   if (!draw(job, printer) || printer.printerState() == QPrinter::Error) {
-    throw PortError("打印机 " + info.printerName().toStdString() + " 打印失败");
+    throw PortError(PortError::tr("打印机 %1 打印失败").arg(info.printerName()));
   }
 }
 

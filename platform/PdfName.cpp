@@ -26,8 +26,8 @@ std::int64_t numberIn(std::string_view fileName) {
 }
 
 std::int64_t firstNumberAt(const DateTime& time) {
-  const std::int64_t day = time.date.year * 10000LL + time.date.month * 100 + time.date.day;
-  const std::int64_t clock = time.hour * 10000LL + time.minute * 100 + time.second;
+  const std::int64_t day = time.date.year * 10000LL + time.date.month * 100LL + time.date.day;
+  const std::int64_t clock = time.hour * 10000LL + time.minute * 100LL + time.second;
   return (day * 1000000 + clock) * kJobsPerSecond + 1;
 }
 

@@ -15,6 +15,7 @@
 
 #include "base/SystemFault.h"
 #include "platform/PortError.h"
+#include "platform/QtText.h"
 
 namespace {
 
@@ -134,14 +135,14 @@ PortFile::PortFile(std::string name, std::string path, milliseconds limit)
 
 void PortFile::send(std::string_view bytes) {
   const PipeSignalHeld held;
-  const char* failed = "打不开";
+  const char* failed = QT_TRANSLATE_NOOP("PortError", "端口 %1 打不开：%2");
   try {
     OpenPort port(path_, limit_);
-    failed = "写不进";
+    failed = QT_TRANSLATE_NOOP("PortError", "端口 %1 写不进：%2");
     port.write(bytes);
     port.drain();
   } catch (const std::system_error& error) {
-    throw PortError("端口 " + name_ + " " + failed + "：" +
-                    deviceFault(error.code().value(), path_));
+    const std::string why = deviceFault(error.code().value(), path_);
+    throw PortError(PortError::tr(failed).arg(qtText(name_), qtText(why)));
   }
 }

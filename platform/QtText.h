@@ -1,9 +1,10 @@
 #pragma once
 
+#include <QByteArrayView>
 #include <QString>
-#include <string_view>
 
-/// A text of the rooms below Qt, which is UTF-8, as Qt has it. The way back is toStdString().
-inline QString qtText(std::string_view utf8) {
-  return QString::fromUtf8(utf8.data(), static_cast<qsizetype>(utf8.size()));
+/// A text of the rooms below Qt or of a file, which is UTF-8, as Qt has it; broken bytes become
+/// U+FFFD. The way back is toStdString().
+inline QString qtText(QByteArrayView utf8) {
+  return QString::fromUtf8(utf8);
 }

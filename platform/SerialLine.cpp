@@ -13,18 +13,18 @@ namespace {
 /// About two seconds of the line; a display shows only the latest figure anyway.
 constexpr qint64 kMostWaiting = 512;
 
-std::string reason(const QSerialPort& port) {
+QString reason(const QSerialPort& port) {
   switch (port.error()) {
     case QSerialPort::DeviceNotFoundError:
-      return "没有这个设备（" + port.portName().toStdString() + "）";
+      return PortError::tr("没有这个设备（%1）").arg(port.portName());
     case QSerialPort::PermissionError:
-      return "没有使用权限，或正被别的程序占用";
+      return PortError::tr("没有使用权限，或正被别的程序占用");
     case QSerialPort::NoError:
     case QSerialPort::NotOpenError:
     case QSerialPort::ResourceError:
-      return "设备已断开";
+      return PortError::tr("设备已断开");
     default:
-      return port.errorString().toStdString();
+      return port.errorString();
   }
 }
 
@@ -46,7 +46,7 @@ SerialLine::SerialLine(std::string name, const std::string& path)
   port->setStopBits(QSerialPort::OneStop);
   port->setFlowControl(QSerialPort::NoFlowControl);
   if (!port->open(QIODevice::WriteOnly)) {
-    throw PortError("端口 " + name_ + " 打不开：" + reason(*port));
+    throw PortError(PortError::tr("端口 %1 打不开：%2").arg(qtText(name_), reason(*port)));
   }
   // A line that is gone would report so on every turn of the event loop. It is closed from the
   // loop, because the port is still at work when it reports.
@@ -67,6 +67,6 @@ void SerialLine::send(std::string_view bytes) {
   // At once, because the caller may be busy for a while before the event loop has its turn.
   if (port_->isOpen() && isReady(*port_)) port_->flush();
   if (!port_->isOpen() || port_->error() == QSerialPort::ResourceError) {
-    throw PortError("端口 " + name_ + " 写不进：" + reason(*port_));
+    throw PortError(PortError::tr("端口 %1 写不进：%2").arg(qtText(name_), reason(*port_)));
   }
 }

@@ -2,6 +2,7 @@
 
 #include <utility>
 
+#include "app/TenderTexts.h"
 #include "base/NumberText.h"
 #include "platform/QtText.h"
 
@@ -54,7 +55,7 @@ QVariant DayModel::headerData(int section, Qt::Orientation orientation, int role
                                      tr("收银员")};
   if (orientation != Qt::Horizontal || section < 0 || section >= columnCount()) return {};
   if (role == Qt::DisplayRole)
-    return section < kColumns ? headers[section] : tr(tender(section).name);
+    return section < kColumns ? headers[section] : tenderName(tender(section));
   if (role == Qt::TextAlignmentRole && isFigure(section))
     return int(Qt::AlignRight | Qt::AlignVCenter);
   return {};

@@ -69,7 +69,7 @@ void ExportDialog::arrange() {
 }
 
 QString ExportDialog::name() const {
-  const QString typed = txtName_->text().trimmed();
+  QString typed = txtName_->text().trimmed();
   const QString ending = QFileInfo(typed).suffix().toLower();
   if (typed.isEmpty() || ending == "xlsx" || ending == "csv") return typed;
   return typed + (OptCsv_->isChecked() ? ".csv" : ".xlsx");

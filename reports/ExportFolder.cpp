@@ -1,9 +1,12 @@
 #include "reports/ExportFolder.h"
 
+#include <QCoreApplication>
+
 #include "base/Failure.h"
 #include "base/FileName.h"
 #include "base/OwnerOnly.h"
 #include "platform/IniFile.h"
+#include "platform/QtText.h"
 
 namespace fs = std::filesystem;
 
@@ -17,5 +20,9 @@ void makeExportFolder(const fs::path& folder) {
   std::error_code failed;
   if (fs::is_directory(folder, failed)) return;
   const bool isMade = fs::create_directories(folder, failed) && makeOwnerOnly(folder);
-  if (!isMade) throw Failure("不能新建导出文件夹 " + folder.string() + "，请检查设置和权限。");
+  if (isMade) return;
+  throw Failure(
+      QCoreApplication::translate("ExportFolder", "不能新建导出文件夹 %1，请检查设置和权限。")
+          .arg(qtText(folder.string()))
+          .toStdString());
 }

@@ -6,6 +6,8 @@
 #include "reports/ResultList.h"
 #include "saleslib/ClsSysParam.h"
 
+// Papers are Chinese whatever the screens speak.
+
 namespace {
 
 // In twips.
@@ -30,7 +32,7 @@ std::string totalsLine(const ResultList& list) {
 
 std::vector<std::string> tenderLines(const ResultList& list) {
   std::vector<std::string> lines;
-  for (const TenderSum& tender : list.tenders()) lines.push_back("其中" + tender.text());
+  for (const TenderSum& tender : list.tenders()) lines.push_back(tender.printed());
   return lines;
 }
 

@@ -22,9 +22,9 @@ enum ResultColumn {
 };
 
 struct ResultColumnDesign {
-  const char* header;
-  int width;      ///< in the list, in twips
-  bool isNumber;  ///< compared, aligned and exported as a number
+  const char* header;  ///< as files have it; ResultModel shows it in the screen's language
+  int width;           ///< in the list, in twips
+  bool isNumber;       ///< compared, aligned and exported as a number
 };
 
 const std::array<ResultColumnDesign, kResultColumns>& resultColumns();

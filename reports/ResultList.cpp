@@ -1,5 +1,6 @@
 #include "reports/ResultList.h"
 
+#include <QtGlobal>
 #include <algorithm>
 #include <iterator>
 #include <numeric>
@@ -14,7 +15,9 @@ namespace {
 
 /// Costs and profits are nobody's business at the till.
 constexpr const char* kMasked = "***";
-constexpr const char* kTooLarge = "超出范围";
+/// As files and papers have them; ResultModel shows them in the screen's language.
+constexpr const char* kTooLarge = QT_TRANSLATE_NOOP("ResultModel", "超出范围");
+constexpr const char* kTotals = QT_TRANSLATE_NOOP("ResultModel", "合计");
 
 template <class Number>
 std::string shown(const std::optional<Number>& number) {
@@ -75,7 +78,7 @@ void ResultList::complete() {
 std::string ResultList::text(std::size_t row, ResultColumn column) const {
   const bool masked = column == kColumnCost || column == kColumnProfit;
   if (isTotals(row)) {
-    if (column == kColumnTime) return "合计";
+    if (column == kColumnTime) return kTotals;
     if (column == kColumnQuantity)
       return totalQuantity_ ? std::to_string(*totalQuantity_) : kTooLarge;
     if (column == kColumnMoney) return totalMoney_ ? generalNumber(*totalMoney_) : kTooLarge;

@@ -67,7 +67,10 @@ QVariant ResultModel::data(const QModelIndex& index, int role) const {
   if (!index.isValid()) return {};
   const auto row = static_cast<std::size_t>(index.row());
   const auto column = static_cast<ResultColumn>(index.column());
-  if (role == Qt::DisplayRole) return qtText(list_->text(row, column));
+  if (role == Qt::DisplayRole) {
+    const std::string text = list_->text(row, column);
+    return list_->isTotals(row) ? tr(text.c_str()) : qtText(text);
+  }
   if (role == Qt::ForegroundRole && list_->isTotals(row)) return QColor(Qt::red);
   if (role == Qt::TextAlignmentRole && resultColumns()[column].isNumber)
     return int(Qt::AlignRight | Qt::AlignVCenter);

@@ -91,6 +91,7 @@ std::string tenderStatement(const SearchCriteria& criteria,
          kFrom + condition(criteria).value() + ")";
 }
 
+// Files are Chinese whatever the screens speak.
 std::vector<std::string> criteriaText(const SearchCriteria& criteria) {
   std::string rest = criteria.byCategory ? "按分类查看：" + criteria.category : "按单品查看";
   if (!criteria.code.empty()) {

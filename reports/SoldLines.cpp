@@ -1,6 +1,6 @@
 #include "reports/SoldLines.h"
 
-#include <QString>
+#include <QCoreApplication>
 #include <array>
 #include <utility>
 
@@ -20,7 +20,9 @@ std::string soundText(const std::string& text) {
 
 std::optional<std::int32_t> billNumber(std::optional<std::int64_t> number) {
   if (!number) return std::nullopt;
-  if (*number < INT32_MIN || *number > INT32_MAX) throw Overflow("单号超出范围。");
+  if (*number < INT32_MIN || *number > INT32_MAX) {
+    throw Overflow(QCoreApplication::translate("SoldLines", "单号超出范围。").toStdString());
+  }
   return static_cast<std::int32_t>(*number);
 }
 

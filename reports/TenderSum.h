@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QString>
 #include <optional>
 #include <string>
 #include <vector>
@@ -15,7 +16,14 @@ struct TenderSum {
   const TenderKind* kind;
   std::optional<Currency> sum;  ///< nothing when it does not fit
 
-  std::string text() const;  ///< "扫码 [88.50] 元"
+  /// For papers and files: "其中扫码 [88.50] 元".
+  std::string printed() const;
+  /// The same for screens, in their language: a sentence of tr() with the name as %1, the sum as
+  /// %2.
+  QString shown(const QString& sentence) const;
 };
+
+/// The sum for screens, or that it does not fit.
+QString shownSum(const std::optional<Currency>& sum);
 
 std::vector<TenderSum> tenderSums(const ClsDayStat& day, const ClsSysParam& rules);

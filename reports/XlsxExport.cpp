@@ -2,6 +2,7 @@
 
 #include <xlsxwriter.h>
 
+#include <QCoreApplication>
 #include <algorithm>
 #include <array>
 #include <cerrno>
@@ -40,17 +41,20 @@ lxw_datetime spreadsheetTime(const DateTime& time) {
 
 /// One workbook with one sheet, whose rows go to the disk as they are written.
 class Sheet {
+  Q_DECLARE_TR_FUNCTIONS(XlsxExport)
+
  public:
   Sheet(WholeFile& file, std::size_t rows) : file_(file) {
     if (rows > LXW_ROW_MAX) {
-      file_.fail("表格文件最多 " + std::to_string(LXW_ROW_MAX) + " 行，请改存为 .csv 文件。");
+      fail(tr("表格文件最多 %1 行，请改存为 .csv 文件。").arg(LXW_ROW_MAX));
     }
     lxw_workbook_options options{};
     options.constant_memory = LXW_TRUE;
     book_.reset(workbook_new_opt(file.path().c_str(), &options));
-    if (!book_) file_.fail("内存不足。");
+    if (!book_) fail(tr("内存不足。"));
+    // Files are Chinese whatever the screens speak.
     sheet_ = workbook_add_worksheet(book_.get(), "商品查询");
-    if (!sheet_) file_.fail("内存不足。");
+    if (!sheet_) fail(tr("内存不足。"));
     makeFormats();
   }
 
@@ -102,8 +106,9 @@ class Sheet {
     format_set_num_format(time_, "yyyy-mm-dd hh:mm:ss");
   }
 
+  [[noreturn]] void fail(const QString& why) const { file_.fail(why.toStdString()); }
   void check(lxw_error error) const {
-    if (error != LXW_NO_ERROR) file_.fail("表格组件出错（" + std::to_string(error) + "）。");
+    if (error != LXW_NO_ERROR) fail(tr("表格组件出错（%1）。").arg(error));
   }
 
   WholeFile& file_;

@@ -10,6 +10,7 @@
 #include "app/posMod.h"
 #include "base/NumberText.h"
 #include "platform/PortError.h"
+#include "platform/QtText.h"
 #include "platform/Twips.h"
 #include "reports/DayModel.h"
 #include "reports/ShiftSheet.h"
@@ -84,22 +85,22 @@ void frmCount::build() {
 }
 
 void frmCount::init() {
-  Label1_->setText(QString::fromStdString(pos_.gOperator->Name()) + tr("今日销售统计表"));
+  Label1_->setText(tr("%1今日销售统计表").arg(qtText(pos_.gOperator->Name())));
   show(pos_.billBooks().today());
   centreOnScreen(*this);
   exec();
 }
 
 void frmCount::show(const ClsDayStat& day) {
-  model_->show(day.Sells(), QString::fromStdString(pos_.gOperator->Name()));
-  QString summary = tr("今日累计发生 [%1] 笔交易，共交易 [%2] 件商品，交易额 [%3] 元")
-                        .arg(QString::number(day.Sells().size()),
-                             QString::fromStdString(generalNumber(day.SumQuantity())),
-                             QString::fromStdString(sumText(day.SumMoney())));
+  model_->show(day.Sells(), qtText(pos_.gOperator->Name()));
+  QString parts;
   for (const TenderSum& tender : tenderSums(day, pos_.gSysParam)) {
-    summary += tr("，其中%1").arg(QString::fromStdString(tender.text()));
+    parts += tender.shown(tr("，其中%1 [%2] 元", "part of the day's sum, behind it"));
   }
-  lblMsg_->setText(summary);
+  lblMsg_->setText(tr("今日累计发生 [%1] 笔交易，共交易 [%2] 件商品，交易额 [%3] 元%4")
+                       .arg(QString::number(day.Sells().size()),
+                            qtText(generalNumber(day.SumQuantity())), shownSum(day.SumMoney()),
+                            parts));
 }
 
 void frmCount::printSheet() {
@@ -107,6 +108,6 @@ void frmCount::printSheet() {
     const ShiftSheet sheet = sheetOf(pos_.billBooks().today(), pos_.gSysParam);
     ReceiptPrinter::ofSettings(pos_.gPosSet, *pos_.ports)->print(sheet.document());
   } catch (const PortError& error) {
-    messageBox(this, QString::fromUtf8(error.what()));
+    messageBox(this, qtText(error.what()));
   }
 }

@@ -14,6 +14,7 @@
 #include "devices/ReceiptPrinter.h"
 #include "platform/KeyName.h"
 #include "platform/PortError.h"
+#include "platform/QtText.h"
 #include "platform/Twips.h"
 #include "platform/VirtualKey.h"
 #include "reports/ExportDialog.h"
@@ -37,6 +38,9 @@ constexpr int kEdge = 100;
 
 constexpr int kAround = 24;    // pixels left free around the form, which else fills the screen
 constexpr int kBlankKey = 32;  // virtual-key code
+
+/// Of the file and in it, whatever the screens speak.
+constexpr const char* kExportTitle = "商品查询";
 
 /// The key as people call it; its code when it has no name.
 QString shownKey(int key) {
@@ -85,7 +89,7 @@ void frmSearch::load() {
   Frame5_->Dtfinish->setDate(today);
   const QString choose = Frame5_->Combo1->currentText();
   for (const std::string& category : goodsCategories(*pos_.gConn))
-    Frame5_->Combo1->addItem(QString::fromStdString(category));
+    Frame5_->Combo1->addItem(qtText(category));
   Frame5_->Combo1->setEditText(choose);
   const KeyBoard& keys = pos_.gKeyBoard;
   Frame5_->showIdle(tr("%1：查询　%2：退出").arg(shownKey(keys.mEnter), shownKey(keys.mEsc)));
@@ -166,7 +170,7 @@ void frmSearch::search() {
     return;
   }
   asked_ = wanted;
-  Frame5_->showWork(tr("正在查询…") + howToStop(), 0, 0);
+  Frame5_->showWork(tr("正在查询…按 %1 停止").arg(escKey()), 0, 0);
   const auto kinds = optionalTenders(pos_.gSysParam);
   query_->start({*statement, kinds, tenderStatement(wanted, kinds)});
 }
@@ -177,17 +181,19 @@ bool frmSearch::takesSlips() const {
 
 void frmSearch::addPage(const SoldPage& page) {
   ListView1_->append(page);
-  Frame5_->showWork(tr("已找到 %L1 行，").arg(ListView1_->lineCount()) + howToStop(), 0, 0);
+  const QString found = tr("已找到 %L1 行，按 %2 停止");
+  Frame5_->showWork(found.arg(ListView1_->lineCount()).arg(escKey()), 0, 0);
 }
 
 void frmSearch::showAll() {
   ListView1_->complete();
   found_ = asked_;
-  QString state = tr("共 %L1 行。在列表中按空格键排序。").arg(ListView1_->lineCount());
+  QString parts;
   for (const TenderSum& tender : ListView1_->list()->tenders()) {
-    state += tr("其中%1。").arg(QString::fromStdString(tender.text()));
+    parts += tender.shown(tr("其中%1 [%2] 元。", "part of all lines' sum, behind their number"));
   }
-  Frame5_->showIdle(state);
+  Frame5_->showIdle(
+      tr("共 %L1 行。在列表中按空格键排序。%2").arg(ListView1_->lineCount()).arg(parts));
   if (std::exchange(printWhenFound_, false)) printReceipt();
 }
 
@@ -209,8 +215,8 @@ void frmSearch::sortBy(int column) {
   ListView1_->sortBy(column);
 }
 
-QString frmSearch::howToStop() const {
-  return tr("按 %1 停止").arg(shownKey(pos_.gKeyBoard.mEsc));
+QString frmSearch::escKey() const {
+  return shownKey(pos_.gKeyBoard.mEsc);
 }
 
 /// Whether there is a whole list to work on; else says so.
@@ -244,7 +250,7 @@ void frmSearch::reprintLastBill() {
     search();
     printWhenFound_ = true;
   } catch (const Failure& failure) {
-    messageBox(this, QString::fromUtf8(failure.what()));
+    messageBox(this, qtText(failure.what()));
   }
 }
 
@@ -253,37 +259,35 @@ void frmSearch::print(const Document& document) {
   try {
     ReceiptPrinter::ofSystem(pos_.gPosSet, *pos_.ports)->print(document);
   } catch (const PortError& error) {
-    messageBox(this, QString::fromUtf8(error.what()));
+    messageBox(this, qtText(error.what()));
   }
 }
 
 void frmSearch::exportList() {
   if (!hasList(tr("没有可导出的内容！"))) return;
-  const QString today = QString::fromStdString(dateText(pos_.clock().date));
-  ExportDialog dialog(pos_.gKeyBoard, exportFolder(pos_.configIni, pos_.folder),
-                      tr("商品查询 %1").arg(today), this);
+  const QString name = qtText(kExportTitle) + ' ' + qtText(dateText(pos_.clock().date));
+  ExportDialog dialog(pos_.gKeyBoard, exportFolder(pos_.configIni, pos_.folder), name, this);
   if (dialog.exec() == QDialog::Accepted) exportTo(dialog.file());
 }
 
 void frmSearch::exportTo(const std::filesystem::path& file) {
   std::vector<std::string> above = criteriaText(found_);
-  above.insert(above.begin(), windowTitle().toStdString());
-  for (const TenderSum& tender : ListView1_->list()->tenders()) {
-    above.push_back("其中" + tender.text());
-  }
+  above.insert(above.begin(), kExportTitle);
+  for (const TenderSum& tender : ListView1_->list()->tenders()) above.push_back(tender.printed());
   const std::shared_ptr<const ResultList> list = ListView1_->list();
   const int all = static_cast<int>(list->rowCount());
+  const QString state = tr("正在导出…按 %1 停止").arg(escKey());
   const auto show = [&](std::size_t rows) {
-    Frame5_->showWork(tr("正在导出…") + howToStop(), static_cast<int>(rows), all);
+    Frame5_->showWork(state, static_cast<int>(rows), all);
   };
   show(0);
   try {
     makeExportFolder(file.parent_path());
     const bool isWhole = export_.write(file, {above, *list}, show);
-    const QString shown = QString::fromStdString(file.string());
+    const QString shown = qtText(file.string());
     Frame5_->showIdle(isWhole ? tr("已导出 %1").arg(shown) : tr("导出已停止"));
   } catch (const Failure& error) {
     Frame5_->showIdle({});
-    messageBox(this, QString::fromUtf8(error.what()));
+    messageBox(this, qtText(error.what()));
   }
 }

@@ -45,7 +45,7 @@ class frmSearch : public KeyDrivenDialog {
   void stopQuery();
   void showFailure(const QString& why);
   void sortBy(int column);
-  QString howToStop() const;
+  QString escKey() const;
 
   bool hasList(const QString& otherwise);
   void printReport();

@@ -8,12 +8,9 @@
 #include "devices/CashDrawer.h"
 #include "devices/CustomerDisplay.h"
 #include "devices/ReceiptPrinter.h"
+#include "platform/QtText.h"
 
 namespace {
-
-QString portText(const std::string& port) {
-  return QString::fromStdString(port);
-}
 
 Currency testFigure() {
   return Currency::fromScaled(88888800);
@@ -25,7 +22,7 @@ DeviceTest::DeviceTest(const Ports& ports, const ClsPosSet& settings, Clock cloc
     : ports_(ports),
       settings_(settings),
       clock_(std::move(clock)),
-      report_([this](const std::string& text) { fault_ = QString::fromStdString(text); }),
+      report_([this](const std::string& text) { fault_ = qtText(text); }),
       display_(std::make_unique<CustomerDisplay>(settings, ports, report_)) {}
 
 DeviceTest::~DeviceTest() = default;
@@ -46,7 +43,8 @@ DeviceTest::Result DeviceTest::result(const QString& device, const std::string& 
   return {device, fault_.isEmpty() ? done : fault_, !fault_.isEmpty()};
 }
 
-// As wide as the paper, so that the paper model can be judged too.
+// As wide as the paper, so that the paper model can be judged too. Papers are Chinese whatever the
+// screens speak.
 QString DeviceTest::tryPrinter() {
   const auto printer = ReceiptPrinter::ofSettings(settings_, ports_);
   const auto columns = static_cast<std::size_t>(printer->paper().line);
@@ -57,20 +55,19 @@ QString DeviceTest::tryPrinter() {
     // Four empty lines move the test line out from under the cover.
     printer->printLines({line, "", "", "", ""});
   });
-  return isPage ? tr("测试行已送到系统打印机")
-                : tr("测试行已送到 %1").arg(portText(settings_.PPort));
+  return isPage ? tr("测试行已送到系统打印机") : tr("测试行已送到 %1").arg(qtText(settings_.PPort));
 }
 
 QString DeviceTest::tryDisplay() {
   if (!CustomerDisplay::isKnownModel(settings_.CVModel)) return tr("没有选定客显型号，未测试");
   display_->OpenDisplayPort();
   display_->clientView(testFigure(), CustomerDisplay::kTotal);
-  return tr("8888.88 已送到 %1").arg(portText(display_->port()));
+  return tr("8888.88 已送到 %1").arg(qtText(display_->port()));
 }
 
 QString DeviceTest::tryDrawer() {
   CashDrawer drawer(settings_, ports_, *display_, report_);
   const bool throughDisplay = drawer.OpenDrawer() == CashDrawer::Way::kThroughDisplay;
   const QString sent = throughDisplay ? tr("开箱信号已通过客显送到 %1") : tr("开箱信号已送到 %1");
-  return sent.arg(portText(settings_.MBPort));
+  return sent.arg(qtText(settings_.MBPort));
 }

@@ -1,55 +1,65 @@
 #include "settings/KeyFunctions.h"
 
-#include <QCoreApplication>
 #include <utility>
 
 namespace {
-
-QString translated(const char* text) {
-  return QCoreApplication::translate("KeyFunction", text);
-}
 
 /// All functions with their keys, those too that cannot be chosen. mF7 does nothing.
 std::vector<std::pair<int, QString>> uses(const KeyBoard& keys) {
   std::vector<std::pair<int, QString>> all;
   for (const KeyFunction& function : keyFunctions())
     all.emplace_back(keys.*function.field, function.name());
-  all.emplace_back(keys.mF3, translated("增加会员"));
-  all.emplace_back(keys.mF8, translated("销售查询"));
+  all.emplace_back(keys.mF3, KeyFunction::tr("增加会员"));
+  all.emplace_back(keys.mF8, KeyFunction::tr("销售查询"));
   return all;
 }
 
 }  // namespace
 
 QString KeyFunction::label() const {
-  return translated(caption);
-}
-
-QString KeyFunction::onSaleScreen() const {
-  return translated(effect);
+  return tr("%1(%2)：", "caption of a key's box: its name and its access key").arg(name(), access);
 }
 
 QString KeyFunction::name() const {
-  return label().section('(', 0, 0);
+  return tr(named);
+}
+
+QString KeyFunction::onSaleScreen() const {
+  return tr(effect);
 }
 
 const std::array<KeyFunction, 15>& keyFunctions() {
   static const std::array<KeyFunction, 15> all = {{
-      {"txtEnter", "确定(&Y)：", &KeyBoard::mEnter, "录入、空行结账", 0, 0},
-      {"txtEsc", "取消(&C)：", &KeyBoard::mEsc, "退出销售", 0, 1},
-      {"txtF1", "结账(&1)：", &KeyBoard::mF1, "结账", 1, 0},
-      {"txtF2", "会员卡(&2)：", &KeyBoard::mF2, "刷会员卡", 1, 1},
-      {"txtF4", "删除(&3)：", &KeyBoard::mF4, "删除最后一行", 1, 2},
-      {"txtF5", "挂起(&4)：", &KeyBoard::mF5, "挂单", 2, 0},
-      {"txtF6", "增加新会员(&5)：", &KeyBoard::mF6, "取单", 2, 1},
-      {"txtF9", "功能(&6)：", &KeyBoard::mF9, "会员充值", 2, 2},
-      {"txtF10", "开箱(&7)：", &KeyBoard::mF10, "开钱箱", 3, 0},
-      {"txtF11", "查找商品(&8)：", &KeyBoard::mF11, "销售查询", 3, 1},
-      {"txtF12", "撤消(&9)：", &KeyBoard::mF12, "整单撤消", 3, 2},
-      {"txtUp", "向上(U)：", &KeyBoard::mUp, "改最后一行", 4, 0},
-      {"txtDown", "向下(&D)：", &KeyBoard::mDown, "回到录入", 4, 1},
-      {"txtLeft", "向左(&L)：", &KeyBoard::mLeft, "左移一栏", 4, 2},
-      {"txtRight", "向右(&R)：", &KeyBoard::mRight, "右移一栏", 5, 0},
+      {"txtEnter", QT_TRANSLATE_NOOP("KeyFunction", "确定"), "&Y", &KeyBoard::mEnter,
+       QT_TRANSLATE_NOOP("KeyFunction", "录入、空行结账"), 0, 0},
+      {"txtEsc", QT_TRANSLATE_NOOP("KeyFunction", "取消"), "&C", &KeyBoard::mEsc,
+       QT_TRANSLATE_NOOP("KeyFunction", "退出销售"), 0, 1},
+      {"txtF1", QT_TRANSLATE_NOOP("KeyFunction", "结账"), "&1", &KeyBoard::mF1,
+       QT_TRANSLATE_NOOP("KeyFunction", "结账"), 1, 0},
+      {"txtF2", QT_TRANSLATE_NOOP("KeyFunction", "会员卡"), "&2", &KeyBoard::mF2,
+       QT_TRANSLATE_NOOP("KeyFunction", "刷会员卡"), 1, 1},
+      {"txtF4", QT_TRANSLATE_NOOP("KeyFunction", "删除"), "&3", &KeyBoard::mF4,
+       QT_TRANSLATE_NOOP("KeyFunction", "删除最后一行"), 1, 2},
+      {"txtF5", QT_TRANSLATE_NOOP("KeyFunction", "挂起"), "&4", &KeyBoard::mF5,
+       QT_TRANSLATE_NOOP("KeyFunction", "挂单"), 2, 0},
+      {"txtF6", QT_TRANSLATE_NOOP("KeyFunction", "增加新会员"), "&5", &KeyBoard::mF6,
+       QT_TRANSLATE_NOOP("KeyFunction", "取单"), 2, 1},
+      {"txtF9", QT_TRANSLATE_NOOP("KeyFunction", "功能"), "&6", &KeyBoard::mF9,
+       QT_TRANSLATE_NOOP("KeyFunction", "会员充值"), 2, 2},
+      {"txtF10", QT_TRANSLATE_NOOP("KeyFunction", "开箱"), "&7", &KeyBoard::mF10,
+       QT_TRANSLATE_NOOP("KeyFunction", "开钱箱"), 3, 0},
+      {"txtF11", QT_TRANSLATE_NOOP("KeyFunction", "查找商品"), "&8", &KeyBoard::mF11,
+       QT_TRANSLATE_NOOP("KeyFunction", "销售查询"), 3, 1},
+      {"txtF12", QT_TRANSLATE_NOOP("KeyFunction", "撤消"), "&9", &KeyBoard::mF12,
+       QT_TRANSLATE_NOOP("KeyFunction", "整单撤消"), 3, 2},
+      {"txtUp", QT_TRANSLATE_NOOP("KeyFunction", "向上"), "U", &KeyBoard::mUp,
+       QT_TRANSLATE_NOOP("KeyFunction", "改最后一行"), 4, 0},
+      {"txtDown", QT_TRANSLATE_NOOP("KeyFunction", "向下"), "&D", &KeyBoard::mDown,
+       QT_TRANSLATE_NOOP("KeyFunction", "回到录入"), 4, 1},
+      {"txtLeft", QT_TRANSLATE_NOOP("KeyFunction", "向左"), "&L", &KeyBoard::mLeft,
+       QT_TRANSLATE_NOOP("KeyFunction", "左移一栏"), 4, 2},
+      {"txtRight", QT_TRANSLATE_NOOP("KeyFunction", "向右"), "&R", &KeyBoard::mRight,
+       QT_TRANSLATE_NOOP("KeyFunction", "右移一栏"), 5, 0},
   }};
   return all;
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QCoreApplication>
 #include <QString>
 #include <array>
 #include <map>
@@ -9,14 +10,18 @@
 
 /// A function of the sale screen whose key can be chosen.
 struct KeyFunction {
-  const char* box;      ///< name of its box in the keyboard dialog
-  const char* caption;  ///< with the access key: "会员卡(&2)："
+  Q_DECLARE_TR_FUNCTIONS(KeyFunction)
+
+ public:
+  const char* box;     ///< name of its box in the keyboard dialog
+  const char* named;   ///< "会员卡"
+  const char* access;  ///< its access key there: "&2"
   int KeyBoard::*field;
   const char* effect;  ///< what it does on the sale screen: "取单"
   int row;             ///< its place in the dialog's grid, from 0
   int column;
 
-  QString label() const;  ///< the caption for its label
+  QString label() const;  ///< the caption of its box: "会员卡(&2)："
   QString name() const;   ///< for texts: "会员卡"
   QString onSaleScreen() const;
 };

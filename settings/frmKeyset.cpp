@@ -175,7 +175,7 @@ void frmKeyset::showSharedKeys() {
   for (const auto& [code, names] : shared)
     texts +=
         tr("%1：%2").arg(keyText(code), QStringList(names.begin(), names.end()).join(tr("、")));
-  lblShared_->setText(texts.isEmpty() ? QString() : tr("一键多用　") + texts.join(tr("；")));
+  lblShared_->setText(texts.isEmpty() ? QString() : tr("一键多用　%1").arg(texts.join(tr("；"))));
   quickKeys_->setFunctionKeys(functionKeys(keys));
   markShared(*lblNote_, quickKeys_->usesFunctionKey());
 }

@@ -19,7 +19,7 @@ using Number = int ClsPosSet::*;
 struct frmPosSet::Choice {
   const char* caption;
   const char* list;
-  std::vector<const char*> entries;  ///< stored as they are shown, so never translated
+  std::vector<const char*> entries;  ///< as they are stored; shown in the screen's language
   const char* hint;
   std::variant<Text, Number> setting;  ///< the entry's text, or its position
   int firstPosition = 0;               ///< what the first entry's position is stored as
@@ -28,16 +28,17 @@ struct frmPosSet::Choice {
 namespace {
 
 /// Stored as an empty text.
-constexpr const char* kNone = "无";
+constexpr const char* kNone = QT_TRANSLATE_NOOP("frmPosSet", "无");
 
 void showText(QComboBox& list, const std::string& setting) {
   const QString text = qtText(setting);
-  if (!text.isEmpty() && list.findText(text) < 0) list.addItem(text);
-  list.setCurrentIndex(text.isEmpty() ? 0 : list.findText(text));
+  if (!text.isEmpty() && list.findData(text) < 0) list.addItem(text, text);
+  list.setCurrentIndex(text.isEmpty() ? 0 : list.findData(text));
 }
 
 std::string chosenText(const QComboBox& list) {
-  return list.currentText() == kNone ? std::string() : list.currentText().toStdString();
+  const QString entry = list.currentData().toString();
+  return entry == kNone ? std::string() : entry.toStdString();
 }
 
 }  // namespace
@@ -49,16 +50,23 @@ const std::vector<frmPosSet::Choice>& frmPosSet::choices() {
        {kNone, "LPT1", "LPT2", "USB"},
        QT_TR_NOOP("“无”表示不印小票"),
        &ClsPosSet::PPort},
-      {QT_TR_NOOP("小票打印机类型："), "cobPModel", {"宽行", "窄行"}, "", &ClsPosSet::PModel, 1},
+      {QT_TR_NOOP("小票打印机类型："),
+       "cobPModel",
+       {QT_TR_NOOP("宽行"), QT_TR_NOOP("窄行")},
+       "",
+       &ClsPosSet::PModel,
+       1},
       {QT_TR_NOOP("小票打印动作："),
        "printAmount",
-       {"不打印", "直接打印1联", "直接打印2联", "直接打印3联", "打印前提示默认'是'",
-        "打印前提示默认'否'"},
+       {QT_TR_NOOP("不打印"), QT_TR_NOOP("直接打印1联"), QT_TR_NOOP("直接打印2联"),
+        QT_TR_NOOP("直接打印3联"), QT_TR_NOOP("打印前提示默认'是'"),
+        QT_TR_NOOP("打印前提示默认'否'")},
        "",
        &ClsPosSet::printAmount},
       {QT_TR_NOOP("小票打印选项："),
        "printOption",
-       {"打印商品前7个字简称", "打印编码+商品全称", "打印商品全称", "打印商品全称+折扣"},
+       {QT_TR_NOOP("打印商品前7个字简称"), QT_TR_NOOP("打印编码+商品全称"),
+        QT_TR_NOOP("打印商品全称"), QT_TR_NOOP("打印商品全称+折扣")},
        "",
        &ClsPosSet::printOption},
       {QT_TR_NOOP("钱箱所在端口："),
@@ -73,11 +81,15 @@ const std::vector<frmPosSet::Choice>& frmPosSet::choices() {
        &ClsPosSet::CVProt},
       {QT_TR_NOOP("客显型号："),
        "cobCVModel",
-       {"中崎ZQ-8DL", "川田PDLED8C"},
+       {QT_TR_NOOP("中崎ZQ-8DL"), QT_TR_NOOP("川田PDLED8C")},
        "",
        &ClsPosSet::CVModel,
        1},
-      {QT_TR_NOOP("是否启用鼠标："), "cobVMouse", {"否", "是"}, "", &ClsPosSet::VMouse},
+      {QT_TR_NOOP("是否启用鼠标："),
+       "cobVMouse",
+       {QT_TR_NOOP("否"), QT_TR_NOOP("是")},
+       "",
+       &ClsPosSet::VMouse},
   };
   return all;
 }
@@ -113,7 +125,7 @@ frmPosSet::frmPosSet(posMod& pos, QWidget* parent)
 void frmPosSet::addRow(QGridLayout& grid, const Choice& choice) {
   auto* list = new QComboBox;
   list->setObjectName(choice.list);
-  for (const char* entry : choice.entries) list->addItem(entry);
+  for (const char* entry : choice.entries) list->addItem(tr(entry), entry);
   if (const Text* text = std::get_if<Text>(&choice.setting)) {
     showText(*list, pos_.gPosSet.**text);
   } else {

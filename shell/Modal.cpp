@@ -48,7 +48,7 @@ void messageBox(QWidget* parent, const QString& text, const QString& title) {
 void messageBox(QWidget* parent, const QString& text, const QString& title, BoxIcon icon) {
   QMessageBox box(parent);
   fill(box, text, title, icon);
-  QPushButton* ok = addButton(box, "确定", QMessageBox::AcceptRole);
+  QPushButton* ok = addButton(box, QT_TRANSLATE_NOOP("Modal", "确定"), QMessageBox::AcceptRole);
   box.setDefaultButton(ok);
   box.setEscapeButton(ok);
   box.exec();
@@ -57,8 +57,8 @@ void messageBox(QWidget* parent, const QString& text, const QString& title, BoxI
 bool askYesNo(QWidget* parent, const QString& text, const QString& title, bool yesPreselected) {
   QMessageBox box(parent);
   fill(box, text, title, BoxIcon::kQuestion);
-  QPushButton* yes = addButton(box, "是(&Y)", QMessageBox::YesRole);
-  QPushButton* no = addButton(box, "否(&N)", QMessageBox::NoRole);
+  QPushButton* yes = addButton(box, QT_TRANSLATE_NOOP("Modal", "是(&Y)"), QMessageBox::YesRole);
+  QPushButton* no = addButton(box, QT_TRANSLATE_NOOP("Modal", "否(&N)"), QMessageBox::NoRole);
   box.setDefaultButton(yesPreselected ? yes : no);
   box.setEscapeButton(no);
   box.exec();

@@ -8,6 +8,7 @@
 #include <cmath>
 
 #include "base/Failure.h"
+#include "platform/QtText.h"
 
 namespace {
 
@@ -16,7 +17,7 @@ constexpr int kPointSize = 14;
 QString styleSheet() {
   QFile file(":/shell/style.qss");
   ensure(file.open(QIODevice::ReadOnly), "the style sheet is built into the program");
-  return QString::fromUtf8(file.readAll());
+  return qtText(file.readAll());
 }
 
 /// One colour channel as the eye weighs it (sRGB, IEC 61966-2-1).

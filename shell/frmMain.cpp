@@ -29,11 +29,6 @@ constexpr int kMenuGap = 12;  // between the main menu and the further one besid
 const char* const kExit = "exit";
 const char* const kEnd = "end";
 
-QString longDate(const Date& date) {
-  const QDate day(date.year, date.month, date.day);
-  return QLocale(QLocale::Chinese, QLocale::China).toString(day, "yyyy年M月d日  dddd");
-}
-
 }  // namespace
 
 frmMain::frmMain(posMod& pos, std::map<QString, Screen> screens, QWidget* parent)
@@ -132,7 +127,7 @@ QString frmMain::menuFooter() const {
     if (name.size() > kLongestName) name = name.left(kLongestName - 1) + QChar(0x2026);
     person = tr("操作员：%1").arg(name);
   }
-  return tr("菜单键 / 右键：更多功能") + tr("（或 F10）") + "　" + person;
+  return tr("菜单键 / 右键：更多功能（或 F10）　%1").arg(person);
 }
 
 void frmMain::showFurtherMenu() {
@@ -197,19 +192,19 @@ void frmMain::closeEvent(QCloseEvent* event) {
 
 void frmMain::endOfWork() {
   QStringList done, notDone;
-  const auto attempt = [&](const QString& name, const auto& step) {
+  const auto attempt = [&](const QString& success, const QString& failed, const auto& step) {
     try {
-      if (step()) done += tr("%1已完成。").arg(name);
+      if (step()) done += success;
     } catch (const Failure& failure) {
-      notDone += tr("%1没有完成：%2").arg(name, qtText(failure.what()));
+      notDone += failed.arg(qtText(failure.what()));
     }
   };
-  attempt(tr("操作员注销"), [this] {
+  attempt(tr("操作员注销已完成。"), tr("操作员注销没有完成：%1"), [this] {
     const bool someone = pos_.gOperator != nullptr;
     pos_.logOff();
     return someone;
   });
-  attempt(tr("数据备份"), [this] {
+  attempt(tr("数据备份已完成。"), tr("数据备份没有完成：%1"), [this] {
     const bool wanted = pos_.wantsBackUp();
     if (wanted) pos_.backUp();
     return wanted;
@@ -239,7 +234,9 @@ void frmMain::paintEvent(QPaintEvent*) {
   large.setPixelSize(height() / 36);
   painter.setFont(large);
   dateShown_ = pos_.clock().date;
-  painter.drawText(QRect(0, line, width(), height() / 15), Qt::AlignCenter, longDate(dateShown_));
+  const QDate day(dateShown_.year, dateShown_.month, dateShown_.day);
+  painter.drawText(QRect(0, line, width(), height() / 15), Qt::AlignCenter,
+                   QLocale().toString(day, tr("yyyy年M月d日  dddd", "date format")));
   paintVersion(painter);
 }
 

@@ -25,6 +25,6 @@ bool TillApplication::notify(QObject* receiver, QEvent* event) {
 void TillApplication::showFailure(const std::exception& failure) {
   const QString text = qtText(failure.what());
   const bool forPeople = dynamic_cast<const Failure*>(&failure) != nullptr;
-  messageBox(nullptr, forPeople ? text : tr("程序出错，必须结束：") + text, {},
+  messageBox(nullptr, forPeople ? text : tr("程序出错，必须结束：%1").arg(text), {},
              BoxIcon::kExclamation);
 }
