@@ -7,7 +7,7 @@
 
 #include "base/Failure.h"
 #include "base/FileName.h"
-#include "base/OwnerOnly.h"
+#include "base/PrivateFile.h"
 #include "platform/MousePointer.h"
 #include "saleslib/BillBooks.h"
 #include "saleslib/ClsRights.h"
@@ -18,8 +18,8 @@
 #include "store/DataFileCopy.h"
 #include "store/DataFileLock.h"
 
-posMod::posMod(std::filesystem::path programFolder, Clock presentTime)
-    : folder(std::move(programFolder)),
+posMod::posMod(std::filesystem::path shopFolder, Clock presentTime)
+    : folder(std::move(shopFolder)),
       clock(std::move(presentTime)),
       configIni(folder / "Config.ini"),
       ports(std::make_unique<Ports>(configIni)) {}
@@ -72,7 +72,7 @@ std::string posMod::protectFiles() const {
   if (configured && !DataSource::parse(*configured).password.empty())
     others.emplace_back(findIgnoringCase((folder / "Config.ini").string()));
   std::copy_if(others.begin(), others.end(), std::back_inserter(exposed),
-               [](const auto& file) { return !makeOwnerOnly(file); });
+               [](const auto& file) { return !makePrivate(file); });
   if (exposed.empty()) return {};
   std::string text = "下列文件别人也能读写，本程序无权更改，请让管理员收回权限：";
   for (const auto& file : exposed) text += "\n" + file.string();

@@ -2,7 +2,7 @@
 
 #include "base/Failure.h"
 #include "base/FileName.h"
-#include "base/OwnerOnly.h"
+#include "base/PrivateFile.h"
 #include "platform/IniFile.h"
 
 namespace fs = std::filesystem;
@@ -16,6 +16,6 @@ fs::path exportFolder(const IniFile& settings, const fs::path& programFolder) {
 void makeExportFolder(const fs::path& folder) {
   std::error_code failed;
   if (fs::is_directory(folder, failed)) return;
-  const bool isMade = fs::create_directories(folder, failed) && makeOwnerOnly(folder);
+  const bool isMade = fs::create_directories(folder, failed) && makePrivate(folder);
   if (!isMade) throw Failure("不能新建导出文件夹 " + folder.string() + "，请检查设置和权限。");
 }
