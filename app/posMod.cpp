@@ -8,7 +8,7 @@
 
 #include "base/Failure.h"
 #include "base/FileName.h"
-#include "base/OwnerOnly.h"
+#include "base/PrivateFile.h"
 #include "platform/MousePointer.h"
 #include "platform/QtText.h"
 #include "saleslib/BillBooks.h"
@@ -20,8 +20,8 @@
 #include "store/DataFileCopy.h"
 #include "store/DataFileLock.h"
 
-posMod::posMod(std::filesystem::path programFolder, Clock presentTime)
-    : folder(std::move(programFolder)),
+posMod::posMod(std::filesystem::path shopFolder, Clock presentTime)
+    : folder(std::move(shopFolder)),
       clock(std::move(presentTime)),
       configIni(folder / "Config.ini"),
       ports(std::make_unique<Ports>(configIni)) {}
@@ -75,7 +75,7 @@ std::string posMod::protectFiles() const {
   if (configured && !DataSource::parse(*configured).password.empty())
     others.emplace_back(findIgnoringCase((folder / "Config.ini").string()));
   std::copy_if(others.begin(), others.end(), std::back_inserter(exposed),
-               [](const auto& file) { return !makeOwnerOnly(file); });
+               [](const auto& file) { return !makePrivate(file); });
   if (exposed.empty()) return {};
   QStringList names;
   for (const auto& file : exposed) names += qtText(file.string());

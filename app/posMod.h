@@ -27,8 +27,8 @@ class posMod {
   Q_DECLARE_TR_FUNCTIONS(posMod)
 
  public:
-  /// `folder` is the program's folder, the one of the executable.
-  explicit posMod(std::filesystem::path programFolder, Clock presentTime = localTime);
+  /// `shopFolder` holds Config.ini and data/ (app/ShopFolder.h): the program's folder or another.
+  explicit posMod(std::filesystem::path shopFolder, Clock presentTime = localTime);
   ~posMod();
   posMod(const posMod&) = delete;
   posMod& operator=(const posMod&) = delete;
@@ -49,14 +49,14 @@ class posMod {
   std::unique_ptr<const Ports> ports;      ///< never none
 
   /// Takes the till's lock on the data file and opens it: Path of section Database as
-  /// DataSource::parse reads it (a relative one starts at the program's folder), else
+  /// DataSource::parse reads it (a relative one starts at the shop's folder), else
   /// folder/data/POS.mdb with the built-in password. An empty text, or why it could not, for a
   /// message box: where there is no file, with the command that makes one.
   [[nodiscard]] std::string OpenDataStore();
   /// What the owner has to do before anybody can sell: an empty text, or that there is no operator
   /// who may, for a message. Needs the data file open. Throws StoreError.
   [[nodiscard]] std::string missingOperator() const;
-  /// Makes what holds secrets readable by its owner only: the data file with its logs and its
+  /// Makes what holds secrets private (base/PrivateFile.h): the data file with its logs and its
   /// backup, and Config.ini when the data file's password is in it. An empty text, or which
   /// files others keep rights on, for a message. Needs the data file open.
   [[nodiscard]] std::string protectFiles() const;
@@ -76,8 +76,7 @@ class posMod {
   /// was stored last is in a file that lost its name.
   [[nodiscard]] bool wantsBackUp() const;
   /// Copies the data file that is open, whichever name it has by now, over folder/data/pos3.mdb,
-  /// whole and consistent; the copy is readable by its owner only. Throws Failure; an earlier copy
-  /// is then as it was.
+  /// whole and consistent; the copy is private. Throws Failure; an earlier copy is then as it was.
   void backUp();
 
  private:

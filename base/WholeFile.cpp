@@ -9,6 +9,7 @@
 #include <random>
 #include <utility>
 
+#include "base/PrivateFile.h"
 #include "base/SystemFault.h"
 
 namespace {
@@ -43,6 +44,7 @@ WholeFile::WholeFile(std::filesystem::path target)
   const bool isUnknownHere = errno == EOPNOTSUPP || errno == EISDIR || errno == EINVAL;
   if (file_ < 0 && !isUnknownHere) failWith(errno);
   if (file_ < 0) makeNamed();
+  if (isShared(folder_) && fchmod(file_, 0660) != 0) errno = 0;  // then it stays its owner's only
 }
 
 void WholeFile::makeNamed() {

@@ -29,9 +29,9 @@ double runTool(std::vector<std::string> arguments) {
   const pid_t process = fork();
   if (process < 0) throw std::runtime_error("no process");
   if (process == 0) {
-    freopen("/dev/null", "w", stdout);
-    freopen("/dev/null", "w", stderr);
-    execv(words.front(), words.data());
+    if (freopen("/dev/null", "w", stdout) != nullptr &&
+        freopen("/dev/null", "w", stderr) != nullptr)
+      execv(words.front(), words.data());
     _exit(127);
   }
   int status = 0;

@@ -3,7 +3,7 @@
 #include <string>
 
 #include "base/FileName.h"
-#include "base/OwnerOnly.h"
+#include "base/PrivateFile.h"
 #include "base/WholeFile.h"
 #include "store/Connection.h"
 #include "store/FileReading.h"
@@ -65,7 +65,7 @@ std::vector<std::filesystem::path> protectDataFile(const std::filesystem::path& 
   std::vector<std::filesystem::path> exposed;
   for (const char* part : {"", "-wal", "-shm", "-journal"}) {
     const std::filesystem::path file = path.string() + part;
-    if (!makeOwnerOnly(file)) exposed.push_back(file);
+    if (!makePrivate(file)) exposed.push_back(file);
   }
   return exposed;
 }

@@ -15,9 +15,9 @@ class Connection;
 /// on the files are taken away as far as they can be.
 std::unique_ptr<Connection> openDataFile(const DataSource& source);
 
-/// Makes a new data file, readable by its owner only, and opens it; refuses one that exists. It has
-/// its name only when its tables are made and `fill` has written what it holds from the beginning:
-/// neither a failure nor a kill leaves anything behind. Throws Failure.
+/// Makes a new data file, private (base/PrivateFile.h), and opens it; refuses one that exists. It
+/// has its name only when its tables are made and `fill` has written what it holds from the
+/// beginning: neither a failure nor a kill leaves anything behind. Throws Failure.
 std::unique_ptr<Connection> createDataFile(
     const DataSource& source, const std::function<void(Connection&)>& fill = [](Connection&) {});
 
@@ -28,6 +28,6 @@ enum class Soundness { kEveryPage, kEveryEntry };
 /// sound. Changes nothing in it.
 void requireSoundDataFile(const DataSource& source, Soundness depth);
 
-/// Makes the data file and the files that stand beside it under its name (logs) readable by their
-/// owner only. Gives those that others keep rights on.
+/// Makes the data file and the files that stand beside it under its name (logs)
+/// private. Gives those that others keep rights on.
 std::vector<std::filesystem::path> protectDataFile(const std::filesystem::path& path);

@@ -4,7 +4,7 @@
 
 class Connection;
 
-/// Copies of an open data file for safe keeping, readable by their owner only. A copy replaces its
+/// Copies of an open data file for safe keeping, private (base/PrivateFile.h). A copy replaces its
 /// target when it is whole, on the disk and verified by opening it and reading it whole; until then
 /// the target is as it was. A file is not copied over itself. Throws Failure.
 

@@ -17,7 +17,7 @@ class frmSell;
 /// screen each menu entry opens.
 class Till {
  public:
-  /// `folder` is the folder of the executable.
+  /// `folder` is the shop's (app/ShopFolder.h).
   explicit Till(std::filesystem::path folder);
   ~Till();
 

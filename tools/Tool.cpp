@@ -8,6 +8,7 @@
 
 #include "base/Failure.h"
 #include "base/Version.h"
+#include "tools/AutostartCommand.h"
 #include "tools/BackupCommand.h"
 #include "tools/BillCommand.h"
 #include "tools/CheckCommand.h"
@@ -60,6 +61,7 @@ int runTool(int count, const char* const* arguments, Console& console) {
   addRestoreCommand(app, console);
   addCheckCommand(app, console, exitCode);
   addBillCommand(app, console);
+  addAutostartCommand(app, console);
   groupInChinese(app);
   try {
     app.parse(wordsOf(count, arguments));

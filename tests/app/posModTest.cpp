@@ -6,6 +6,7 @@
 #include <fstream>
 
 #include "TemporaryFolder.h"
+#include "app/ShopFolder.h"
 #include "store/Connection.h"
 #include "store/DataFile.h"
 #include "store/StoreError.h"
@@ -41,6 +42,15 @@ TEST_F(posModTest, OpensTheConfiguredDataFileOrSaysWhyNot) {
   EXPECT_EQ(openingFault(), "");
   configure("two.mdb;jet oledb:database password=wrong");
   EXPECT_THAT(openingFault(), HasSubstr("密码"));
+}
+
+TEST_F(posModTest, TheShopIsBesideTheProgramUnlessSomethingElseIsNamed) {
+  EXPECT_EQ(shopFolder("", folder_.path()), folder_.path());
+  std::ofstream(folder_.file("shop-folder")) << "# the shop\n\n /var/shop \n/another\n";
+  EXPECT_EQ(shopFolder("", folder_.path()), "/var/shop");
+  EXPECT_EQ(shopFolder("here", folder_.path()), fs::current_path() / "here");
+  std::ofstream(folder_.file("shop-folder")) << "# none named\n";
+  EXPECT_EQ(shopFolder("", folder_.path()), folder_.path());
 }
 
 TEST_F(posModTest, BackUpIsTheWholeFileAndAFailingOneLeavesTheEarlierCopy) {

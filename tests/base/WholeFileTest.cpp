@@ -8,6 +8,7 @@
 #include <set>
 
 #include "TemporaryFolder.h"
+#include "base/PrivateFile.h"
 
 namespace {
 
@@ -50,6 +51,21 @@ TEST_F(WholeFileTest, TakesItsNameWhenWholeAndTouchesNoOther) {
   }
   EXPECT_EQ(names(), (std::set<std::string>{"a", "a.part"}));
   umask(before);
+}
+
+TEST_F(WholeFileTest, IsItsGroupsTooInASharedFolderOnly) {
+  constexpr unsigned kCases[][3] = {{02770, 0660, 02770}, {02775, 0600, 02700}, {0770, 0600, 0700}};
+  for (const auto& [folder, file, inside] : kCases) {
+    ASSERT_EQ(chmod(folder_.path().c_str(), folder), 0);
+    WholeFile(folder_.file("made")).finish();
+    std::ofstream(folder_.file("found")) << "by hand";
+    fs::create_directory(folder_.file("inside"));
+    EXPECT_TRUE(makePrivate(folder_.file("found")) && makePrivate(folder_.file("inside")));
+    for (const auto& [name, rights] :
+         {std::pair{"made", file}, {"found", file}, {"inside", inside}})
+      EXPECT_EQ(fs::status(folder_.file(name)).permissions(), fs::perms(rights)) << name << folder;
+    fs::remove(folder_.file("inside"));
+  }
 }
 
 }  // namespace

@@ -7,6 +7,7 @@
 #include "Owner.h"
 #include "saleslib/ClsLogin.h"
 #include "store/DataFileLock.h"
+#include "tools/AutostartCommand.h"
 
 namespace {
 
@@ -111,6 +112,21 @@ TEST_F(CommandTest, ARestoredBackupIsNotMixedWithTheOldLog) {
   const std::string old = crashed.folder.file("POS.mdb.old-20261122-090503");
   EXPECT_THAT(crashed.out, HasSubstr(old));
   EXPECT_EQ(openDataFile({old, ""})->Open("select * from stock where spbm='late'").count(), 1U);
+}
+
+TEST_F(CommandTest, TheTillStartsByItselfAsLongAsItIsToldTo) {
+  setenv("XDG_CONFIG_HOME", owner.folder.path().c_str(), 1);
+  const std::string entry = owner.folder.file("autostart/till.desktop");
+  const auto till = std::filesystem::read_symlink("/proc/self/exe").parent_path() / "till";
+  EXPECT_EQ(owner.run({"autostart", "on"}), 0) << owner.err;
+  std::ifstream file(entry);
+  EXPECT_EQ(std::string(std::istreambuf_iterator<char>(file), {}), autostartEntry(till));
+  EXPECT_EQ(owner.run({"autostart", "maybe"}), 2);
+  EXPECT_EQ(owner.run({"autostart", "off"}), 0) << owner.err;
+  EXPECT_FALSE(std::filesystem::exists(entry));
+  EXPECT_THAT(autostartEntry("/a $b/100%\\\"c"),
+              testing::EndsWith("TryExec=/a $b/100%\\\\\"c\n"
+                                "Exec=\"/a \\\\$b/100%%\\\\\\\\\\\\\"c\"\n"));
 }
 
 TEST_F(CommandTest, OperatorsComeAndGo) {
