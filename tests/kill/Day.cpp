@@ -1,8 +1,8 @@
 #include "kill/Day.h"
 
 #include <algorithm>
-#include <iterator>
 #include <stdexcept>
+#include <tuple>
 
 #include "base/NumberText.h"
 #include "driver/TillDriver.h"
@@ -14,13 +14,9 @@ constexpr std::size_t kMostHeld = 3;
 constexpr std::int16_t kPointUnit = 10;  // the demo shop's
 
 // Entries of the main menu and of the further menu, by position; both have five.
-enum MainMenu { kSell, kCount, kPosSet, kEditPwd, kEnd };
+enum MainMenu { kSell, kEnd = 4 };
 enum FurtherMenu { kSearch, kUnSell };
 constexpr int kMenuEntries = 5;
-
-Currency yuan(std::int64_t whole) {
-  return Currency::fromYuan(whole);
-}
 
 void addStock(Ledger& ledger, const Ledger::Line& line, double quantity) {
   double& stock = ledger.stock[line.item];
@@ -35,28 +31,38 @@ Day::Day(Journal& journal, Goods goods, unsigned seed, std::function<void()> abo
       random_(seed),
       aboutToConfirm_(std::move(aboutToConfirm)) {}
 
-unsigned Day::below(unsigned limit) {
-  return static_cast<unsigned>(random_() % limit);
+const std::string& Day::anyCard() {
+  return std::next(goods_.cards().begin(), below(goods_.cards().size()))->first;
 }
 
-const std::string& Day::anyCard() {
-  return std::next(goods_.cards().begin(), below(static_cast<unsigned>(goods_.cards().size())))
-      ->first;
+void Day::go(const char* key, const char* window) {
+  till_->key(key);
+  till_->waitFor(window);
 }
 
 /// The highlight of a menu stays where it was.
-void Day::choose(TillDriver& till, int& highlight, int entry) {
-  for (; highlight != entry; highlight = (highlight + 1) % kMenuEntries) till.key("Down");
-  till.key("Return");
+void Day::choose(int& highlight, int entry, const char* window) {
+  for (; highlight != entry; highlight = (highlight + 1) % kMenuEntries) till_->key("Down");
+  go("Return", window);
+}
+
+void Day::confirm(const std::string& what, const char* window, Journal::Step step,
+                  Journal::Step halfway) {
+  journal_.begin(what, std::move(step), std::move(halfway));
+  aboutToConfirm_();
+  till_->key("Return");
+  till_->sync();
+  till_->waitFor(window);
+  journal_.confirm();
 }
 
 void Day::logIn(TillDriver& till) {
+  till_ = &till;
   mainEntry_ = kSell;
   furtherEntry_ = kSearch;
   held_.clear();
   till.waitFor("frmMenu");
-  till.key("Return");
-  till.waitFor("frmLogin");
+  go("Return", "frmLogin");
   till.enter("1");
   till.enter("111");
   till.sync();
@@ -65,195 +71,172 @@ void Day::logIn(TillDriver& till) {
     till.key("Return");
   }
   till.waitFor("frmSell");
-  newBill(till);
+  newBill();
 }
 
 // A bill's number is never used twice, not even that of a bill that was voided.
-void Day::newBill(TillDriver& till) {
+void Day::newBill() {
   bill_ = {};
-  const std::string title = till.text("title1");
-  const std::string caption = "流水号：";
+  hasCurrentLine_ = false;
+  const std::string title = till_->text("title1"), caption = "流水号：";
   const std::size_t at = title.find(caption);
   if (at == std::string::npos) throw std::runtime_error("no bill number in: " + title);
-  bill_.number = std::stoi(title.substr(at + caption.size()));
-  if (bill_.number <= highestNumber_) throw std::runtime_error("used again: " + title);
-  highestNumber_ = bill_.number;
+  number_ = std::stoi(title.substr(at + caption.size()));
+  if (number_ <= highestNumber_) throw std::runtime_error("used again: " + title);
+  highestNumber_ = number_;
 }
 
-void Day::step(TillDriver& till) {
-  if (bill_.lines.empty()) {
-    if (!held_.empty() && chance(40)) return recall(till);
-    if (held_.empty() && !journal_.confirmed().bills.empty() && chance(8)) return takeBack(till);
-    if (bill_.member.empty() && chance(25)) return attachMember(till);
-    if (chance(6)) return topUp(till);
-    return ring(till);
-  }
-  if (bill_.hasCurrentLine) {
-    if (chance(14)) return changeQuantity(till);
-    if (chance(8)) return changeDiscount(till);
-    if (chance(8)) return deleteLine(till);
-  }
-  if (chance(3)) return cancel(till);
-  if (held_.size() < kMostHeld && chance(5)) return suspend(till);
-  if (chance(3)) return topUp(till);
-  if (bill_.lines.size() == kLongestBill || chance(25)) return settle(till);
-  ring(till);
+void Day::step() {
+  if (bill_.lines.empty()) return beginBill();
+  if (hasCurrentLine_ && chance(27)) return correct();
+  if (chance(3)) return cancel();
+  if (held_.size() < kMostHeld && chance(5)) return suspend();
+  if (chance(3)) return topUp();
+  bill_.lines.size() == kLongestBill || chance(25) ? settle() : ring();
 }
 
-void Day::attachMember(TillDriver& till) {
+void Day::beginBill() {
+  if (!held_.empty() && chance(40)) return recall();
+  if (held_.empty() && !journal_.confirmed().bills.empty() && chance(8)) return takeBack();
+  if (bill_.member.empty() && chance(25)) return attachMember();
+  chance(6) ? topUp() : ring();
+}
+
+void Day::attachMember() {
   bill_.member = anyCard();
-  till.key("F2");
-  till.waitFor("frmInput");
-  till.enter(bill_.member);
-  till.waitFor("frmSell");
+  go("F2", "frmInput");
+  till_->enter(bill_.member);
+  till_->waitFor("frmSell");
 }
 
-void Day::ring(TillDriver& till) {
-  const auto item = below(static_cast<unsigned>(goods_.count()));
-  bill_.lines.push_back(goods_.line(item, bill_.member));
-  bill_.hasCurrentLine = true;
-  till.enter(bill_.lines.back().code);
+void Day::ring() {
+  bill_.lines.push_back(goods_.line(below(goods_.count()), bill_.member));
+  hasCurrentLine_ = true;
+  till_->enter(bill_.lines.back().code);
 }
 
-void Day::changeQuantity(TillDriver& till) {
-  const double quantity = (1 + below(12)) / 4.0;
-  bill_.lines.back().quantity = quantity;
-  till.key("Up");
-  till.enter(generalNumber(quantity));
+void Day::correct() {
+  Ledger::Line& line = bill_.lines.back();
+  const unsigned what = below(4);
+  if (what == 0) {
+    till_->key("F4");
+    bill_.lines.pop_back();
+    hasCurrentLine_ = false;
+    return;
+  }
+  till_->key("Up");
+  if (what == 1) {
+    till_->key("Right");
+    line.discount = Discount((80 + below(20)) / 100.0);
+    return till_->enter(generalNumber(line.discount));
+  }
+  line.quantity = (1 + below(12)) / 4.0;
+  till_->enter(generalNumber(line.quantity));
 }
 
-void Day::changeDiscount(TillDriver& till) {
-  const Discount discount((80 + below(20)) / 100.0);
-  bill_.lines.back().discount = discount;
-  till.key("Up");
-  till.key("Right");
-  till.enter(generalNumber(discount));
+void Day::cancel() {
+  till_->key("F12");
+  till_->sync();
+  newBill();
 }
 
-void Day::deleteLine(TillDriver& till) {
-  till.key("F4");
-  bill_.lines.pop_back();
-  bill_.hasCurrentLine = false;
+void Day::suspend() {
+  held_.emplace_back(number_, bill_);
+  till_->key("F5");
+  till_->sync();
+  newBill();
 }
 
-void Day::cancel(TillDriver& till) {
-  till.key("F12");
-  till.sync();
-  newBill(till);
+void Day::recall() {
+  const auto chosen = held_.begin() + below(held_.size());
+  go("F6", "frmRecord");
+  for (auto row = held_.begin(); row != chosen; ++row) till_->key("Down");
+  go("Return", "frmSell");
+  std::tie(number_, bill_) = *chosen;
+  held_.erase(chosen);
 }
 
-void Day::suspend(TillDriver& till) {
-  till.key("F5");
-  till.sync();
-  held_.push_back(bill_);
-  held_.back().hasCurrentLine = false;
-  newBill(till);
-}
-
-void Day::recall(TillDriver& till) {
-  const auto chosen = below(static_cast<unsigned>(held_.size()));
-  till.key("F6");
-  till.waitFor("frmRecord");
-  for (unsigned row = 0; row < chosen; ++row) till.key("Down");
-  till.key("Return");
-  till.waitFor("frmSell");
-  bill_ = held_[chosen];
-  held_.erase(held_.begin() + chosen);
-}
-
-Ledger::Bill Day::figures() const {
-  Ledger::Bill bill;
-  bill.member = bill_.member;
-  bill.lines = bill_.lines;
+void Day::settle() {
+  Ledger::Bill bill = bill_;
   bill.amount = bill.goodsAmount();
-  return bill;
+  go("F1", "frmEndSell");
+  till_->waitForText("Money", twoDecimals(bill.amount));
+  settledBill_ = number_;
+  const std::string name = "bill " + std::to_string(number_);
+  if (chance(35) && typeCard(bill)) {
+    confirm(name + " paid by card " + bill.card, "messageBox", settling(bill));
+    till_->key("Return");
+  } else {
+    typeTenders(bill);
+    confirm(name + " paid in cash", "frmSell", settling(bill));
+  }
+  till_->waitFor("frmSell");
+  newBill();
+}
+
+// In the order of the Tab key.
+void Day::typeTenders(Ledger::Bill& bill) {
+  bill.paidWith(Tender::kCash) = bill.amount + Currency::fromYuan(below(50));
+  if (chance(50)) {
+    bill.paidWith(Tender::kFavorable) = Currency::fromScaled(below(100) * 100);
+    bill.salesman = static_cast<int>(below(9));
+    bill.paidWith(Tender::kBankCard) = Currency::fromYuan(below(20));
+    std::string phone = "0";
+    if (chance(50)) {
+      bill.slip = "28A" + std::to_string(number_);
+      phone = generalNumber(bill.paidWith(Tender::kPhone) = bill.amount);
+      bill.paidWith(Tender::kCash) = {};
+    }
+    for (const std::string& text :
+         {generalNumber(bill.paidWith(Tender::kFavorable)), std::to_string(bill.salesman),
+          generalNumber(bill.paidWith(Tender::kBankCard)), phone, bill.slip}) {
+      till_->key("Tab");
+      till_->type(text);
+    }
+    till_->key("Return");
+  }
+  till_->type(generalNumber(bill.paidWith(Tender::kCash)));
+}
+
+/// False when no card has enough.
+bool Day::typeCard(Ledger::Bill& bill) {
+  const auto rich = std::ranges::find_if(goods_.cards(), [&](const auto& card) {
+    return journal_.confirmed().members.at(card.first).balance >= bill.amount;
+  });
+  if (rich == goods_.cards().end()) return false;
+  bill.card = rich->first;
+  bill.paidWith(Tender::kStoredCard) = bill.amount;
+  till_->tabTo("czk");
+  till_->enter(bill.card);
+  till_->type(rich->second.password);
+  return true;
 }
 
 Journal::Step Day::settling(const Ledger::Bill& bill) const {
-  return [bill, number = bill_.number](Ledger& ledger) {
+  return [bill, number = number_](Ledger& ledger) {
     ledger.bills[number] = bill;
     for (const Ledger::Line& line : bill.lines) addStock(ledger, line, -line.quantity);
-    if (!bill.card.empty()) ledger.members[bill.card].balance -= bill.cardPay;
+    if (!bill.card.empty()) ledger.members[bill.card].balance -= bill.amount;
     if (bill.member.empty()) return;
     Ledger::Member& member = ledger.members[bill.member];
     member.totalSpent += bill.amount;
-    const auto points =
-        pointsAfter(bill.amount, kPointUnit, static_cast<std::int16_t>(member.points));
-    if (points) member.points = *points;
+    const auto points = static_cast<std::int16_t>(member.points);
+    member.points = pointsAfter(bill.amount, kPointUnit, points).value_or(points);
   };
 }
 
-void Day::confirming(const std::string& what, Journal::Step step, Journal::Step halfway,
-                     TillDriver& till) {
-  journal_.begin(what, std::move(step), std::move(halfway));
-  aboutToConfirm_();
-  till.key("Return");
-}
-
-void Day::settle(TillDriver& till) {
-  till.key("F1");
-  till.waitFor("frmEndSell");
-  till.waitForText("Money", twoDecimals(figures().amount));
-  const Currency most = journal_.confirmed().members.at(anyCard()).balance;
-  settledBill_ = bill_.number;
-  chance(35) && most > figures().amount ? payCard(till) : payCash(till);
-  till.waitFor("frmSell");
-  newBill(till);
-}
-
-void Day::payCash(TillDriver& till) {
-  Ledger::Bill bill = figures();
-  if (chance(30)) {
-    bill.favorable = Currency::fromScaled(below(100) * 100);
-    bill.salesman = static_cast<int>(below(9));
-    bill.bankCard = yuan(below(20));
-    till.key("Tab");
-    till.type(generalNumber(bill.favorable));
-    till.key("Tab");
-    till.type(std::to_string(bill.salesman));
-    till.key("Tab");
-    till.type(generalNumber(bill.bankCard));
-    till.key("Return");
-  }
-  bill.cash = bill.amount + yuan(below(50));
-  till.type(generalNumber(bill.cash));
-  confirming("bill " + std::to_string(bill_.number) + " paid in cash", settling(bill), nullptr,
-             till);
-  till.waitFor("frmSell");
-  journal_.confirm();
-}
-
-void Day::payCard(TillDriver& till) {
-  Ledger::Bill bill = figures();
-  const auto& members = journal_.confirmed().members;
-  const auto rich =
-      std::find_if(goods_.cards().begin(), goods_.cards().end(),
-                   [&](const auto& card) { return members.at(card.first).balance >= bill.amount; });
-  bill.card = rich->first;
-  bill.cardPay = bill.amount;
-  for (int field = 0; field < 4; ++field) till.key("Tab");
-  till.enter(bill.card);
-  till.type(rich->second.password);
-  confirming("bill " + std::to_string(bill_.number) + " paid by card " + bill.card, settling(bill),
-             nullptr, till);
-  till.waitFor("messageBox");
-  journal_.confirm();
-  till.key("Return");
-}
-
 // Record and balance are two writes, one after the other.
-void Day::topUp(TillDriver& till) {
+void Day::topUp() {
   Ledger::TopUp topUp;
   topUp.card = anyCard();
-  topUp.paid = yuan(50 + below(100));
-  topUp.credited = topUp.paid + yuan(below(20));
+  topUp.paid = Currency::fromYuan(50 + below(100));
+  topUp.credited = topUp.paid + Currency::fromYuan(below(20));
   topUp.balance = journal_.confirmed().members.at(topUp.card).balance + topUp.credited;
-  till.key("F9");
-  till.waitFor("cardStored");
-  till.enter(topUp.card);
-  till.enter(generalNumber(topUp.paid));
-  till.enter(generalNumber(topUp.credited));
-  till.tabTo("cmdOk2");
+  go("F9", "cardStored");
+  till_->enter(topUp.card);
+  till_->enter(generalNumber(topUp.paid));
+  till_->enter(generalNumber(topUp.credited));
+  till_->tabTo("cmdOk2");
   const auto record = [topUp](Ledger& ledger) {
     ledger.topUps.push_back(topUp);
     ledger.topUps.back().isComplete = false;
@@ -262,69 +245,50 @@ void Day::topUp(TillDriver& till) {
     ledger.topUps.push_back(topUp);
     ledger.members[topUp.card].balance = topUp.balance;
   };
-  confirming("top-up of card " + topUp.card, both, record, till);
-  till.waitFor("messageBox");
-  journal_.confirm();
-  till.key("Return");
-  till.waitFor("frmSell");
+  confirm("top-up of card " + topUp.card, "messageBox", both, record);
+  go("Return", "frmSell");
 }
 
-void Day::takeBack(TillDriver& till) {
-  till.key("Esc");
-  till.waitFor("frmMenu");
+void Day::takeBack() {
+  go("Esc", "frmMenu");
   mainEntry_ = kSell;
-  till.key("Menu");
-  till.sync();
-  choose(till, furtherEntry_, kUnSell);
-  till.waitFor("frmUnSell");
-  takeBackLine(till);
-  till.key("Esc");
-  till.waitFor("frmMenu");
-  choose(till, mainEntry_, kSell);
-  till.waitFor("frmSell");
-  newBill(till);
+  till_->key("Menu");
+  till_->sync();
+  choose(furtherEntry_, kUnSell, "frmUnSell");
+  const auto& bills = journal_.confirmed().bills;
+  const auto chosen = std::prev(bills.end(), 1 + below(std::min<std::size_t>(20, bills.size())));
+  takeBackLineOf(chosen->first, chosen->second);
+  go("Esc", "frmMenu");
+  choose(mainEntry_, kSell, "frmSell");
+  newBill();
 }
 
-void Day::takeBackLine(TillDriver& till) {
-  const auto& bills = journal_.confirmed().bills;
-  const auto recent = std::min<unsigned>(20, static_cast<unsigned>(bills.size()));
-  const auto chosen = std::prev(bills.end(), 1 + below(recent));
-  const auto line = std::find_if(chosen->second.lines.begin(), chosen->second.lines.end(),
-                                 [](const Ledger::Line& each) { return each.quantity > 0; });
-  if (line == chosen->second.lines.end()) return;
+void Day::takeBackLineOf(int number, const Ledger::Bill& bill) {
+  const auto line = std::ranges::find_if(bill.lines, [](auto& each) { return each.quantity > 0; });
+  if (line == bill.lines.end()) return;
   Ledger::Line gone = *line;
   if (chance(50)) gone.quantity = std::min(gone.quantity, 0.5);
-  const Ledger::Return record{chosen->first, gone.item, gone.quantity, gone.money()};
-  const auto position = line - chosen->second.lines.begin();
-
-  till.enter(std::to_string(record.bill));
-  till.enter(gone.code);
-  till.enter(generalNumber(gone.quantity));
-  till.sync();
-  confirming(
-      "return on bill " + std::to_string(record.bill),
-      [record, gone, position](Ledger& ledger) {
-        ledger.returns.push_back(record);
-        addStock(ledger, gone, gone.quantity);
-        Ledger::Bill& bill = ledger.bills.at(record.bill);
-        double& left = bill.lines[static_cast<std::size_t>(position)].quantity;
-        left = roundedQuantity(left - gone.quantity);
-        bill.amount = bill.goodsAmount();
-        if (!bill.member.empty()) ledger.members[bill.member].totalSpent -= record.money;
-      },
-      nullptr, till);
-  till.sync();
-  till.waitFor("frmUnSell");
-  journal_.confirm();
+  till_->enter(std::to_string(number));
+  till_->enter(gone.code);
+  till_->enter(generalNumber(gone.quantity));
+  till_->sync();
+  const auto taken = [number, gone, position = line - bill.lines.begin()](Ledger& ledger) {
+    ledger.returns.push_back({number, gone.item, gone.quantity, gone.money()});
+    addStock(ledger, gone, gone.quantity);
+    Ledger::Bill& left = ledger.bills.at(number);
+    double& quantity = left.lines.at(static_cast<std::size_t>(position)).quantity;
+    quantity = roundedQuantity(quantity - gone.quantity);
+    left.amount = left.goodsAmount();
+    if (!left.member.empty()) ledger.members[left.member].totalSpent -= gone.money();
+  };
+  confirm("return on bill " + std::to_string(number), "frmUnSell", taken);
 }
 
-void Day::close(TillDriver& till) {
-  while (!held_.empty() || !bill_.lines.empty()) {
-    bill_.lines.empty() ? recall(till) : cancel(till);
-  }
-  till.key("Esc");
-  till.waitFor("frmMenu");
+void Day::close() {
+  while (!held_.empty() || !bill_.lines.empty()) bill_.lines.empty() ? recall() : cancel();
+  go("Esc", "frmMenu");
   mainEntry_ = kSell;
-  choose(till, mainEntry_, kEnd);
-  if (till.waitForEnd() != 0) throw std::runtime_error("the till did not end cleanly");
+  for (int entry = kSell; entry != kEnd; ++entry) till_->key("Down");
+  till_->key("Return");
+  if (till_->waitForEnd() != 0) throw std::runtime_error("the till did not end cleanly");
 }

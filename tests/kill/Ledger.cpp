@@ -1,8 +1,7 @@
 #include "kill/Ledger.h"
 
-#include <algorithm>
-#include <iterator>
 #include <stdexcept>
+#include <tuple>
 
 #include "BookFaults.h"
 #include "base/NumberText.h"
@@ -13,18 +12,21 @@ namespace {
 Currency money(const Rows& row, const char* column) {
   return row.currency(column).value_or(Currency());
 }
-
 int whole(const Rows& row, const char* column) {
   return static_cast<int>(row.whole(column).value_or(0));
+}
+double number(const Rows& row, const char* column) {
+  return row.number(column).value_or(0);
 }
 
 void requireRightBooks(Connection& connection) {
   std::string faults = bookFaults(connection);
   Rows open = connection.query(
-      "select id, quantity, (select count(*) from sellProducts where sellId = sell.id) as lines "
+      "select id, (select count(*) from sell where state = 0) as bills, "
+      "(select count(*) from sellProducts where sellId = sell.id) as lines "
       "from sell where state = 0");
-  for (int bills = 0; open.next();) {
-    if (++bills > 1 || whole(open, "lines") != 0) {
+  while (open.next()) {
+    if (whole(open, "bills") > 1 || whole(open, "lines") > 0) {
       faults += "open bill " + open.text("id") + " with " + open.text("lines") + " lines\n";
     }
   }
@@ -36,15 +38,14 @@ void readBills(Connection& connection, Ledger& ledger) {
       "select s.*, m.bh as member from sell s left join member m on m.id = s.member_id "
       "where state = 1");
   while (rows.next()) {
-    ledger.bills[whole(rows, "id")] = {.member = rows.text("member"),
-                                       .card = rows.text("card_no"),
-                                       .amount = money(rows, "amount"),
-                                       .cash = money(rows, "cash"),
-                                       .favorable = money(rows, "favorable"),
-                                       .bankCard = money(rows, "bank_card"),
-                                       .cardPay = money(rows, "card_pay"),
-                                       .salesman = whole(rows, "salesman"),
-                                       .lines = {}};
+    Ledger::Bill& bill = ledger.bills[whole(rows, "id")];
+    bill.member = rows.text("member");
+    bill.card = rows.text("card_no");
+    bill.slip = rows.text("phone_slip");
+    bill.amount = money(rows, "amount");
+    bill.salesman = whole(rows, "salesman");
+    for (const TenderKind& kind : tenderKinds())
+      bill.paidWith(kind.tender) = money(rows, kind.column);
   }
   Rows lines = connection.query("select * from sellProducts order by id");
   while (lines.next()) {
@@ -55,15 +56,15 @@ void readBills(Connection& connection, Ledger& ledger) {
     bill->second.lines.push_back({.item = lines.text("bm"),
                                   .code = lines.text("entry_code"),
                                   .price = money(lines, "price"),
-                                  .discount = Discount(lines.number("discount").value_or(1)),
-                                  .quantity = lines.number("amount").value_or(0),
+                                  .discount = Discount(number(lines, "discount")),
+                                  .quantity = number(lines, "amount"),
                                   .ratio = whole(lines, "ratio")});
   }
 }
 
 void readRecords(Connection& connection, Ledger& ledger) {
   Rows stock = connection.query("select spbm, quantity from stock");
-  while (stock.next()) ledger.stock[stock.text("spbm")] = stock.number("quantity").value_or(0);
+  while (stock.next()) ledger.stock[stock.text("spbm")] = number(stock, "quantity");
   Rows members = connection.query("select * from member");
   while (members.next()) {
     ledger.members[members.text("bh")] = {money(members, "card"), money(members, "total_spent"),
@@ -74,7 +75,7 @@ void readRecords(Connection& connection, Ledger& ledger) {
       "order by u.id");
   while (returns.next()) {
     ledger.returns.push_back({whole(returns, "sell_id"), returns.text("item"),
-                              returns.number("quantity").value_or(0), money(returns, "money")});
+                              number(returns, "quantity"), money(returns, "money")});
   }
   Rows topUps = connection.query("select * from cardStored order by id");
   while (topUps.next()) {
@@ -84,32 +85,16 @@ void readRecords(Connection& connection, Ledger& ledger) {
   }
 }
 
-std::string billText(const Ledger::Bill& bill) {
-  return generalNumber(bill.quantity()) + " goods, amount " + twoDecimals(bill.amount) + ", cash " +
-         twoDecimals(bill.cash) + ", given " + twoDecimals(bill.favorable) + ", bank card " +
-         twoDecimals(bill.bankCard) + ", stored value " + twoDecimals(bill.cardPay) +
-         " of card \"" + bill.card + "\", member \"" + bill.member + "\", salesman " +
-         std::to_string(bill.salesman);
-}
-
-std::string lineText(const Ledger::Line& line) {
-  return line.item + " as " + line.code + ", " + generalNumber(line.quantity) + " x " +
-         generalNumber(line.price) + " x " + generalNumber(line.discount);
+template <class Part>
+std::string text(const Part& part) {
+  if constexpr (std::is_convertible_v<Part, std::string>) {
+    return part;
+  } else {
+    return generalNumber(part);
+  }
 }
 
 }  // namespace
-
-double Ledger::Bill::quantity() const {
-  double sum = 0;
-  for (const Line& line : lines) sum = roundedQuantity(sum + line.quantity);
-  return sum;
-}
-
-Currency Ledger::Bill::goodsAmount() const {
-  Currency sum;
-  for (const Line& line : lines) sum += line.money();
-  return sum;
-}
 
 Ledger Ledger::read(Connection& connection) {
   requireRightBooks(connection);
@@ -121,44 +106,40 @@ Ledger Ledger::read(Connection& connection) {
 
 std::set<std::string> Ledger::entries() const {
   std::set<std::string> texts;
+  const auto add = [&texts](const auto&... parts) { texts.insert((text(parts) + ...)); };
   for (const auto& [number, bill] : bills) {
-    const std::string name = "bill " + std::to_string(number);
-    texts.insert(name + ": " + billText(bill));
-    for (std::size_t i = 0; i < bill.lines.size(); ++i) {
-      texts.insert(name + ", line " + std::to_string(i + 1) + ": " + lineText(bill.lines[i]));
-    }
+    std::string paid;
+    for (std::size_t i = 0; i < kTenders; ++i)
+      paid += text(tenderKinds()[i].column) + " " + text(bill.tendered[i]) + ", ";
+    add("bill ", number, ": amount ", bill.amount, ", ", paid, "card \"", bill.card, "\", slip \"",
+        bill.slip, "\", member \"", bill.member, "\", salesman ", bill.salesman);
+    int position = 0;
+    for (const Line& line : bill.lines)
+      add("bill ", number, ", line ", ++position, ": ", line.item, " as ", line.code, ", ",
+          line.quantity, " x ", line.price, " x ", line.discount);
   }
-  for (const auto& [item, quantity] : stock) {
-    texts.insert("stock of " + item + ": " + generalNumber(quantity));
-  }
-  for (const auto& [number, member] : members) {
-    texts.insert("member " + number + ": card " + twoDecimals(member.balance) + ", purchases " +
-                 twoDecimals(member.totalSpent) + ", points " + std::to_string(member.points));
-  }
-  for (std::size_t i = 0; i < returns.size(); ++i) {
-    texts.insert("return " + std::to_string(i + 1) + " of bill " + std::to_string(returns[i].bill) +
-                 ": " + generalNumber(returns[i].quantity) + " of " + returns[i].item + " for " +
-                 twoDecimals(returns[i].money));
-  }
-  for (std::size_t i = 0; i < topUps.size(); ++i) {
-    texts.insert("top-up " + std::to_string(i + 1) + " of " + topUps[i].card + ": paid " +
-                 twoDecimals(topUps[i].paid) + ", credited " + twoDecimals(topUps[i].credited) +
-                 ", balance " + twoDecimals(topUps[i].balance) +
-                 (topUps[i].isComplete ? "" : ", not completed"));
-  }
+  for (const auto& [item, quantity] : stock) add("stock of ", item, ": ", quantity);
+  for (const auto& [number, member] : members)
+    add("member ", number, ": card ", member.balance, ", purchases ", member.totalSpent,
+        ", points ", member.points);
+  int record = 0;
+  for (const Return& each : returns)
+    add("return ", ++record, " of bill ", each.bill, ": ", each.quantity, " of ", each.item,
+        " for ", each.money);
+  record = 0;
+  for (const TopUp& each : topUps)
+    add("top-up ", ++record, " of ", each.card, ": paid ", each.paid, ", credited ", each.credited,
+        ", balance ", each.balance, each.isComplete ? "" : ", not completed");
   return texts;
 }
 
 std::string difference(const Ledger& expected, const Ledger& found) {
-  const std::set<std::string> wanted = expected.entries();
-  const std::set<std::string> there = found.entries();
-  std::vector<std::string> missing, added;
-  std::set_difference(wanted.begin(), wanted.end(), there.begin(), there.end(),
-                      std::back_inserter(missing));
-  std::set_difference(there.begin(), there.end(), wanted.begin(), wanted.end(),
-                      std::back_inserter(added));
+  const std::set<std::string> wanted = expected.entries(), there = found.entries();
   std::string text;
-  for (const std::string& entry : missing) text += "  missing: " + entry + "\n";
-  for (const std::string& entry : added) text += "  found:   " + entry + "\n";
+  for (const auto& [these, those, what] :
+       {std::tuple(&wanted, &there, "  missing: "), {&there, &wanted, "  found:   "}}) {
+    for (const std::string& entry : *these)
+      if (!those->contains(entry)) text.append(what).append(entry) += '\n';
+  }
   return text;
 }

@@ -1,12 +1,13 @@
 #pragma once
 
-#include <cstdint>
+#include <array>
 #include <map>
 #include <set>
 #include <string>
 #include <vector>
 
 #include "base/Currency.h"
+#include "saleslib/Tenders.h"
 
 class Connection;
 
@@ -24,13 +25,18 @@ struct Ledger {
     Currency money() const { return lineAmount(price, quantity, discount); }
   };
   struct Bill {
-    std::string member, card;
-    Currency amount, cash, favorable, bankCard, cardPay;
+    std::string member, card, slip;
+    Currency amount;
+    std::array<Currency, kTenders> tendered;  ///< by kind of payment
     int salesman = 0;
     std::vector<Line> lines;
 
-    double quantity() const;
-    Currency goodsAmount() const;
+    Currency& paidWith(Tender tender) { return tendered[static_cast<std::size_t>(tender)]; }
+    Currency goodsAmount() const {
+      Currency sum;
+      for (const Line& line : lines) sum += line.money();
+      return sum;
+    }
   };
   struct Member {
     Currency balance, totalSpent;
