@@ -29,25 +29,23 @@ class Day {
   void step();
   /// Leaves the till by its menus.
   void close();
-  /// The bill that was settled last, or was being settled; 0 before the first.
-  int settledBill() const { return settledBill_; }
+  /// What the till names of the bill and of the top-up that were made last, or were being made.
+  const std::string& settledBill() const { return settledBill_; }
+  const std::string& lastTopUp() const { return lastTopUp_; }
 
  private:
   unsigned below(std::size_t limit) { return static_cast<unsigned>(random_() % limit); }
   bool chance(unsigned percent) { return below(100) < percent; }
   const std::string& anyCard();
-  void go(const char* key, const char* window);
-  void choose(int& highlight, int entry, const char* window);
-  void confirm(const std::string& what, const char* window, Journal::Step step,
+  void play(const std::string& script);
+  void confirm(const std::string& what, const std::string& window, Journal::Step step,
                Journal::Step halfway = nullptr);
 
   void newBill();
   void beginBill();
-  void attachMember();
   void ring();
   void correct();
-  void cancel();
-  void suspend();
+  void leaveBill(const char* key);
   void recall();
   void settle();
   void typeTenders(Ledger::Bill& bill);
@@ -62,11 +60,10 @@ class Day {
   std::mt19937 random_;
   std::function<void()> aboutToConfirm_;
   TillDriver* till_ = nullptr;
-  int number_ = 0;  ///< of the open bill
+  int number_ = 0, highestNumber_ = 0;  ///< of the open bill, of all
   Ledger::Bill bill_;
   bool hasCurrentLine_ = false;  ///< the last line can still be changed
   std::vector<std::pair<int, Ledger::Bill>> held_;
-  std::string told_;
-  int highestNumber_ = 0, settledBill_ = 0;
-  int mainEntry_ = 0, furtherEntry_ = 0;  ///< where the menus' highlights are
+  bool atReturns_ = false;  ///< the highlight of the further menu
+  std::string told_, settledBill_, lastTopUp_;
 };

@@ -1,5 +1,6 @@
 // Kills the till at random instants of a busy day and holds its books against the journal.
 //   tests_kill [--long | --kills N] [--seed N]
+#include <algorithm>
 #include <cstdio>
 #include <map>
 #include <random>
@@ -7,7 +8,6 @@
 
 #include "InstalledTill.h"
 #include "ProofOptions.h"
-#include "base/NumberText.h"
 #include "demo/DisplayTube.h"
 #include "driver/TillDriver.h"
 #include "kill/Day.h"
@@ -44,10 +44,10 @@ class KillTest {
     std::printf(
         "%d kills: %d between two steps, %d in a step that was then done (%d of them shown before, "
         "%d completed at the start), %d in one that was not, %d between the two writes of a "
-        "top-up; %zu bills (%td by telephone), %zu returns, %zu top-ups; lost: 0\n",
+        "top-up; %zu bills (%td by telephone), %d returns, %d top-ups; lost: 0\n",
         kills_, outcomes_[kNothingOpen], outcomes_[kTaken], takenShown_, completed_,
-        outcomes_[kNotTaken], outcomes_[kHalfTaken], books.bills.size(), byPhone,
-        books.returns.size(), books.topUps.size());
+        outcomes_[kNotTaken], outcomes_[kHalfTaken], books.bills.size(), byPhone, books.returns,
+        books.topUps);
   }
 
  private:
@@ -110,12 +110,10 @@ class KillTest {
     if (outcome == Journal::Outcome::kTaken && shown) ++takenShown_;
     const std::string told = day_.takeTold();
     if (outcome == Journal::Outcome::kHalfTaken) {
-      const Ledger::TopUp& topUp = journal_.confirmed().topUps.back();
-      require(told, "卡号 " + topUp.card + "，付款 " + twoDecimals(topUp.paid) + "，充值 " +
-                        twoDecimals(topUp.credited));
+      require(told, day_.lastTopUp());
     } else if (!told.empty()) {
       ++completed_;  // which only the bill that was being settled can have been
-      require(told, "流水号 " + std::to_string(day_.settledBill()) + "，");
+      require(told, day_.settledBill());
     }
   }
   static void require(const std::string& told, const std::string& named) {
