@@ -7,8 +7,6 @@
 #include "base/Discount.h"
 #include "base/Failure.h"
 
-namespace {
-
 TEST(NumberTextTest, WritesTheGeneralForm) {
   using Row = std::pair<double, const char*>;
   for (const auto& [value, text] :
@@ -57,5 +55,3 @@ TEST(DiscountTest, IsTheDecimalThatItShows) {
   EXPECT_EQ(generalNumber(Discount(-0.0)), "0");
   EXPECT_TRUE(Discount(std::numeric_limits<double>::quiet_NaN()).isNone());
 }
-
-}  // namespace

@@ -10,8 +10,6 @@
 #include "TemporaryFolder.h"
 #include "base/FileName.h"
 
-namespace {
-
 namespace fs = std::filesystem;
 
 class WholeFileTest : public testing::Test {
@@ -67,5 +65,3 @@ TEST(FileNameTest, FindsWhateverTheCase) {
   for (const auto& [written, found] : rows)
     EXPECT_EQ(findIgnoringCase(root + written), root + found) << written;
 }
-
-}  // namespace

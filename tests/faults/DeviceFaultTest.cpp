@@ -10,8 +10,6 @@
 #include "TillFixture.h"
 #include "platform/PseudoTerminal.h"
 
-namespace {
-
 constexpr qint64 kLongestKeyPressMs = 2500;
 
 /// What stands behind a port name.
@@ -172,5 +170,3 @@ TEST_F(DeviceFaultTest, APrinterFolderThatTakesNothingCostsOneMessage) {
     mend();
   }
 }
-
-}  // namespace

@@ -7,8 +7,6 @@
 #include "base/NumberText.h"
 #include "store/StoreError.h"
 
-namespace {
-
 constexpr std::pair<const char*, Disk::Fault> kFaults[] = {{"full", Disk::Fault::kFull},
                                                            {"broken", Disk::Fault::kBroken},
                                                            {"read-only", Disk::Fault::kReadOnly},
@@ -163,5 +161,3 @@ TEST_F(DiskFaultTest, AFaultAtAnyCallLosesNothing) {
               << ", completed at the next start: " << completed << ", lost: 0\n";
   }
 }
-
-}  // namespace

@@ -8,8 +8,6 @@
 #include "PowerCut.h"
 #include "platform/PseudoTerminal.h"
 
-namespace {
-
 namespace fs = std::filesystem;
 using enum PowerCut::Unsynced;
 
@@ -194,5 +192,3 @@ TEST_F(PowerCutTest, EveryCutLeavesBooksThatBalance) {
   std::cout << "power cuts: " << cuts << " after " << recorded.size() << " writes and syncs, bills "
             << sales.size() << ", lost: 0\n";
 }
-
-}  // namespace

@@ -1,19 +1,16 @@
 #include "kill/Day.h"
 
 #include <algorithm>
+#include <map>
 #include <sstream>
 #include <stdexcept>
 #include <tuple>
 
 #include "driver/TillDriver.h"
 
-namespace {
-
 constexpr std::size_t kLongestBill = 7;
 constexpr std::size_t kMostHeld = 3;
 constexpr std::int16_t kPointUnit = 10;  // the demo shop's
-
-}  // namespace
 
 Day::Day(Journal& journal, Goods goods, unsigned seed, std::function<void()> aboutToConfirm)
     : journal_(journal),
@@ -25,31 +22,19 @@ const std::string& Day::anyCard() {
   return std::next(goods_.cards().begin(), below(goods_.cards().size()))->first;
 }
 
-/// Keys by their names, each when those before it have been delivered; "'text" types it, "=text"
-/// types it and presses Enter, ">window" waits for a window, "@control" goes there by Tab.
+/// Keys by their names, one after the other; "'text" types it, "=text" types it and presses Enter,
+/// ">window" waits for a window, "@control" goes there by Tab.
 void Day::play(const std::string& script) {
+  static const std::map<char, void (TillDriver::*)(std::string_view)> kOthers = {
+      {'\'', &TillDriver::type},
+      {'=', &TillDriver::enter},
+      {'>', &TillDriver::waitFor},
+      {'@', &TillDriver::tabTo}};
   std::istringstream words(script);
-  for (std::string word; words >> word;) {
-    const std::string rest = word.substr(1);
-    switch (word[0]) {
-      case '\'':
-        till_->type(rest);
-        break;
-      case '=':
-        till_->enter(rest);
-        break;
-      case '>':
-        till_->sync();
-        till_->waitFor(rest);
-        break;
-      case '@':
-        till_->tabTo(rest);
-        break;
-      default:
-        till_->key(word);
-    }
+  for (std::string word; words >> word; till_->sync()) {
+    const auto other = kOthers.find(word.front());
+    other == kOthers.end() ? till_->key(word) : (till_->*other->second)(word.substr(1));
   }
-  till_->sync();
 }
 
 void Day::confirm(const std::string& what, const std::string& window, Journal::Step step,

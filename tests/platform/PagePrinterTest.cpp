@@ -11,8 +11,6 @@
 
 namespace fs = std::filesystem;
 
-namespace {
-
 constexpr PageRoll kWide{80, 40}, kNarrow{58, 32};
 
 class PagePrinterTest : public testing::Test {
@@ -98,5 +96,3 @@ TEST_F(PagePrinterTest, SaysThatThereIsNowhereToPrint) {
     EXPECT_THAT([&] { PagePrinter(kWide, to).print(receipt("r", 1)); },
                 testing::ThrowsMessage<PortError>(testing::HasSubstr(why)));
 }
-
-}  // namespace

@@ -5,8 +5,6 @@
 
 using namespace std::string_literals;
 
-namespace {
-
 TEST(DialectTest, MakesEveryLiteralAValue) {
   const std::tuple<std::string, const char*, std::vector<Value>> cases[] = {
       {"select [name] from [sellproducts] where name like '%it''s%';",
@@ -49,5 +47,3 @@ TEST(DialectTest, RefusesWhatNoStatementCanBe) {
       EXPECT_THAT([&] { translate(statement); }, refusal(why)) << statement;
   }
 }
-
-}  // namespace

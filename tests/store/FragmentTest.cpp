@@ -6,8 +6,6 @@
 
 using testing::HasSubstr;
 
-namespace {
-
 class FragmentTest : public StoreFixture {
  protected:
   using Spec = std::optional<std::string>;
@@ -148,5 +146,3 @@ TEST_F(FragmentTest, TheIndexIsNotAskedWhereThatWouldChangeTheMeaning) {
     EXPECT_THAT(translate("select * from tmda " + std::string(where)).text,
                 Not(HasSubstr("docid")));
 }
-
-}  // namespace

@@ -3,8 +3,6 @@
 
 using namespace std::string_literals;
 
-namespace {
-
 using StatementTest = StoreFixture;
 
 TEST_F(StatementTest, ValuesComeBackExactlyAndAsTheTypeAskedFor) {
@@ -85,5 +83,3 @@ TEST_F(StatementTest, QueriesNestAndSurviveAChangeOfTables) {
   ASSERT_TRUE(again.next());
   EXPECT_EQ(again.whole("more"), 7);
 }
-
-}  // namespace

@@ -3,8 +3,6 @@
 #include "StoreFixture.h"
 #include "store/Snapshot.h"
 
-namespace {
-
 class TransactionTest : public StoreFixture {
  protected:
   void put(const char* code) {
@@ -76,5 +74,3 @@ TEST_F(TransactionTest, ASnapshotStaysAsItIsAndHoldsNobodyUp) {
   writing.commit();
   EXPECT_EQ(codes(*other), "abc");
 }
-
-}  // namespace
