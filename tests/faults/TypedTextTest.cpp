@@ -84,9 +84,8 @@ std::vector<std::string> hostileTexts() {
   for (const char* bytes :
        {"\xBF\x27 or 1=1 --", "\xBF\x5C\x27", "\xD5\x27", "\x81\x5C", "\xA1\x27\xA1\x5C",
         "\xC0\xA7 or 1=1", "\xE0\x80\xA7", "\xF0\x80\x80\xA7", "\xFF\xFE", "\xE4\xB8",
-        "\r\n' or 1=1", "a\tb", "\x1A", "\b'"}) {
+        "\r\n' or 1=1", "a\tb", "\x1A", "\b'"})
     texts.emplace_back(bytes);
-  }
   texts.emplace_back("a\0b' or 1=1", 11);
   texts.emplace_back(1, '\0');
   texts.emplace_back(300, '\'');
@@ -111,20 +110,20 @@ class TypedTextTest : public WithSpy, public TillFixture {
   };
 
   std::vector<Place> places() {
-    return {{"input line", [this](Text text) { ring(text); }},
-            {"settlement: card number", [this](Text text) { pay(text, "Pw1"); }},
-            {"settlement: card password", [this](Text text) { pay("8001", text); }},
-            {"sales query: code", [this](Text text) { search(text, "", "饮料"); }},
-            {"sales query: bill number", [this](Text text) { search("", text, ""); }},
-            {"sales query: category", [this](Text text) { search("550ml", "", text); }},
-            {"sales query: category alone", [this](Text text) { search("", "", text); }},
-            {"member's number or telephone",
-             [this](Text text) { (void)pos.gMemberSvc.GetMember(text); }},
-            {"top-up: card number and remark", [this](Text text) { topUp(text); }},
-            {"new member", [this](Text text) { join(text); }},
-            {"login", [this](Text text) { logIn(text); }, true},
-            {"shop parameter", [this](Text text) { (void)pos.gSysParam.set("ShopName", text); }},
-            {"imported goods", [this](Text text) { import(text); }}};
+    return {
+        {"input line", [this](Text text) { ring(text); }},
+        {"settlement: card number", [this](Text text) { pay(text, "Pw1"); }},
+        {"settlement: card password", [this](Text text) { pay("8001", text); }},
+        {"sales query: code", [this](Text text) { search(&SearchCriteria::code, text); }},
+        {"sales query: bill", [this](Text text) { search(&SearchCriteria::billNo, text); }},
+        {"sales query: category", [this](Text text) { search(&SearchCriteria::category, text); }},
+        {"member's number or telephone",
+         [this](Text text) { (void)pos.gMemberSvc.GetMember(text); }},
+        {"top-up: card number and remark", [this](Text text) { topUp(text); }},
+        {"new member", [this](Text text) { join(text); }},
+        {"login", [this](Text text) { logIn(text); }, true},
+        {"shop parameter", [this](Text text) { (void)pos.gSysParam.set("ShopName", text); }},
+        {"imported goods", [this](Text text) { import(text); }}};
   }
 
   void logIn(Text text) {
@@ -148,14 +147,16 @@ class TypedTextTest : public WithSpy, public TillFixture {
     enter("");
     press(kF12);
   }
-  void search(Text code, Text bill, Text category) {
-    SearchCriteria wanted;
-    wanted.end = {{2027, 1, 1}, 0, 0, 0};
-    wanted.byCategory = !category.empty();
-    wanted.code = code;
-    wanted.billNo = bill;
-    wanted.category = category;
-    if (const auto statement = searchStatement(wanted)) pos.gConn->Open(*statement);
+  void search(std::string SearchCriteria::*field, Text text) {
+    for (const char* code : {"", "550ml"}) {
+      SearchCriteria wanted;
+      wanted.end = {{2027, 1, 1}, 0, 0, 0};
+      wanted.category = "饮料";
+      wanted.code = code;
+      wanted.*field = text;
+      wanted.byCategory = field != &SearchCriteria::billNo && !wanted.category.empty();
+      if (const auto statement = searchStatement(wanted)) pos.gConn->Open(*statement);
+    }
   }
   void join(Text text) {
     ClsMember member;

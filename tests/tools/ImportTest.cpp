@@ -121,6 +121,10 @@ TEST(ExportTest, IsWhatImportNeedsToMakeTheSameShop) {
   Owner from, to;
   from.expect(0, "", "create @ --demo");
   to.expect(0, "", "create @");
+  EXPECT_EQ(from.value("select (select count(*) from stock where quantity > 0) >= 300 and exists "
+                       "(select 1 from member where enabled = 0) as value"),
+            "1")
+      << "goods enough to sell, and a card that is blocked";
   from.execute("update tmda set spmc = 'a,\"b\"' where id = 1");
   for (const std::string& table : tableNames()) {
     const std::string csv = from.folder.file(table + ".csv");
