@@ -86,14 +86,14 @@ TEST_F(CommandTest, ARestoredBackupIsNotMixedWithTheOldLog) {
 }
 
 TEST_F(CommandTest, TheTillStartsByItselfAsLongAsItIsToldTo) {
-  setenv("XDG_CONFIG_HOME", owner.folder.path().c_str(), 1);
-  const std::string entry = owner.folder.file("autostart/till.desktop");
+  setenv("XDG_CONFIG_HOME", folder.path().c_str(), 1);
+  const std::string entry = folder.file("autostart/till.desktop");
   const auto till = std::filesystem::read_symlink("/proc/self/exe").parent_path() / "till";
-  EXPECT_EQ(owner.run({"autostart", "on"}), 0) << owner.err;
+  expect(0, "", "autostart on");
   std::ifstream file(entry);
   EXPECT_EQ(std::string(std::istreambuf_iterator<char>(file), {}), autostartEntry(till));
-  EXPECT_EQ(owner.run({"autostart", "maybe"}), 2);
-  EXPECT_EQ(owner.run({"autostart", "off"}), 0) << owner.err;
+  expect(2, "", "autostart maybe");
+  expect(0, "", "autostart off");
   EXPECT_FALSE(std::filesystem::exists(entry));
   EXPECT_THAT(autostartEntry("/a $b/100%\\\"c"),
               testing::EndsWith("TryExec=/a $b/100%\\\\\"c\n"
