@@ -10,6 +10,7 @@
 namespace {
 
 constexpr int kMostDecimals = 18;
+constexpr double kFifteenDigits = 1e15;
 
 bool isDigit(char c) {
   return c >= '0' && c <= '9';
@@ -54,6 +55,10 @@ std::optional<Decimal> Decimal::parse(std::string_view text) {
 
 std::optional<Decimal> Decimal::fromDouble(double value) {
   if (!std::isfinite(value)) return std::nullopt;
+  // Most quantities are whole, and each key press adds up those of the whole bill.
+  if (std::abs(value) < kFifteenDigits && value == std::trunc(value)) {
+    return Decimal{static_cast<std::int64_t>(value), 0};
+  }
   const SignificantDigits shown(value);
   Wide mantissa = 0;
   for (char c : shown.digits()) mantissa = mantissa * 10 + (c - '0');

@@ -10,6 +10,11 @@
 
 namespace {
 
+std::string text(sqlite3_stmt* row, int column) {
+  const auto* text = reinterpret_cast<const char*>(sqlite3_column_text(row, column));
+  return text == nullptr ? std::string() : std::string(text);
+}
+
 void check(sqlite3* engine, bool good) {
   if (!good) throw std::runtime_error(sqlite3_errmsg(engine));
 }
@@ -83,6 +88,20 @@ long BareEngine::Statement::readAll() {
     for (int column = 0; column < columns; ++column) readColumn(prepared_, column);
   }
   check(engine_, code == SQLITE_DONE);
+  sqlite3_reset(prepared_);
+  return rows;
+}
+
+Texts BareEngine::Statement::read(std::size_t most) {
+  const int columns = sqlite3_column_count(prepared_);
+  Texts rows;
+  int code = SQLITE_ROW;
+  while (rows.size() < most && (code = sqlite3_step(prepared_)) == SQLITE_ROW) {
+    std::vector<std::string>& row = rows.emplace_back();
+    row.reserve(static_cast<std::size_t>(columns));
+    for (int column = 0; column < columns; ++column) row.push_back(text(prepared_, column));
+  }
+  check(engine_, code == SQLITE_ROW || code == SQLITE_DONE);
   sqlite3_reset(prepared_);
   return rows;
 }

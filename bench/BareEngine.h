@@ -3,9 +3,13 @@
 #include <filesystem>
 #include <string>
 #include <string_view>
+#include <vector>
 
 struct sqlite3;
 struct sqlite3_stmt;
+
+/// The rows of a query, each column as a text.
+using Texts = std::vector<std::vector<std::string>>;
 
 /// The engine alone, opened with the till's own settings: what the till is compared with.
 class BareEngine {
@@ -25,6 +29,8 @@ class BareEngine {
     void run();
     /// Runs a query to its end, reading every column of every row; gives the number of rows.
     long readAll();
+    /// Runs a query until it has given that many rows, or to its end.
+    Texts read(std::size_t most);
 
    private:
     sqlite3* engine_;

@@ -1,5 +1,6 @@
 #include "bench/BenchShop.h"
 
+#include <algorithm>
 #include <stdexcept>
 
 #include "checkout/Settlement.h"
@@ -45,6 +46,13 @@ bool BenchShop::settle(Settlement& settlement) {
   settlement.begin();
   settlement.confirmCash(settlement.cashText());
   return settlement.settled();
+}
+
+// As a menu does that shows its first page.
+int BenchShop::choose(int count, const std::function<QString(int)>& caption) {
+  constexpr int kPage = 10;
+  for (int entry = 0; entry < std::min(count, kPage); ++entry) static_cast<void>(caption(entry));
+  return 0;
 }
 
 void BenchShop::ShowMessage(const QString& text) {

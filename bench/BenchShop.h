@@ -36,7 +36,7 @@ class BenchShop : public SaleScreen {
     return yesPreselected;
   }
   QString prompt(const QString&, const QString&) override { return member_; }
-  int choose(int, const std::function<QString(int)>&) override { return 0; }
+  int choose(int count, const std::function<QString(int)>& caption) override;
   std::int32_t chooseHeldBill(const std::vector<std::shared_ptr<ClsSell>>&) override { return 0; }
   bool settle(Settlement& settlement) override;
   void endProgram() override;

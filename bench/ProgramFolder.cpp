@@ -25,9 +25,10 @@ void installTill(const fs::path& folder) {
   install(built("libTessaly.so.1"), folder / "libTessaly.so.1");
 }
 
-void installEmptyWindow(const fs::path& folder) {
+void installEmptyWindow(const fs::path& folder, const fs::path& dataFile) {
   install(built("empty_window"), folder / "till");
   fs::create_directory(folder / "data");
+  if (!dataFile.empty()) return fs::create_symlink(dataFile, folder / "data" / "POS.mdb");
   createDataFile({folder / "data" / "POS.mdb", kBuiltInPassword});
 }
 

@@ -56,15 +56,15 @@ void sell(TillDriver& till, int firstItem, int goods) {
   till.waitFor("frmSell");
 }
 
-double emptyWindowMiB(const Run& run) {
+double emptyWindowMiB(Run& run) {
   const auto empty = run.shops.emptyFolder();
-  installEmptyWindow(empty->path());
+  installEmptyWindow(empty->path(), run.shops.copy(run.largest()) / "bare.mdb");
   TillDriver window(empty->path());
   window.waitFor("frmMenu");
   return residentMiB(window.process());
 }
 
-/// A whole day at the real till, against a program with a window and an open data file.
+/// A whole day at the real till, against a program with a list in a window and a full page cache.
 void memory(Run& run, benchmark::State& state, Measured& row) {
   const int bills = run.samples(2'000, 40);
   const int goods = run.largest().goods;
@@ -83,7 +83,7 @@ void memory(Run& run, benchmark::State& state, Measured& row) {
     }));
     late = residentMiB(till.process());
   }
-  row.claims = {{"ratio", late / emptyWindowMiB(run), 2}, {"growth", late / early, 1.05}};
+  row.claims = {{"ratio", late / emptyWindowMiB(run), 1.7}, {"growth", late / early, 1.05}};
 }
 
 }  // namespace

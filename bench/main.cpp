@@ -11,6 +11,8 @@
 #include "bench/Run.h"
 #include "driver/OffscreenScreen.h"
 #include "shell/FocusReturn.h"
+#include "shell/HeldKeys.h"
+#include "shell/ScreenFit.h"
 #include "shell/Style.h"
 
 namespace {
@@ -59,6 +61,8 @@ int main(int argc, char** argv) {
   application.setQuitOnLastWindowClosed(false);
   applyStyle(application);
   new FocusReturn(&application);
+  new HeldKeys(&application);
+  new ScreenFit(&application);
   benchmark::Initialize(&count, arguments.data());
   if (benchmark::ReportUnrecognizedArguments(count, arguments.data())) return 2;
   Run run{options.full, Shops(options.folder), {}};

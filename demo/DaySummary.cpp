@@ -4,6 +4,7 @@
 #include <sstream>
 
 #include "base/NumberText.h"
+#include "saleslib/Tenders.h"
 #include "store/Connection.h"
 #include "store/DataFile.h"
 
@@ -26,10 +27,13 @@ int listBills(Connection& shop, std::ostream& text, Currency& takings) {
     takings += amount;
     text << rows.text("sell_time") << "  流水号 " << rows.text("id") << "  "
          << generalNumber(rows.number("quantity").value_or(0)) << " 件  应收 "
-         << twoDecimals(amount) << "  现金 " << twoDecimals(*rows.currency("cash")) << "  银行卡 "
-         << twoDecimals(*rows.currency("bank_card")) << "  储值卡 "
-         << twoDecimals(*rows.currency("card_pay")) << "  优惠 "
-         << twoDecimals(*rows.currency("favorable")) << "\n";
+         << twoDecimals(amount);
+    for (const TenderKind& kind : tenderKinds()) {
+      const Currency paid = rows.currency(kind.column).value_or(Currency());
+      if (kind.parameter == nullptr || !paid.isZero())
+        text << "  " << kind.name << " " << twoDecimals(paid);
+    }
+    text << "\n";
   }
   return bills;
 }

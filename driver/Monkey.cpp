@@ -42,7 +42,8 @@ const char* const kTexts[] = {"0",    "1",           "2",
                               ".",    "-",           "1.2.3",
                               "NaN",  "&amp;<b>",    "x=1;drop table sell"};
 
-/// What makes sense in a window: "\n" is Enter, "\t" Tab, "#" a low number, "*" one of the words.
+/// What makes sense in a window: "\n" is Enter, "\t" Tab, "v" Down, "#" a low number, "*" one
+/// of the words.
 struct Phrase {
   const char* window;
   const char* keys;
@@ -55,8 +56,10 @@ constexpr Phrase kPhrases[] = {{"frmSell", "*\n"},
                                {"frmEndSell", "\t\t\t\t880001\n1111\n"},
                                {"frmInput", "880001\n"},
                                {"frmInput", "3.5\n"},
+                               {"myMenu", "v\n"},
+                               {"myMenu", "vv\n"},
                                {"frmUnSell", "#\n"},
-                               {"frmUnSell", "#\n\t\n1\n\n"},
+                               {"frmUnSell", "#\n\tv\n1\n\n"},
                                {"cardStored", "880002\n50\n60\n\t\n\n"},
                                {"cardStored", "880003\n#\n#\n\t\n\n"}};
 
@@ -215,6 +218,8 @@ bool Monkey::speak(const QString& window) {
       type(QString::number(1 + below(kLowNumbers)));
     } else if (each == '*') {
       type(one(words_));
+    } else if (each == 'v') {
+      key(Qt::Key_Down);
     } else {
       type(QString(QLatin1Char(each)));
     }

@@ -13,6 +13,10 @@ constexpr int kFrame = 2;
 constexpr int kFreeRows = 2;  // below the last line of a bill that has just moved up
 constexpr QColor kFrameColour(0xd3, 0x54, 0x00);
 
+bool isActivation(const QEvent& event) {
+  return event.type() == QEvent::WindowActivate || event.type() == QEvent::WindowDeactivate;
+}
+
 /// In one line; gives its width.
 double layOut(QTextLayout& text) {
   text.beginLayout();
@@ -41,6 +45,18 @@ BillView::BillView(QWidget* parent) : QTableView(parent) {
   // With a grid the base class marks rectangles that are a pixel too short.
   setShowGrid(false);
   viewport()->setAttribute(Qt::WA_OpaquePaintEvent);
+  horizontalHeader()->viewport()->installEventFilter(this);
+}
+
+// List and headings look the same in a window that is not the active one. The base classes paint
+// them anew twice for every window that opens over this one.
+bool BillView::eventFilter(QObject* watched, QEvent* event) {
+  const bool heading = watched == horizontalHeader()->viewport();
+  return (heading && isActivation(*event)) || QTableView::eventFilter(watched, event);
+}
+
+bool BillView::viewportEvent(QEvent* event) {
+  return !isActivation(*event) && QTableView::viewportEvent(event);
 }
 
 void BillView::divideRows(int leastHeight, int leastHeading) {

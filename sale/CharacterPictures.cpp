@@ -27,6 +27,14 @@ int widthOf(const Pictures& pictures) {
   return width;
 }
 
+void copyRows(const QImage& picture, uchar* to, qsizetype pitch) {
+  const qsizetype ownPitch = picture.bytesPerLine();
+  const uchar* from = picture.constBits();
+  for (int y = picture.height(); y > 0; --y, from += ownPitch, to += pitch) {
+    std::memcpy(to, from, size_t(ownPitch));
+  }
+}
+
 /// All of them side by side: to draw that costs no more than to draw one.
 QImage line(const Pictures& pictures) {
   const QImage& first = *pictures.front();
@@ -34,12 +42,8 @@ QImage line(const Pictures& pictures) {
   made.setDevicePixelRatio(first.devicePixelRatio());
   uchar* to = made.bits();
   for (const QImage* each : pictures) {
-    const uchar* from = each->constBits();
-    const auto bytes = size_t(each->bytesPerLine());
-    for (int y = 0; y < made.height(); ++y) {
-      std::memcpy(to + y * made.bytesPerLine(), from + y * each->bytesPerLine(), bytes);
-    }
-    to += bytes;
+    copyRows(*each, to, made.bytesPerLine());
+    to += each->bytesPerLine();
   }
   return made;
 }
@@ -71,6 +75,14 @@ bool CharacterPictures::draw(QPainter& painter, const QRect& room, bool right, c
   const double left = right ? room.left() + room.width() - size.width() : room.left();
   painter.drawImage(QPointF(left, room.top() + int(room.height() - size.height()) / 2), drawn);
   return true;
+}
+
+int CharacterPictures::width(const QPainter& painter, const QString& text) {
+  double width = 0;
+  for (const QChar character : text) {
+    width += picture(painter, character)->deviceIndependentSize().width();
+  }
+  return qRound(width);
 }
 
 const QImage* CharacterPictures::picture(const QPainter& painter, QChar character) {

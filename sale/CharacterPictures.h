@@ -23,6 +23,8 @@ class CharacterPictures {
   /// characters and their punctuation are taken for such that can.
   bool draw(QPainter& painter, const QRect& room, bool right, const QString& text,
             Overlong overlong);
+  /// How wide draw() draws a text of characters that stand alone.
+  int width(const QPainter& painter, const QString& text);
 
  private:
   const QImage* picture(const QPainter& painter, QChar character);

@@ -22,6 +22,7 @@ void FittedLabel::setSmallest(int size) {
 }
 
 void FittedLabel::showText(const QString& text) {
+  if (text == this->text()) return;
   setText(text);
   fit();
 }

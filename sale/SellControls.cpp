@@ -2,13 +2,13 @@
 
 #include <QFrame>
 #include <QLabel>
-#include <QLineEdit>
 #include <QWidget>
 #include <algorithm>
 
 #include "platform/Twips.h"
 #include "sale/BillView.h"
 #include "sale/FittedLabel.h"
+#include "sale/InputLine.h"
 #include "sale/KeyHelp.h"
 #include "sale/SellStyle.h"
 
@@ -31,7 +31,7 @@ SellControls::SellControls(QWidget* screen)
       title2(named<QLabel>("title2", screen)),
       title3(named<FittedLabel>("title3", screen)),
       lv(named<BillView>("lv", screen)),
-      t(named<QLineEdit>("t", lv->viewport())),
+      t(named<InputLine>("t", lv->viewport())),
       txtmoney(named<FittedLabel>("txtmoney", screen)),
       lblViewMember(named<FittedLabel>("lblViewMember", screen)),
       frmBot(named<QFrame>("frmBot", screen)),
@@ -50,10 +50,11 @@ SellControls::SellControls(QWidget* screen)
 void SellControls::arrange(const ClsPosSet& settings) {
   const int type = sellTypeSize(screen_->width());
   screen_->setStyleSheet(sellStyleSheet(settings, type));
-  t->ensurePolished();
-  t->setAttribute(Qt::WA_OpaquePaintEvent);  // else each typed key paints the list beneath it
   setSizes(type);
   layOut(type);
+  t->ensurePolished();
+  // Else each typed key paints the list beneath it. A style sheet takes it back.
+  t->setAttribute(Qt::WA_OpaquePaintEvent);
 }
 
 void SellControls::setSizes(int type) {

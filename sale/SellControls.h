@@ -5,10 +5,10 @@
 class BillView;
 class ClsPosSet;
 class FittedLabel;
+class InputLine;
 class KeyHelp;
 class QFrame;
 class QLabel;
-class QLineEdit;
 class QString;
 class QWidget;
 
@@ -30,7 +30,7 @@ class SellControls {
   QLabel* const title2;
   FittedLabel* const title3;
   BillView* const lv;
-  QLineEdit* const t;
+  InputLine* const t;
   FittedLabel* const txtmoney;
   FittedLabel* const lblViewMember;
   QFrame* const frmBot;

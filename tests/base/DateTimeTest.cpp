@@ -2,8 +2,6 @@
 
 #include <gmock/gmock.h>
 
-namespace {
-
 const DateTime kSunday{{2026, 11, 22}, 9, 5, 3};
 
 TEST(DateTimeTest, IsWrittenAsPeopleAndTheDataFileHaveIt) {
@@ -49,5 +47,3 @@ TEST(DateTimeTest, PlusDaysFollowsTheCalendar) {
   EXPECT_EQ(plusDays({2026, 1, 1}, -1), (Date{2025, 12, 31}));
   EXPECT_EQ(plusDays({2026, 1, 1}, -2147483647 - 1), (Date{1, 1, 1}));
 }
-
-}  // namespace

@@ -2,8 +2,6 @@
 
 #include <gmock/gmock.h>
 
-namespace {
-
 TEST(GbkTest, EncodesAndSubstitutes) {
   const std::pair<std::string, std::string> rows[] = {
       {"Cola 330ml", "Cola 330ml"},
@@ -50,5 +48,3 @@ TEST(GbkTest, FitsColumnsWithoutCuttingACharacter) {
   EXPECT_EQ(gbk::centred("中文", 9, '*'), "**中文**");
   EXPECT_EQ(gbk::centred("中文", 3), "中文");
 }
-
-}  // namespace

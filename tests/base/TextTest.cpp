@@ -4,8 +4,6 @@
 
 #include "base/Failure.h"
 
-namespace {
-
 TEST(TextTest, TakesWhatPeopleType) {
   EXPECT_EQ(trimmed(" \t\u3000 a\u3000b \r\n\u3000"), "a\u3000b");
   EXPECT_EQ(halfWidth("Ａｂ１２．５－！～\u3000中、\xFF"), "Ab12.5-!~ 中、\xFF");
@@ -22,5 +20,3 @@ TEST(TextTest, TakesWhatPeopleType) {
 TEST(EnsureTest, StopsOnABug) {
   EXPECT_DEATH(ensure(false, "totals add up"), "TextTest.cpp.*totals add up");
 }
-
-}  // namespace

@@ -8,9 +8,8 @@
 #include <set>
 
 #include "TemporaryFolder.h"
+#include "base/FileName.h"
 #include "base/PrivateFile.h"
-
-namespace {
 
 namespace fs = std::filesystem;
 
@@ -68,4 +67,17 @@ TEST_F(WholeFileTest, IsItsGroupsTooInASharedFolderOnly) {
   }
 }
 
-}  // namespace
+TEST(FileNameTest, FindsWhateverTheCase) {
+  const TemporaryFolder folder;
+  const std::string root = folder.path().string();
+  fs::create_directory(root + "/data");
+  for (const char* name : {"/data/pos.mdb", "/Twice.ini", "/TWICE.ini", "/中文.txt"})
+    std::ofstream(root + name) << "x";
+  const std::pair<const char*, const char*> rows[] = {
+      {"/data/pos.mdb", "/data/pos.mdb"},   {"/DATA/POS.mdb", "/data/pos.mdb"},
+      {"\\Data\\Pos.MDB", "/data/pos.mdb"}, {"/Data/New.mdb", "/data/New.mdb"},
+      {"/Gone/POS.mdb", "/Gone/POS.mdb"},   {"/Twice.ini", "/Twice.ini"},
+      {"/twice.ini", "/TWICE.ini"},         {"/中文.TXT", "/中文.txt"}};
+  for (const auto& [written, found] : rows)
+    EXPECT_EQ(findIgnoringCase(root + written), root + found) << written;
+}

@@ -1,33 +1,16 @@
 #include "kill/Day.h"
 
 #include <algorithm>
-#include <iterator>
+#include <map>
+#include <sstream>
 #include <stdexcept>
+#include <tuple>
 
-#include "base/NumberText.h"
 #include "driver/TillDriver.h"
-
-namespace {
 
 constexpr std::size_t kLongestBill = 7;
 constexpr std::size_t kMostHeld = 3;
 constexpr std::int16_t kPointUnit = 10;  // the demo shop's
-
-// Entries of the main menu and of the further menu, by position; both have five.
-enum MainMenu { kSell, kCount, kPosSet, kEditPwd, kEnd };
-enum FurtherMenu { kSearch, kUnSell };
-constexpr int kMenuEntries = 5;
-
-Currency yuan(std::int64_t whole) {
-  return Currency::fromYuan(whole);
-}
-
-void addStock(Ledger& ledger, const Ledger::Line& line, double quantity) {
-  double& stock = ledger.stock[line.item];
-  stock = roundedQuantity(stock + roundedQuantity(quantity * line.ratio));
-}
-
-}  // namespace
 
 Day::Day(Journal& journal, Goods goods, unsigned seed, std::function<void()> aboutToConfirm)
     : journal_(journal),
@@ -35,296 +18,237 @@ Day::Day(Journal& journal, Goods goods, unsigned seed, std::function<void()> abo
       random_(seed),
       aboutToConfirm_(std::move(aboutToConfirm)) {}
 
-unsigned Day::below(unsigned limit) {
-  return static_cast<unsigned>(random_() % limit);
-}
-
 const std::string& Day::anyCard() {
-  return std::next(goods_.cards().begin(), below(static_cast<unsigned>(goods_.cards().size())))
-      ->first;
+  return std::next(goods_.cards().begin(), below(goods_.cards().size()))->first;
 }
 
-/// The highlight of a menu stays where it was.
-void Day::choose(TillDriver& till, int& highlight, int entry) {
-  for (; highlight != entry; highlight = (highlight + 1) % kMenuEntries) till.key("Down");
-  till.key("Return");
+/// Keys by their names, one after the other; "'text" types it, "=text" types it and presses Enter,
+/// ">window" waits for a window, "@control" goes there by Tab.
+void Day::play(const std::string& script) {
+  static const std::map<char, void (TillDriver::*)(std::string_view)> kOthers = {
+      {'\'', &TillDriver::type},
+      {'=', &TillDriver::enter},
+      {'>', &TillDriver::waitFor},
+      {'@', &TillDriver::tabTo}};
+  std::istringstream words(script);
+  for (std::string word; words >> word; till_->sync()) {
+    const auto other = kOthers.find(word.front());
+    other == kOthers.end() ? till_->key(word) : (till_->*other->second)(word.substr(1));
+  }
+}
+
+void Day::confirm(const std::string& what, const std::string& window, Journal::Step step,
+                  Journal::Step halfway) {
+  journal_.begin(what, std::move(step), std::move(halfway));
+  aboutToConfirm_();
+  play("Return >" + window);
+  journal_.confirm();
 }
 
 void Day::logIn(TillDriver& till) {
-  mainEntry_ = kSell;
-  furtherEntry_ = kSearch;
+  till_ = &till;
+  atReturns_ = false;
   held_.clear();
-  till.waitFor("frmMenu");
-  till.key("Return");
-  till.waitFor("frmLogin");
-  till.enter("1");
-  till.enter("111");
-  till.sync();
+  play(">frmMenu Return >frmLogin =1 =111");
   if (till.activeWindow() == "frmMsg") {
     told_ += till.text("Label1");
     till.key("Return");
   }
   till.waitFor("frmSell");
-  newBill(till);
+  newBill();
 }
 
 // A bill's number is never used twice, not even that of a bill that was voided.
-void Day::newBill(TillDriver& till) {
+void Day::newBill() {
   bill_ = {};
-  const std::string title = till.text("title1");
-  const std::string caption = "流水号：";
+  hasCurrentLine_ = false;
+  const std::string title = till_->text("title1"), caption = "流水号：";
   const std::size_t at = title.find(caption);
   if (at == std::string::npos) throw std::runtime_error("no bill number in: " + title);
-  bill_.number = std::stoi(title.substr(at + caption.size()));
-  if (bill_.number <= highestNumber_) throw std::runtime_error("used again: " + title);
-  highestNumber_ = bill_.number;
+  number_ = std::stoi(title.substr(at + caption.size()));
+  if (number_ <= highestNumber_) throw std::runtime_error("used again: " + title);
+  highestNumber_ = number_;
 }
 
-void Day::step(TillDriver& till) {
-  if (bill_.lines.empty()) {
-    if (!held_.empty() && chance(40)) return recall(till);
-    if (held_.empty() && !journal_.confirmed().bills.empty() && chance(8)) return takeBack(till);
-    if (bill_.member.empty() && chance(25)) return attachMember(till);
-    if (chance(6)) return topUp(till);
-    return ring(till);
+void Day::step() {
+  if (bill_.lines.empty()) return beginBill();
+  if (hasCurrentLine_ && chance(27)) return correct();
+  if (chance(3)) return leaveBill("F12");
+  if (held_.size() < kMostHeld && chance(5)) {
+    held_.emplace_back(number_, bill_);
+    return leaveBill("F5");
   }
-  if (bill_.hasCurrentLine) {
-    if (chance(14)) return changeQuantity(till);
-    if (chance(8)) return changeDiscount(till);
-    if (chance(8)) return deleteLine(till);
+  if (chance(3)) return topUp();
+  bill_.lines.size() == kLongestBill || chance(25) ? settle() : ring();
+}
+
+void Day::beginBill() {
+  if (!held_.empty() && chance(40)) return recall();
+  if (held_.empty() && !journal_.confirmed().bills.empty() && chance(8)) return takeBack();
+  if (bill_.member.empty() && chance(25)) {
+    bill_.member = anyCard();
+    return play("F2 >frmInput =" + bill_.member + " >frmSell");
   }
-  if (chance(3)) return cancel(till);
-  if (held_.size() < kMostHeld && chance(5)) return suspend(till);
-  if (chance(3)) return topUp(till);
-  if (bill_.lines.size() == kLongestBill || chance(25)) return settle(till);
-  ring(till);
+  chance(6) ? topUp() : ring();
 }
 
-void Day::attachMember(TillDriver& till) {
-  bill_.member = anyCard();
-  till.key("F2");
-  till.waitFor("frmInput");
-  till.enter(bill_.member);
-  till.waitFor("frmSell");
+void Day::ring() {
+  bill_.lines.push_back(goods_.line(below(goods_.count()), bill_.member));
+  hasCurrentLine_ = true;
+  till_->enter(bill_.lines.back().code);
 }
 
-void Day::ring(TillDriver& till) {
-  const auto item = below(static_cast<unsigned>(goods_.count()));
-  bill_.lines.push_back(goods_.line(item, bill_.member));
-  bill_.hasCurrentLine = true;
-  till.enter(bill_.lines.back().code);
+void Day::correct() {
+  Ledger::Line& line = bill_.lines.back();
+  const unsigned what = below(4);
+  if (what == 0) {
+    bill_.lines.pop_back();
+    hasCurrentLine_ = false;
+    return play("F4");
+  }
+  if (what == 1) {
+    line.discount = Discount((80 + below(20)) / 100.0);
+    return play("Up Right =" + generalNumber(line.discount));
+  }
+  line.quantity = (1 + below(12)) / 4.0;
+  play("Up =" + generalNumber(line.quantity));
 }
 
-void Day::changeQuantity(TillDriver& till) {
-  const double quantity = (1 + below(12)) / 4.0;
-  bill_.lines.back().quantity = quantity;
-  till.key("Up");
-  till.enter(generalNumber(quantity));
+void Day::leaveBill(const char* key) {
+  play(key);
+  newBill();
 }
 
-void Day::changeDiscount(TillDriver& till) {
-  const Discount discount((80 + below(20)) / 100.0);
-  bill_.lines.back().discount = discount;
-  till.key("Up");
-  till.key("Right");
-  till.enter(generalNumber(discount));
+void Day::recall() {
+  const auto chosen = held_.begin() + below(held_.size());
+  play("F6 >frmRecord");
+  for (auto row = held_.begin(); row != chosen; ++row) till_->key("Down");
+  play("Return >frmSell");
+  std::tie(number_, bill_) = *chosen;
+  held_.erase(chosen);
 }
 
-void Day::deleteLine(TillDriver& till) {
-  till.key("F4");
-  bill_.lines.pop_back();
-  bill_.hasCurrentLine = false;
+void Day::settle() {
+  Ledger::Bill bill = bill_;
+  play("F1 >frmEndSell");
+  till_->waitForText("Money", twoDecimals(bill.goodsAmount()));
+  settledBill_ = "流水号 " + std::to_string(number_) + "，";
+  const std::string name = "bill " + std::to_string(number_);
+  if (chance(35) && typeCard(bill)) {
+    confirm(name + " paid by card " + bill.card, "messageBox", settling(bill));
+    till_->key("Return");
+  } else {
+    typeTenders(bill);
+    confirm(name + (bill.slip.empty() ? " paid in cash" : " paid by telephone"), "frmSell",
+            settling(bill));
+  }
+  till_->waitFor("frmSell");
+  newBill();
 }
 
-void Day::cancel(TillDriver& till) {
-  till.key("F12");
-  till.sync();
-  newBill(till);
+// In the order of the Tab key.
+void Day::typeTenders(Ledger::Bill& bill) {
+  bill.paidWith(Tender::kCash) = bill.goodsAmount() + Currency::fromYuan(below(50));
+  if (chance(50)) {
+    bill.paidWith(Tender::kFavorable) = Currency::fromScaled(below(100) * 100);
+    bill.salesman = static_cast<int>(below(9));
+    bill.paidWith(Tender::kBankCard) = Currency::fromYuan(below(20));
+    if (chance(50)) {
+      bill.slip = "28A" + std::to_string(number_);
+      std::swap(bill.paidWith(Tender::kPhone), bill.paidWith(Tender::kCash));
+    }
+    play("Tab '" + generalNumber(bill.paidWith(Tender::kFavorable)) + " Tab '" +
+         std::to_string(bill.salesman) + " Tab '" +
+         generalNumber(bill.paidWith(Tender::kBankCard)) + " Tab '" +
+         generalNumber(bill.paidWith(Tender::kPhone)) + " Tab '" + bill.slip + " Return");
+  }
+  till_->type(generalNumber(bill.paidWith(Tender::kCash)));
 }
 
-void Day::suspend(TillDriver& till) {
-  till.key("F5");
-  till.sync();
-  held_.push_back(bill_);
-  held_.back().hasCurrentLine = false;
-  newBill(till);
-}
-
-void Day::recall(TillDriver& till) {
-  const auto chosen = below(static_cast<unsigned>(held_.size()));
-  till.key("F6");
-  till.waitFor("frmRecord");
-  for (unsigned row = 0; row < chosen; ++row) till.key("Down");
-  till.key("Return");
-  till.waitFor("frmSell");
-  bill_ = held_[chosen];
-  held_.erase(held_.begin() + chosen);
-}
-
-Ledger::Bill Day::figures() const {
-  Ledger::Bill bill;
-  bill.member = bill_.member;
-  bill.lines = bill_.lines;
-  bill.amount = bill.goodsAmount();
-  return bill;
+/// False when no card has enough.
+bool Day::typeCard(Ledger::Bill& bill) {
+  const auto& money = journal_.confirmed().money;
+  const auto rich = std::ranges::find_if(goods_.cards(), [&](const auto& card) {
+    return money.at("card of " + card.first) >= bill.goodsAmount();
+  });
+  if (rich == goods_.cards().end()) return false;
+  bill.card = rich->first;
+  bill.paidWith(Tender::kStoredCard) = bill.goodsAmount();
+  play("@czk =" + bill.card + " '" + rich->second.password);
+  return true;
 }
 
 Journal::Step Day::settling(const Ledger::Bill& bill) const {
-  return [bill, number = bill_.number](Ledger& ledger) {
-    ledger.bills[number] = bill;
-    for (const Ledger::Line& line : bill.lines) addStock(ledger, line, -line.quantity);
-    if (!bill.card.empty()) ledger.members[bill.card].balance -= bill.cardPay;
+  return [bill, number = number_](Ledger& ledger) {
+    const Currency amount = bill.goodsAmount();
+    ledger.put(number, bill);
+    for (const Ledger::Line& line : bill.lines) ledger.addStock(line, -line.quantity);
+    if (!bill.card.empty()) ledger.money["card of " + bill.card] -= amount;
     if (bill.member.empty()) return;
-    Ledger::Member& member = ledger.members[bill.member];
-    member.totalSpent += bill.amount;
-    const auto points =
-        pointsAfter(bill.amount, kPointUnit, static_cast<std::int16_t>(member.points));
-    if (points) member.points = *points;
+    ledger.money["purchases of " + bill.member] += amount;
+    double& points = ledger.numbers["points of " + bill.member];
+    const auto before = static_cast<std::int16_t>(points);
+    points = pointsAfter(amount, kPointUnit, before).value_or(before);
   };
-}
-
-void Day::confirming(const std::string& what, Journal::Step step, Journal::Step halfway,
-                     TillDriver& till) {
-  journal_.begin(what, std::move(step), std::move(halfway));
-  aboutToConfirm_();
-  till.key("Return");
-}
-
-void Day::settle(TillDriver& till) {
-  till.key("F1");
-  till.waitFor("frmEndSell");
-  till.waitForText("Money", twoDecimals(figures().amount));
-  const Currency most = journal_.confirmed().members.at(anyCard()).balance;
-  settledBill_ = bill_.number;
-  chance(35) && most > figures().amount ? payCard(till) : payCash(till);
-  till.waitFor("frmSell");
-  newBill(till);
-}
-
-void Day::payCash(TillDriver& till) {
-  Ledger::Bill bill = figures();
-  if (chance(30)) {
-    bill.favorable = Currency::fromScaled(below(100) * 100);
-    bill.salesman = static_cast<int>(below(9));
-    bill.bankCard = yuan(below(20));
-    till.key("Tab");
-    till.type(generalNumber(bill.favorable));
-    till.key("Tab");
-    till.type(std::to_string(bill.salesman));
-    till.key("Tab");
-    till.type(generalNumber(bill.bankCard));
-    till.key("Return");
-  }
-  bill.cash = bill.amount + yuan(below(50));
-  till.type(generalNumber(bill.cash));
-  confirming("bill " + std::to_string(bill_.number) + " paid in cash", settling(bill), nullptr,
-             till);
-  till.waitFor("frmSell");
-  journal_.confirm();
-}
-
-void Day::payCard(TillDriver& till) {
-  Ledger::Bill bill = figures();
-  const auto& members = journal_.confirmed().members;
-  const auto rich =
-      std::find_if(goods_.cards().begin(), goods_.cards().end(),
-                   [&](const auto& card) { return members.at(card.first).balance >= bill.amount; });
-  bill.card = rich->first;
-  bill.cardPay = bill.amount;
-  for (int field = 0; field < 4; ++field) till.key("Tab");
-  till.enter(bill.card);
-  till.type(rich->second.password);
-  confirming("bill " + std::to_string(bill_.number) + " paid by card " + bill.card, settling(bill),
-             nullptr, till);
-  till.waitFor("messageBox");
-  journal_.confirm();
-  till.key("Return");
 }
 
 // Record and balance are two writes, one after the other.
-void Day::topUp(TillDriver& till) {
-  Ledger::TopUp topUp;
-  topUp.card = anyCard();
-  topUp.paid = yuan(50 + below(100));
-  topUp.credited = topUp.paid + yuan(below(20));
-  topUp.balance = journal_.confirmed().members.at(topUp.card).balance + topUp.credited;
-  till.key("F9");
-  till.waitFor("cardStored");
-  till.enter(topUp.card);
-  till.enter(generalNumber(topUp.paid));
-  till.enter(generalNumber(topUp.credited));
-  till.tabTo("cmdOk2");
-  const auto record = [topUp](Ledger& ledger) {
-    ledger.topUps.push_back(topUp);
-    ledger.topUps.back().isComplete = false;
+void Day::topUp() {
+  const std::string card = anyCard(), account = "card of " + card;
+  const Currency paid = Currency::fromYuan(50 + below(100));
+  const Currency credited = paid + Currency::fromYuan(below(20));
+  lastTopUp_ = "卡号 " + card + "，付款 " + twoDecimals(paid) + "，充值 " + twoDecimals(credited);
+  play("F9 >cardStored =" + card + " =" + generalNumber(paid) + " =" + generalNumber(credited) +
+       " @cmdOk2");
+  const auto record = [=](Ledger& ledger) {
+    const std::string name = "top-up " + std::to_string(++ledger.topUps);
+    ledger.money[name + " of " + card + ", paid"] = paid;
+    ledger.money[name + ", credited"] = credited;
+    ledger.money[name + ", balance"] = ledger.money[account] + credited;
+    ledger.numbers[name + ", completed"] = 0;
   };
-  const auto both = [topUp](Ledger& ledger) {
-    ledger.topUps.push_back(topUp);
-    ledger.members[topUp.card].balance = topUp.balance;
+  const auto both = [=](Ledger& ledger) {
+    record(ledger);
+    ledger.numbers["top-up " + std::to_string(ledger.topUps) + ", completed"] = 1;
+    ledger.money[account] += credited;
   };
-  confirming("top-up of card " + topUp.card, both, record, till);
-  till.waitFor("messageBox");
-  journal_.confirm();
-  till.key("Return");
-  till.waitFor("frmSell");
+  confirm("top-up of card " + card, "messageBox", both, record);
+  play("Return >frmSell");
 }
 
-void Day::takeBack(TillDriver& till) {
-  till.key("Esc");
-  till.waitFor("frmMenu");
-  mainEntry_ = kSell;
-  till.key("Menu");
-  till.sync();
-  choose(till, furtherEntry_, kUnSell);
-  till.waitFor("frmUnSell");
-  takeBackLine(till);
-  till.key("Esc");
-  till.waitFor("frmMenu");
-  choose(till, mainEntry_, kSell);
-  till.waitFor("frmSell");
-  newBill(till);
-}
-
-void Day::takeBackLine(TillDriver& till) {
+void Day::takeBack() {
+  play(std::exchange(atReturns_, true) ? "Esc >frmMenu Menu Return >frmUnSell"
+                                       : "Esc >frmMenu Menu Down Return >frmUnSell");
   const auto& bills = journal_.confirmed().bills;
-  const auto recent = std::min<unsigned>(20, static_cast<unsigned>(bills.size()));
-  const auto chosen = std::prev(bills.end(), 1 + below(recent));
-  const auto line = std::find_if(chosen->second.lines.begin(), chosen->second.lines.end(),
-                                 [](const Ledger::Line& each) { return each.quantity > 0; });
-  if (line == chosen->second.lines.end()) return;
+  const auto chosen = std::prev(bills.end(), 1 + below(std::min<std::size_t>(20, bills.size())));
+  takeBackLineOf(chosen->first, chosen->second);
+  play("Esc >frmMenu Return >frmSell");
+  newBill();
+}
+
+void Day::takeBackLineOf(int number, const Ledger::Bill& bill) {
+  const auto line = std::ranges::find_if(bill.lines, [](auto& each) { return each.quantity > 0; });
+  if (line == bill.lines.end()) return;
   Ledger::Line gone = *line;
   if (chance(50)) gone.quantity = std::min(gone.quantity, 0.5);
-  const Ledger::Return record{chosen->first, gone.item, gone.quantity, gone.money()};
-  const auto position = line - chosen->second.lines.begin();
-
-  till.enter(std::to_string(record.bill));
-  till.enter(gone.code);
-  till.enter(generalNumber(gone.quantity));
-  till.sync();
-  confirming(
-      "return on bill " + std::to_string(record.bill),
-      [record, gone, position](Ledger& ledger) {
-        ledger.returns.push_back(record);
-        addStock(ledger, gone, gone.quantity);
-        Ledger::Bill& bill = ledger.bills.at(record.bill);
-        double& left = bill.lines[static_cast<std::size_t>(position)].quantity;
-        left = roundedQuantity(left - gone.quantity);
-        bill.amount = bill.goodsAmount();
-        if (!bill.member.empty()) ledger.members[bill.member].totalSpent -= record.money;
-      },
-      nullptr, till);
-  till.sync();
-  till.waitFor("frmUnSell");
-  journal_.confirm();
+  play("=" + std::to_string(number) + " =" + gone.code + " =" + generalNumber(gone.quantity));
+  const auto taken = [number, gone, position = line - bill.lines.begin()](Ledger& ledger) {
+    const std::string name = "return " + std::to_string(++ledger.returns);
+    ledger.money[name + " on bill " + std::to_string(number)] = gone.money();
+    ledger.numbers[name + ", pieces of " + gone.item] = gone.quantity;
+    ledger.addStock(gone, gone.quantity);
+    Ledger::Bill left = ledger.bills.at(number);
+    double& quantity = left.lines.at(static_cast<std::size_t>(position)).quantity;
+    quantity = roundedQuantity(quantity - gone.quantity);
+    ledger.put(number, left);
+    if (!left.member.empty()) ledger.money["purchases of " + left.member] -= gone.money();
+  };
+  confirm("return on bill " + std::to_string(number), "frmUnSell", taken);
 }
 
-void Day::close(TillDriver& till) {
-  while (!held_.empty() || !bill_.lines.empty()) {
-    bill_.lines.empty() ? recall(till) : cancel(till);
-  }
-  till.key("Esc");
-  till.waitFor("frmMenu");
-  mainEntry_ = kSell;
-  choose(till, mainEntry_, kEnd);
-  if (till.waitForEnd() != 0) throw std::runtime_error("the till did not end cleanly");
+void Day::close() {
+  while (!held_.empty() || !bill_.lines.empty()) bill_.lines.empty() ? recall() : leaveBill("F12");
+  play("Esc >frmMenu Down Down Down Down");
+  till_->key("Return");
+  if (till_->waitForEnd() != 0) throw std::runtime_error("the till did not end cleanly");
 }

@@ -1,29 +1,62 @@
 #pragma once
 
+#include <poll.h>
+#include <signal.h>
+#include <sys/inotify.h>
+#include <unistd.h>
+
 #include <atomic>
 #include <chrono>
 #include <filesystem>
+#include <fstream>
+#include <stdexcept>
 #include <thread>
 
-/// Kills a process at a moment that is set while it runs, from a thread of its own.
+/// Kills a process at a moment that is set while it runs, from a thread of its own. The process is
+/// spared if its moment has not come when the killer goes.
 class Killer {
  public:
+  using Clock = std::chrono::steady_clock;
+
   explicit Killer(int process) : process_(process) {}
-  ~Killer();  ///< the process is spared if its moment has not come
-  Killer(const Killer&) = delete;
-  Killer& operator=(const Killer&) = delete;
 
   /// The moment is set once.
-  void strikeIn(std::chrono::microseconds delay);
+  void strikeIn(std::chrono::microseconds delay) {
+    thread_ = std::jthread([this, moment = Clock::now() + delay](const std::stop_token& spared) {
+      strikeAt(moment, spared);
+    });
+  }
   /// So long after something is next written to that plain file.
-  void strikeAtWrite(const std::filesystem::path& file, std::chrono::microseconds delay);
+  void strikeAtWrite(const std::filesystem::path& file, std::chrono::microseconds delay) {
+    std::ofstream(file, std::ios::app);  // a file that is not there cannot be watched
+    const int watch = inotify_init1(IN_CLOEXEC);
+    if (watch < 0 || inotify_add_watch(watch, file.c_str(), IN_MODIFY) < 0)
+      throw std::logic_error("cannot watch the file");
+    // The kill comes before the closing, which can take milliseconds: longer than the till needs
+    // from the drawer to the stored bill.
+    thread_ = std::jthread([this, watch, delay](const std::stop_token& spared) {
+      pollfd ready{watch, POLLIN, 0};
+      while (!spared.stop_requested() && poll(&ready, 1, kPatienceMs) == 0) continue;
+      strikeAt(Clock::now() + delay, spared);
+      close(watch);
+    });
+  }
   bool struck() const { return struck_; }
 
  private:
-  void strikeAt(std::chrono::steady_clock::time_point moment);
-  void watch(int watch, std::chrono::microseconds delay);
+  static constexpr int kPatienceMs = 20;  ///< how soon it notices that the till is spared
+
+  void strikeAt(Clock::time_point moment, const std::stop_token& spared) {
+    constexpr std::chrono::milliseconds kPatience(kPatienceMs);
+    while (!spared.stop_requested() && Clock::now() + kPatience < moment)
+      std::this_thread::sleep_for(kPatience);
+    std::this_thread::sleep_until(moment);
+    if (spared.stop_requested()) return;
+    struck_ = true;
+    ::kill(process_, SIGKILL);
+  }
 
   int process_;
-  std::atomic<bool> spared_ = false, struck_ = false;
-  std::thread thread_;
+  std::atomic<bool> struck_ = false;
+  std::jthread thread_;
 };

@@ -1,12 +1,12 @@
 #pragma once
 
-#include <cstdint>
+#include <array>
 #include <map>
-#include <set>
 #include <string>
 #include <vector>
 
-#include "base/Currency.h"
+#include "base/NumberText.h"
+#include "saleslib/Tenders.h"
 
 class Connection;
 
@@ -24,43 +24,36 @@ struct Ledger {
     Currency money() const { return lineAmount(price, quantity, discount); }
   };
   struct Bill {
-    std::string member, card;
-    Currency amount, cash, favorable, bankCard, cardPay;
+    std::string member, card, slip;
+    std::array<Currency, kTenders> tendered;  ///< by kind of payment
     int salesman = 0;
     std::vector<Line> lines;
 
-    double quantity() const;
-    Currency goodsAmount() const;
-  };
-  struct Member {
-    Currency balance, totalSpent;
-    int points = 0;
-  };
-  struct Return {
-    int bill = 0;
-    std::string item;
-    double quantity = 0;
-    Currency money;
-  };
-  struct TopUp {
-    std::string card;
-    Currency paid, credited, balance;
-    bool isComplete = true;  ///< not a record alone, without the card's balance
+    Currency& paidWith(Tender tender) { return tendered[static_cast<std::size_t>(tender)]; }
+    Currency goodsAmount() const {
+      Currency sum;
+      for (const Line& line : lines) sum += line.money();
+      return sum;
+    }
   };
 
+  /// All that is compared, by its name.
+  std::map<std::string, Currency> money;
+  std::map<std::string, double> numbers;
+  /// The records so far.
+  int returns = 0, topUps = 0;
+  /// The settled bills as the journal has them; none in a ledger that was read.
   std::map<int, Bill> bills;
-  std::map<std::string, double> stock;
-  std::map<std::string, Member> members;
-  std::vector<Return> returns;
-  std::vector<TopUp> topUps;
+
+  /// The bill is settled, or was changed by a return.
+  void put(int number, const Bill& bill);
+  /// Goods come back into the stock, or leave it by a quantity below 0.
+  void addStock(const Line& line, double quantity);
 
   /// Throws std::runtime_error when the data file holds what no ledger can: a bill that is neither
   /// settled nor empty, a line without a bill, a damaged page, sums that do not agree.
   static Ledger read(Connection& connection);
-
-  /// Everything as sentences, so that two ledgers can be compared and the difference be read.
-  std::set<std::string> entries() const;
 };
 
-/// The entries that only one of the two has, each on a line of its own; empty when they agree.
+/// What only one of the two has, each on a line of its own; empty when they agree.
 std::string difference(const Ledger& expected, const Ledger& found);

@@ -27,12 +27,8 @@ class IniFileTest : public testing::Test {
 };
 
 TEST_F(IniFileTest, ReadsAsWindowsDoes) {
-  put(gbk::encode("stray=1\r\n[Other]\r\nPPort=no\r\n"
-                  " [ pos ] ; here\r\n"
-                  ";PPort=comment\r\n"
-                  "  pport \t=  LPT1 \t\r\n"
-                  "PPort=second\r\n"
-                  "Empty=\r\nNoEquals\r\n"
+  put(gbk::encode("stray=1\r\n[Other]\r\nPPort=no\r\n [ pos ] ; here\r\n;PPort=comment\r\n"
+                  "  pport \t=  LPT1 \t\r\nPPort=second\r\nEmpty=\r\nNoEquals\r\n"
                   "Quoted=\"  two  \"\r\nSingle='x'\r\nTwice=\"\"y\"\"\r\nHalf=\"z\r\n"
                   "Path=a=b;c\r\nMode=打印商品全称+折扣\r\n"
                   "Nul=a") +
@@ -50,18 +46,14 @@ TEST_F(IniFileTest, ReadsAsWindowsDoes) {
 
 std::string utf16(std::u16string_view text, bool isBigEndian = false) {
   std::string bytes;
-  for (const char16_t unit : text) {
-    for (const int shift : {isBigEndian ? 8 : 0, isBigEndian ? 0 : 8})
-      bytes += static_cast<char>(unit >> shift);
-  }
+  for (const char16_t unit : text)
+    for (const bool isFirst : {true, false})
+      bytes += static_cast<char>(isFirst == isBigEndian ? unit >> 8 : unit);
   return bytes;
 }
 
 TEST_F(IniFileTest, WritesNothingButTheValue) {
-  struct Case {
-    std::string before, value, after;
-  };
-  const Case cases[] = {
+  const std::array<std::string, 3> cases[] = {
       {"", "1", "[POS]\r\na=1\r\n"},
       {"; hi\n[pos]\nA = 0 \nb=2\n\n[X]\nq= 1\n", "7", "; hi\n[pos]\nA = 7\nb=2\n\n[X]\nq= 1\n"},
       {"[POS]\r\nb=2\r\n\r\n; of X\r\n[X]\r\n", "", "[POS]\r\nb=2\r\na=\r\n\r\n; of X\r\n[X]\r\n"},
@@ -73,10 +65,10 @@ TEST_F(IniFileTest, WritesNothingButTheValue) {
       {utf16(u"\uFEFF[POS]\r\na=打印\r\n"), "不打印", utf16(u"\uFEFF[POS]\r\na=不打印\r\n")},
       {utf16(u"\uFEFF[POS]\na=打", true), "印", utf16(u"\uFEFF[POS]\na=印\n", true)},
       {"\xFF\xFE\x01 junk\r\r\n\x80[", "1", "\xFF\xFE\x01 junk\r\r\n\x80[\r\n[POS]\r\na=1\r\n"}};
-  for (const Case& c : cases) {
-    put(c.before);
-    EXPECT_TRUE(ini_.write("POS", "a", c.value));
-    EXPECT_EQ(content(), c.after) << c.before;
+  for (const auto& [before, value, after] : cases) {
+    put(before);
+    EXPECT_TRUE(ini_.write("POS", "a", value));
+    EXPECT_EQ(content(), after) << before;
   }
 }
 

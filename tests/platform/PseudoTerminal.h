@@ -12,9 +12,8 @@
 class PseudoTerminal {
  public:
   PseudoTerminal() : master_(posix_openpt(O_RDWR | O_NOCTTY | O_NONBLOCK)) {
-    if (master_ < 0 || grantpt(master_) != 0 || unlockpt(master_) != 0) {
+    if (master_ < 0 || grantpt(master_) != 0 || unlockpt(master_) != 0)
       throw std::runtime_error("no pseudo terminal");
-    }
     path_ = ptsname(master_);
   }
   ~PseudoTerminal() { unplug(); }
@@ -26,9 +25,8 @@ class PseudoTerminal {
   std::string received() {
     std::string all;
     char part[4096];
-    for (ssize_t n; (n = ::read(master_, part, sizeof part)) > 0;) {
+    for (ssize_t n; (n = ::read(master_, part, sizeof part)) > 0;)
       all.append(part, static_cast<std::size_t>(n));
-    }
     return all;
   }
   /// Of the till's side; the master shows it.

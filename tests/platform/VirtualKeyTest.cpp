@@ -4,8 +4,6 @@
 
 #include <QKeyEvent>
 
-namespace {
-
 // Key, its code, its code on the numeric pad.
 // clang-format off
 constexpr int kCases[][3] = {
@@ -26,5 +24,3 @@ TEST(VirtualKeyTest, IsTheOneOfWindows) {
     EXPECT_EQ(virtualKey(onPad), padCode) << key;
   }
 }
-
-}  // namespace

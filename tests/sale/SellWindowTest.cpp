@@ -128,6 +128,46 @@ TEST_F(SellWindow, nothingOldStaysOnTheScreen) {
   });
 }
 
+// It paints plain texts itself, on whole pixels, and leaves all others to the toolkit.
+TEST_F(SellWindow, theInputLineLooksAsTheToolkitPaintsIt) {
+  QApplication::setCursorFlashTime(0);
+  const auto inked = [this] {
+    const QImage line = editor()->grab().toImage().convertToFormat(QImage::Format_Mono);
+    QRect all;
+    for (int y = 0; y < line.height(); ++y) {
+      for (int x = 0; x < line.width(); ++x) {
+        if (line.pixelColor(x, y) == Qt::black) all |= QRect(x, y, 1, 1);
+      }
+    }
+    return all;
+  };
+  const auto looksTheSame = [&](const char* what) {
+    QCoreApplication::processEvents();
+    const QRect shown = inked();
+    QEvent asIfNew(QEvent::ModifiedChange);
+    QApplication::sendEvent(editor(), &asIfNew);
+    const QRect toolkits = inked();
+    EXPECT_EQ(shown.topLeft(), toolkits.topLeft()) << what;
+    EXPECT_EQ(shown.bottom(), toolkits.bottom()) << what;
+    EXPECT_NEAR(shown.right(), toolkits.right(), 3) << what;
+  };
+  show([&] {
+    QTest::keyClicks(editor(), "690123");
+    looksTheSame("typed digits and the cursor behind them");
+    editor()->setCursorPosition(0);
+    looksTheSame("the cursor before them");
+    editor()->setText(QString(80, '8'));
+    looksTheSame("too long, scrolled");
+    editor()->clear();
+    QTest::keyClicks(editor(), "7x9");
+    EXPECT_EQ(editor()->text(), "7x9");
+    looksTheSame("short again");
+    editor()->selectAll();
+    looksTheSame("selected");
+    editor()->clear();
+  });
+}
+
 TEST_F(SellWindow, theMenuKeyOpensTheFunctionMenuAndTheCloseBoxAsksTheSession) {
   show([this] {
     scan(kWater);

@@ -13,25 +13,19 @@ TEST_F(LoginTest, OnlyTheNumberAndPasswordOfAnOperatorLetIn) {
   cashier.setPassword(odd);
   cashier.setRights(ClsRights({"sell"}));
   cashier.Save();
-  EXPECT_THAT(stored("select password from operators"), testing::StartsWith("$argon2id$"));
+  EXPECT_THAT(stored("password from operators"), testing::StartsWith("$argon2id$"));
 
-  const struct {
-    std::string number, password;
-    bool accepted;
-  } attempts[] = {
-      {"1", odd, true},  {"1", odd + "x", false}, {"1", odd.substr(0, 1), false}, {"1", "", false},
-      {"2", odd, false}, {" 1", odd, false},      {"65537", odd, false},          {"", odd, false},
-  };
   ClsLogin login;
   login.Conn(connection);
+  const std::tuple<const char*, std::string, bool> attempts[] = {
+      {"1", odd + "x", false}, {"1", odd.substr(0, 1), false}, {"1", "", false}, {"2", odd, false},
+      {" 1", odd, false},      {"65537", odd, false},          {"", odd, false}, {"1", odd, true}};
   for (const auto& [number, password, accepted] : attempts) {
     EXPECT_EQ(login.Check(number, password), accepted) << number;
     EXPECT_EQ(login.ErrText(), accepted ? "" : "用户编号或密码不正确！");
-    EXPECT_EQ(login.Operator() != nullptr, accepted);
+    ASSERT_EQ(login.Operator() != nullptr, accepted);
   }
-  ASSERT_TRUE(login.Check("1", odd));
   EXPECT_FALSE(login.Operator()->Rights().HasRight("returns"));
-
   login.Operator()->setPassword("");
   login.Operator()->Save();
   EXPECT_FALSE(login.Check("1", odd));

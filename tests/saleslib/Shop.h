@@ -45,17 +45,14 @@ class Shop : public testing::Test {
   }
   /// The first value of an engine query, as text; "-" when there is no row.
   std::string stored(const std::string& query) {
-    Rows rows = connection.query(("select (" + query + ") as value").c_str());
-    rows.next();
-    return rows.isNull("value") ? "-" : rows.text("value");
+    Rows rows = connection.query(("select (select " + query + ") as value").c_str());
+    return rows.next() && !rows.isNull("value") ? rows.text("value") : "-";
   }
   /// From now on every statement of that kind ("update of state on sell") fails.
   void breakStore(const std::string& kind) {
-    connection.run(
-        ("create temp trigger broken before " + kind + " begin select raise(abort, 'broken'); end")
-            .c_str());
+    connection.runScript("create temp trigger broken before " + kind +
+                         " begin select raise(abort, 'broken'); end");
   }
-  void mendStore() { connection.run("drop trigger broken"); }
 
   DateTime now{{2026, 11, 22}, 9, 5, 3};
 

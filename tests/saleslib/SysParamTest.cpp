@@ -3,51 +3,43 @@
 
 using SysParamTest = Shop;
 
-TEST_F(SysParamTest, EveryParameterHasASoundValueWhenNoneIsSet) {
+TEST_F(SysParamTest, EveryParameterHasASoundValueAndOnlySuchAreStored) {
   connection.run(
       "insert into sys_param values ('PointUnit', 'ten'), ('GoldRate', '-1'),"
       " ('RoundJiao', 'x'), ('Unknown', '1'), ('viprate', '0.95')");
   ClsSysParam shop;
   shop.Conn(connection);
-  EXPECT_EQ(shop.ShopName() + shop.ReceiptText1() + shop.ReceiptText6(), "");
-  EXPECT_EQ(shop.StockRule(), 0);
-  EXPECT_FALSE(shop.RoundJiao() || shop.RoundYuan() || shop.BackupOnExit() || shop.CheckPayment());
-  EXPECT_EQ(shop.PointUnit(), 10);
-  EXPECT_EQ(shop.GeneralRate(), 1.0);
-  EXPECT_EQ(shop.GoldRate(), yuan("1"));
-  EXPECT_EQ(shop.VipRate(), yuan("0.95"));
-}
-
-TEST_F(SysParamTest, OnlyValuesOfTheParametersKindAreStored) {
-  ClsSysParam shop;
-  shop.Conn(connection);
-  const struct {
-    const char* name;
-    std::string value;
-    const char* kept;  ///< nullptr: refused
-  } attempts[] = {
-      {"shopname", "小店 'A' %", "小店 'A' %"},
-      {"ShopName", "a\nb", nullptr},
-      {"ReceiptText4", std::string(10000, 'x'), nullptr},
-      {"RoundYuan", "是", "1"},
-      {"RoundYuan", "2", nullptr},
-      {"PointUnit", "２０", "20"},
-      {"PointUnit", "1.5", nullptr},
-      {"PointUnit", "99999", nullptr},
-      {"StockRule", "1", "1"},
-      {"StockRule", "2", nullptr},
-      {"GeneralRate", "0.880", "0.88"},
-      {"GeneralRate", "0", nullptr},
-      {"GoldRate", "9", nullptr},
-      {"Colour", "1", nullptr},
+  const auto values = [&shop] {
+    std::string all;
+    for (const auto& each : shop.list())
+      if (!each.value.empty()) all += each.name + "=" + each.value + " ";
+    return all;
   };
-  for (const auto& [name, value, kept] : attempts) {
-    EXPECT_EQ(shop.set(name, value).empty(), kept != nullptr) << name << value.substr(0, 9);
-    if (kept != nullptr) {
-      EXPECT_EQ(stored("select value from sys_param where name = '" + std::string(name) + "'"),
-                kept);
-    }
+  EXPECT_EQ(values(),
+            "StockRule=0 RoundJiao=0 RoundYuan=0 PointUnit=10 GeneralRate=1 VipRate=0.95 "
+            "SilverRate=1 GoldRate=1 BackupOnExit=0 CheckPayment=0 PhonePay=0 ");
+
+  const std::tuple<const char*, std::string, const char*> attempts[] = {
+      {"shopname", "小店 'A' %", ""},
+      {"ShopName", "a\nb", "ShopName 不能超过200个字符，也不能换行！"},
+      {"ReceiptText4", std::string(10000, 'x'), "ReceiptText4 不能超过200个字符，也不能换行！"},
+      {"RoundYuan", "是", ""},
+      {"RoundYuan", "2", "RoundYuan 只能是 0 或 1（否或是）！"},
+      {"PointUnit", "２０", ""},
+      {"PointUnit", "1.5", "PointUnit 只能是 0 到 32767 的整数！"},
+      {"PointUnit", "99999", "PointUnit 只能是 0 到 32767 的整数！"},
+      {"StockRule", "1", ""},
+      {"StockRule", "2", "StockRule 只能是 0（可以负库存）或 1（不可以负库存）！"},
+      {"GeneralRate", "0.880", ""},
+      {"GeneralRate", "0", "GeneralRate 只能是大于 0、不超过 1 的数（九折写 0.9）！"},
+      {"GoldRate", "9", "GoldRate 只能是大于 0、不超过 1 的数（九折写 0.9）！"},
+      {"Colour", "1", "没有这个参数：Colour"}};
+  for (const auto& [name, value, refusal] : attempts) EXPECT_EQ(shop.set(name, value), refusal);
+  for (const bool readAgain : {false, true}) {
+    if (readAgain) shop.Conn(connection);
+    EXPECT_EQ(values(),
+              "ShopName=小店 'A' % StockRule=1 RoundJiao=0 RoundYuan=1 PointUnit=20 "
+              "GeneralRate=0.88 VipRate=0.95 SilverRate=1 GoldRate=1 BackupOnExit=0 "
+              "CheckPayment=0 PhonePay=0 ");
   }
-  EXPECT_EQ(shop.ShopName(), "小店 'A' %");
-  EXPECT_EQ(shop.PointUnit(), 20);
 }

@@ -1,23 +1,17 @@
 #include <fcntl.h>
-#include <gmock/gmock.h>
-#include <sys/stat.h>
 #include <unistd.h>
 
 #include <filesystem>
 #include <fstream>
 #include <iterator>
-#include <memory>
 
-#include "TemporaryFolder.h"
-#include "store/Connection.h"
-#include "store/DataFile.h"
+#include "StoreFixture.h"
 #include "store/DataFileLock.h"
 #include "store/Schema.h"
-#include "store/StoreError.h"
 #include "store/Transaction.h"
 
+namespace fs = std::filesystem;
 using testing::HasSubstr;
-using testing::ThrowsMessage;
 
 namespace {
 
@@ -25,14 +19,8 @@ std::string pragma(Connection& connection, const std::string& name) {
   Rows rows = connection.query(("pragma " + name).c_str());
   return rows.next() ? rows.text(name) : "";
 }
-
-unsigned permissions(const std::string& path) {
-  struct stat status {};
-  return stat(path.c_str(), &status) == 0 ? status.st_mode & 0777U : 0U;
-}
-
-std::string contents(const std::string& path) {
-  if (!std::filesystem::is_regular_file(path)) return "";
+std::string contents(const fs::path& path) {
+  if (!fs::is_regular_file(path)) return "";
   std::ifstream file(path, std::ios::binary);
   return {std::istreambuf_iterator<char>(file), {}};
 }
@@ -40,9 +28,10 @@ std::string contents(const std::string& path) {
 class OpeningTest : public testing::Test {
  protected:
   void write(const std::string& name, const std::string& bytes) {
-    std::ofstream(folder_.file(name), std::ios::binary) << bytes;
+    std::ofstream(folder.file(name), std::ios::binary) << bytes;
   }
-  TemporaryFolder folder_;
+  TemporaryFolder folder;
+  DataSource source{folder.file("pos.mdb"), kBuiltInPassword};
 };
 
 TEST_F(OpeningTest, ReadsTheConnectionText) {
@@ -51,41 +40,35 @@ TEST_F(OpeningTest, ReadsTheConnectionText) {
       {"p.mdb;Jet OLEDB:Database pasword=secret", "p.mdb|"},
       {"p.mdb;JET oledb:database PASSWORD= a;b=c", "p.mdb| a;b=c"}};
   for (const auto& [text, read] : cases) {
-    const DataSource source = DataSource::parse(text);
-    EXPECT_EQ(source.path.string() + "|" + source.password, read);
+    const DataSource parsed = DataSource::parse(text);
+    EXPECT_EQ(parsed.path.string() + "|" + parsed.password, read);
   }
 }
 
 TEST_F(OpeningTest, ANewFileIsDurableEncryptedAndItsOwnersAlone) {
-  const DataSource source{folder_.file("pos.mdb"), kBuiltInPassword};
-  {
-    const auto made = createDataFile(source);
-    made->run("insert into stock values ('kept', 2)");
-    EXPECT_EQ(pragma(*made, "journal_mode"), "wal");
-    EXPECT_EQ(pragma(*made, "synchronous"), "2");
-    for (const char* name : {"pos.mdb", "pos.mdb-wal", "pos.mdb-shm"}) {
-      EXPECT_EQ(permissions(folder_.file(name)), 0600U) << name;
-    }
+  for (const bool isNew : {true, false}) {
+    const auto shop =
+        isNew ? createDataFile(source) : openDataFile({folder.file("POS.MDB"), kBuiltInPassword});
+    if (isNew) shop->run("insert into stock values ('kept', 2)");
+    EXPECT_EQ(pragma(*shop, "journal_mode"), "wal");
+    EXPECT_EQ(pragma(*shop, "synchronous"), "2");
+    for (const char* name : {"pos.mdb", "pos.mdb-wal", "pos.mdb-shm"})
+      EXPECT_EQ(fs::status(folder.file(name)).permissions(), fs::perms(0600)) << name;
     EXPECT_EQ(protectDataFile("/proc/self/status").size(), 1U) << "not even the superuser may";
-    EXPECT_NO_THROW(made->checkpoint());
+    EXPECT_NO_THROW(shop->checkpoint());
+    EXPECT_THAT([&] { createDataFile(source); }, refusal("不会覆盖"));
+    EXPECT_EQ(shop->Open("select * from stock").count(), 1U);
   }
   EXPECT_EQ(contents(source.path).find("SQLite"), std::string::npos);
-  const auto opened = openDataFile({folder_.file("POS.MDB"), kBuiltInPassword});
-  EXPECT_EQ(pragma(*opened, "journal_mode"), "wal");
-  EXPECT_EQ(pragma(*opened, "synchronous"), "2");
-  EXPECT_EQ(opened->Open("select * from stock").count(), 1U);
-  EXPECT_THAT([&] { createDataFile(source); }, ThrowsMessage<StoreError>(HasSubstr("不会覆盖")));
-  EXPECT_EQ(opened->Open("select * from stock").count(), 1U);
 }
 
 TEST_F(OpeningTest, SaysWhyAFileCannotBeOpenedAndLeavesItAsItIs) {
-  write("empty.mdb", "");
+  for (const char* empty : {"empty.mdb", "foreign.mdb"}) write(empty, "");
   write("noise.mdb", std::string(8192, '\x5a'));
-  std::filesystem::create_directory(folder_.file("folder.mdb"));
-  createDataFile({folder_.file("secret.mdb"), "right"});
-  createDataFile({folder_.file("plain.mdb"), ""});
-  write("foreign.mdb", "");
-  Connection({folder_.file("foreign.mdb"), ""}, Connection::Mode::kExisting)
+  fs::create_directory(folder.file("folder.mdb"));
+  createDataFile({folder.file("secret.mdb"), "right"});
+  createDataFile({folder.file("plain.mdb"), ""});
+  Connection({folder.file("foreign.mdb"), ""}, Connection::Mode::kExisting)
       .runScript("create table customers (name); pragma user_version = 1");
 
   const std::tuple<const char*, const char*, const char*> cases[] = {
@@ -97,70 +80,58 @@ TEST_F(OpeningTest, SaysWhyAFileCannotBeOpenedAndLeavesItAsItIs) {
       {"secret.mdb", "Right", "密码不对"},
       {"plain.mdb", "right", "没有密码"},
       {"foreign.mdb", "", "不是本系统的数据文件"}};
-  for (const auto& [name, password, text] : cases) {
-    const DataSource source{folder_.file(name), password};
-    const std::string before = contents(source.path);
-    EXPECT_THAT([&] { openDataFile(source); },
-                ThrowsMessage<StoreError>(
-                    testing::AllOf(HasSubstr(text), HasSubstr(source.path.string()))));
-    EXPECT_EQ(contents(source.path), before) << name;
+  for (const auto& [name, password, why] : cases) {
+    const std::string path = folder.file(name), before = contents(path);
+    EXPECT_THAT(
+        [&] {
+          openDataFile({path, password});
+        },
+        testing::ThrowsMessage<StoreError>(AllOf(HasSubstr(why), HasSubstr(path))));
+    EXPECT_EQ(contents(path), before) << name;
   }
 }
 
 TEST_F(OpeningTest, BringsAnOlderFileUpToDateInOneTransactionAndRefusesANewerOne) {
-  const DataSource source{folder_.file("older.mdb"), kBuiltInPassword};
-  const std::string mark = pragma(*createDataFile({folder_.file("new.mdb"), ""}), "application_id");
+  const std::string mark = pragma(*createDataFile({folder.file("new.mdb"), ""}), "application_id");
   // The table that is already there makes the first step fail in its middle.
-  write("older.mdb", "");
-  Connection(source, Connection::Mode::kExisting)
-      .runScript("create table stock (spbm); pragma application_id = " + mark);
-  EXPECT_THAT([&] { openDataFile(source); },
-              ThrowsMessage<StoreError>(HasSubstr("table stock already exists")));
-  {
-    Connection older(source, Connection::Mode::kExisting);
-    EXPECT_EQ(older.Open("select * from sqlite_master").count(), 1U)
-        << "a failed upgrade left some of its tables";
-    EXPECT_EQ(pragma(older, "user_version"), "0");
-    older.runScript("drop table stock;" + schemaSteps().front() +
-                    "insert into cardStored (cardbh, addmoney, inMoney, commerce)"
-                    " values ('1', 1, 1, 1); pragma user_version = 1");
-  }
-  {
-    const auto upgraded = openDataFile(source);
-    EXPECT_EQ(upgraded->Open("select * from cardStored where complete = 1").count(), 1U)
-        << "nobody is told of a top-up from before there was a mark";
-    upgraded->runScript("pragma user_version = 1000");
-  }
-  EXPECT_THAT([&] { openDataFile(source); }, ThrowsMessage<StoreError>(HasSubstr("更新版本")));
+  write("pos.mdb", "");
+  Connection older(source, Connection::Mode::kExisting);
+  older.runScript("create table stock (spbm); pragma application_id = " + mark);
+  EXPECT_THAT([&] { openDataFile(source); }, refusal("table stock already exists"));
+  EXPECT_EQ(older.Open("select * from sqlite_master").count(), 1U)
+      << "a failed upgrade left some of its tables";
+  EXPECT_EQ(pragma(older, "user_version"), "0");
+  older.runScript("drop table stock;" + schemaSteps().front() +
+                  "insert into cardStored (cardbh, addmoney, inMoney, commerce)"
+                  " values ('1', 1, 1, 1); pragma user_version = 1");
+  EXPECT_EQ(openDataFile(source)->Open("select * from cardStored where complete = 1").count(), 1U)
+      << "nobody is told of a top-up from before there was a mark";
+  older.runScript("pragma user_version = 1000");
+  EXPECT_THAT([&] { openDataFile(source); }, refusal("更新版本"));
 }
 
 TEST_F(OpeningTest, AFileIsThereOnlyWhenItIsWhole) {
-  const DataSource source{folder_.file("pos.mdb"), kBuiltInPassword};
-  const auto nothingLies = [&] { return std::filesystem::is_empty(folder_.path()); };
   const auto failing = [&](Connection& made) {
     made.run("insert into stock values ('begun', 2)");
-    EXPECT_TRUE(nothingLies()) << "a kill would leave it behind";
+    EXPECT_TRUE(fs::is_empty(folder.path())) << "a kill would leave it behind";
     throw StoreError("no more");
   };
-  EXPECT_THAT([&] { createDataFile(source, failing); }, ThrowsMessage<StoreError>("no more"));
-  EXPECT_TRUE(nothingLies());
+  EXPECT_THAT([&] { createDataFile(source, failing); }, refusal("no more"));
+  EXPECT_TRUE(fs::is_empty(folder.path()));
   write("pos.mdb-wal", "an old log");
-  EXPECT_THAT([&] { createDataFile(source); }, ThrowsMessage<StoreError>(HasSubstr("mdb-wal")));
+  EXPECT_THAT([&] { createDataFile(source); }, refusal("mdb-wal"));
 }
 
 // The engine's own lock tells other programs that the log is in use. Another connection of the same
 // program, as the sales query has one, must not give it up.
 TEST_F(OpeningTest, OneTillHoldsAFileWhileOthersMayRead) {
-  const DataSource source{folder_.file("pos.mdb"), kBuiltInPassword};
-  EXPECT_THAT([&] { DataFileLock lock(source.path); },
-              ThrowsMessage<StoreError>(HasSubstr("找不到数据文件")));
+  EXPECT_THAT([&] { DataFileLock lock(source.path); }, refusal("找不到数据文件"));
   createDataFile(source);
   const int file = open(source.path.c_str(), O_RDWR | O_CLOEXEC);
   {
     const DataFileLock till(source.path);
-    std::filesystem::create_symlink(source.path, folder_.file("link.mdb"));
-    EXPECT_THAT([&] { DataFileLock second(folder_.file("LINK.mdb")); },
-                ThrowsMessage<StoreError>(HasSubstr("已经打开")));
+    fs::create_symlink(source.path, folder.file("link.mdb"));
+    EXPECT_THAT([&] { DataFileLock second(folder.file("LINK.mdb")); }, refusal("已经打开"));
     const auto selling = openDataFile(source);
     openDataFile(source);
     struct flock engines {};
@@ -175,22 +146,21 @@ TEST_F(OpeningTest, OneTillHoldsAFileWhileOthersMayRead) {
 }
 
 TEST_F(OpeningTest, NothingIsWrittenToAFileThatLostItsName) {
-  const DataSource source{folder_.file("pos.mdb"), ""};
+  source.password = "";
   const auto till = createDataFile(source);
-  const std::string other = folder_.file("other.mdb");
+  const std::string other = folder.file("other.mdb");
   const auto refuses = [&](const char* why) {
-    EXPECT_THAT([&] { till->Execute("delete from stock"); },
-                ThrowsMessage<StoreError>(HasSubstr(why)));
-    EXPECT_THAT([&] { Transaction begun(*till); }, ThrowsMessage<StoreError>(HasSubstr(why)));
+    EXPECT_THAT([&] { till->Execute("delete from stock"); }, refusal(why));
+    EXPECT_THAT([&] { Transaction begun(*till); }, refusal(why));
   };
-  std::filesystem::create_hard_link(source.path, other);
+  fs::create_hard_link(source.path, other);
   refuses("硬链接");
-  EXPECT_THAT([&] { openDataFile({other, ""}); }, ThrowsMessage<StoreError>(HasSubstr("硬链接")));
-  std::filesystem::remove(source.path);
+  EXPECT_THAT([&] { openDataFile({other, ""}); }, refusal("硬链接"));
+  fs::remove(source.path);
   refuses("删除");
   write("pos.mdb", contents(other));
   refuses("换成了");
-  std::filesystem::rename(other, source.path);
+  fs::rename(other, source.path);
   EXPECT_NO_THROW(till->Execute("delete from stock"));
 }
 

@@ -1,33 +1,18 @@
-#include <gmock/gmock.h>
-
 #include <filesystem>
-#include <fstream>
-#include <string>
 
 #include "Owner.h"
 #include "saleslib/ClsLogin.h"
 #include "store/DataFileLock.h"
 #include "tools/AutostartCommand.h"
 
-namespace {
-
 using testing::HasSubstr;
 
-struct CommandTest : testing::Test {
-  Owner owner;
-  void SetUp() override { ASSERT_EQ(owner.run({"create", owner.shop}), 0) << owner.err; }
-
-  int addOperator(const std::string& number, std::vector<std::string> more = {}) {
-    std::vector<std::string> words = {"operator", "add",    owner.shop, "--number",
-                                      number,     "--name", "张三"};
-    words.insert(words.end(), more.begin(), more.end());
-    return owner.run(words);
-  }
+struct CommandTest : OwnerTest {
   std::ptrdiff_t filesLeft() const {
-    return std::distance(std::filesystem::directory_iterator(owner.folder.path()), {});
+    return std::distance(std::filesystem::directory_iterator(folder.path()), {});
   }
-  bool canLogIn(const char* number, const char* password) {
-    const std::unique_ptr<Connection> connection = owner.open();
+  bool canLogIn(const char* number, const char* password) const {
+    const std::unique_ptr<Connection> connection = open();
     ClsLogin login;
     login.Conn(*connection);
     return login.Check(number, password);
@@ -35,94 +20,80 @@ struct CommandTest : testing::Test {
 };
 
 TEST_F(CommandTest, TheFilePasswordIsBuiltInGivenNoneOrTyped) {
-  const std::string builtIn = owner.folder.file("built-in"), plain = owner.folder.file("plain"),
-                    own = owner.folder.file("own");
-  EXPECT_EQ(owner.run({"create", builtIn}), 0) << owner.err;
-  EXPECT_EQ(owner.run({"check", builtIn, "--file-password", "kvrnex"}), 0) << owner.err;
-  EXPECT_EQ(owner.run({"create", plain, "--file-password", ""}), 0) << owner.err;
-  EXPECT_EQ(owner.run({"check", plain, "--file-password="}), 0) << owner.err;
-  EXPECT_EQ(owner.run({"check", plain}), 1);
-  owner.typed = "p'w d\n";
-  EXPECT_EQ(owner.run({"create", own, "--ask-file-password"}), 0) << owner.err;
-  EXPECT_EQ(owner.run({"check", own, "--ask-file-password"}), 0) << owner.err;
-  EXPECT_THAT(owner.out + owner.err, testing::Not(HasSubstr("p'w d")));
-  EXPECT_EQ(owner.run({"check", own, "--file-password=p'w d"}), 0) << owner.err;
-  EXPECT_EQ(owner.run({"check", own, "--ask-file-password", "--file-password", "x"}), 2);
-  EXPECT_EQ(owner.run({"check", own}), 1);
-  EXPECT_EQ(owner.out, "");
-  owner.typed = "p'w d\n111\n";
-  EXPECT_EQ(
-      owner.run({"operator", "add", own, "--ask-file-password", "--number", "1", "--name", "张三"}),
-      0)
-      << owner.err;
-  EXPECT_EQ(owner.run({"check", owner.folder.file("none")}), 1);
-  EXPECT_FALSE(std::filesystem::exists(owner.folder.file("none")));
+  expect(0, "", "create ./built-in");
+  expect(0, "", "check ./built-in --file-password kvrnex");
+  expect(0, "", "create ./plain --file-password=");
+  expect(0, "", "check ./plain --file-password=");
+  expect(1, "没有密码", "check ./plain");
+  typed = "p'w d\n";
+  expect(0, "", "create ./own --ask-file-password");
+  expect(0, "", "check ./own --ask-file-password");
+  EXPECT_THAT(out + err, Not(HasSubstr("p'w d")));
+  expect(0, "", "check ./own --file-password=p'w~d");
+  expect(2, "", "check ./own --ask-file-password --file-password x");
+  expect(1, "密码不对", "check ./own");
+  EXPECT_EQ(out, "");
+  typed = "p'w d\n111\n";
+  expect(0, "", "operator add ./own --ask-file-password --number 1 --name 张三");
+  const std::ptrdiff_t files = filesLeft();
+  expect(1, "找不到数据文件", "check ./none");
+  EXPECT_EQ(filesLeft(), files);
 }
 
 TEST_F(CommandTest, ABackupIsMadeWhileTheTillSells) {
-  const std::string copy = owner.folder.file("backup.mdb");
-  std::ofstream(copy) << "an older backup";
-  ASSERT_EQ(addOperator("7", {"--password", "111"}), 0);
+  write("backup.mdb", "an older backup");
+  expect(0, "", "operator add @ --number 7 --name 张三 --password 111");
   {
-    const std::unique_ptr<Connection> till = owner.open();
-    till->run("begin immediate");
-    till->run("delete from operators");
-    EXPECT_EQ(owner.run({"backup", owner.shop, copy}), 0) << owner.err;
+    const std::unique_ptr<Connection> till = open();
+    till->runScript("begin immediate; delete from operators");
+    expect(0, "", "backup @ ./backup.mdb");
     till->run("commit");
   }
+  const std::string copy = folder.file("backup.mdb");
   EXPECT_EQ(std::filesystem::status(copy).permissions(), std::filesystem::perms(0600));
   EXPECT_EQ(openDataFile({copy, ""})->Open("select * from operators").count(), 1U);
-
-  EXPECT_EQ(owner.run({"backup", owner.shop, owner.shop}), 1);
-  EXPECT_EQ(owner.run({"backup", owner.shop, owner.folder.file("none/backup.mdb")}), 1);
-  EXPECT_THAT(owner.err, HasSubstr("文件夹不存在"));
-  EXPECT_TRUE(owner.open()) << "the data file is still one";
+  expect(1, "", "backup @ " + shop);
+  expect(1, "文件夹不存在", "backup @ ./none/backup.mdb");
+  EXPECT_TRUE(open()) << "the data file is still one";
 }
 
 TEST_F(CommandTest, ABackupThatDoesNotReadIsNotTaken) {
-  const std::string copy = owner.folder.file("backup.mdb");
-  std::ofstream(copy) << "an older backup";
-  owner.scratchShop();
-  EXPECT_EQ(owner.run({"backup", owner.shop, copy}), 1);
-  EXPECT_THAT(owner.err, HasSubstr("没有采用"));
-  EXPECT_EQ(std::filesystem::file_size(copy), 15U);
+  write("backup.mdb", "an older backup");
+  scratchShop();
+  expect(1, "没有采用", "backup @ ./backup.mdb");
+  EXPECT_EQ(std::filesystem::file_size(folder.file("backup.mdb")), 15U);
   EXPECT_EQ(filesLeft(), 2) << "the shop and the older backup";
 }
 
 TEST_F(CommandTest, ARestoredBackupIsNotMixedWithTheOldLog) {
-  const std::string backup = owner.folder.file("backup.mdb");
-  ASSERT_EQ(owner.run({"backup", owner.shop, backup}), 0) << owner.err;
+  const std::string backup = folder.file("backup.mdb");
+  expect(0, "", "backup @ " + backup);
   Owner crashed;
   {
-    const std::unique_ptr<Connection> till = owner.open();
+    const std::unique_ptr<Connection> till = open();
     till->run("insert into stock values ('late', 1)");
-    const DataFileLock lock(owner.shop);
-    EXPECT_EQ(owner.run({"restore", backup, owner.shop}), 1);
-    EXPECT_THAT(owner.err, HasSubstr("已经打开"));
-    for (const char* part : {"", "-wal"})
-      std::filesystem::copy(owner.shop + part, crashed.shop + part);
+    const DataFileLock lock(shop);
+    expect(1, "已经打开", "restore " + backup + " @");
+    for (const char* part : {"", "-wal"}) std::filesystem::copy(shop + part, crashed.shop + part);
   }
-  EXPECT_EQ(crashed.run({"restore", crashed.shop, backup}), 1);
-  EXPECT_THAT(crashed.err, HasSubstr("日志"));
-  std::ofstream(crashed.folder.file("noise")) << "no backup";
-  EXPECT_EQ(crashed.run({"restore", crashed.folder.file("noise"), crashed.shop}), 1);
-  EXPECT_THAT(crashed.err, HasSubstr("没有恢复"));
-  ASSERT_EQ(crashed.run({"restore", backup, crashed.shop}), 0) << crashed.err;
-  EXPECT_EQ(crashed.value("select count(*) as value from stock"), "0");
+  crashed.expect(1, "日志", "restore @ " + backup);
+  crashed.write("noise", "no backup");
+  crashed.expect(1, "没有恢复", "restore ./noise @");
   const std::string old = crashed.folder.file("POS.mdb.old-20261122-090503");
-  EXPECT_THAT(crashed.out, HasSubstr(old));
+  crashed.expect(0, old, "restore " + backup + " @");
+  EXPECT_EQ(crashed.value("select count(*) as value from stock"), "0");
   EXPECT_EQ(openDataFile({old, ""})->Open("select * from stock where spbm='late'").count(), 1U);
 }
 
 TEST_F(CommandTest, TheTillStartsByItselfAsLongAsItIsToldTo) {
-  setenv("XDG_CONFIG_HOME", owner.folder.path().c_str(), 1);
-  const std::string entry = owner.folder.file("autostart/till.desktop");
+  setenv("XDG_CONFIG_HOME", folder.path().c_str(), 1);
+  const std::string entry = folder.file("autostart/till.desktop");
   const auto till = std::filesystem::read_symlink("/proc/self/exe").parent_path() / "till";
-  EXPECT_EQ(owner.run({"autostart", "on"}), 0) << owner.err;
+  expect(0, "", "autostart on");
   std::ifstream file(entry);
   EXPECT_EQ(std::string(std::istreambuf_iterator<char>(file), {}), autostartEntry(till));
-  EXPECT_EQ(owner.run({"autostart", "maybe"}), 2);
-  EXPECT_EQ(owner.run({"autostart", "off"}), 0) << owner.err;
+  expect(2, "", "autostart maybe");
+  expect(0, "", "autostart off");
   EXPECT_FALSE(std::filesystem::exists(entry));
   EXPECT_THAT(autostartEntry("/a $b/100%\\\"c"),
               testing::EndsWith("TryExec=/a $b/100%\\\\\"c\n"
@@ -130,44 +101,32 @@ TEST_F(CommandTest, TheTillStartsByItselfAsLongAsItIsToldTo) {
 }
 
 TEST_F(CommandTest, OperatorsComeAndGo) {
-  ASSERT_EQ(addOperator("7", {"--password", "111", "--right", "sell"}), 0) << owner.err;
+  expect(0, "", "operator add @ --number 7 --name 张三 --password 111 --right sell");
   EXPECT_TRUE(canLogIn("7", "111"));
-  EXPECT_EQ(addOperator("7", {"--password", "222"}), 1);
-  EXPECT_THAT(owner.err, HasSubstr("已经有操作员 7"));
-  EXPECT_EQ(addOperator("8", {"--password", "1", "--right", "fly"}), 2);
-  EXPECT_THAT(owner.err, HasSubstr("参数的值不对：--right: 只能是 sell，写的是“fly”"));
-  EXPECT_EQ(addOperator("32768", {"--password", "1"}), 2);
-  owner.typed = "秘密\r\n";
-  ASSERT_EQ(addOperator("8"), 0) << owner.err;
-  EXPECT_THAT(owner.out, HasSubstr("不能收银"));
+  expect(1, "已经有操作员 7", "operator add @ --number 7 --name 张三 --password 222");
+  expect(2, "参数的值不对：--right: 只能是 sell，写的是“fly”",
+         "operator add @ --number 8 --name 张三 --password 1 --right fly");
+  expect(2, "--number", "operator add @ --number 32768 --name 张三 --password 1");
+  typed = "秘密\r\n";
+  expect(0, "不能收银", "operator add @ --number 8 --name 张三");
   EXPECT_TRUE(canLogIn("8", "秘密"));
-  owner.typed = "";
-  EXPECT_EQ(addOperator("9"), 1) << "no password at all is not an empty one";
+  typed = "";
+  expect(1, "密码", "operator add @ --number 9 --name 张三");  // none at all is not an empty one
+  expect(0, "", "operator password @ --number 7 --password 333");
+  EXPECT_TRUE(canLogIn("7", "333") && !canLogIn("7", "111"));
+  expect(0, "", "operator list @");
+  EXPECT_EQ(out, "7\t张三\tsell\n8\t张三\t-\n");
 
-  EXPECT_EQ(owner.run({"operator", "password", owner.shop, "--number", "7", "--password", "333"}),
-            0);
-  EXPECT_FALSE(canLogIn("7", "111"));
-  EXPECT_TRUE(canLogIn("7", "333"));
-  ASSERT_EQ(owner.run({"operator", "list", owner.shop}), 0);
-  EXPECT_EQ(owner.out, "7\t张三\tsell\n8\t张三\t-\n");
-
-  owner.execute("insert into sell (sell_time, operator_id) values ('2026-11-22 09:00:00', 7)");
-  EXPECT_EQ(owner.run({"operator", "remove", owner.shop, "--number", "7"}), 1);
-  EXPECT_THAT(owner.err, HasSubstr("没结的单据"));
-  EXPECT_EQ(owner.run({"operator", "remove", owner.shop, "--number", "8"}), 0);
+  execute("insert into sell (sell_time, operator_id) values ('2026-11-22 09:00:00', 7)");
+  expect(1, "没结的单据", "operator remove @ --number 7");
+  expect(0, "", "operator remove @ --number 8");
   EXPECT_FALSE(canLogIn("8", "秘密"));
 }
 
 TEST_F(CommandTest, ParametersAreSetAllOrNone) {
-  EXPECT_EQ(owner.run({"param", "set", owner.shop, "ShopName=惠邻=便利店", "PointUnit=5"}), 0)
-      << owner.err;
-  for (const char* bad : {"PointUnit=many", "Colour=1", "ShopName"}) {
-    EXPECT_EQ(owner.run({"param", "set", owner.shop, "ShopName=别的", bad}), 1) << bad;
-    EXPECT_THAT(owner.err, HasSubstr(bad));
-  }
-  ASSERT_EQ(owner.run({"param", "list", owner.shop}), 0);
-  EXPECT_THAT(owner.out, HasSubstr("ShopName=惠邻=便利店\n"));
-  EXPECT_THAT(owner.out, HasSubstr("PointUnit=5\n"));
+  expect(0, "", "param set @ ShopName=惠邻=便利店 PointUnit=5");
+  for (const std::string bad : {"PointUnit=many", "Colour=1", "ShopName"})
+    expect(1, bad, "param set @ ShopName=别的 " + bad);
+  expect(0, "ShopName=惠邻=便利店\n", "param list @");
+  EXPECT_THAT(out, HasSubstr("PointUnit=5\n"));
 }
-
-}  // namespace
