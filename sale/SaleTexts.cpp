@@ -43,9 +43,9 @@ QString recalled(const ClsSell& bill) {
 }
 
 QString memberInfo(const ClsMember& member, const ClsSell* latest) {
-  const QString about = Texts::tr("会员：%1，办卡日期：%2，累计消费：%3")
-                            .arg(qtText(member.Name()), qtText(dateText(member.JoinDate())),
-                                 qtText(twoDecimals(member.TotalSpent())));
+  QString about = Texts::tr("会员：%1，办卡日期：%2，累计消费：%3")
+                      .arg(qtText(member.Name()), qtText(dateText(member.JoinDate())),
+                           qtText(twoDecimals(member.TotalSpent())));
   if (latest == nullptr) return about;
   QStringList goods;
   for (const auto& line : latest->Items()) goods << qtText(line->SpName());
