@@ -118,7 +118,7 @@ void insertBarcodes(Run& run, int goods, Samples& samples) {
 /// goods need.
 void import(Run& run, benchmark::State& state, Measured& row) {
   const int goods = run.largest().goods;
-  for (auto _ : state) {
+  for ([[maybe_unused]] auto _ : state) {
     Samples tenth;
     const double little = import(run, goods / 10, tenth);
     const double much = import(run, goods, row.till);

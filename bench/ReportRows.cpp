@@ -112,7 +112,7 @@ void day(Run& run, benchmark::State& state, Measured& row) {
   SearchWindow window(folder);
   BareSearch bare(folder / "bare.mdb", window.listSize());
   int n = 0;
-  for (auto _ : state) {
+  for ([[maybe_unused]] auto _ : state) {
     const Date asked = n % 10 == 0
                            ? shop_file::kBusyDay
                            : plusDays(shop_file::kFirstDay, n * 37 % shop_file::kHistoryDays);
@@ -132,7 +132,7 @@ void year(Run& run, benchmark::State& state, Measured& row) {
   SearchWindow window(folder);
   window.setPeriod(first, last);
   BareSearch bare(folder / "bare.mdb", window.listSize());
-  for (auto _ : state) {
+  for ([[maybe_unused]] auto _ : state) {
     state.SetIterationTime(row.till.time([&] { window.search(true); }));
     std::size_t lines = 0;
     row.bare.time([&] { lines = bare.search(first, last, kAllLines); });
@@ -159,7 +159,7 @@ void statistics(Run& run, benchmark::State& state, Measured& row) {
   BareEngine engine(run.shops.copy(run.largest()) / "bare.mdb");
   BareEngine::Statement select(engine, kBillsOfDay);
   QSize size;
-  for (auto _ : state) {
+  for ([[maybe_unused]] auto _ : state) {
     const Stopwatch since;
     frmCount form(*pos);
     paint.afterPaint("listSell", [&] {
