@@ -94,7 +94,7 @@ TEST_F(DevicesTest, TheDisplayTakesModeAndFigureAtThePortOfTheSetting) {
   devices.display().clientView(Currency::parse("-88.5").value(), CustomerDisplay::kChange);
   devices.display().clientView(Currency(), 7);
   EXPECT_EQ(ports.shown, "\x1Bs1\x1BQA12.50\r\x1Bs4\x1BQA-88.50\r\x1BQA0.00\r");
-  ports.serialBroken = true;
+  ports.broken = true;
   for (int i = 0; i < 2; ++i) devices.display().clientView(Currency(), 1);
   EXPECT_THAT(toldOfDisplay, SizeIs(1));
   open("", "", "一号口");
@@ -113,7 +113,7 @@ TEST_F(DevicesTest, TheDrawerOpensThroughItsPortOrTheDisplay) {
   EXPECT_EQ(bytes("lpt1"), pulse);
 
   // The display is gone: the drawer is tried at its port.
-  ports.serialBroken = true;
+  ports.broken = true;
   plug("COM1", "com1");
   devices.drawer().OpenDrawer();
   EXPECT_EQ(bytes("com1"), pulse);

@@ -1,7 +1,6 @@
 #include <gtest/gtest.h>
 
 #include <QContextMenuEvent>
-#include <QLineEdit>
 #include <QListWidget>
 
 #include "Hands.h"
