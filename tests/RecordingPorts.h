@@ -30,6 +30,7 @@ class RecordingPorts : public Ports {
   bool broken = false;  ///< the serial line and the page printer
   mutable std::vector<std::string> opened;
   mutable std::vector<PageDocument> pages;
+  mutable std::vector<int> pageWidthsMm;
   mutable std::string shown;  ///< the bytes sent to the serial line
 
  private:
@@ -42,11 +43,14 @@ class RecordingPorts : public Ports {
     const RecordingPorts& ports;
   };
   struct Pages : PagePrinter {
-    Pages(const RecordingPorts& owner, PageRoll roll) : PagePrinter(roll), ports(owner) {}
+    Pages(const RecordingPorts& owner, PageRoll roll)
+        : PagePrinter(roll), ports(owner), widthMm(roll.widthMm) {}
     void print(const PageDocument& page) override {
       if (ports.broken) throw PortError("打印机没有响应");
       ports.pages.push_back(page);
+      ports.pageWidthsMm.push_back(widthMm);
     }
     const RecordingPorts& ports;
+    int widthMm;
   };
 };

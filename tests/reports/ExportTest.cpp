@@ -4,7 +4,9 @@
 #include <QProcess>
 #include <csignal>
 
-#include "TestShop.h"
+#include <fstream>
+
+#include "TemporaryFolder.h"
 #include "base/FileError.h"
 #include "reports/ListExport.h"
 #include "reports/ResultList.h"
