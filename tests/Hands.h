@@ -25,6 +25,7 @@ class Hands : public QObject {
 
   Hands& at(const char* window, Step step) {
     steps_.emplace_back(window, std::move(step));
+    if (steps_.back().first != "messageBox") last_ = window;
     return *this;
   }
   /// Presses keys, one after the other, on whatever has the focus in the window.
@@ -38,6 +39,9 @@ class Hands : public QObject {
   Hands& type(const char* window, const QString& text) {
     return at(window, [text](QWidget&) { typeNow(text); });
   }
+  /// The same in the window of the step before, a message box aside.
+  Hands& type(const QString& text) { return type(last_, text); }
+  Hands& see(const char* names, const char* texts) { return see(last_, names, texts); }
   /// A message, in a box or a window of its own, is this one or begins with it; it is confirmed.
   Hands& says(const char* window, const QString& text) {
     return at(window, [text](QWidget& shown) {
@@ -120,4 +124,5 @@ class Hands : public QObject {
   std::deque<std::pair<QString, Step>> steps_;
   QElapsedTimer waited_;
   const QWidget* seen_ = nullptr;
+  const char* last_ = "";
 };
