@@ -90,11 +90,9 @@ class WatchedTill : public TillFixture {
     }
   }
 
-  /// An open bill without goods.
-  static constexpr const char* kNothing = "00 0 收0 0 0 0 惠0 员0";
-
-  /// What there is, by what it is called when it is gone. A row without code, origin, unit and
-  /// item code.
+  /// What there is, by what it is called when it is gone: rows without code, origin, unit and item
+  /// code; bills; their lines; stock; cards. The frame only where it is not on the entry row's
+  /// code.
   std::vector<std::pair<std::string, std::string>> facts() {
     static constexpr const char* kColumns[] = {"序号", "条码", "", "", "数量", "折扣"};
     std::vector<std::pair<std::string, std::string>> all;
@@ -107,33 +105,53 @@ class WatchedTill : public TillFixture {
       all.emplace_back("行" + std::to_string(i + 1), cells);
     }
     const auto [row, column] = till.framed;
-    EXPECT_TRUE(column == till.lastColumn || column == BillRow::kNumber);
-    all.emplace_back("框", "@" + std::to_string(row + 1) + kColumns[till.lastColumn]);
+    const bool isEntry = row + 1 == static_cast<int>(till.rows.size()) &&
+                         column == BillRow::kNumber && till.lastColumn == BillRow::kCode;
+    EXPECT_TRUE(isEntry || column == till.lastColumn);
+    all.emplace_back("框", isEntry ? "" : "@" + std::to_string(row + 1) + kColumns[column]);
     all.emplace_back("输入", "[" + till.text.toStdString() + "]");
-    all.emplace_back("标题", replaced(till.title1, "   收银员：张三", "…"));
+    all.emplace_back("标题", till.title1);
     all.emplace_back("上单", till.title3);
     all.emplace_back("状态", till.status);
-    all.emplace_back("会员", replaced(till.memberInfo, "\n", "/"));
+    all.emplace_back("会员", till.memberInfo);
     all.emplace_back("结束", till.ended ? "结束" : "");
     all.emplace_back("离开", session.left() ? "离开" : "");
-    const auto list = [&](const char* name, const char* query) {
+    const auto list = [&](const std::string& name, const char* query) {
       const Recordset found = pos.gConn->Open(query);
       for (std::size_t i = 0; i < found.count(); ++i) {
-        const std::string key = name + found.row(i).text("k");
-        all.emplace_back(key, key + ":" + replaced(found.row(i).text("v"), kNothing, "空"));
+        all.emplace_back(name + found.row(i).text("k"), found.row(i).text("v"));
       }
     };
-    list("库存", "select spbm as k, quantity as v from stock order by spbm");
-    list(
-        "单",
-        "select id as k, state || paid || ' ' || amount || ' 收' || cash || ' ' || bank_card || ' '"
-        " || phone_pay || ' ' || card_pay || ' 惠' || favorable || ' 员' || member_id as v"
-        " from sell order by id");
+    list("库存", "select spbm as k, spbm || ':' || quantity as v from stock order by spbm");
+    list("单",
+         "select id as k, '单' || id || ':' || state || paid || ' ' || amount || ' 收' || cash ||"
+         " ' ' || bank_card || ' ' || phone_pay || ' ' || card_pay || ' 惠' || favorable || ' 员'"
+         " || member_id as v from sell order by id");
     list("目",
-         "select id as k, sellId || ' ' || bm || 'x' || amount || '=' || money as v"
+         "select id as k, sellId || ':' || bm || 'x' || amount || '=' || money as v"
          " from sellProducts order by id");
-    list("卡", "select bh as k, card || ' ' || total_spent || ' ' || points as v from member");
+    list("卡",
+         "select bh as k, '卡' || bh || ':' || card || ' ' || total_spent || ' ' || points as v"
+         " from member");
     return all;
+  }
+
+  /// What is said so often, each with a short form that stands for nothing else.
+  static std::string shortened(std::string text) {
+    static constexpr std::pair<const char*, const char*> kWords[] = {
+        {"   收银员：张三", "…"},
+        {"件商品，原价合计", "件/"},
+        {"   合计", "/"},
+        {"00 0 收0 0 0 0 惠0 员0", "空"},
+        {"会员卡输入会员卡号或电话：", "卡号？"},
+        {"\x1Bs1\x1BQA", "^价"},
+        {"\x1Bs2\x1BQA", "^计"},
+        {"\x1Bs3\x1BQA", "^收"},
+        {"\x1Bs4\x1BQA", "^找"},
+        {"\n", "/"},
+        {"\r", " "}};
+    for (const auto& [word, brief] : kWords) text = replaced(text, word, brief);
+    return text;
   }
 
   std::string changes() {
@@ -154,13 +172,12 @@ class WatchedTill : public TillFixture {
     }
     if (!till.offered.isEmpty()) tell("选：" + till.offered.join("、").toStdString());
     till.offered.clear();
-    tell(replaced(replaced(replaced(till.said(), "\n", "/"), folder.path().string(), "~"),
-                  "会员卡输入会员卡号或电话：", "卡号？"));
-    tell(replaced(replaced(std::exchange(ports.shown, {}), "\x1B", "^"), "\r", " "));
+    tell(replaced(till.said(), folder.path().string(), "~"));
+    tell(std::exchange(ports.shown, {}));
     if (const std::string printed = paper(); !printed.empty()) tell("印：" + printed);
     if (!ports.pages.empty()) tell("页：" + std::to_string(ports.pages.size()));
     ports.pages.clear();
-    return all;
+    return shortened(all);
   }
 
   std::map<std::string, std::string> seen_;
