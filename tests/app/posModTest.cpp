@@ -10,8 +10,6 @@
 #include "store/DataFile.h"
 #include "store/StoreError.h"
 
-namespace {
-
 namespace fs = std::filesystem;
 using testing::HasSubstr;
 
@@ -107,5 +105,3 @@ TEST_F(posModTest, BackUpTakesTheFileThatIsOpenWhateverElseIsSpelledAlike) {
   fs::create_symlink(pos.gConn->source().path, folder_.file("data/pos3.mdb"));
   EXPECT_THAT([&] { pos.backUp(); }, testing::ThrowsMessage<StoreError>(HasSubstr("自己")));
 }
-
-}  // namespace

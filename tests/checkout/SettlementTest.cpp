@@ -13,17 +13,15 @@ class SettlementTest : public CheckoutFixture {
 };
 
 TEST_F(SettlementTest, AmountDueFollowsTheShopsRounding) {
-  const struct {
-    const char *jiao, *yuan, *amount, *due;
-  } cases[] = {{"0", "0", "12.345", "12.35"}, {"1", "0", "12.35", "12.40"},
-               {"1", "0", "12.34", "12.30"},  {"1", "0", "12.95", "13.00"},
-               {"0", "1", "12.50", "12"},     {"0", "1", "13.50", "14"},
-               {"1", "1", "12.45", "13"}};
-  for (const auto& each : cases) {
-    setParameter("RoundJiao", each.jiao);
-    setParameter("RoundYuan", each.yuan);
-    Currency amount = Currency::parse(each.amount).value();
-    EXPECT_EQ(myCStr(amount, pos.gSysParam), each.due) << each.amount;
+  const char* const cases[][4] = {{"0", "0", "12.345", "12.35"}, {"1", "0", "12.35", "12.40"},
+                                  {"1", "0", "12.34", "12.30"},  {"1", "0", "12.95", "13.00"},
+                                  {"0", "1", "12.50", "12"},     {"0", "1", "13.50", "14"},
+                                  {"1", "1", "12.45", "13"}};
+  for (const auto& [jiao, yuan, goods, due] : cases) {
+    setParameter("RoundJiao", jiao);
+    setParameter("RoundYuan", yuan);
+    Currency amount = Currency::parse(goods).value();
+    EXPECT_EQ(myCStr(amount, pos.gSysParam), due) << goods;
   }
 }
 
@@ -68,9 +66,7 @@ TEST_F(SettlementTest, CashTextThatIsNoNumberLeavesTheFigure) {
 }
 
 TEST_F(SettlementTest, AsksOnceBeforeAPaymentThatLooksMistyped) {
-  const struct {
-    const char *favorable, *bankCard, *cash, *question;
-  } cases[] = {
+  const char* const cases[][4] = {
       {"0", "0", "88", "收款不够，还差 0.50 元。"},
       {"0.5", "0", "八", "现金“八”不是数字，将按 0.00 元收款。\n收款不够，还差 88.00 元。"},
       {"0", "0", "10088.51", "找零有 10000.01 元。"},

@@ -4,8 +4,6 @@
 #include "base/Gbk.h"
 #include "base/Text.h"
 
-namespace {
-
 class DevicesTest : public ShopFixture {
  protected:
   void plug(const char* port, const std::string& file) {
@@ -96,5 +94,3 @@ TEST_F(DevicesTest, TheDrawerOpensThroughItsPortOrTheDisplay) {
   EXPECT_EQ(ports.shown, "\x02M");
   EXPECT_EQ(sent("com1"), pulse) << "the display is gone: the drawer is tried at its port";
 }
-
-}  // namespace

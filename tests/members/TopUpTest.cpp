@@ -4,8 +4,6 @@
 #include "saleslib/CardNumber.h"
 #include "store/StoreError.h"
 
-namespace {
-
 using TopUpTest = ShopFixture;
 
 TEST_F(TopUpTest, ANumberIsLookedUpAsTypedAndThenWithoutWhatTheReaderTypes) {
@@ -46,5 +44,3 @@ TEST_F(TopUpTest, ARecordWithoutItsBalanceStaysAndIsCompletedByTheSameTopUp) {
   storeTopUp(*pos.gConn, topUp);
   EXPECT_EQ(books(), "1:188.5,0:188.5,1:288.5 288.5") << "what was told stays as it was told";
 }
-
-}  // namespace

@@ -3,8 +3,6 @@
 #include "Hands.h"
 #include "ShopFixture.h"
 
-namespace {
-
 constexpr const char* kWindow = "cardStored";
 constexpr const char* kFields = "txtBh txtName beforeMoney inMoney addMoney afterMoney";
 
@@ -48,26 +46,24 @@ TEST_F(cardStoredTest, ATopUpIsRecordedForTheCardAndTheBalanceThatWereShown) {
 }
 
 TEST_F(cardStoredTest, FiguresThatAreNoneWriteNothing) {
-  const struct {
-    const char *card, *paid, *credited, *message, *focus;
-  } cases[] = {{";vip?", "90", "100", "会员卡号不能为空,请输入卡号", "@txtBh"},
-               {"8001", "0", "100", "请输入正数", "@inMoney"},
-               {"8001", "-90", "100", "请输入正数", "@inMoney"},
-               {"8001", "90", "1e2", "请输入正数", "@addMoney"},
-               {"8001", "90", "-100", "请输入正数", "@addMoney"},
-               {"8001", "90", "922337203685477", "请输入正数", "@addMoney"},
-               {"' or ''='", "90", "100", "请输入正数", "@beforeMoney"}};
-  for (const auto& c : cases) {
-    SCOPED_TRACE(std::string(c.card) + " " + c.paid + " " + c.credited);
+  const char* const cases[][5] = {{";vip?", "90", "100", "会员卡号不能为空,请输入卡号", "@txtBh"},
+                                  {"8001", "0", "100", "请输入正数", "@inMoney"},
+                                  {"8001", "-90", "100", "请输入正数", "@inMoney"},
+                                  {"8001", "90", "1e2", "请输入正数", "@addMoney"},
+                                  {"8001", "90", "-100", "请输入正数", "@addMoney"},
+                                  {"8001", "90", "922337203685477", "请输入正数", "@addMoney"},
+                                  {"' or ''='", "90", "100", "请输入正数", "@beforeMoney"}};
+  for (const auto& [card, paid, credited, message, focus] : cases) {
+    SCOPED_TRACE(std::string(card) + " " + paid + " " + credited);
     hands.at(kWindow, [&](QWidget& shown) {
-      set(shown, "txtBh", c.card);
+      set(shown, "txtBh", card);
       Hands::pressNow(Qt::Key_Return);
-      set(shown, "inMoney", c.paid);
-      set(shown, "addMoney", c.credited);
+      set(shown, "inMoney", paid);
+      set(shown, "addMoney", credited);
       confirmNow(shown);
     });
-    hands.says("messageBox", c.message).at(kWindow, [&](QWidget& shown) {
-      EXPECT_TRUE(Hands::textsOf(shown, "txtBh").ends_with(c.focus));
+    hands.says("messageBox", message).at(kWindow, [&](QWidget& shown) {
+      EXPECT_TRUE(Hands::textsOf(shown, "txtBh").ends_with(focus));
       Hands::pressNow(Qt::Key_Escape);
     });
     EXPECT_EQ(cardStored(pos).exec(), QDialog::Rejected);
@@ -125,5 +121,3 @@ TEST_F(cardStoredTest, OnlyThePagePrinterGetsASlipAndABrokenOneCostsNothingElse)
   }
   EXPECT_EQ(stored("card as v from member"), "388.5");
 }
-
-}  // namespace

@@ -6,8 +6,6 @@
 #include "Hands.h"
 #include "ShopFixture.h"
 
-namespace {
-
 constexpr const char* kWindow = "frmFMember";
 constexpr const char* kFields = "txtBh txtName txtPostcode card cmdOk";
 
@@ -53,22 +51,20 @@ TEST_F(frmFMemberTest, ASwipedNewCardBecomesAMemberByKeyboardAlone) {
 
 TEST_F(frmFMemberTest, WhatIsWrongIsSaidAndNothingStored) {
   const std::string tooLong(101, 'x');
-  const struct {
-    const char *field, *value, *message;
-  } cases[] = {{"txtName", " ", "请输入会员姓名"},
-               {"txtPostcode", "32768", "积分“32768”不是有效的整数！"},
-               {"card", "-1", "储值卡余额不能是负数！"},
-               {"txtName", tooLong.c_str(), "会员姓名不能超过100个字符！"},
-               {"txtBh", ";8００1?", "会员编号 8001 已经存在！"},
-               {"txtBh", ";?", "请输入会员编号！"}};
+  const char* const cases[][3] = {{"txtName", " ", "请输入会员姓名"},
+                                  {"txtPostcode", "32768", "积分“32768”不是有效的整数！"},
+                                  {"card", "-1", "储值卡余额不能是负数！"},
+                                  {"txtName", tooLong.c_str(), "会员姓名不能超过100个字符！"},
+                                  {"txtBh", ";8００1?", "会员编号 8001 已经存在！"},
+                                  {"txtBh", ";?", "请输入会员编号！"}};
   hands.type(kWindow, "77\n");
-  for (const auto& c : cases) {
-    hands.at(kWindow, [&, c](QWidget& shown) {
-      for (const auto& each : cases) set(shown, each.field, "7");
-      set(shown, c.field, c.value);
+  for (const auto& [field, value, message] : cases) {
+    hands.at(kWindow, [&cases, field = field, value = value](QWidget& shown) {
+      for (const auto& each : cases) set(shown, each[0], "7");
+      set(shown, field, value);
       okNow(shown);
     });
-    hands.says("messageBox", c.message);
+    hands.says("messageBox", message);
   }
   // A known card is shown and cannot be changed.
   hands.at(kWindow, [](QWidget& shown) {
@@ -82,5 +78,3 @@ TEST_F(frmFMemberTest, WhatIsWrongIsSaidAndNothingStored) {
   EXPECT_TRUE(hands.idle());
   EXPECT_EQ(stored("count(*) as v from member"), "1");
 }
-
-}  // namespace

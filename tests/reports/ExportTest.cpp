@@ -11,8 +11,6 @@
 #include "reports/ListExport.h"
 #include "reports/ResultList.h"
 
-namespace {
-
 namespace fs = std::filesystem;
 using testing::HasSubstr;
 using testing::ThrowsMessage;
@@ -102,5 +100,3 @@ TEST_F(ExportTest, IsItsOwnersAndWhatIsNotWholeLeavesTheOldFile) {
     fs::remove(folder_.file(name));
   }
 }
-
-}  // namespace

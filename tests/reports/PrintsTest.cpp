@@ -3,8 +3,6 @@
 #include "reports/ResultList.h"
 #include "reports/ShiftSheet.h"
 
-namespace {
-
 using testing::ElementsAre;
 
 class PrintsTest : public ReportsFixture {
@@ -60,5 +58,3 @@ TEST_F(PrintsTest, TheReprintPlacesTheLinesOfAReceipt) {
                           "0,37684数量合计240 金额合计600 ", "0,37876谢谢惠顾", "0,38068欢迎光临",
                           "0,38260电话 010-1234", "0,38452", "0,38644", "0,38836六"));
 }
-
-}  // namespace

@@ -2,8 +2,6 @@
 #include "reports/ResultList.h"
 #include "reports/SearchCriteria.h"
 
-namespace {
-
 class SearchTest : public ReportsFixture {
  protected:
   /// "bill code" of each line found.
@@ -81,5 +79,3 @@ TEST_F(SearchTest, ASlipFindsItsBillAndWhatThePhonePaidAndNoNumberAsksNothing) {
     EXPECT_EQ(store.Open(sums).row(0).text("phone_pay"), sum);
   }
 }
-
-}  // namespace

@@ -13,20 +13,18 @@ class ReturnsTest : public ReturnsFixture {
 };
 
 TEST_F(ReturnsTest, OnlyASettledBillOfThatNumberLoads) {
-  const struct {
-    const char *typed, *refusal;
-  } cases[] = {{" １ ", ""},
-               {"x", "无效的流水号！"},
-               {"1' or '1'='1", "无效的流水号！"},
-               {"0", "没有找到“0”单据！"},
-               {"1.5", "没有找到“1.5”单据！"},
-               {"99", "没有找到“99”单据！"},
-               {"99999999999", "没有找到“99999999999”单据！"},
-               {"2", "单据“2”还没有结账，不能退货！"}};
-  for (const auto& each : cases) {
-    EXPECT_EQ(load(each.typed), each.refusal);
+  const char* const cases[][2] = {{" １ ", ""},
+                                  {"x", "无效的流水号！"},
+                                  {"1' or '1'='1", "无效的流水号！"},
+                                  {"0", "没有找到“0”单据！"},
+                                  {"1.5", "没有找到“1.5”单据！"},
+                                  {"99", "没有找到“99”单据！"},
+                                  {"99999999999", "没有找到“99999999999”单据！"},
+                                  {"2", "单据“2”还没有结账，不能退货！"}};
+  for (const auto& [typed, refusal] : cases) {
+    EXPECT_EQ(load(typed), refusal);
     // A text that is no number leaves the bill before; any other refusal leaves none.
-    EXPECT_EQ(returns.bill() == nullptr, QString(each.refusal).contains("“"));
+    EXPECT_EQ(returns.bill() == nullptr, QString(refusal).contains("“"));
   }
   EXPECT_EQ(stored("count(*) as v from sell"), "2") << "number 0 opened no bill";
   pos.gConn->runScript("update sellProducts set amount = 9 where sellId = 1");
@@ -57,8 +55,8 @@ TEST_F(ReturnsTest, EverythingThatAReturnTouchesAgreesWithWhatCameBack) {
     EXPECT_TRUE(*s.refusal != '\0' || returns.line() == nullptr) << "it would be stored twice";
   }
   EXPECT_EQ(stored("sell_id || ' ' || item_id || ' ' || operator_id || ' ' || ratio || ' ' ||"
-                   " discount || ' ' || un_time as v from un_sell"),
-            "1 1 1 2 0.9 2026-11-22 09:05:03");
+                   " discount || ' ' || cost || ' ' || un_time as v from un_sell"),
+            "1 1 1 2 0.9 1.2 2026-11-22 09:05:03");
 }
 
 TEST_F(ReturnsTest, WhatIsRefundedBeyondPiecesOrLineIsAskedFor) {

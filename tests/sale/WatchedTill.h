@@ -11,18 +11,14 @@
 /// on the screen, in the books and at the devices, and nothing else.
 ///
 /// The steps are words. A key is its name (F4, Up); goods are rung by name (water, crate, several,
-/// balloon, apples); "menu-…" is an entry of the menu, "click" a click on the list, "…" behind a
-/// text types it, and any other text is typed with Enter behind it. ":" and texts with commas
-/// behind a word answer what is asked then, "_" in them is a blank; "@" and a number choose from
-/// what is offered. F1 is answered in the settlement dialog: "现金20" or "优惠2" types that figure,
-/// "储值卡" pays with the member's card, a number alone confirms that cash, and without any of
-/// them the amount due is confirmed.
+/// balloon, apples); "menu-…" is an entry of the menu, "click" a click on the list, "StockRule=1"
+/// sets a parameter, "…" behind a text types it, and any other text is typed with Enter behind it.
+/// ":" and texts with commas behind a word answer what is asked then, "_" in them is a blank; "@"
+/// and a number choose from what is offered. F1 is answered in the settlement dialog: "现金20" or
+/// "优惠2" types that figure, "储值卡" pays with the member's card, a number alone confirms that
+/// cash, and without any of them the amount due is confirmed.
 class WatchedTill : public TillFixture {
  protected:
-  struct Step {
-    const char *steps, *changes;
-  };
-
   WatchedTill() {
     pos.gPosSet.CVProt = "COM1";
     open();
@@ -35,8 +31,17 @@ class WatchedTill : public TillFixture {
     open();
     after("");
   }
-  void expect(const std::vector<Step>& steps) {
-    for (const auto& [words, changes] : steps) EXPECT_EQ(after(words), changes) << words;
+  /// "steps → changes", a line each; what is indented further belongs to the line above. Each may
+  /// have steps that are done before and behind it.
+  void expect(const QString& transcript, const char* before = "", const char* behind = "") {
+    const QString joined = QString(transcript).replace("\n    ", " ");
+    for (const QString& line : joined.split('\n', Qt::SkipEmptyParts)) {
+      const QStringList parts = line.trimmed().split("→");
+      if (parts.size() < 2) continue;
+      after(before);
+      EXPECT_EQ(after(parts[0]), parts[1].trimmed().toStdString()) << line.toStdString();
+      after(behind);
+    }
   }
   std::string after(const QString& steps) {
     for (const QString& word : steps.split(' ', Qt::SkipEmptyParts)) work(word);
@@ -45,12 +50,15 @@ class WatchedTill : public TillFixture {
   /// What the line printer's port was given since it was last asked for.
   std::string paper() {
     const std::string pulse("\x1B\x70\x00\x3C\xFF\r\n", 7);
-    const std::string printed = replaced(fileBytes(folder.file("lpt1")), pulse, "<drawer>/");
+    const std::string printed = replaced(fileBytes(folder.file("lpt1")), pulse, "<drawer>\r\n");
     std::filesystem::remove(folder.file("lpt1"));
-    return replaced(gbk::decode(printed), "\r\n", "/");
+    return replaced(gbk::decode(printed), "\r\n", " / ");
   }
 
   void work(QString word) {
+    if (word.contains('=')) {
+      return setParameter(qPrintable(word.section('=', 0, 0)), qPrintable(word.section('=', 1)));
+    }
     till.choice = word.contains('@') ? word.section('@', 1).toInt() : -1;
     word = word.section('@', 0, 0);
     const bool isAnswered = word.contains(':');
@@ -177,7 +185,7 @@ class WatchedTill : public TillFixture {
     if (const std::string printed = paper(); !printed.empty()) tell("印：" + printed);
     if (!ports.pages.empty()) tell("页：" + std::to_string(ports.pages.size()));
     ports.pages.clear();
-    return shortened(all);
+    return QString::fromStdString(shortened(all)).simplified().toStdString();
   }
 
   std::map<std::string, std::string> seen_;

@@ -4,8 +4,6 @@
 #include "SettingsTill.h"
 #include "settings/frmColor.h"
 
-namespace {
-
 using Colours = std::vector<int>;
 
 class frmColorTest : public testing::Test {
@@ -63,5 +61,3 @@ TEST_F(frmColorTest, TheColourDialogGivesItsColour) {
   type("cmdViewColor3", "\n");
   EXPECT_EQ(form_.findChild<QLineEdit*>("txtColor3")->text(), "197121");
 }
-
-}  // namespace

@@ -5,8 +5,6 @@
 #include "settings/KeyBox.h"
 #include "settings/frmKeyset.h"
 
-namespace {
-
 class frmKeysetTest : public testing::Test {
  protected:
   /// A new dialog over the map as it is now.
@@ -134,5 +132,3 @@ TEST_F(frmKeysetTest, APastedTextIsNoKeyAndLeavingKeepsEverything) {
   EXPECT_EQ(till_.pos.gKeyBoard.mF5, 116);
   EXPECT_EQ(till_.fileText(), before);
 }
-
-}  // namespace

@@ -10,8 +10,6 @@
 #include "shell/Modal.h"
 #include "shell/frmMenu.h"
 
-namespace {
-
 // X11 repeats a key by a release and a press of one moment, which are not always marked as repeats.
 class HeldKeysTest : public testing::Test {
  protected:
@@ -92,5 +90,3 @@ TEST(ControlKeysTest, ListsGoByTheMapAndTheMenuKeyOpensNoEditingMenu) {
   QApplication::sendEvent(&field, &menu);
   EXPECT_FALSE(QApplication::activePopupWidget());
 }
-
-}  // namespace

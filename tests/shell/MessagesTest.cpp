@@ -9,8 +9,6 @@
 #include "shell/Style.h"
 #include "shell/frmMsg.h"
 
-namespace {
-
 TEST(ModalTest, QuestionsAnswerToTheKeyboardAlone) {
   using enum Qt::Key;
   const struct {
@@ -95,5 +93,3 @@ TEST(ScreenFitTest, AHighDialogScrollsToTheFocus) {
   EXPECT_TRUE(last->hasFocus());
   EXPECT_EQ(last->visibleRegion(), QRegion(last->rect()));
 }
-
-}  // namespace

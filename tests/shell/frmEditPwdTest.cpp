@@ -5,8 +5,6 @@
 #include "LoginFixture.h"
 #include "saleslib/ClsLogin.h"
 
-namespace {
-
 constexpr const char* kWindow = "frmEditPwd";
 constexpr const char* kFields = "txtNumber txtPassword txtNewPwd";
 
@@ -55,5 +53,3 @@ TEST_F(frmEditPwdTest, AnEmptyNewPasswordCountsAndTheMappedKeysAct) {
   EXPECT_EQ(dialog.exec(), QDialog::Accepted);
   EXPECT_TRUE(passwordOf2Is(""));
 }
-
-}  // namespace

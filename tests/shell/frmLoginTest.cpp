@@ -5,8 +5,6 @@
 
 #include "LoginFixture.h"
 
-namespace {
-
 class frmLoginTest : public LoginFixture {
  protected:
   frmLogin login{pos};
@@ -47,5 +45,3 @@ TEST_F(frmLoginTest, KeysFollowTheMapAndThePlainEnterIsTheMappedOne) {
   EXPECT_EQ(pos.gOperator->Id(), 1);
   EXPECT_EQ(login.findChild<QLineEdit*>("txtPassword")->text(), "");
 }
-
-}  // namespace

@@ -4,8 +4,6 @@
 
 #include "LoginFixture.h"
 
-namespace {
-
 using enum Qt::Key;
 
 /// Runs the event loop until the main window ends the program, as the till does. The menu:
@@ -90,5 +88,3 @@ TEST_F(frmMainTest, ClosingTheMenuWindowEndsTheProgram) {
   hands.at("frmMenu", [](QWidget& shown) { shown.close(); });
   runUntilEnd("");
 }
-
-}  // namespace

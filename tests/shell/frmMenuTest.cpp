@@ -5,8 +5,6 @@
 #include "Hands.h"
 #include "app/KeyBoard.h"
 
-namespace {
-
 class frmMenuTest : public testing::Test {
  protected:
   frmMenuTest() {
@@ -78,5 +76,3 @@ TEST_F(frmMenuTest, NoCaptionIsCutOffWhereThereIsRoom) {
   });
   menu_.ShowMenu(0);
 }
-
-}  // namespace
