@@ -1,0 +1,34 @@
+#pragma once
+
+#include <chrono>
+#include <functional>
+
+class Connection;
+
+/// Long writing beside a till that rings: many short transactions with a pause behind each. The
+/// engine lets a waiting program try again every 25 ms or more often within the first 128 ms, and
+/// later every 50 or 100; so a slice takes some 80 ms and its pause 25, and a waiting till comes in
+/// between.
+class WriteSlices {
+ public:
+  enum class Company {
+    kAlone,   ///< nobody else has the file, or a transaction is open anyway
+    kOthers,  ///< others write to it meanwhile
+  };
+
+  WriteSlices(Connection& connection, Company company)
+      : connection_(connection), company_(company) {}
+
+  /// Calls `slice` in one transaction after the other until it says false; the number tells how
+  /// many rows it should write, so that it takes the time above. Throws what it throws: then that
+  /// slice is taken back.
+  void run(const std::function<bool(int rows)>& slice);
+
+ private:
+  void adapt(std::chrono::steady_clock::duration taken);
+  void pause();
+
+  Connection& connection_;
+  Company company_;
+  int rows_ = 500;
+};
