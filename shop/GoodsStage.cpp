@@ -68,7 +68,10 @@ void GoodsStage::add(GoodsToWrite goods) {
   keep(0, goods.master);
   keep(1, goods.stock);
   keep(2, goods.barcodes);
-  if (!goods.category.empty()) categories_.insert(std::move(goods.category));
+  const std::string& category = goods.category;
+  if (!category.empty() && knownCategories_.insert(category).second) {
+    categories_.push_back(category);
+  }
   if (buffered_ >= kRunRows) flush();
 }
 

@@ -46,7 +46,8 @@ class GoodsStage {
   std::int64_t token_ = 0;
   std::int64_t run_ = 0;
   std::size_t buffered_ = 0;
-  std::set<std::string> categories_;
+  std::vector<std::string> categories_;  ///< in the order of the sheet
+  std::set<std::string> knownCategories_;
   bool isSealed_ = false;
 };
 

@@ -60,21 +60,42 @@ void StagedTable::add(std::int64_t run, TableRow row) {
 std::int64_t StagedTable::move(int rows) {
   const std::optional<Slice> slice = lowest(rows);
   if (!slice) return 0;
-  const std::string query =
-      "select " + columns_ + " from " + staged_ + slice->where + " order by " + keys_;
-  Rows waiting = connection_.queryBound(query.c_str(), slice->bound);
+  updateKnown(*slice);
+  connection_.runBound(insertText(*slice).c_str(), slice->bound);
+  return takeOut(*slice);
+}
+
+void StagedTable::updateKnown(const Slice& slice) {
+  const std::string query = "select " + columns_ + waitingIn(slice, "exists");
+  Rows waiting = connection_.queryBound(query.c_str(), slice.bound);
   while (waiting.next()) {
     TableRow row;
     row.reserve(table_.columns.size());
     for (const Column& column : table_.columns) {
       row.push_back(waiting.isNull(column.name) ? Value() : toValue(waiting.text(column.name)));
     }
-    const auto keyEnd = row.begin() + static_cast<std::ptrdiff_t>(table_.keyColumns);
-    TableRow update(keyEnd, row.end());
-    update.insert(update.end(), row.begin(), keyEnd);
-    if (!toTable_.update(std::move(update))) toTable_.insert(std::move(row));
+    std::ranges::rotate(row, row.begin() + static_cast<std::ptrdiff_t>(table_.keyColumns));
+    static_cast<void>(toTable_.update(std::move(row)));
   }
-  return takeOut(*slice);
+}
+
+// "or fail": see RowWriter.
+std::string StagedTable::insertText(const Slice& slice) const {
+  std::string text = "insert or fail into ";
+  text.append(table_.name).append(" (").append(columns_).append(") select ").append(columns_);
+  return text.append(waitingIn(slice, "not exists")).append(" order by ").append(keys_);
+}
+
+/// Those of a slice that the table has a row for, or has none for.
+std::string StagedTable::waitingIn(const Slice& slice, const char* existence) const {
+  std::string text = " from ";
+  text.append(staged_).append(" as staged").append(slice.where).append(" and ");
+  text.append(existence).append(" (select 1 from ").append(table_.name).append(" as own where ");
+  for (std::size_t key = 0; key < table_.keyColumns; ++key) {
+    const char* name = table_.columns[key].name;
+    text.append(key == 0 ? "own." : " and own.").append(name).append(" = staged.").append(name);
+  }
+  return text.append(")");
 }
 
 std::int64_t StagedTable::remove(int rows) {

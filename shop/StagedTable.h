@@ -33,6 +33,9 @@ class StagedTable {
   };
   std::optional<Slice> lowest(int rows) const;
   std::optional<std::string> keyBehind(std::int64_t run, std::int64_t rows) const;
+  void updateKnown(const Slice& slice);
+  std::string insertText(const Slice& slice) const;
+  std::string waitingIn(const Slice& slice, const char* existence) const;
   std::int64_t takeOut(const Slice& slice);
 
   Connection& connection_;
