@@ -67,10 +67,16 @@ struct GoodsComparison::Outcome {
 };
 
 GoodsComparison::GoodsComparison(Connection& connection)
-    : connection_(connection),
-      master_(tableNamed("spda", {})),
-      barcodes_(tableNamed("tmda", {})),
-      stock_(tableNamed("stock", {})) {}
+    : connection_(connection), master_("spda"), barcodes_("tmda"), stock_("stock") {}
+
+GoodsComparison::KnownTable::KnownTable(const char* table) : Table(tableNamed(table, {})) {
+  query.append("select * from ").append(name).append(" where ");
+  for (std::size_t index = 0; index < columns.size(); ++index) {
+    const bool isKey = index < keyColumns;
+    if (isKey) query.append(index == 0 ? "" : " and ").append(columns[index].name).append(" = ?");
+    fields.push_back(fieldOf(columns[index]));
+  }
+}
 
 std::optional<GoodsToWrite> GoodsComparison::compare(const GoodsRow& row, std::int64_t line,
                                                      GoodsPreview& preview) {
@@ -163,14 +169,9 @@ bool GoodsComparison::isFirst(const std::string& key) {
   return seen_.insert(std::hash<std::string>()(key)).second;
 }
 
-std::optional<GoodsComparison::TableRow> GoodsComparison::stored(const Table& table,
+std::optional<GoodsComparison::TableRow> GoodsComparison::stored(const KnownTable& table,
                                                                  const TableRow& key) const {
-  std::string query = "select * from ";
-  query.append(table.name);
-  for (std::size_t index = 0; index < table.keyColumns; ++index) {
-    query.append(index == 0 ? " where " : " and ").append(table.columns[index].name).append(" = ?");
-  }
-  Rows found = connection_.queryBound(query.c_str(), key);
+  Rows found = connection_.queryBound(table.query.c_str(), key);
   if (!found.next()) return std::nullopt;
   TableRow row;
   for (const Column& column : table.columns) {
@@ -180,14 +181,14 @@ std::optional<GoodsComparison::TableRow> GoodsComparison::stored(const Table& ta
 }
 
 // What the sheet gives, or else what the shop has, or else what the article is known to have.
-void GoodsComparison::merge(const Table& table, const Fields& given,
+void GoodsComparison::merge(const KnownTable& table, const Fields& given,
                             const std::optional<TableRow>& before, std::vector<TableRow>& writes,
                             Outcome& outcome) {
   TableRow after;
   bool isChanged = !before;
   for (std::size_t index = 0; index < table.columns.size(); ++index) {
     const Column& column = table.columns[index];
-    const std::optional<GoodsField> field = fieldOf(column);
+    const std::optional<GoodsField> field = table.fields[index];
     std::optional<Value> value = field ? given[indexOf(*field)] : std::nullopt;
     if (!value && before) value = (*before)[index];
     if (!value && field) value = article_[indexOf(*field)];
@@ -224,7 +225,7 @@ void GoodsComparison::compareMaster(const GoodsRow& row, bool isWritten, Outcome
   if (!outcome.writes.master.empty()) has = &outcome.writes.master.front();
   if (has == nullptr) return;
   for (std::size_t index = 0; index < master_.columns.size(); ++index) {
-    article_[indexOf(*fieldOf(master_.columns[index]))] = (*has)[index];
+    article_[indexOf(*master_.fields[index])] = (*has)[index];
   }
 }
 

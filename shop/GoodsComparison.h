@@ -40,24 +40,29 @@ class GoodsComparison {
   using TableRow = GoodsToWrite::TableRow;
   using Fields = GoodsRow::Fields;
   struct Outcome;
+  struct KnownTable : Table {
+    explicit KnownTable(const char* table);
+    std::string query;                              ///< for the row of a key
+    std::vector<std::optional<GoodsField>> fields;  ///< what its columns hold
+  };
 
   std::string resolve(const GoodsRow& row);
   std::string resolveItem();
   std::string barcodeKey(const std::string& barcode) const;
   bool isFirst(const std::string& key);
-  std::optional<TableRow> stored(const Table& table, const TableRow& key) const;
+  std::optional<TableRow> stored(const KnownTable& table, const TableRow& key) const;
   std::string known(GoodsField field) const;
   void compareTables(const GoodsRow& row, Outcome& outcome);
   void compareMaster(const GoodsRow& row, bool isWritten, Outcome& outcome);
   void compareBarcode(const GoodsRow& row, const std::optional<TableRow>& before, Outcome& outcome);
   void compareCase(const GoodsRow& row, Outcome& outcome);
   void compareStock(const GoodsRow& row, Outcome& outcome);
-  void merge(const Table& table, const Fields& given, const std::optional<TableRow>& before,
+  void merge(const KnownTable& table, const Fields& given, const std::optional<TableRow>& before,
              std::vector<TableRow>& writes, Outcome& outcome);
   void count(const Outcome& outcome, std::int64_t line, GoodsPreview& preview) const;
 
   Connection& connection_;
-  Table master_, barcodes_, stock_;
+  KnownTable master_, barcodes_, stock_;
   std::unordered_set<std::size_t> seen_;  ///< hashes of the sheet's items and their barcodes
   std::string itemCode_, barcode_;        ///< of the row
   Fields article_;                        ///< what the row's article has, as far as it is known

@@ -1,14 +1,17 @@
 #include "shop/GoodsImport.h"
 
+#include <utility>
+
 #include "shop/GoodsComparison.h"
 #include "shop/GoodsRow.h"
 #include "shop/GoodsStage.h"
 #include "shop/Refusal.h"
 #include "store/Connection.h"
+#include "store/Snapshot.h"
 
 namespace {
 
-constexpr std::int64_t kRowsPerProgress = 500;
+constexpr int kRowsAtOnce = 500;
 constexpr double kReadingShare = 0.5;  // of an import's time
 
 OpenedSheet withHeadings(std::unique_ptr<SheetReader> reader) {
@@ -17,24 +20,61 @@ OpenedSheet withHeadings(std::unique_ptr<SheetReader> reader) {
   return sheet;
 }
 
-/// Reads the sheet to its end; each row that writes something goes to `taker`. False when it was
-/// ended.
-bool readAll(Connection& connection, SheetReader& sheet, const GoodsMapping& mapping,
-             const GoOn& goOn, GoodsPreview& preview,
-             const std::function<void(GoodsToWrite)>& taker) {
-  if (const std::string fault = mapping.fault(); !fault.empty()) throw Refusal(fault);
-  GoodsComparison comparison(connection);
-  GoodsRow row;
-  std::vector<std::string> fields;
-  for (std::int64_t rows = 0; sheet.next(fields); ++rows) {
-    if (rows % kRowsPerProgress == 0 && !goOn(sheet.progress())) return false;
-    if (const std::string refusal = row.read(fields, mapping); !refusal.empty()) {
-      preview.refuse(sheet.line(), refusal);
-    } else if (auto goods = comparison.compare(row, sheet.line(), preview)) {
-      taker(*std::move(goods));
+/// Reads and compares a sheet.
+class Reading {
+ public:
+  Reading(Connection& connection, SheetReader& sheet, const GoodsMapping& mapping)
+      : connection_(connection), sheet_(sheet), mapping_(mapping), comparison_(connection) {
+    if (const std::string fault = mapping.fault(); !fault.empty()) throw Refusal(fault);
+  }
+
+  /// Compares the next rows; false at the end. One look at the data file for all of them: each
+  /// look takes the engine two locks.
+  bool next() {
+    const Snapshot look(connection_);
+    goods_.clear();
+    for (int row = 0; row < kRowsAtOnce; ++row) {
+      if (!sheet_.next(fields_)) return false;
+      compareRow();
+    }
+    return true;
+  }
+  /// What the rows of the last call write.
+  std::vector<GoodsToWrite>& goods() { return goods_; }
+  const GoodsPreview& preview() const { return preview_; }
+
+ private:
+  void compareRow() {
+    if (const std::string refusal = row_.read(fields_, mapping_); !refusal.empty()) {
+      preview_.refuse(sheet_.line(), refusal);
+    } else if (auto goods = comparison_.compare(row_, sheet_.line(), preview_)) {
+      goods_.push_back(*std::move(goods));
     }
   }
-  return true;
+
+  Connection& connection_;
+  SheetReader& sheet_;
+  const GoodsMapping& mapping_;
+  GoodsComparison comparison_;
+  GoodsPreview preview_;
+  GoodsRow row_;
+  std::vector<std::string> fields_;
+  std::vector<GoodsToWrite> goods_;
+};
+
+/// Reads the sheet to its end; what it writes goes to `taker`. Nothing when it was ended.
+std::optional<GoodsPreview> readAll(Connection& connection, SheetReader& sheet,
+                                    const GoodsMapping& mapping, const GoOn& goOn,
+                                    const std::function<void(GoodsToWrite)>& taker) {
+  Reading reading(connection, sheet, mapping);
+  bool isMore = true;
+  while (isMore) {
+    if (!goOn(sheet.progress())) return std::nullopt;
+    isMore = reading.next();
+    if (!reading.preview().mayBeWritten()) continue;  // the rest is read for its faults only
+    for (GoodsToWrite& goods : reading.goods()) taker(std::move(goods));
+  }
+  return reading.preview();
 }
 
 }  // namespace
@@ -49,9 +89,7 @@ OpenedSheet readGoodsSheet(std::istream& text) {
 
 std::optional<GoodsPreview> previewGoods(Connection& connection, SheetReader& sheet,
                                          const GoodsMapping& mapping, const GoOn& goOn) {
-  GoodsPreview preview;
-  const bool isWhole = readAll(connection, sheet, mapping, goOn, preview, [](const auto&) {});
-  return isWhole ? std::optional(std::move(preview)) : std::nullopt;
+  return readAll(connection, sheet, mapping, goOn, [](const auto&) {});
 }
 
 std::optional<GoodsPreview> importGoods(Connection& connection, SheetReader& sheet,
@@ -59,15 +97,13 @@ std::optional<GoodsPreview> importGoods(Connection& connection, SheetReader& she
                                         const GoOn& goOn) {
   const auto always = [](double) { return true; };
   finishGoods(connection, company, always);  // of an import that was ended
-  GoodsPreview preview;
+  std::optional<GoodsPreview> preview;
   {
     GoodsStage stage(connection, company);
-    const auto reading = [&](double part) { return goOn(part * kReadingShare); };
-    const auto take = [&](GoodsToWrite goods) {
-      if (preview.mayBeWritten()) stage.add(std::move(goods));
-    };
-    if (!readAll(connection, sheet, mapping, reading, preview, take)) return std::nullopt;
-    if (!preview.mayBeWritten() || preview.changesNothing()) return preview;
+    preview = readAll(
+        connection, sheet, mapping, [&](double part) { return goOn(part * kReadingShare); },
+        [&](GoodsToWrite goods) { stage.add(std::move(goods)); });
+    if (!preview || !preview->mayBeWritten() || preview->changesNothing()) return preview;
     stage.seal();
   }
   finishGoods(connection, company, [&](double part) {

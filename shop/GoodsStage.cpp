@@ -132,7 +132,7 @@ void finishGoods(Connection& connection, WriteSlices::Company company,
     for (StagedTable& table : tables) {
       const std::int64_t moved = table.move(rows);
       if (moved == 0) continue;
-      updateFragmentIndex(connection);
+      updateFragmentIndexInSteps(connection);
       connection.run("update goods_in set written = written + ?", moved);
       return true;
     }

@@ -5,10 +5,8 @@
 
 class Connection;
 
-/// Long writing beside a till that rings: many short transactions with a pause behind each. The
-/// engine lets a waiting program try again every 25 ms or more often within the first 128 ms, and
-/// later every 50 or 100; so a slice takes some 80 ms and its pause 25, and a waiting till comes in
-/// between.
+/// Long writing beside a till that rings: many transactions of some 80 ms, and behind each a pause
+/// that is long enough for one who waits to come in between.
 class WriteSlices {
  public:
   enum class Company {

@@ -250,9 +250,8 @@ alter table sell add column phone_slip text collate nocase;
 create index sell_phone_slip on sell (phone_slip) where phone_slip is not null;
 )";
 
-// A goods sheet on its way in (shop/GoodsStage.h): first all of its rows, in runs sorted by their
-// keys, then the mark that they are whole; from then on they move into the goods tables. And what
-// the headings of people's sheets mean.
+// A goods sheet on its way in (shop/GoodsStage.h): all of its rows, in runs sorted by key, and the
+// mark that they are whole. And what the headings of people's sheets mean.
 const char* const kGoodsStep = R"(
 create table goods_in (
   id      integer primary key check (id = 1),
@@ -270,8 +269,7 @@ create table spda_in (
 ) without rowid;
 create table tmda_in (
   run      integer not null,
-  sptm     text not null collate nocase,
-  spbm     text not null collate nocase,
+  sptm     text not null collate nocase, spbm text not null collate nocase,
   ggxh     text, spmc text, spcd text, jldw text,
   xsdj     currency, pfj currency, zk numeric, cxj currency, kssj datetime, jssj datetime,
   dwbl     integer, zhjj currency, splbmc text,
@@ -288,6 +286,9 @@ create table goods_mapping (
   field   text not null                 -- a heading of the shop's own sheets, or empty: not read
 );
 create unique index goods_mapping_key on goods_mapping (name, heading);
+-- What the engine keeps of a merging that goes on in steps.
+insert into tmda_fragments (tmda_fragments) values ('automerge=0');
+insert into spda_fragments (spda_fragments) values ('automerge=0');
 )";
 
 }  // namespace

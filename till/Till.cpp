@@ -4,6 +4,7 @@
 #include <QScreen>
 #include <utility>
 
+#include "goodsin/frmGoodsIn.h"
 #include "members/cardStored.h"
 #include "members/frmFMember.h"
 #include "platform/QtText.h"
@@ -44,6 +45,12 @@ bool Till::Main() {
 }
 
 std::map<QString, frmMain::Screen> Till::screens() {
+  std::map<QString, frmMain::Screen> all = fixedScreens();
+  if (pos_.gSysParam.GoodsImport()) all["goodsin"] = {true, [this] { show<frmGoodsIn>(); }};
+  return all;
+}
+
+std::map<QString, frmMain::Screen> Till::fixedScreens() {
   return {{"sell", {true, [this] { frmSell_->openModal(); }}},
           {"count", {true, [this] { frmCount(pos_, QApplication::activeWindow()).init(); }}},
           {"search", {true, [this] { show<frmSearch>(); }}},

@@ -28,6 +28,8 @@ class Till {
  private:
   /// The screens of the main window's menus, and those that the sale screen opens.
   std::map<QString, frmMain::Screen> screens();
+  /// Those that need no shop parameter.
+  std::map<QString, frmMain::Screen> fixedScreens();
   SaleSession::Openers saleScreens();
   /// Shows a dialog made for the occasion, over whichever window is in front.
   template <class Form>
