@@ -56,10 +56,10 @@ void PreviewTable::show(const GoodsPreview& preview) {
         tr("零售价 %1").arg(qtText(each.newPrice)), false);
   }
   addMore(preview.addedCount, preview.added.size(), tr("新增"));
-  constexpr int kWidestColumn = 320;  // pixels
+  constexpr int kColumnAir = 12, kWidestColumn = 320;  // pixels
   resizeColumnsToContents();
   for (int column = 0; column < kColumns; ++column)
-    setColumnWidth(column, std::min(columnWidth(column), kWidestColumn));
+    setColumnWidth(column, std::min(columnWidth(column) + kColumnAir, kWidestColumn));
   if (rowCount() > 0) setCurrentCell(0, 0);
 }
 
@@ -83,9 +83,10 @@ void PreviewTable::addMore(std::int64_t count, std::size_t listed, const QString
 }
 
 QString summaryOf(const GoodsPreview& preview) {
-  return PreviewTable::tr("新增 %1 行，改动 %2 行，不变 %3 行，不能导入 %4 行")
-      .arg(preview.addedCount)
-      .arg(preview.changedCount)
-      .arg(preview.unchangedCount)
-      .arg(preview.refusedCount);
+  const QString counts = PreviewTable::tr("新增 %1 行，改动 %2 行，不变 %3 行")
+                             .arg(preview.addedCount)
+                             .arg(preview.changedCount)
+                             .arg(preview.unchangedCount);
+  if (preview.mayBeWritten()) return counts;
+  return PreviewTable::tr("%1，不能导入 %2 行").arg(counts).arg(preview.refusedCount);
 }

@@ -2,6 +2,7 @@
 
 #include <QCompleter>
 #include <QDir>
+#include <QFileInfo>
 #include <QFileSystemModel>
 #include <QGridLayout>
 #include <QHeaderView>
@@ -48,6 +49,8 @@ frmGoodsIn::frmGoodsIn(posMod& pos, QWidget* parent)
   onEnter(tblMapping_, [this] { chooseField(tblMapping_->currentRow()); });
   connect(tblMapping_, &QTableWidget::cellDoubleClicked, this, &frmGoodsIn::chooseField);
   onEnter(txtName_, [this] { preview(); });
+  // Enter in the list of files comes this way, before the file chosen there is in the field.
+  connect(txtFile_, &QLineEdit::returnPressed, this, &frmGoodsIn::openFile, Qt::QueuedConnection);
   connect(cmdOk_, &QPushButton::clicked, this, &frmGoodsIn::preview);
   connect(cmdCancel_, &QPushButton::clicked, this, &QDialog::reject);
   connect(txtFile_, &QLineEdit::textEdited, this, [this] {
@@ -68,6 +71,7 @@ void frmGoodsIn::arrange() {
   tblMapping_->verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 6);
   tblMapping_->horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
   tblMapping_->horizontalHeader()->setHighlightSections(false);
+  tblMapping_->horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
   lblHint_->setWordWrap(true);
   auto* grid = new QGridLayout(this);
   grid->setContentsMargins(32, 24, 32, 24);
@@ -97,6 +101,10 @@ void frmGoodsIn::completePaths() {
 }
 
 void frmGoodsIn::openFile() {
+  if (QFileInfo(txtFile_->text()).isDir()) {
+    if (!txtFile_->text().endsWith('/')) txtFile_->insert("/");
+    return;
+  }
   try {
     const OpenedSheet sheet = openGoodsSheet(pathOf(*txtFile_));
     mapping_ = mappingFor(*pos_.gConn, sheet.headings);

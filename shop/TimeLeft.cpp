@@ -1,5 +1,6 @@
 #include "shop/TimeLeft.h"
 
+#include <algorithm>
 #include <cmath>
 
 std::string TimeLeft::text(double part, Moment now) const {
@@ -8,7 +9,8 @@ std::string TimeLeft::text(double part, Moment now) const {
   constexpr long kMinute = 60;
   std::string text = std::to_string(static_cast<int>(part * 100)) + "%";
   if (part < kFirstPart) return text;
-  const long left = std::lround(Seconds(now - begin_).count() * (1 - part) / part);
+  const double exactly = Seconds(now - begin_).count() * (1 - part) / part;
+  const long left = std::max(1L, std::lround(exactly));
   if (left < kMinute) return text.append("，还要约 ").append(std::to_string(left)).append(" 秒");
   return text.append("，还要约 ")
       .append(std::to_string((left + kMinute - 1) / kMinute))

@@ -11,7 +11,7 @@ namespace {
 using namespace std::chrono_literals;
 using std::chrono::steady_clock;
 
-constexpr int kFewestRows = 50, kMostRows = 5'000;
+constexpr int kFewestRows = 50, kMostRows = 2'000;
 constexpr auto kShortSlice = 50ms, kLongSlice = 100ms;
 constexpr auto kPause = 15ms;    // some tries of one who waits (store/LockWait.h)
 constexpr int kLongLog = 1'000;  // pages; a pause is as good for copying them
