@@ -136,6 +136,12 @@ std::string GoodsComparison::known(GoodsField field) const {
   return value ? textOf(*value) : std::string();
 }
 
+// What the master leaves empty is not known: another table may want something there.
+std::optional<Value> GoodsComparison::knownValue(GoodsField field) const {
+  const std::optional<Value>& value = article_[indexOf(field)];
+  return value && !std::holds_alternative<std::monostate>(*value) ? value : std::nullopt;
+}
+
 std::string GoodsComparison::resolve(const GoodsRow& row) {
   barcode_ = row.text(GoodsField::kBarcode);
   itemCode_ = row.text(GoodsField::kItemCode);
@@ -191,7 +197,7 @@ void GoodsComparison::merge(const KnownTable& table, const Fields& given,
     const std::optional<GoodsField> field = table.fields[index];
     std::optional<Value> value = field ? given[indexOf(*field)] : std::nullopt;
     if (!value && before) value = (*before)[index];
-    if (!value && field) value = article_[indexOf(*field)];
+    if (!value && field) value = knownValue(*field);
     if (!value) value = column.fallback;
     if (!value) {
       outcome.refusal = "是新的，但表里没有“" + std::string(headingOf(*field)) + "”这一列";
@@ -223,6 +229,7 @@ void GoodsComparison::compareMaster(const GoodsRow& row, bool isWritten, Outcome
   }
   const TableRow* has = before ? &*before : nullptr;
   if (!outcome.writes.master.empty()) has = &outcome.writes.master.front();
+  if (has == nullptr) article_ = given;  // the article is new, by an earlier row
   if (has == nullptr) return;
   for (std::size_t index = 0; index < master_.columns.size(); ++index) {
     article_[indexOf(*master_.fields[index])] = (*has)[index];

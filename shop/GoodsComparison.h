@@ -52,6 +52,7 @@ class GoodsComparison {
   bool isFirst(const std::string& key);
   std::optional<TableRow> stored(const KnownTable& table, const TableRow& key) const;
   std::string known(GoodsField field) const;
+  std::optional<Value> knownValue(GoodsField field) const;
   void compareTables(const GoodsRow& row, Outcome& outcome);
   void compareMaster(const GoodsRow& row, bool isWritten, Outcome& outcome);
   void compareBarcode(const GoodsRow& row, const std::optional<TableRow>& before, Outcome& outcome);

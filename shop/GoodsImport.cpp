@@ -12,7 +12,7 @@
 namespace {
 
 constexpr int kRowsAtOnce = 500;
-constexpr double kReadingShare = 0.5;  // of an import's time
+constexpr double kReadingShare = 0.4;  // of an import's time
 
 OpenedSheet withHeadings(std::unique_ptr<SheetReader> reader) {
   OpenedSheet sheet{std::move(reader), {}};

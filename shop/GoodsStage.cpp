@@ -1,6 +1,7 @@
 #include "shop/GoodsStage.h"
 
 #include <algorithm>
+#include <optional>
 #include <random>
 #include <utility>
 
@@ -25,6 +26,18 @@ std::array<StagedTable, 3> stagedTables(Connection& connection) {
 std::int64_t newToken() {
   std::random_device device;
   return static_cast<std::int64_t>(device()) << 31 | device() >> 1;
+}
+
+bool isWhole(Connection& connection) {
+  return connection.query("select 1 from goods_in where whole = 1").next();
+}
+
+/// Nothing when no sheet counts.
+std::optional<double> partWritten(Connection& connection) {
+  Rows sheet = connection.query("select staged, written from goods_in where whole = 1");
+  if (!sheet.next()) return std::nullopt;
+  const double staged = sheet.number("staged").value();
+  return staged > 0 ? sheet.number("written").value() / staged : 1;
 }
 
 void removeAll(WriteSlices& slices, std::array<StagedTable, 3>& tables) {
@@ -123,12 +136,8 @@ std::int64_t goodsWaiting(Connection& connection) {
 void finishGoods(Connection& connection, WriteSlices::Company company,
                  const std::function<bool(double part)>& goOn) {
   std::array<StagedTable, 3> tables = stagedTables(connection);
-  WriteSlices(connection, company).run([&](int rows) {
-    Rows sheet = connection.query("select staged, written from goods_in where whole = 1");
-    if (!sheet.next()) return false;
-    const double staged = sheet.number("staged").value();
-    const double written = sheet.number("written").value();
-    if (!goOn(staged > 0 ? written / staged : 1)) return false;
+  const auto moveSome = [&](int rows) {
+    if (!isWhole(connection)) return false;
     for (StagedTable& table : tables) {
       const std::int64_t moved = table.move(rows);
       if (moved == 0) continue;
@@ -138,5 +147,9 @@ void finishGoods(Connection& connection, WriteSlices::Company company,
     }
     connection.run("delete from goods_in");
     return false;
+  };
+  WriteSlices(connection, company).run(moveSome, [&] {
+    const std::optional<double> part = partWritten(connection);
+    return part && goOn(*part);
   });
 }

@@ -18,9 +18,10 @@ constexpr int kLongLog = 1'000;  // pages; a pause is as good for copying them
 
 }  // namespace
 
-void WriteSlices::run(const std::function<bool(int rows)>& slice) {
+void WriteSlices::run(const std::function<bool(int rows)>& slice,
+                      const std::function<bool()>& goOn) {
   bool isMore = true;
-  while (isMore) {
+  while (isMore && goOn()) {
     const auto begin = steady_clock::now();
     Transaction transaction(connection_);
     const auto held = steady_clock::now();

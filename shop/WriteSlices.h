@@ -20,7 +20,11 @@ class WriteSlices {
   /// Calls `slice` in one transaction after the other until it says false; the number tells how
   /// many rows it should write, so that it takes the time above. Throws what it throws: then that
   /// slice is taken back.
-  void run(const std::function<bool(int rows)>& slice);
+  /// `goOn` is asked before each of them, outside of any transaction of this class, and ends it by
+  /// saying no.
+  void run(
+      const std::function<bool(int rows)>& slice,
+      const std::function<bool()>& goOn = [] { return true; });
 
  private:
   void adapt(std::chrono::steady_clock::duration taken);

@@ -65,6 +65,27 @@ struct Origin : sheet::iface::import_global_settings {
   void set_character_set(orcus::character_set_t) override {}
 };
 
+/// Cells by the names that workbooks give them: "B3", "$B$3", "A1:C9".
+struct CellNames : sheet::iface::import_reference_resolver {
+  sheet::src_address_t resolve_address(std::string_view name) override {
+    sheet::src_address_t address = {0, 0, 0};
+    constexpr std::size_t kLongest = 12;  // a longer one names no cell
+    for (const char sign : name.substr(0, kLongest)) {
+      if (sign >= 'A' && sign <= 'Z')
+        address.column = address.column % 1'000'000 * 26 + (sign - 'A' + 1);
+      if (sign >= '0' && sign <= '9') address.row = address.row % 10'000'000 * 10 + (sign - '0');
+    }
+    --address.column;
+    --address.row;
+    return address;
+  }
+  sheet::src_range_t resolve_range(std::string_view name) override {
+    const std::size_t colon = name.find(':');
+    const sheet::src_address_t first = resolve_address(name.substr(0, colon));
+    return {first, colon == name.npos ? first : resolve_address(name.substr(colon + 1))};
+  }
+};
+
 std::string dateText(double serial, Date origin) {
   constexpr double kSecondsOfDay = 86'400;
   constexpr double kMostDays = 2'958'465;  // the end of the year 9999
@@ -92,8 +113,9 @@ std::string numberText(double number, NumberForm form) {
 /// its fields.
 class Cells : public sheet::iface::import_sheet, public sheet::iface::import_formula {
  public:
-  Cells(const Texts& texts, const XlsxFormats& formats, const Origin& origin)
-      : texts_(texts), formats_(formats), origin_(origin) {}
+  enum class Kind { kRead, kPassedOver };
+  Cells(const Texts& texts, const XlsxFormats& formats, const Origin& origin, Kind kind)
+      : texts_(texts), formats_(formats), origin_(origin), kind_(kind) {}
 
   /// All rows, as comma-separated values.
   std::string written() {
@@ -143,7 +165,7 @@ class Cells : public sheet::iface::import_sheet, public sheet::iface::import_for
   static constexpr int kMostColumns = 256;
 
   Cell& cell(sheet::row_t row, sheet::col_t column) {
-    if (column < 0 || column >= kMostColumns) return beyond_;
+    if (kind_ == Kind::kPassedOver || column < 0 || column >= kMostColumns) return beyond_;
     if (row != row_) endRow();
     row_ = row;
     const auto place = static_cast<std::size_t>(column);
@@ -168,6 +190,7 @@ class Cells : public sheet::iface::import_sheet, public sheet::iface::import_for
   const Texts& texts_;
   const XlsxFormats& formats_;
   const Origin& origin_;
+  Kind kind_;
   CsvRow rows_;
   std::vector<Cell> cells_;  ///< of the present row
   Cell beyond_;              ///< what is written outside of any sheet of goods
@@ -183,12 +206,19 @@ class Workbook : public sheet::iface::import_factory {
   sheet::iface::import_global_settings* get_global_settings() override { return &origin_; }
   sheet::iface::import_shared_strings* get_shared_strings() override { return &texts_; }
   sheet::iface::import_styles* get_styles() override { return &formats_; }
-  sheet::iface::import_sheet* append_sheet(sheet::sheet_t index, std::string_view) override {
+  sheet::iface::import_reference_resolver* get_reference_resolver(
+      sheet::formula_ref_context_t) override {
+    return &names_;
+  }
+  sheet::iface::import_sheet* append_sheet(sheet::sheet_t index, std::string_view name) override {
+    if (index == 0) first_ = name;
     return get_sheet(index);
   }
-  sheet::iface::import_sheet* get_sheet(std::string_view) override { return nullptr; }
+  sheet::iface::import_sheet* get_sheet(std::string_view name) override {
+    return get_sheet(name == first_ ? 0 : 1);
+  }
   sheet::iface::import_sheet* get_sheet(sheet::sheet_t index) override {
-    return index == 0 ? &cells_ : nullptr;
+    return index == 0 ? &cells_ : &others_;
   }
   void finalize() override {}
 
@@ -196,7 +226,10 @@ class Workbook : public sheet::iface::import_factory {
   Texts texts_;
   XlsxFormats formats_;
   Origin origin_;
-  Cells cells_{texts_, formats_, origin_};
+  CellNames names_;
+  std::string first_;  ///< name
+  Cells cells_{texts_, formats_, origin_, Cells::Kind::kRead};
+  Cells others_{texts_, formats_, origin_, Cells::Kind::kPassedOver};
 };
 
 class WorkbookRows : public SheetReader {

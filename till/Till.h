@@ -11,6 +11,7 @@
 #include "shell/frmMain.h"
 
 class ControlKeys;
+class GoodsCompletion;
 class frmSell;
 
 /// The whole program: the process-wide objects, the main window, and the table that says which
@@ -37,6 +38,7 @@ class Till {
 
   posMod pos_;
   std::unique_ptr<QuietCheckpoint> checkpoint_;
+  std::unique_ptr<GoodsCompletion> completion_;  ///< of an import, if one waits
   std::unique_ptr<ControlKeys> controlKeys_;
   std::unique_ptr<frmSell> frmSell_;  ///< one instance for every opening
   std::unique_ptr<frmMain> frmMain_;
