@@ -1,13 +1,15 @@
 #include "shop/XlsxFormats.h"
 
 #include <algorithm>
-#include <utility>
+
+#include "base/NumberText.h"
+#include "shop/XlsxParts.h"
 
 namespace {
 
 /// The formats that need no code (ECMA-376 part 1, 18.8.30): dates and times of every language.
-bool isBuiltInDate(std::size_t identifier) {
-  const auto isIn = [identifier](std::size_t first, std::size_t last) {
+bool isBuiltInDate(int identifier) {
+  const auto isIn = [identifier](int first, int last) {
     return identifier >= first && identifier <= last;
   };
   return isIn(14, 22) || isIn(27, 36) || isIn(45, 47) || isIn(50, 58);
@@ -33,30 +35,31 @@ std::string signsOf(std::string_view code) {
 
 }  // namespace
 
-std::size_t XlsxFormats::commit_number_format() {
-  codes_[identifier_] = std::exchange(code_, {});
-  return identifier_;
-}
-
-std::size_t XlsxFormats::commit_cell_xf() {
-  cellFormats_.push_back(std::exchange(cellNumberFormat_, 0));
-  return cellFormats_.size() - 1;
-}
-
-std::size_t XlsxFormats::commit_cell_style_xf() {
-  cellNumberFormat_ = 0;
-  return 0;
-}
-
-std::size_t XlsxFormats::commit_dxf() {
-  cellNumberFormat_ = 0;
-  return 0;
+void XlsxFormats::read(const XlsxParts& parts, const std::string& part) {
+  bool isOfCells = false;
+  const auto valueOf = [](const XlsxParts::Attributes& attributes, std::string_view name) {
+    const auto found = attributes.find(name);
+    return found == attributes.end() ? std::string() : found->second;
+  };
+  parts.walk(part, {[&](std::string_view element, const XlsxParts::Attributes& attributes) {
+                      if (element == "cellXfs") isOfCells = true;
+                      const std::string identifier = valueOf(attributes, "numFmtId");
+                      if (element == "numFmt")
+                        codes_[identifier] = valueOf(attributes, "formatCode");
+                      if (element == "xf" && isOfCells) cellFormats_.push_back(identifier);
+                    },
+                    [&](std::string_view element, const std::string&) {
+                      if (element == "cellXfs") isOfCells = false;
+                    }});
 }
 
 NumberForm XlsxFormats::form(std::size_t cellFormat) const {
   if (cellFormat >= cellFormats_.size()) return {};
   const auto code = codes_.find(cellFormats_[cellFormat]);
-  if (code == codes_.end()) return {isBuiltInDate(cellFormats_[cellFormat]), 0};
+  if (code == codes_.end()) {
+    const auto identifier = parseWhole32(cellFormats_[cellFormat]);
+    return {identifier && isBuiltInDate(*identifier), 0};
+  }
   const std::string signs = signsOf(code->second);
   if (signs.find_first_of("yYdD") != std::string::npos) return {true, 0};
   const bool isZeros = !signs.empty() && signs.find_first_not_of('0') == std::string::npos;

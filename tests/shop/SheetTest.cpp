@@ -52,6 +52,7 @@ struct SheetTest : testing::Test {
     worksheet_write_number(sheet, 2, 2, 123456789012345678.0, nullptr);
     worksheet_write_number(sheet, 2, 3, 0.1 + 0.2, format("0.00"));
     worksheet_write_datetime(sheet, 2, 4, &day, format("yyyy\"年\"m\"月\"d\"日\""));
+    worksheet_write_string(sheet, 2, 6, "A&B <c>", nullptr);
     worksheet_write_formula_num(sheet, 2, 5, "=B3*2", nullptr, 84);
     workbook_close(book);
   }
@@ -86,7 +87,7 @@ TEST_F(SheetTest, MeansInAWorkbookWhatTheWorkbookMeans) {
     writeWorkbook(inCells);
     EXPECT_EQ(read("sheet.xlsx"), (Rows{{"1", "条码", "", "", "", "", "", "名称"},
                                         {"3", "6991373001449", "0000000000042", "1.23457E+17",
-                                         "0.3", "2026-11-22", "84", ""}}))
+                                         "0.3", "2026-11-22", "84", "A&B <c>"}}))
         << int{inCells};
   }
   EXPECT_FALSE(columnOf(GoodsField::kBarcode).valueOf("1.23457E+17")) << "its digits are lost";
