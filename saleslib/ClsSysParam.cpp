@@ -82,6 +82,7 @@ constexpr std::array kDefinitions = {
     Definition{"GoldRate", &kRate, "1", "金卡打几折（九折写 0.9）"},
     Definition{"BackupOnExit", &kSwitch, "0", "退出程序时备份数据文件：0 否，1 是"},
     Definition{"CheckPayment", &kSwitch, "0", "收款、价格、折扣像打错时先问一声：0 否，1 是"},
+    Definition{"GoodsImport", &kSwitch, "0", "收银台上可以导入商品：0 否，1 是"},
     Definition{"PhonePay", &kSwitch, "0", "收手机扫码付款：0 否，1 是"},
 };
 
@@ -203,6 +204,9 @@ bool ClsSysParam::BackupOnExit() const {
 }
 bool ClsSysParam::CheckPayment() const {
   return isOn("CheckPayment");
+}
+bool ClsSysParam::GoodsImport() const {
+  return isOn("GoodsImport");
 }
 bool ClsSysParam::Takes(const TenderKind& kind) const {
   return kind.parameter == nullptr || isOn(kind.parameter);

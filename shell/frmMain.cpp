@@ -73,6 +73,7 @@ void frmMain::fillMenus() {
   addScreens(*furtherMenu_, {{tr("销 售 查 询"), "search"},
                              {tr("退    货"), "unsell"},
                              {tr("增 加 会 员"), "addmen"},
+                             {tr("导 入 商 品"), "goodsin"},
                              {tr("键 盘 设 置"), "keyset"},
                              {tr("更 换 操 作 员"), kExit}});
 }

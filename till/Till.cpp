@@ -4,6 +4,8 @@
 #include <QScreen>
 #include <utility>
 
+#include "goodsin/GoodsCompletion.h"
+#include "goodsin/frmGoodsIn.h"
 #include "members/cardStored.h"
 #include "members/frmFMember.h"
 #include "platform/QtText.h"
@@ -17,6 +19,8 @@
 #include "shell/ControlKeys.h"
 #include "shell/Modal.h"
 #include "shell/frmEditPwd.h"
+#include "shop/GoodsStage.h"
+#include "store/Connection.h"
 
 Till::Till(std::filesystem::path folder) : pos_(std::move(folder)) {}
 Till::~Till() = default;
@@ -33,6 +37,9 @@ bool Till::Main() {
   if (!missing.empty()) messageBox(nullptr, qtText(missing), {}, BoxIcon::kInformation);
   pos_.start();
   checkpoint_ = std::make_unique<QuietCheckpoint>(qApp, *pos_.gConn);
+  if (goodsWaiting(*pos_.gConn) > 0) {
+    completion_ = std::make_unique<GoodsCompletion>(pos_.gConn->source());
+  }
   controlKeys_ = std::make_unique<ControlKeys>(qApp, pos_.gKeyBoard);
   frmSell_ = std::make_unique<frmSell>(pos_, saleScreens(), [this] { frmMain_->close(); });
   frmMain_ = std::make_unique<frmMain>(pos_, screens());
@@ -44,6 +51,12 @@ bool Till::Main() {
 }
 
 std::map<QString, frmMain::Screen> Till::screens() {
+  std::map<QString, frmMain::Screen> all = fixedScreens();
+  if (pos_.gSysParam.GoodsImport()) all["goodsin"] = {true, [this] { show<frmGoodsIn>(); }};
+  return all;
+}
+
+std::map<QString, frmMain::Screen> Till::fixedScreens() {
   return {{"sell", {true, [this] { frmSell_->openModal(); }}},
           {"count", {true, [this] { frmCount(pos_, QApplication::activeWindow()).init(); }}},
           {"search", {true, [this] { show<frmSearch>(); }}},

@@ -55,7 +55,7 @@ int runTool(int count, const char* const* arguments, Console& console) {
   addCreateCommand(app, console);
   addOperatorCommand(app, console);
   addParamCommand(app, console);
-  addImportCommand(app, console);
+  addImportCommand(app, console, exitCode);
   addExportCommand(app, console);
   addBackupCommand(app, console);
   addRestoreCommand(app, console);
