@@ -14,6 +14,7 @@
 #include "tools/CheckCommand.h"
 #include "tools/CreateCommand.h"
 #include "tools/ExportCommand.h"
+#include "tools/ImportAccessCommand.h"
 #include "tools/ImportCommand.h"
 #include "tools/OperatorCommand.h"
 #include "tools/ParamCommand.h"
@@ -56,6 +57,7 @@ int runTool(int count, const char* const* arguments, Console& console) {
   addOperatorCommand(app, console);
   addParamCommand(app, console);
   addImportCommand(app, console, exitCode);
+  addImportAccessCommand(app, console);
   addExportCommand(app, console);
   addBackupCommand(app, console);
   addRestoreCommand(app, console);
