@@ -121,12 +121,13 @@ void addSection(std::string& page, const ReportSection& section, std::size_t at)
   page.append("<section id=\"s").append(number).append("\"><h2>").append(escaped(section.title));
   page += "</h2>\n";
   if (!section.note.empty()) page.append("<p>").append(escaped(section.note)).append("</p>\n");
+  page += "<div class=\"body\">\n";
   if (isDrawn(section))
     page.append("<div class=\"chart\"><canvas id=\"c")
         .append(number)
         .append("\"></canvas></div>\n");
   addTable(page, section);
-  page += "</section>\n";
+  page += "</div></section>\n";
 }
 
 }  // namespace

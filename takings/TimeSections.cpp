@@ -48,8 +48,7 @@ ReportSection takingsSection(const char* title, const char* first,
 }
 
 std::string hourText(int hour) {
-  const auto two = [](int number) { return (number < 10 ? "0" : "") + std::to_string(number); };
-  return two(hour) + ":00～" + two(hour) + ":59";
+  return (hour < 10 ? "0" : "") + std::to_string(hour) + " 点";
 }
 
 std::string nameOf(std::int64_t number, const Names& names) {

@@ -9,7 +9,7 @@ for (const chart of charts) {
   const lies = chart.form === 'bars', isLine = chart.form === 'line';
   const short = name => name.length > 10 ? name.slice(0, 9) + '…' : name;
   const names = { ticks: { callback(at) { return short(this.getLabelForValue(at)); } } };
-  const values = { beginAtZero: true };
+  const values = { beginAtZero: true, ticks: { maxTicksLimit: lies ? 5 : 8 } };
   if (lies) canvas.parentNode.style.height = 60 + 28 * chart.names.length + 'px';
   new Chart(canvas, {
     type: isLine ? 'line' : 'bar',
