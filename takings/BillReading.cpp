@@ -19,7 +19,7 @@ constexpr int kBillsPerProgress = 1024;
 /// stand first, since they are asked for most often.
 std::string billsAndLines() {
   std::string columns =
-      "select sell.id, ratio, bm, splbmc, sellProducts.amount as line_quantity, money, in_price,"
+      "select sell.id, ratio, sellProducts.amount as line_quantity, bm, splbmc, money, in_price,"
       " discount, price, name, sell_time, operator_id, sell.quantity, sell.amount, goods_amount";
   for (const TenderKind& kind : tenderKinds()) columns.append(", ").append(kind.column);
   return columns.append(" from ")
@@ -119,14 +119,16 @@ class TakingsReader {
     isInPeriod_ = false;
   }
 
+  /// A line that was taken back as a whole sold nothing.
   void addLine(const Row& row, std::int64_t ratio) {
+    const double quantity = row.number("line_quantity").value_or(0);
+    if (quantity == 0) return;
     const std::string code = row.text("bm");
     key_.code = asciiLower(code);
     key_.category = row.text("splbmc");
     GoodsSums& goods = takings_.sold[key_];
     goods.moved = goods.moved || moves_;
     if (!isInPeriod_) return;
-    const double quantity = row.number("line_quantity").value_or(0);
     const Earned earned = earnedBy(row, quantity);
     goods.earned.add(earned);
     goods.quantity = roundedQuantity(goods.quantity + quantity * static_cast<double>(ratio));

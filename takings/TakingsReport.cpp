@@ -42,7 +42,7 @@ std::optional<Report> takingsReport(Connection& shop, const ReportTerms& terms, 
   const std::optional<Takings> takings =
       readTakings(shop, {terms.from, terms.to, slowFrom},
                   [&goOn](double part) { return goOn(part * kPartOfBills); });
-  if (!takings) return std::nullopt;
+  if (!takings || !goOn(kPartOfBills)) return std::nullopt;
   const GoodsByCode goods = byCode(*takings);
   const std::optional<StockLists> lists = readStockLists(
       shop, goods, terms.stockBelow, terms.mostGoods, [&goOn] { return goOn(kPartOfBills); });
