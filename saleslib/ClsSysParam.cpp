@@ -83,6 +83,8 @@ constexpr std::array kDefinitions = {
     Definition{"BackupOnExit", &kSwitch, "0", "退出程序时备份数据文件：0 否，1 是"},
     Definition{"CheckPayment", &kSwitch, "0", "收款、价格、折扣像打错时先问一声：0 否，1 是"},
     Definition{"PhonePay", &kSwitch, "0", "收手机扫码付款：0 否，1 是"},
+    Definition{"OwnerReport", &kSwitch, "0",
+               "收银程序的更多功能里有经营报表（要有 report 权限）：0 否，1 是"},
 };
 
 const Definition* find(std::string_view name) {
@@ -203,6 +205,9 @@ bool ClsSysParam::BackupOnExit() const {
 }
 bool ClsSysParam::CheckPayment() const {
   return isOn("CheckPayment");
+}
+bool ClsSysParam::OwnerReport() const {
+  return isOn("OwnerReport");
 }
 bool ClsSysParam::Takes(const TenderKind& kind) const {
   return kind.parameter == nullptr || isOn(kind.parameter);

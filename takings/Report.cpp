@@ -2,6 +2,21 @@
 
 #include "base/NumberText.h"
 #include "base/Rounding.h"
+#include "base/Utf8.h"
+
+namespace {
+
+std::string soundText(std::string_view text) {
+  std::string sound;
+  while (!text.empty()) {
+    const Utf8Character first = firstUtf8(text);
+    sound.append(first.broken ? "\uFFFD" : text.substr(0, first.length));
+    text.remove_prefix(first.length);
+  }
+  return sound;
+}
+
+}  // namespace
 
 std::string cellText(const ReportCell& cell, ReportColumn::Kind kind) {
   if (const auto* text = std::get_if<std::string>(&cell)) return *text;
@@ -11,6 +26,13 @@ std::string cellText(const ReportCell& cell, ReportColumn::Kind kind) {
     return kind == ReportColumn::Kind::kShare ? oneDecimal(*money) + "%" : twoDecimals(*money);
   }
   return {};
+}
+
+void makeTextsSound(ReportSection& section) {
+  for (auto& row : section.rows) {
+    for (ReportCell& cell : row)
+      if (auto* text = std::get_if<std::string>(&cell)) *text = soundText(*text);
+  }
 }
 
 ReportCell shareOf(Currency part, Currency whole) {

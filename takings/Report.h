@@ -48,5 +48,8 @@ struct Report {
 /// and its sign. Throws Overflow for a quantity that is not finite.
 std::string cellText(const ReportCell& cell, ReportColumn::Kind kind);
 
+/// Broken UTF-8, which files and pages would break on, becomes U+FFFD.
+void makeTextsSound(ReportSection& section);
+
 /// How much of the whole that is, in per cent; nothing when the whole is none.
 ReportCell shareOf(Currency part, Currency whole);

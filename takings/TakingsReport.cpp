@@ -50,6 +50,7 @@ std::optional<Report> takingsReport(Connection& shop, const ReportTerms& terms, 
 
   Report report{"经营报表", heading(shop, terms, now), {}};
   const auto add = [&report](ReportSection section) {
+    makeTextsSound(section);
     report.sections.push_back(std::move(section));
   };
   const auto names = operatorNames(shop);

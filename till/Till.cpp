@@ -8,9 +8,11 @@
 #include "members/frmFMember.h"
 #include "platform/QtText.h"
 #include "reports/frmCount.h"
+#include "reports/frmReport.h"
 #include "reports/frmSearch.h"
 #include "returns/frmUnSell.h"
 #include "sale/frmSell.h"
+#include "saleslib/ClsRights.h"
 #include "settings/frmColor.h"
 #include "settings/frmKeyset.h"
 #include "settings/frmPosSet.h"
@@ -44,14 +46,17 @@ bool Till::Main() {
 }
 
 std::map<QString, frmMain::Screen> Till::screens() {
-  return {{"sell", {true, [this] { frmSell_->openModal(); }}},
-          {"count", {true, [this] { frmCount(pos_, QApplication::activeWindow()).init(); }}},
-          {"search", {true, [this] { show<frmSearch>(); }}},
-          {"unsell", {true, [this] { takeBack(); }}},
-          {"addmen", {true, [this] { show<frmFMember>(); }}},
-          {"editpwd", {false, [this] { show<frmEditPwd>(); }}},
-          {"posset", {true, [this] { show<frmPosSet>(); }}},
-          {"keyset", {true, [this] { show<frmKeyset>(); }}}};
+  std::map<QString, frmMain::Screen> screens = {
+      {"sell", {true, [this] { frmSell_->openModal(); }}},
+      {"count", {true, [this] { frmCount(pos_, QApplication::activeWindow()).init(); }}},
+      {"search", {true, [this] { show<frmSearch>(); }}},
+      {"unsell", {true, [this] { takeBack(); }}},
+      {"addmen", {true, [this] { show<frmFMember>(); }}},
+      {"editpwd", {false, [this] { show<frmEditPwd>(); }}},
+      {"posset", {true, [this] { show<frmPosSet>(); }}},
+      {"keyset", {true, [this] { show<frmKeyset>(); }}}};
+  if (pos_.gSysParam.OwnerReport()) screens["report"] = {true, [this] { reportTakings(); }};
+  return screens;
 }
 
 SaleSession::Openers Till::saleScreens() {
@@ -63,6 +68,12 @@ SaleSession::Openers Till::saleScreens() {
 
 void Till::takeBack() {
   frmUnSell(pos_.gKeyBoard, pos_.returnBooks(), QApplication::activeWindow()).exec();
+}
+
+void Till::reportTakings() {
+  if (pos_.gOperator->Rights().HasRight(kRightReport)) return show<frmReport>();
+  messageBox(QApplication::activeWindow(),
+             QCoreApplication::translate("Till", "您没有看经营报表的权限！"));
 }
 
 template <class Form>

@@ -4,12 +4,14 @@
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QTableView>
+#include <QTimer>
 
 #include "Hands.h"
 #include "TestShop.h"
 #include "base/Gbk.h"
 #include "reports/ResultColumns.h"
 #include "reports/frmCount.h"
+#include "reports/frmReport.h"
 #include "reports/frmSearch.h"
 
 namespace {
@@ -258,6 +260,27 @@ TEST_F(frmSearchTest, AStoppedQueryLeavesTheListAsItWas) {
   }
   press("zjmtm");
   ASSERT_TRUE(showsRows(20002));
+}
+
+TEST(frmReportTest, WritesThePeriodsReportToTheFolderUnlessItIsStopped) {
+  TestShop shop;
+  Hands hands;
+  shop.settle(3, "2026-11-01 09:05:03", 1, "12.5");
+  shop.settle(4, "2026-10-31 10:00:00", 2, "99");
+  const std::string name = "Exports/经营报表 2026-11-01 2026-11-22.html";
+  hands.at("frmReport", [&](QWidget& form) {
+    QTimer::singleShot(0, [] { Hands::pressNow(Key_Escape); });
+    Hands::pressNow(Key_Return);
+    EXPECT_EQ(caption(form, "lblState"), "已停止，没有写文件");
+    EXPECT_EQ(shop.bytes(name), "");
+    Hands::pressNow(Key_Return);
+    EXPECT_EQ(caption(form, "lblState").remove(QChar(0x200B)).toStdString(),
+              "已写到 " + (shop.pos().folder / name).string());
+    Hands::pressNow(Key_Escape);
+  });
+  frmReport(shop.pos()).exec();
+  EXPECT_THAT(shop.bytes(name), testing::AllOf(HasSubstr("<td>2026-11-01</td>"),
+                                               testing::Not(HasSubstr("99.00</td>"))));
 }
 
 }  // namespace

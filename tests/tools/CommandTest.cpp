@@ -119,7 +119,7 @@ TEST_F(CommandTest, OperatorsComeAndGo) {
   EXPECT_EQ(addOperator("7", {"--password", "222"}), 1);
   EXPECT_THAT(owner.err, HasSubstr("已经有操作员 7"));
   EXPECT_EQ(addOperator("8", {"--password", "1", "--right", "fly"}), 2);
-  EXPECT_THAT(owner.err, HasSubstr("参数的值不对：--right: 只能是 sell，写的是“fly”"));
+  EXPECT_THAT(owner.err, HasSubstr("参数的值不对：--right: 只能是 sell、report，写的是“fly”"));
   EXPECT_EQ(addOperator("32768", {"--password", "1"}), 2);
   owner.typed = "秘密\r\n";
   ASSERT_EQ(addOperator("8"), 0) << owner.err;
@@ -152,6 +152,24 @@ TEST_F(CommandTest, ParametersAreSetAllOrNone) {
   ASSERT_EQ(owner.run({"param", "list", owner.shop}), 0);
   EXPECT_THAT(owner.out, HasSubstr("ShopName=惠邻=便利店\n"));
   EXPECT_THAT(owner.out, HasSubstr("PointUnit=5\n"));
+}
+
+TEST_F(CommandTest, AReportGoesToThePeriodsFileOrTheStandardOutput) {
+  const auto report = [&](std::vector<std::string> more) {
+    more.insert(more.begin(), {"report", owner.shop});
+    return owner.run(more);
+  };
+  EXPECT_EQ(report({}), 0) << owner.err;
+  EXPECT_THAT(owner.out, HasSubstr("2026-11-01 至 2026-11-22"));
+  const std::string file = owner.folder.file("r.html");
+  EXPECT_EQ(report({"--from", "1031", "--to=2026-11-01", "--format=html", "--out", file}), 0);
+  EXPECT_EQ(owner.out, "已写到 " + file + "\n");
+  EXPECT_TRUE(std::filesystem::exists(file));
+  EXPECT_EQ(report({"--from", "11-31"}), 1);
+  EXPECT_EQ(report({"--from", "2026-11-02", "--to", "2026-11-01"}), 1);
+  EXPECT_EQ(report({"--format=xlsx", "--out", "-"}), 1);
+  EXPECT_EQ(report({"--out", owner.shop}), 1);
+  EXPECT_EQ(owner.run({"check", owner.shop}), 0) << owner.out;
 }
 
 }  // namespace
