@@ -15,6 +15,10 @@
 #include "reports/frmCount.h"
 #include "reports/frmSearch.h"
 #include "shell/DateField.h"
+#include "store/Connection.h"
+#include "store/DataFile.h"
+#include "takings/ReportFile.h"
+#include "takings/TakingsReport.h"
 
 namespace {
 
@@ -174,6 +178,24 @@ void statistics(Run& run, benchmark::State& state, Measured& row) {
   row.claims = {{"ratio", row.ratio(), 1.5}};
 }
 
+/// Every line that the shop has, as the owner's page; against reading them all.
+void ownersReport(Run& run, benchmark::State& state, Measured& row) {
+  const auto& folder = run.shops.copy(run.largest());
+  const auto shop = openDataFile({folder / "data/POS.mdb", kBuiltInPassword});
+  BareEngine engine(folder / "bare.mdb");
+  BareEngine::Statement select(engine, "select * from sellProducts");
+  const ReportTerms terms{shop_file::kFirstDay, shop_file::kBusyDay};
+  for (auto _ : state) {
+    state.SetIterationTime(row.till.time([&] {
+      const auto report =
+          takingsReport(*shop, terms, {shop_file::kBusyDay}, [](double) { return true; });
+      if (htmlReport(report.value()).empty()) throw std::runtime_error("no report");
+    }));
+    row.bare.time([&] { select.readAll(); });
+  }
+  row.claims = {{"ratio", row.ratio(), 4}};
+}
+
 }  // namespace
 
 void addReportRows(Run& run) {
@@ -183,5 +205,6 @@ void addReportRows(Run& run) {
   };
   add("sales query of a day, first page", run.samples(200, 30), &day);
   add("sales query of a year, whole list", run.samples(3, 2), &year);
+  add("owner's report", run.samples(3, 2), &ownersReport);
   add("statistics of 2,000 bills", run.samples(100, 20), &statistics);
 }

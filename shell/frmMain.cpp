@@ -71,6 +71,7 @@ void frmMain::fillMenus() {
   furtherMenu_->setWindowTitle(tr("更多功能"));
   furtherMenu_->setAlignment(frmMenu::kCentre);
   addScreens(*furtherMenu_, {{tr("销 售 查 询"), "search"},
+                             {tr("经 营 报 表"), "report"},
                              {tr("退    货"), "unsell"},
                              {tr("增 加 会 员"), "addmen"},
                              {tr("导 入 商 品"), "goodsin"},

@@ -30,7 +30,7 @@ class frmMain : public QWidget {
     Opener open;
   };
   /// By menu key: "sell", "count", "search", "posset", "keyset", "addmen", "editpwd", "unsell",
-  /// "goodsin". A menu entry whose screen is not in the table is not shown.
+  /// "goodsin", "report". A menu entry whose screen is not in the table is not shown.
   frmMain(posMod& pos, std::map<QString, Screen> screens, QWidget* parent = nullptr);
   ~frmMain() override;
 

@@ -10,9 +10,11 @@
 #include "members/frmFMember.h"
 #include "platform/QtText.h"
 #include "reports/frmCount.h"
+#include "reports/frmReport.h"
 #include "reports/frmSearch.h"
 #include "returns/frmUnSell.h"
 #include "sale/frmSell.h"
+#include "saleslib/ClsRights.h"
 #include "settings/frmColor.h"
 #include "settings/frmKeyset.h"
 #include "settings/frmPosSet.h"
@@ -53,6 +55,7 @@ bool Till::Main() {
 std::map<QString, frmMain::Screen> Till::screens() {
   std::map<QString, frmMain::Screen> all = fixedScreens();
   if (pos_.gSysParam.GoodsImport()) all["goodsin"] = {true, [this] { show<frmGoodsIn>(); }};
+  if (pos_.gSysParam.OwnerReport()) all["report"] = {true, [this] { reportTakings(); }};
   return all;
 }
 
@@ -76,6 +79,12 @@ SaleSession::Openers Till::saleScreens() {
 
 void Till::takeBack() {
   frmUnSell(pos_.gKeyBoard, pos_.returnBooks(), QApplication::activeWindow()).exec();
+}
+
+void Till::reportTakings() {
+  if (pos_.gOperator->Rights().HasRight(kRightReport)) return show<frmReport>();
+  messageBox(QApplication::activeWindow(),
+             QCoreApplication::translate("Till", "您没有看经营报表的权限！"));
 }
 
 template <class Form>

@@ -33,6 +33,7 @@ class Till {
   std::map<QString, frmMain::Screen> fixedScreens();
   SaleSession::Openers saleScreens();
   void takeBack();
+  void reportTakings();
   /// Shows a dialog made for the occasion, over whichever window is in front.
   template <class Form>
   void show();

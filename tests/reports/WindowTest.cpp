@@ -1,4 +1,5 @@
 #include <QTableView>
+#include <QTimer>
 
 #include "Hands.h"
 #include "ReportsFixture.h"
@@ -6,6 +7,7 @@
 #include "base/Text.h"
 #include "reports/ResultColumns.h"
 #include "reports/frmCount.h"
+#include "reports/frmReport.h"
 #include "reports/frmSearch.h"
 
 namespace {
@@ -223,6 +225,31 @@ TEST_F(frmSearchTest, AStoppedQueryLeavesTheListAsItWas) {
   }
   type("zjmtm", "\n");
   EXPECT_TRUE(QTest::qWaitFor([&] { return rows() == 20002 && state().startsWith("共"); }));
+}
+
+using frmReportTest = ReportsFixture;
+
+TEST_F(frmReportTest, WritesThePeriodsReportToTheFolderUnlessItIsStopped) {
+  Hands hands;
+  settle(3, "2026-11-01 09:05:03", 1, "12.5");
+  settle(4, "2026-10-31 10:00:00", 2, "99");
+  const auto file = pos.folder / "Exports/经营报表 2026-11-01 2026-11-22.html";
+  hands.at("frmReport", [&](QWidget& form) {
+    const auto state = [&form] {
+      return form.findChild<QLabel*>("lblState")->text().remove(QChar(0x200B)).toStdString();
+    };
+    QTimer::singleShot(0, [] { Hands::pressNow(Key_Escape); });
+    Hands::pressNow(Key_Return);
+    EXPECT_EQ(state(), "已停止，没有写文件");
+    EXPECT_FALSE(exists(file));
+    Hands::pressNow(Key_Return);
+    EXPECT_EQ(state(), "已写到 " + file.string());
+    Hands::pressNow(Key_Escape);
+  });
+  frmReport(pos).exec();
+  EXPECT_THAT(fileBytes(file.string()),
+              testing::AllOf(testing::HasSubstr("<td>2026-11-01</td>"),
+                             testing::Not(testing::HasSubstr("99.00</td>"))));
 }
 
 }  // namespace

@@ -104,7 +104,7 @@ TEST_F(CommandTest, OperatorsComeAndGo) {
   expect(0, "", "operator add @ --number 7 --name 张三 --password 111 --right sell");
   EXPECT_TRUE(canLogIn("7", "111"));
   expect(1, "已经有操作员 7", "operator add @ --number 7 --name 张三 --password 222");
-  expect(2, "参数的值不对：--right: 只能是 sell，写的是“fly”",
+  expect(2, "参数的值不对：--right: 只能是 sell、report，写的是“fly”",
          "operator add @ --number 8 --name 张三 --password 1 --right fly");
   expect(2, "--number", "operator add @ --number 32768 --name 张三 --password 1");
   typed = "秘密\r\n";
@@ -129,4 +129,17 @@ TEST_F(CommandTest, ParametersAreSetAllOrNone) {
     expect(1, bad, "param set @ ShopName=别的 " + bad);
   expect(0, "ShopName=惠邻=便利店\n", "param list @");
   EXPECT_THAT(out, HasSubstr("PointUnit=5\n"));
+}
+
+TEST_F(CommandTest, AReportGoesToThePeriodsFileOrTheStandardOutput) {
+  expect(0, "2026-11-01 至 2026-11-22", "report @");
+  const std::string file = folder.file("r.html");
+  expect(0, "已写到 " + file + "\n",
+         "report @ --from 1031 --to=2026-11-01 --format=html --out " + file);
+  EXPECT_TRUE(std::filesystem::exists(file));
+  expect(1, "不是日期", "report @ --from 11-31");
+  expect(1, "--to", "report @ --from 2026-11-02 --to 2026-11-01");
+  expect(1, "--out", "report @ --format=xlsx --out -");
+  expect(1, "数据文件本身", "report @ --out " + shop);
+  expect(0, "", "check @");
 }
