@@ -8,12 +8,13 @@
 #include <string>
 
 #include "store/DataFileRestore.h"
+#include "tools/BackupChoice.h"
 #include "tools/DataFileOptions.h"
 
 namespace {
 
 struct Options {
-  std::string backup;
+  std::string backup, from;
   DataFileOptions file;
 };
 
@@ -25,9 +26,12 @@ std::string markOf(const DateTime& time) {
 }
 
 void restore(const Options& options, Console& console) {
-  const std::filesystem::path aside = restoreDataFile(options.backup, options.file.source(console),
-                                                      "old-" + markOf(console.clock()));
-  console.out << "已用 " << options.backup << " 恢复 " << options.file.path << "。\n";
+  const DataSource file = options.file.source(console);
+  std::filesystem::path backup = options.backup;
+  if (backup.empty()) backup = askForBackup(file, options.from, console);
+  const std::filesystem::path aside =
+      restoreDataFile(backup, file, "old-" + markOf(console.clock()));
+  console.out << "已用 " << backup.string() << " 恢复 " << options.file.path << "。\n";
   if (!aside.empty()) console.out << "原来的文件留在 " << aside.string() << "。\n";
 }
 
@@ -37,7 +41,9 @@ void addRestoreCommand(CLI::App& app, Console& console) {
   CLI::App* command = app.add_subcommand(
       "restore", "检查备份，用它代替数据文件；原来的文件改名留下。收款程序必须先退出");
   const auto options = std::make_shared<Options>();
-  command->add_option("备份", options->backup, "备份文件")->required();
+  command->add_option("备份", options->backup,
+                      "备份文件；不写就列出数据文件旁 backups 文件夹里每天的备份，从中选一个");
   options->file.addTo(*command);
+  command->add_option("--from", options->from, "列出这个文件夹里的备份，例如备份盘上的");
   command->callback([options, &console] { restore(*options, console); });
 }

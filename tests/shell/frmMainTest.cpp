@@ -7,6 +7,7 @@
 #include "Hands.h"
 #include "TestTill.h"
 #include "base/Failure.h"
+#include "shell/BackupLine.h"
 
 namespace {
 
@@ -106,6 +107,16 @@ TEST_F(frmMainTest, ALogOffThatCannotBeStoredIsSaidAndTheEndBacksUpAllTheSame) {
   EXPECT_NE(said.at(0).find("操作员 1 已被删除"), std::string::npos) << said[0];
   EXPECT_EQ(said.at(1), "操作员注销没有完成：" + said[0] + "\n数据备份已完成。");
   EXPECT_TRUE(std::filesystem::exists(till_.folder.path() / "data/pos3.mdb"));
+}
+
+TEST_F(frmMainTest, TheEndMakesTodaysBackupOnceTheyAreTurnedOn) {
+  EXPECT_FALSE(till_.pos.backups);
+  ASSERT_TRUE(till_.pos.configIni.write("Till", "Backups", "1"));
+  till_.pos.start();
+  EXPECT_EQ(BackupLine::ageText(*till_.pos.backups), "账目备份：还没有");
+  chooseEnd();
+  runUntilEnd();
+  EXPECT_EQ(BackupLine::ageText(*till_.pos.backups), "账目备份：今天");
 }
 
 TEST_F(frmMainTest, ClosingTheMenuWindowEndsTheProgramAndBringsThePointerBack) {
