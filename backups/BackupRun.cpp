@@ -1,8 +1,6 @@
 #include "backups/BackupRun.h"
 
-#include <sys/resource.h>
 #include <sys/stat.h>
-#include <unistd.h>
 
 #include <algorithm>
 #include <exception>
@@ -21,12 +19,6 @@ namespace {
 
 /// What is left to the sale on the disk that it shares with its backups.
 constexpr std::uintmax_t kRoomForSale = std::uintmax_t{256} << 20;
-
-// The kernel has a niceness per thread; the sale's stays as it was.
-void yieldToSale() {
-  constexpr int kNiceness = 10;
-  static_cast<void>(setpriority(PRIO_PROCESS, static_cast<id_t>(gettid()), kNiceness));
-}
 
 void makeFolder(const fs::path& folder) {
   std::error_code fault;
@@ -88,7 +80,6 @@ std::string faultOf(const Step& step) {
 }  // namespace
 
 BackupResult runBackup(const BackupOrder& order, BackupFlags& flags) {
-  yieldToSale();
   const auto stop = [&flags] { return flags.stop.load(); };
   const BackupFolder here = BackupFolder::beside(order.shop.path);
   bool isNew = false;

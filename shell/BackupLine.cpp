@@ -3,6 +3,7 @@
 #include <QEventLoop>
 #include <QPainter>
 #include <QProgressDialog>
+#include <QPushButton>
 #include <QTimer>
 
 #include "backups/BackupKeeper.h"
@@ -15,6 +16,7 @@ namespace {
 constexpr int kPixels = 16;
 constexpr int kPlateMargin = 6;
 constexpr int kOldDays = 3;
+constexpr int kWaitPixels = 400;
 constexpr QColor kAlarm(0xc0, 0x10, 0x10);
 
 bool isAlarming(const BackupKeeper& backups) {
@@ -62,9 +64,14 @@ bool makeLastBackup(BackupKeeper* backups) {
   if (!backups) return false;
   backups->makeAnew();
   if (!backups->isRunning()) return false;
-  QProgressDialog wait(BackupLine::tr("正在备份账目，请稍候……"), BackupLine::tr("不等了（Esc）"), 0,
-                       0);
+  QProgressDialog wait(BackupLine::tr("正在备份账目，请稍候……"), {}, 0, 0);
+  // An Enter too many, from the menu, must not end it.
+  auto* leave = new QPushButton(BackupLine::tr("不等了（Esc）"));
+  leave->setFocusPolicy(Qt::NoFocus);
+  leave->setAutoDefault(false);
+  wait.setCancelButton(leave);
   wait.setObjectName("backupWait");
+  wait.setMinimumWidth(kWaitPixels);
   wait.setWindowModality(Qt::ApplicationModal);
   wait.setMinimumDuration(kShowMilliseconds);
   wait.setValue(0);
