@@ -11,10 +11,12 @@
 #include <QVBoxLayout>
 
 #include "app/posMod.h"
+#include "backups/BackupKeeper.h"
 #include "base/Failure.h"
 #include "base/Version.h"
 #include "platform/QtText.h"
 #include "platform/Twips.h"
+#include "shell/BackupLine.h"
 #include "shell/Modal.h"
 #include "shell/Style.h"
 #include "shell/frmLogin.h"
@@ -211,6 +213,8 @@ void frmMain::endOfWork() {
     if (wanted) pos_.backUp();
     return wanted;
   });
+  attempt(tr("当天的备份已完成。"), tr("当天的备份没有完成：%1"),
+          [this] { return makeLastBackup(pos_.backups.get()); });
   if (notDone.isEmpty()) return;
   messageBox(QApplication::activeWindow(), (notDone + done).join('\n'), {}, BoxIcon::kExclamation);
 }
@@ -240,6 +244,8 @@ void frmMain::paintEvent(QPaintEvent*) {
   painter.drawText(QRect(0, line, width(), height() / 15), Qt::AlignCenter,
                    QLocale().toString(day, tr("yyyy年M月d日  dddd", "date format")));
   paintVersion(painter);
+  if (pos_.backups)
+    BackupLine::paint(painter, rect().adjusted(kMenuGap, kMenuGap, -kMenuGap, 0), *pos_.backups);
 }
 
 void frmMain::paintVersion(QPainter& painter) const {
@@ -252,5 +258,7 @@ void frmMain::paintVersion(QPainter& painter) const {
 }
 
 void frmMain::timerEvent(QTimerEvent*) {
-  if (dateShown_ != pos_.clock().date) update();
+  const bool isOtherDay = dateShown_ != pos_.clock().date;
+  const bool hasNews = !ended_ && pos_.backups && pos_.backups->look();
+  if (isOtherDay || hasNews) update();
 }

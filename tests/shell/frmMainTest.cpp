@@ -3,6 +3,7 @@
 #include <QGuiApplication>
 
 #include "LoginFixture.h"
+#include "shell/BackupLine.h"
 
 using enum Qt::Key;
 
@@ -82,6 +83,16 @@ TEST_F(frmMainTest, ALogOffThatCannotBeStoredIsSaidAndTheEndBacksUpAllTheSame) {
   hands.says("messageBox", "操作员注销没有完成：操作员 1 已被删除，没有保存！\n数据备份已完成。");
   runUntilEnd("");
   EXPECT_TRUE(std::filesystem::exists(folder.path() / "data/pos3.mdb"));
+}
+
+TEST_F(frmMainTest, TheEndMakesTodaysBackupOnceTheyAreTurnedOn) {
+  EXPECT_FALSE(pos.backups);
+  ASSERT_TRUE(pos.configIni.write("Till", "Backups", "1"));
+  pos.start();
+  EXPECT_EQ(BackupLine::ageText(*pos.backups), "账目备份：还没有");
+  menu("↑\n");
+  runUntilEnd("");
+  EXPECT_EQ(BackupLine::ageText(*pos.backups), "账目备份：今天");
 }
 
 TEST_F(frmMainTest, ClosingTheMenuWindowEndsTheProgram) {

@@ -85,6 +85,27 @@ TEST_F(CommandTest, ARestoredBackupIsNotMixedWithTheOldLog) {
   EXPECT_EQ(openDataFile({old, ""})->Open("select * from stock where spbm='late'").count(), 1U);
 }
 
+TEST_F(CommandTest, TheDatedBackupsAreListedWithWhatTheyHoldAndOneIsRestored) {
+  expect(1, "没有每天的备份", "restore @");
+  std::filesystem::create_directory(folder.file("backups"));
+  expect(0, "", "backup @ ./backups/POS-2026-11-20.mdb");
+  open()->run(
+      "insert into sell (sell_time, operator_id, state) values ('2026-11-21 20:00:00', 1, 1)");
+  expect(0, "", "backup @ ./backups/POS-2026-11-22.mdb");
+  write("backups/POS-2026-11-21.mdb", "noise");
+  write("backups/POS-2026-11-19.mdb.a1b2c3", "a backup that was not finished");
+  for (const char* no : {"", "0\n", "4\n"}) {
+    typed = no;
+    expect(1, "没有选备份", "restore @ --from ./backups");
+  }
+  EXPECT_THAT(out,
+              HasSubstr("1  2026-11-22  单据 1 张，最后一张 2026-11-21 20:00:00\n2  2026-11-21  "));
+  EXPECT_THAT(out, HasSubstr("\n3  2026-11-20  单据 0 张\n"));
+  typed = "3\n";
+  expect(0, "已用", "restore @");
+  EXPECT_EQ(value("select count(*) as value from sell"), "0");
+}
+
 TEST_F(CommandTest, TheTillStartsByItselfAsLongAsItIsToldTo) {
   setenv("XDG_CONFIG_HOME", folder.path().c_str(), 1);
   const std::string entry = folder.file("autostart/till.desktop");
