@@ -6,6 +6,7 @@
 #include <utility>
 #include <vector>
 
+#include "backups/BackupKeeper.h"
 #include "base/Failure.h"
 #include "base/FileName.h"
 #include "base/PrivateFile.h"
@@ -90,6 +91,14 @@ void posMod::start() {
   gKeyBoard.LoadSet(configIni);
   gPosSet.LoadSet(configIni);
   if (gPosSet.VMouse == 0) ShowMouse(false);
+  startBackups();
+}
+
+// The medium is not looked at here: one that hangs must not hold the window.
+void posMod::startBackups() {
+  const std::string medium = configIni.read("Till", "BackupTo").value_or("");
+  if (medium.empty() && configIni.read("Till", "Backups") != "1") return;
+  backups = std::make_unique<BackupKeeper>(*gConn, medium.empty() ? "" : folder / medium, clock);
 }
 
 BillBooks posMod::billBooks() const {

@@ -14,6 +14,7 @@
 #include "saleslib/ClsOperator.h"
 #include "saleslib/ClsSysParam.h"
 
+class BackupKeeper;
 class BillBooks;
 class Connection;
 class DataFileLock;
@@ -47,6 +48,7 @@ class posMod {
   ClsPosSet gPosSet;
   std::shared_ptr<ClsOperator> gOperator;  ///< who is logged in; none when nobody is
   std::unique_ptr<const Ports> ports;      ///< never none
+  std::unique_ptr<BackupKeeper> backups;   ///< the dated ones; none until start, and unless wanted
 
   /// Takes the till's lock on the data file and opens it: Path of section Database as
   /// DataSource::parse reads it (a relative one starts at the shop's folder), else
@@ -61,7 +63,9 @@ class posMod {
   /// files others keep rights on, for a message. Needs the data file open.
   [[nodiscard]] std::string protectFiles() const;
   /// Binds the services to the data file and loads keyboard map and terminal settings; hides the
-  /// pointer unless the settings show it. Needs the data file open. Throws StoreError.
+  /// pointer unless the settings show it. `Backups`=1 or `BackupTo` of section Till, a folder (a
+  /// relative one starts at the shop's), turn the dated backups on. Needs the data file open.
+  /// Throws StoreError.
   void start();
   /// The books, kept by who is logged in (ensure); what they are made of outlives them.
   BillBooks billBooks() const;
@@ -80,6 +84,7 @@ class posMod {
   void backUp();
 
  private:
+  void startBackups();
   DataSource dataSource() const;
   std::filesystem::path backupPath() const;
 };

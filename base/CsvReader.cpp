@@ -12,6 +12,8 @@ namespace {
 constexpr std::size_t kLongestRow = 1 << 20;
 constexpr std::string_view kReplacement = "\xEF\xBF\xBD";  // U+FFFD
 constexpr std::size_t kLongestCharacter = 4;
+constexpr std::streamsize kPiece = 1 << 16;
+constexpr std::string_view kComma = ",", kDelimiters = ",;\t";
 
 bool isAscii(std::string_view text) {
   return std::all_of(text.begin(), text.end(), [](char c) { return (c & 0x80) == 0; });
@@ -54,22 +56,59 @@ void rewind(std::istream& in, std::int64_t position) {
 
 }  // namespace
 
-CsvReader::CsvReader(std::istream& in) : in_(in) {
-  isUtf8_ = isSoundUtf8(in_);
+CsvReader::CsvReader(std::istream& in, Accepts accepts) : in_(in) {
+  recognise(accepts);
   rewind(in_, 0);
   in_.seekg(0, std::ios::end);
   size_ = in_.tellg();
+  std::size_t most = 0;
+  char chosen = ',';
+  for (const char delimiter : accepts == Accepts::kAnySheet ? kDelimiters : kComma) {
+    const std::size_t fields = fieldsOfFirstRow(delimiter);
+    if (fields > most) chosen = delimiter;
+    most = std::max(most, fields);
+  }
+  delimiter_ = chosen;
+  toTextBegin();
+}
+
+void CsvReader::recognise(Accepts accepts) {
   std::string mark(kUtf8Mark.size(), '\0');
-  rewind(in_, 0);
   in_.read(mark.data(), static_cast<std::streamsize>(mark.size()));
-  if (mark == kUtf8Mark) {
-    isUtf8_ = true;
-    in_.clear();
+  const bool isLittle = mark.starts_with("\xFF\xFE"), isBig = mark.starts_with("\xFE\xFF");
+  if ((isLittle || isBig) && accepts == Accepts::kCommas) {
+    refuse("是 UTF-16 文字，请另存为 UTF-8 或 GBK 的 CSV 文件");
+  }
+  if (isLittle) order_ = Utf16Decoder::Order::kLittleEndian;
+  if (isBig) order_ = Utf16Decoder::Order::kBigEndian;
+  if (order_) {
+    textBegin_ = 2;
+  } else if (mark == kUtf8Mark) {
+    textBegin_ = static_cast<std::int64_t>(kUtf8Mark.size());
   } else {
     rewind(in_, 0);
+    isUtf8_ = isSoundUtf8(in_);
   }
-  if (mark.starts_with("\xFF\xFE") || mark.starts_with("\xFE\xFF")) {
-    refuse("是 UTF-16 文字，请另存为 UTF-8 或 GBK 的 CSV 文件");
+}
+
+void CsvReader::toTextBegin() {
+  rewind(in_, textBegin_);
+  if (order_) utf16_.emplace(*order_);
+  buffer_.clear();
+  position_ = 0;
+  read_ = 0;
+  line_ = rowLine_ = 1;
+}
+
+// A text that is no row by that delimiter may be one by another.
+std::size_t CsvReader::fieldsOfFirstRow(char delimiter) {
+  delimiter_ = delimiter;
+  toTextBegin();
+  std::vector<std::string> fields;
+  try {
+    return next(fields) ? fields.size() : 0;
+  } catch (const CsvError&) {
+    return 0;
   }
 }
 
@@ -103,16 +142,21 @@ int CsvReader::get() {
 }
 
 int CsvReader::peek() {
-  if (position_ == filled_) fill();
-  return position_ == filled_ ? kEnd : static_cast<unsigned char>(buffer_[position_]);
+  if (position_ == buffer_.size()) fill();
+  return position_ == buffer_.size() ? kEnd : static_cast<unsigned char>(buffer_[position_]);
 }
 
+// A piece of UTF-16 can be the first half of a character only.
 void CsvReader::fill() {
-  in_.read(buffer_.data(), static_cast<std::streamsize>(buffer_.size()));
-  position_ = 0;
-  filled_ = static_cast<std::size_t>(in_.gcount());
-  read_ += in_.gcount();
-  if (in_.bad()) refuse("读不出来，磁盘可能有问题");
+  do {
+    buffer_.resize(kPiece);
+    in_.read(buffer_.data(), kPiece);
+    position_ = 0;
+    buffer_.resize(static_cast<std::size_t>(in_.gcount()));
+    read_ += in_.gcount();
+    if (in_.bad()) refuse("读不出来，磁盘可能有问题");
+    if (utf16_) buffer_ = utf16_->decode(buffer_);
+  } while (buffer_.empty() && in_.gcount() > 0);
 }
 
 CsvReader::Ended CsvReader::readField(std::string& field) {
@@ -125,7 +169,7 @@ CsvReader::Ended CsvReader::readField(std::string& field) {
   while (true) {
     const int character = get();
     if (character == '"') refuse("引号只能把整个字段括起来，字段里的引号要写两个");
-    if (character == ',' || character == '\n' || character == '\r' || character == kEnd) {
+    if (character == delimiter_ || character == '\n' || character == '\r' || character == kEnd) {
       return endAfter(character);
     }
     append(field, character);
@@ -147,7 +191,7 @@ void CsvReader::readQuoted(std::string& field) {
 CsvReader::Ended CsvReader::endAfter(int character) {
   if (character == '\r' && peek() == '\n') get();
   if (character == '\n' || character == '\r' || character == kEnd) return Ended::kRow;
-  if (character == ',') return Ended::kField;
+  if (character == delimiter_) return Ended::kField;
   refuse("引号后面还有文字");
 }
 

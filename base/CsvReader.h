@@ -1,13 +1,14 @@
 #pragma once
 
-#include <array>
 #include <cstddef>
 #include <cstdint>
 #include <istream>
+#include <optional>
 #include <string>
 #include <vector>
 
 #include "base/Failure.h"
+#include "base/Utf16.h"
 
 /// A text that is no comma-separated values; the message names the line.
 class CsvError : public Failure {
@@ -23,7 +24,13 @@ class CsvError : public Failure {
 /// all of it tells, so the stream must be one that can be read twice.
 class CsvReader {
  public:
-  explicit CsvReader(std::istream& in);
+  enum class Accepts {
+    kCommas,  ///< as above
+    /// Also what spreadsheets write: UTF-16 with its mark, and semicolons or tabs in place of the
+    /// commas, whichever gives the first row most fields.
+    kAnySheet,
+  };
+  explicit CsvReader(std::istream& in, Accepts accepts = Accepts::kCommas);
 
   /// The next row's fields; false at the end. Throws CsvError when the text is no
   /// such row (an open quote, text around quotes, characters of neither code).
@@ -37,6 +44,9 @@ class CsvReader {
   static constexpr int kEnd = -1;
   enum class Ended { kField, kRow };
 
+  void recognise(Accepts accepts);
+  void toTextBegin();
+  std::size_t fieldsOfFirstRow(char delimiter);
   int get();
   int peek();
   void fill();
@@ -49,9 +59,13 @@ class CsvReader {
 
   std::istream& in_;
   bool isUtf8_ = true;
+  char delimiter_ = ',';
+  std::optional<Utf16Decoder> utf16_;
+  std::optional<Utf16Decoder::Order> order_;  ///< of UTF-16
+  std::int64_t textBegin_ = 0;                ///< behind the mark
   std::int64_t size_ = 0, read_ = 0;
   std::int64_t line_ = 1, rowLine_ = 1;
   std::size_t rowBytes_ = 0;
-  std::array<char, 1 << 16> buffer_{};
-  std::size_t position_ = 0, filled_ = 0;
+  std::string buffer_;  ///< a piece of the text
+  std::size_t position_ = 0;
 };

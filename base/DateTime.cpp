@@ -129,6 +129,10 @@ Date plusDays(Date date, int days) {
           static_cast<int>(static_cast<unsigned>(result.day()))};
 }
 
+int daysBetween(const Date& from, const Date& to) {
+  return static_cast<int>(dayNumber(to) - dayNumber(from));
+}
+
 std::string generalText(const DateTime& value) {
   const bool midnight = value.hour == 0 && value.minute == 0 && value.second == 0;
   return midnight ? dateText(value.date) : storedText(value);

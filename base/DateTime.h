@@ -30,6 +30,8 @@ DateTime localTime();
 
 /// The date `days` later (earlier when negative), stopping at the ends of the calendar above.
 Date plusDays(Date date, int days);
+/// The days from one date to another, negative when that is earlier.
+int daysBetween(const Date& from, const Date& to);
 
 /// For people: "2026-11-22 09:05:03", the time left out at 00:00:00.
 std::string generalText(const DateTime& value);

@@ -94,6 +94,14 @@ void WholeFile::sync() const {
   if (fsync(file_) != 0) failWith(errno);
 }
 
+void WholeFile::flush() const {
+  if (fdatasync(file_) != 0) failWith(errno);
+}
+
+void WholeFile::forget() const {
+  posix_fadvise(file_, 0, 0, POSIX_FADV_DONTNEED);  // advice: its failure changes nothing
+}
+
 void WholeFile::finish() {
   sync();
   if (rename(path().c_str(), target_.c_str()) != 0) failWith(errno);

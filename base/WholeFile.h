@@ -26,6 +26,10 @@ class WholeFile {
   void keepRightsOf(const std::filesystem::path& file);
   void keepOwnerOf(const std::filesystem::path& file);
 
+  /// Brings what was written so far, by whomever, to the disk.
+  void flush() const;
+  /// Takes what has been flushed out of memory: who reads it afterwards reads the disk.
+  void forget() const;
   /// Brings what was written to the disk and gives it its name, in place of a file that had it.
   void finish();
   /// The same unless there is a file of that name: false then, and nothing has changed.

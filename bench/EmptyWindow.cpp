@@ -6,6 +6,7 @@
 #include <QVBoxLayout>
 
 #include "bench/BareEngine.h"
+#include "platform/QtText.h"
 
 namespace {
 
@@ -15,13 +16,14 @@ void showGoods(BareEngine& engine, QWidget& window) {
   BareEngine::Statement(engine, "select quantity from stock").readAll();
   BareEngine::Statement(engine, "select * from tmda limit 100000").readAll();
   auto* list = new QListWidget;
-  for (const auto& each : goods) list->addItem(QString::fromStdString(each[0] + each[1] + each[2]));
+  for (const auto& each : goods) list->addItem(qtText(each[0] + each[1] + each[2]));
   (new QVBoxLayout(&window))->addWidget(list);
 }
 
 }  // namespace
 
-int main(int argc, char** argv) {
+// A failure ends it with its text, as it should.
+int main(int argc, char** argv) {  // NOLINT(bugprone-exception-escape)
   QApplication application(argc, argv);
   const auto folder = QCoreApplication::applicationDirPath().toStdString();
   BareEngine engine(folder + "/data/POS.mdb");

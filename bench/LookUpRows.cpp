@@ -71,7 +71,7 @@ void barcode(Run& run, ShopSize size, benchmark::State& state, Measured& row) {
   };
   Samples first, firstBare;  // the upper pages of the indexes come into the caches
   for (int n = 0; n < 1000; ++n) one(first, firstBare);
-  for (auto _ : state) state.SetIterationTime(one(row.till, row.bare));
+  for ([[maybe_unused]] auto _ : state) state.SetIterationTime(one(row.till, row.bare));
   row.claims.push_back({"ratio", row.ratio(), 2});
   claimGrowth(run, row);
 }
@@ -88,7 +88,7 @@ void fragment(Run& run, Find find, const char* selection, benchmark::State& stat
   BareEngine::Statement select(engine, selection), known(engine, kWithStock);
   Samples byBarcode;
   int n = 0;
-  for (auto _ : state) {
+  for ([[maybe_unused]] auto _ : state) {
     const int item = goods::itemWithRareWord(n * 7 % (goods / 100));
     const int characters = 2 + n % 4;
     const QString piece = qtText(goods::fragment(item, characters));

@@ -19,7 +19,7 @@ void start(Run& run, benchmark::State& state, Measured& row) {
   const auto empty = run.shops.emptyFolder();
   installTill(folder);
   installEmptyWindow(empty->path());
-  for (auto _ : state) {
+  for ([[maybe_unused]] auto _ : state) {
     startSeconds(empty->path(), row.bare);
     state.SetIterationTime(startSeconds(folder, row.till));
   }
@@ -71,7 +71,7 @@ void memory(Run& run, benchmark::State& state, Measured& row) {
   const auto& folder = run.shops.copy(run.largest());
   installTill(folder);
   double early = 0, late = 0;
-  for (auto _ : state) {
+  for ([[maybe_unused]] auto _ : state) {
     Samples day;
     TillDriver till(folder);
     logIn(till);

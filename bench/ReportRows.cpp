@@ -15,6 +15,10 @@
 #include "reports/frmCount.h"
 #include "reports/frmSearch.h"
 #include "shell/DateField.h"
+#include "store/Connection.h"
+#include "store/DataFile.h"
+#include "takings/ReportFile.h"
+#include "takings/TakingsReport.h"
 
 namespace {
 
@@ -112,7 +116,7 @@ void day(Run& run, benchmark::State& state, Measured& row) {
   SearchWindow window(folder);
   BareSearch bare(folder / "bare.mdb", window.listSize());
   int n = 0;
-  for (auto _ : state) {
+  for ([[maybe_unused]] auto _ : state) {
     const Date asked = n % 10 == 0
                            ? shop_file::kBusyDay
                            : plusDays(shop_file::kFirstDay, n * 37 % shop_file::kHistoryDays);
@@ -132,7 +136,7 @@ void year(Run& run, benchmark::State& state, Measured& row) {
   SearchWindow window(folder);
   window.setPeriod(first, last);
   BareSearch bare(folder / "bare.mdb", window.listSize());
-  for (auto _ : state) {
+  for ([[maybe_unused]] auto _ : state) {
     state.SetIterationTime(row.till.time([&] { window.search(true); }));
     std::size_t lines = 0;
     row.bare.time([&] { lines = bare.search(first, last, kAllLines); });
@@ -159,7 +163,7 @@ void statistics(Run& run, benchmark::State& state, Measured& row) {
   BareEngine engine(run.shops.copy(run.largest()) / "bare.mdb");
   BareEngine::Statement select(engine, kBillsOfDay);
   QSize size;
-  for (auto _ : state) {
+  for ([[maybe_unused]] auto _ : state) {
     const Stopwatch since;
     frmCount form(*pos);
     paint.afterPaint("listSell", [&] {
@@ -174,6 +178,24 @@ void statistics(Run& run, benchmark::State& state, Measured& row) {
   row.claims = {{"ratio", row.ratio(), 1.5}};
 }
 
+/// Every line that the shop has, as the owner's page; against reading them all.
+void ownersReport(Run& run, benchmark::State& state, Measured& row) {
+  const auto& folder = run.shops.copy(run.largest());
+  const auto shop = openDataFile({folder / "data/POS.mdb", kBuiltInPassword});
+  BareEngine engine(folder / "bare.mdb");
+  BareEngine::Statement select(engine, "select * from sellProducts");
+  const ReportTerms terms{shop_file::kFirstDay, shop_file::kBusyDay};
+  for (auto _ : state) {
+    state.SetIterationTime(row.till.time([&] {
+      const auto report =
+          takingsReport(*shop, terms, {shop_file::kBusyDay}, [](double) { return true; });
+      if (htmlReport(report.value()).empty()) throw std::runtime_error("no report");
+    }));
+    row.bare.time([&] { select.readAll(); });
+  }
+  row.claims = {{"ratio", row.ratio(), 4}};
+}
+
 }  // namespace
 
 void addReportRows(Run& run) {
@@ -183,5 +205,6 @@ void addReportRows(Run& run) {
   };
   add("sales query of a day, first page", run.samples(200, 30), &day);
   add("sales query of a year, whole list", run.samples(3, 2), &year);
+  add("owner's report", run.samples(3, 2), &ownersReport);
   add("statistics of 2,000 bills", run.samples(100, 20), &statistics);
 }

@@ -47,7 +47,7 @@ void ring(Run& run, ShopSize size, benchmark::State& state, Measured& row) {
   Pair pair(run, size);
   Syncs syncs;
   long lines = 0;
-  for (auto _ : state) {
+  for ([[maybe_unused]] auto _ : state) {
     const int item = pair.next();
     const std::string code = goods::barcode(item);
     const std::string itemCode = goods::itemCode(item);
@@ -67,7 +67,7 @@ void settle(Run& run, ShopSize size, benchmark::State& state, Measured& row) {
   Pair pair(run, size);
   Syncs syncs;
   long bills = 0;
-  for (auto _ : state) {
+  for ([[maybe_unused]] auto _ : state) {
     pair.till.attach(kMember);
     pair.ringLines(kLines);
     const Syncs before = syncCount();
@@ -86,7 +86,7 @@ void settle(Run& run, ShopSize size, benchmark::State& state, Measured& row) {
 /// Ten lines and their settlement, in cash, against eleven transactions.
 void wholeSale(Run& run, ShopSize size, benchmark::State& state, Measured& row) {
   Pair pair(run, size);
-  for (auto _ : state) {
+  for ([[maybe_unused]] auto _ : state) {
     state.SetIterationTime(row.till.time([&] {
       pair.ringLines(kLines);
       pair.till.settle();

@@ -3,6 +3,8 @@
 #include <QHeaderView>
 #include <utility>
 
+#include "platform/QtText.h"
+
 ToolkitTable::ToolkitTable(QSize size) {
   setObjectName("list");
   setAttribute(Qt::WA_ShowWithoutActivating);
@@ -35,5 +37,5 @@ QVariant ToolkitTable::Model::data(const QModelIndex& index, int role) const {
   if (role != Qt::DisplayRole) return {};
   const auto row = static_cast<std::size_t>(index.row());
   const auto column = static_cast<std::size_t>(index.column());
-  return QString::fromStdString(rows_[row][column]);
+  return qtText(rows_[row][column]);
 }

@@ -41,7 +41,7 @@ void ring(Run& run, benchmark::State& state, Measured& row) {
   Syncs syncs;
   long lines = 0;
   till.window.open([&] {
-    for (auto _ : state) {
+    for ([[maybe_unused]] auto _ : state) {
       const int item = till.next();
       till.window.type(goods::barcode(item));
       const SaleWindow::Rung rung = till.window.ring();
@@ -63,7 +63,7 @@ void ringAndRest(Run& run, benchmark::State& state, Measured& row) {
   Till till(run);
   BareTill bare(run.shops.copy(run.largest()) / "bare.mdb");
   till.window.open([&] {
-    for (auto _ : state) {
+    for ([[maybe_unused]] auto _ : state) {
       const int item = till.next();
       till.window.type(goods::barcode(item));
       state.SetIterationTime(row.till.time([&] { till.window.ring(); }));
@@ -80,7 +80,7 @@ void longBill(Run& run, benchmark::State& state, Measured& row) {
   constexpr int kLongBill = 100;
   Till till(run);
   till.window.open([&] {
-    for (auto _ : state) {
+    for ([[maybe_unused]] auto _ : state) {
       for (int line = 1; line <= kLongBill; ++line) {
         till.window.type(goods::barcode(till.next()));
         const auto press = [&] { till.window.ring(); };
@@ -107,7 +107,7 @@ void longDay(Run& run, benchmark::State& state, Measured& row) {
   BareTill bare(run.shops.copy(run.largest()) / "bare.mdb");
   Samples early, late;
   till.window.open([&] {
-    for (auto _ : state) {
+    for ([[maybe_unused]] auto _ : state) {
       for (int bill = 1; bill <= bills; ++bill) {
         till.ringLines(2);
         Stopwatch since;
@@ -141,7 +141,7 @@ void wholeSale(Run& run, benchmark::State& state, Measured& row) {
   const auto folder = tillOnCopy(run);
   BenchShop windowless(folder->path());
   till.window.open([&] {
-    for (auto _ : state) {
+    for ([[maybe_unused]] auto _ : state) {
       state.SetIterationTime(row.till.time([&] {
         till.ringLines(kLines);
         till.window.settle();
@@ -174,7 +174,7 @@ void longMenu(Run& run, benchmark::State& state, Measured& row) {
   Till till(run);
   PaintWatch paint;
   till.window.open([&] {
-    for (auto _ : state) {
+    for ([[maybe_unused]] auto _ : state) {
       row.bare.time([&] { showToolkitsList(paint); });
       till.window.compose(goods::kLoose);
       const Stopwatch since;

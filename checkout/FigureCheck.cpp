@@ -50,7 +50,7 @@ bool FigureCheck::payment(const ClsSell& bill, const QString& cash) const {
   }
   if (change < Currency()) doubts << tr("收款不够，还差 %1 元。").arg(yuan(Currency() - change));
   if (change > kMuchChange) doubts << tr("找零有 %1 元。").arg(yuan(change));
-  return doubts.isEmpty() || isMeant(doubts.join('\n') + '\n' + tr("确定这样收款吗？"));
+  return doubts.isEmpty() || isMeant(tr("%1\n确定这样收款吗？").arg(doubts.join('\n')));
 }
 
 bool FigureCheck::isMeant(const QString& question) const {

@@ -13,6 +13,8 @@
 #include "saleslib/ClsSellItem.h"
 #include "saleslib/ClsSysParam.h"
 
+// Papers are Chinese whatever the screens speak; the options are stored as they stand.
+
 namespace {
 
 // Places on the paper, in twips.

@@ -10,15 +10,16 @@
 
 namespace {
 
+class Texts {
+  Q_DECLARE_TR_FUNCTIONS(PaidBill)
+};
+
 QString billText(const ClsSell& bill) {
-  return QCoreApplication::translate("PaidBill", "流水号 %1，金额 %2")
-      .arg(bill.BillNo())
-      .arg(qtText(twoDecimals(bill.Amount())));
+  return Texts::tr("流水号 %1，金额 %2").arg(bill.BillNo()).arg(qtText(twoDecimals(bill.Amount())));
 }
 
-void tell(Messages& screen, const char* what, const QStringList& bills) {
-  if (bills.isEmpty()) return;
-  screen.ShowMessage(QCoreApplication::translate("PaidBill", what) + "\n" + bills.join("\n"));
+void tell(Messages& screen, const QString& what, const QStringList& bills) {
+  if (!bills.isEmpty()) screen.ShowMessage(what.arg(bills.join("\n")));
 }
 
 }  // namespace
@@ -27,10 +28,10 @@ void completePaidBills(BillBooks& books, Messages& screen) {
   QStringList stored, waiting;
   for (const auto& [bill, isSettled, fault] : books.completePaid()) {
     const QString text = billText(*bill);
-    (isSettled ? stored : waiting).append(fault.empty() ? text : text + "：" + qtText(fault));
+    (isSettled ? stored : waiting)
+        .append(fault.empty() ? text
+                              : Texts::tr("%1：%2", "bill and why not").arg(text, qtText(fault)));
   }
-  tell(screen,
-       QT_TRANSLATE_NOOP("PaidBill", "上次程序中断前已收款的单据，现在已补存，请勿重新录入："),
-       stored);
-  tell(screen, QT_TRANSLATE_NOOP("PaidBill", "已收款的单据还不能补存，请与管理员联系："), waiting);
+  tell(screen, Texts::tr("上次程序中断前已收款的单据，现在已补存，请勿重新录入：\n%1"), stored);
+  tell(screen, Texts::tr("已收款的单据还不能补存，请与管理员联系：\n%1"), waiting);
 }

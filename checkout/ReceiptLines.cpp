@@ -4,12 +4,14 @@
 
 #include "base/Gbk.h"
 #include "base/NumberText.h"
-#include "checkout/SettlementTexts.h"
 #include "devices/Paper.h"
 #include "saleslib/ClsMember.h"
 #include "saleslib/ClsSell.h"
 #include "saleslib/ClsSellItem.h"
 #include "saleslib/ClsSysParam.h"
+#include "saleslib/Tenders.h"
+
+// Papers are Chinese whatever the screens speak.
 
 namespace {
 
@@ -54,6 +56,15 @@ std::string pointsText(Currency amount, std::int16_t unit, std::int16_t points) 
   return oneDecimal(held + Currency::fromScaled(amount.scaled() / unit));
 }
 
+/// Names and figures of the kinds of payment, one behind the other.
+std::string paidWith(const ClsSell& bill, const ClsSysParam& shop) {
+  std::string text;
+  for (const TenderKind* kind : moneyTendersOf(bill, shop)) {
+    text.append(kind->name).append(oneDecimal(bill.Tendered(kind->tender)));
+  }
+  return text;
+}
+
 }  // namespace
 
 std::vector<std::string> receiptHeading(const ClsSysParam& shop, const Paper& paper) {
@@ -95,7 +106,6 @@ std::vector<std::string> receiptPayment(const ClsSell& bill, const ReceiptFacts&
   const std::size_t width = columns(paper.line);
   return {gbk::centred("销售时刻(" + shortTime(bill.SellTime()) + ")", width, '-'),
           "原价总计:" + std::to_string(facts.originalTotal) + "应收" + oneDecimal(bill.Amount()) +
-              tenderFigures(moneyTendersOf(bill, shop), bill, oneDecimal) + "找零" +
-              oneDecimal(bill.Change()),
+              paidWith(bill, shop) + "找零" + oneDecimal(bill.Change()),
           gbk::centred("-----------------", width, '-'), shop.ReceiptText2(), shop.ReceiptText3()};
 }

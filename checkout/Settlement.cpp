@@ -84,7 +84,7 @@ QString Settlement::change(const QString& cash) const {
   if (!amount) return {};
   ClsSell paid = bill_;
   paid.setCash(*amount);
-  return qtText(paid.FiguresFit() ? oneDecimal(paid.Change()) : kDoesNotFit);
+  return changeText(paid);
 }
 
 void Settlement::say(const QString& text) {

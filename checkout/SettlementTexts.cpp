@@ -2,6 +2,7 @@
 
 #include <QCoreApplication>
 
+#include "app/TenderTexts.h"
 #include "base/DateTime.h"
 #include "base/NumberText.h"
 #include "platform/QtText.h"
@@ -9,58 +10,65 @@
 
 namespace {
 
-QString tr(const char* text) {
-  return QCoreApplication::translate("Settlement", text);
-}
+class Texts {
+  Q_DECLARE_TR_FUNCTIONS(SettlementTexts)
+};
 
 std::string plainFigure(Currency amount) {
   return generalNumber(amount);
 }
 
+/// Names and figures of these kinds of payment, one behind the other.
+QString tenderFigures(const std::vector<const TenderKind*>& kinds, const ClsSell& bill,
+                      std::string (*figure)(Currency)) {
+  QString text;
+  for (const TenderKind* kind : kinds) {
+    text += Texts::tr("%1%2", "kind of payment and its figure, before the next one")
+                .arg(tenderName(*kind), qtText(figure(bill.Tendered(kind->tender))));
+  }
+  return text;
+}
+
 }  // namespace
 
 QString settlementTitle(const ClsSell& bill, const DateTime& now, const std::string& cashier) {
-  return tr("单号：%1结账时间：%2收银员：%3")
+  return Texts::tr("单号：%1结账时间：%2收银员：%3")
       .arg(QString::number(bill.BillNo()), qtText(shortTime(now)), qtText(cashier));
 }
 
 QString goodsCount(const ClsSell& bill) {
-  return tr("共 %1 件商品").arg(qtText(generalNumber(bill.Quantity())));
+  return Texts::tr("共 %1 件商品").arg(qtText(generalNumber(bill.Quantity())));
 }
 
-std::string tenderFigures(const std::vector<const TenderKind*>& kinds, const ClsSell& bill,
-                          std::string (*figure)(Currency)) {
-  std::string text;
-  for (const TenderKind* kind : kinds) text += kind->name + figure(bill.Tendered(kind->tender));
-  return text;
+QString changeText(const ClsSell& bill) {
+  return bill.FiguresFit() ? qtText(oneDecimal(bill.Change())) : Texts::tr("超出范围");
 }
 
 QString statusText(const ClsSell& bill, const ClsSysParam& rules) {
-  return tr("应收%1 %2找零%3元")
+  return Texts::tr("应收%1 %2找零%3元")
       .arg(qtText(plainFigure(bill.Amount())),
-           qtText(tenderFigures(tendersOf(bill, rules), bill, plainFigure)),
+           tenderFigures(tendersOf(bill, rules), bill, plainFigure),
            qtText(plainFigure(bill.Change())));
 }
 
 QString lastBillText(const ClsSell& bill, const ClsSysParam& rules) {
-  return tr("上一单：金额 %1实收%2找零%3  优惠%4")
+  return Texts::tr("上一单：金额 %1实收%2找零%3  优惠%4")
       .arg(qtText(oneDecimal(bill.Amount())),
-           qtText(tenderFigures(moneyTendersOf(bill, rules), bill, oneDecimal)),
-           bill.FiguresFit() ? qtText(oneDecimal(bill.Change())) : kDoesNotFit,
+           tenderFigures(moneyTendersOf(bill, rules), bill, oneDecimal), changeText(bill),
            qtText(plainFigure(bill.Favorable())));
 }
 
 QString cardRefusal(const CardResult& result) {
   switch (result.outcome) {
     case CardOutcome::kUnknown:
-      return tr("储值卡号错误,请重输");
+      return Texts::tr("储值卡号错误,请重输");
     case CardOutcome::kBlocked:
-      return tr("会员卡被禁用！卡号：%1，持卡人：%2")
+      return Texts::tr("会员卡被禁用！卡号：%1，持卡人：%2")
           .arg(qtText(result.card.number), qtText(result.card.memberName));
     case CardOutcome::kWrongPassword:
-      return tr("储值卡密码错误,请重输");
+      return Texts::tr("储值卡密码错误,请重输");
     case CardOutcome::kTooLittle:
-      return tr("储值卡余额不够,请先充值");
+      return Texts::tr("储值卡余额不够,请先充值");
     case CardOutcome::kDone:
       break;
   }
@@ -68,21 +76,21 @@ QString cardRefusal(const CardResult& result) {
 }
 
 QString cardPaid(Currency balance) {
-  return tr(" 储值卡消费成功！余额：%1 ").arg(qtText(plainFigure(balance)));
+  return Texts::tr(" 储值卡消费成功！余额：%1 ").arg(qtText(plainFigure(balance)));
 }
 
 QString cardNotCharged(const char* why) {
-  return tr("储值卡没有扣款：%1").arg(qtText(why));
+  return Texts::tr("储值卡没有扣款：%1").arg(qtText(why));
 }
 
 QString cashNotStored(const std::string& why) {
-  return tr("没有收款，请再确认一次：%1").arg(qtText(why));
+  return Texts::tr("没有收款，请再确认一次：%1").arg(qtText(why));
 }
 
 QString changeDoesNotFit() {
-  return tr("没有收款：金额太大，找零算不出来。");
+  return Texts::tr("没有收款：金额太大，找零算不出来。");
 }
 
 QString noCardForRefunds() {
-  return tr("应收是负数，不能用储值卡付款。");
+  return Texts::tr("应收是负数，不能用储值卡付款。");
 }

@@ -2,7 +2,6 @@
 
 #include <QString>
 #include <string>
-#include <vector>
 
 #include "saleslib/StoredCard.h"
 #include "saleslib/Tenders.h"
@@ -14,9 +13,8 @@ struct DateTime;
 QString settlementTitle(const ClsSell& bill, const DateTime& now, const std::string& cashier);
 QString goodsCount(const ClsSell& bill);
 
-/// Names and figures of these kinds of payment, one behind the other.
-std::string tenderFigures(const std::vector<const TenderKind*>& kinds, const ClsSell& bill,
-                          std::string (*figure)(Currency));
+/// The bill's change, or that it does not fit.
+QString changeText(const ClsSell& bill);
 /// The status line after a sale. The bill's figures fit (see ClsSell::FiguresFit).
 QString statusText(const ClsSell& bill, const ClsSysParam& rules);
 /// The figures of the bill before, over the next one.

@@ -8,6 +8,7 @@
 #include <QVBoxLayout>
 
 #include "app/KeyBoard.h"
+#include "app/TenderTexts.h"
 #include "checkout/Settlement.h"
 #include "platform/KeyName.h"
 #include "platform/Twips.h"
@@ -19,8 +20,8 @@ namespace {
 constexpr int kCaptionWidth = pixels(1500);
 constexpr int kFieldWidth = pixels(3300);
 
-QString tenderName(Tender tender) {
-  return frmEndSell::tr(tenderKind(tender).name);
+QString caption(Tender tender) {
+  return tenderName(tenderKind(tender));
 }
 
 /// Shows what became of a text; a text that was replaced is selected, so that typing replaces it.
@@ -75,7 +76,7 @@ QFrame* frmEndSell::amountFrame() {
   grid->addWidget(label("Label6", tr("应收")), 0, 0);
   grid->addWidget(money_, 0, 1);
   grid->addWidget(label("Label7", tr("元")), 0, 2);
-  grid->addWidget(label("Label1", tenderName(Tender::kCash)), 1, 0);
+  grid->addWidget(label("Label1", caption(Tender::kCash)), 1, 0);
   grid->addWidget(cash_, 1, 1);
   grid->addWidget(label("Label3", tr("找零")), 2, 0);
   grid->addWidget(change_, 2, 1);
@@ -88,15 +89,15 @@ QFrame* frmEndSell::otherFrame() {
   auto* frame = new QFrame(this);
   frame->setObjectName("Frame2");
   auto* grid = new QGridLayout(frame);
-  grid->addWidget(label("Label8", tenderName(Tender::kFavorable)), 0, 0);
+  grid->addWidget(label("Label8", caption(Tender::kFavorable)), 0, 0);
   grid->addWidget(favorable_, 0, 1);
   grid->addWidget(label("Label9", tr("业务员")), 0, 2);
   grid->addWidget(salesman_, 0, 3);
-  grid->addWidget(label("Label2", tenderName(Tender::kBankCard)), 1, 0);
+  grid->addWidget(label("Label2", caption(Tender::kBankCard)), 1, 0);
   grid->addWidget(bankCard_, 1, 1);
-  grid->addWidget(label("Label10", tenderName(Tender::kPhone)), 2, 0);
+  grid->addWidget(label("Label10", caption(Tender::kPhone)), 2, 0);
   grid->addWidget(phone_, 2, 1);
-  grid->addWidget(label("Label11", tr(tenderKind(Tender::kPhone).slip)), 2, 2);
+  grid->addWidget(label("Label11", tenderSlipName(tenderKind(Tender::kPhone))), 2, 2);
   grid->addWidget(slip_, 2, 3);
   grid->addWidget(label("Label5", tr("卡号")), 3, 0);
   grid->addWidget(cardNumber_, 3, 1);

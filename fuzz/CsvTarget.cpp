@@ -47,6 +47,16 @@ std::vector<Row> rowsOf(const std::string& text) {
   return rows;
 }
 
+void readAsAnySheet(const std::string& text) {
+  std::istringstream in(text);
+  try {
+    CsvReader reader(in, CsvReader::Accepts::kAnySheet);
+    for (Row row; reader.next(row);) ensure(!row.empty(), "a row has fields");
+  } catch (const CsvError&) {
+    return;
+  }
+}
+
 void readAndWriteBack(const std::string& text) {
   std::vector<Row> rows;
   try {
@@ -80,6 +90,7 @@ void import(const std::string& text) {
 
 int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   const std::string text(textOf(data, size));
+  readAsAnySheet(text);
   readAndWriteBack(text);
   import(text);
   return 0;

@@ -8,18 +8,22 @@
 
 bool ExportRun::write(const std::filesystem::path& file, const ExportTable& table,
                       const std::function<void(std::size_t rows)>& show) {
+  return run([&](const ExportProgress& goOn) { return exportList(file, table, goOn); }, show);
+}
+
+bool ExportRun::run(const Work& work, const std::function<void(std::size_t done)>& show) {
   constexpr int kShowMilliseconds = 100;
-  std::atomic<std::size_t> rows = 0;
+  std::atomic<std::size_t> done = 0;
   bool isWhole = false;
   std::exception_ptr failure;
   stopped_ = false;
-  const auto goOn = [&](std::size_t written) {
-    rows = written;
+  const auto goOn = [&](std::size_t soFar) {
+    done = soFar;
     return !stopped_;
   };
   const std::unique_ptr<QThread> writer(QThread::create([&] {
     try {
-      isWhole = exportList(file, table, goOn);
+      isWhole = work(goOn);
     } catch (...) {
       failure = std::current_exception();
     }
@@ -27,7 +31,7 @@ bool ExportRun::write(const std::filesystem::path& file, const ExportTable& tabl
   QEventLoop loop;
   QObject::connect(writer.get(), &QThread::finished, &loop, &QEventLoop::quit);
   QTimer shown;
-  QObject::connect(&shown, &QTimer::timeout, &loop, [&] { show(rows); });
+  QObject::connect(&shown, &QTimer::timeout, &loop, [&] { show(done); });
   running_ = true;
   shown.start(kShowMilliseconds);
   writer->start();

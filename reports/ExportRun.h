@@ -7,12 +7,16 @@
 
 #include "reports/ListExport.h"
 
-/// An export that runs beside its window.
+/// Work that ends with a file and runs beside its window.
 class ExportRun {
  public:
-  /// Writes the list (see exportList) in a thread of its own, while events go on; returns when that
-  /// has ended. `show` is called some times a second with the rows written so far. Nobody changes
-  /// the list meanwhile. Throws FileError.
+  /// Asks `goOn` now and then, with how much is done, and ends with false soon after a no.
+  using Work = std::function<bool(const ExportProgress& goOn)>;
+  /// Runs the work in a thread of its own, while events go on; returns what it returned when it has
+  /// ended, and throws what it threw. `show` is called some times a second with how much is done.
+  [[nodiscard]] bool run(const Work& work, const std::function<void(std::size_t done)>& show);
+  /// Writes the list (see exportList) that way; what is done are rows. Nobody changes the list
+  /// meanwhile. Throws FileError.
   [[nodiscard]] bool write(const std::filesystem::path& file, const ExportTable& table,
                            const std::function<void(std::size_t rows)>& show);
   void stop() { stopped_ = true; }

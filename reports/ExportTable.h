@@ -13,7 +13,7 @@ struct ExportTable {
   const ResultList& list;  ///< complete
 };
 
-/// Called now and then with the number of rows written so far; false stops the export.
+/// Called now and then with how much is done, for a list the rows written so far; false stops it.
 using ExportProgress = std::function<bool(std::size_t rows)>;
 /// How many rows are written between two such calls.
 inline constexpr std::size_t kRowsPerProgress = 512;

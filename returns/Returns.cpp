@@ -63,15 +63,16 @@ QString Returns::open(std::int32_t billNo) {
 
 QString Returns::billText() const {
   ensure(bill_ != nullptr, "a loaded bill is told of");
-  std::string text = "流水号：" + std::to_string(bill_->BillNo()) + " 商品数量：" +
-                     generalNumber(bill_->Quantity()) + " 金额：" + twoDecimals(bill_->Amount()) +
-                     "\r\n 销售时间：" + generalText(bill_->SellTime()) + " 收银员：" +
-                     books_.cashierOf(*bill_).Name();
+  QString text =
+      tr("流水号：%1 商品数量：%2 金额：%3\r\n 销售时间：%4 收银员：%5")
+          .arg(QString::number(bill_->BillNo()), qtText(generalNumber(bill_->Quantity())),
+               qtText(twoDecimals(bill_->Amount())), qtText(generalText(bill_->SellTime())),
+               qtText(books_.cashierOf(*bill_).Name()));
   if (bill_->MemberId() > 0) {
     const ClsMember member = books_.memberOf(*bill_);
-    text += "会员卡号：" + member.Bh() + " 会员姓名：" + member.Name();
+    text += tr("会员卡号：%1 会员姓名：%2").arg(qtText(member.Bh()), qtText(member.Name()));
   }
-  return qtText(text);
+  return text;
 }
 
 void Returns::chooseByCode(const QString& code) {

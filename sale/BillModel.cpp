@@ -28,7 +28,7 @@ const std::array<Column, BillRow::kColumns> kColumns{{
 }};
 
 int alignment(int column) {
-  return (BillColumns::isFigure(column) ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignVCenter;
+  return int((BillColumns::isFigure(column) ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignVCenter);
 }
 
 }  // namespace

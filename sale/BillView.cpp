@@ -254,10 +254,9 @@ void BillView::paintCell(QPainter& painter, const QRect& room, const QModelIndex
   if (figure) return paintSmaller(painter, room, text);
   const QFontMetrics metrics = painter.fontMetrics();
   QTextLayout layout(text, painter.font());
-  double width = layOut(layout);
-  if (width > room.width()) {
+  if (layOut(layout) > room.width()) {
     layout.setText(metrics.elidedText(text, Qt::ElideRight, room.width()));
-    width = layOut(layout);
+    layOut(layout);
   }
   const double left = room.left();
   layout.draw(&painter, {left, room.top() + (room.height() - metrics.height()) / 2.0});

@@ -73,7 +73,8 @@ bool CharacterPictures::draw(QPainter& painter, const QRect& room, bool right, c
   const QImage drawn = line(pictures);
   const QSizeF size = drawn.deviceIndependentSize();
   const double left = right ? room.left() + room.width() - size.width() : room.left();
-  painter.drawImage(QPointF(left, room.top() + int(room.height() - size.height()) / 2), drawn);
+  const int above = int(room.height() - size.height()) / 2;
+  painter.drawImage(QPointF(left, room.top() + above), drawn);
   return true;
 }
 

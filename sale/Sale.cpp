@@ -1,5 +1,6 @@
 #include "sale/Sale.h"
 
+#include <QCoreApplication>
 #include <algorithm>
 #include <utility>
 
@@ -11,7 +12,7 @@
 namespace {
 
 [[noreturn]] void tooLarge() {
-  throw Overflow("原价合计太大，无法计算。");
+  throw Overflow(QCoreApplication::translate("Sale", "原价合计太大，无法计算。").toStdString());
 }
 
 void add(std::int64_t& sum, const ClsSellItem& line) {

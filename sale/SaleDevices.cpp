@@ -1,7 +1,5 @@
 #include "sale/SaleDevices.h"
 
-#include <QCoreApplication>
-
 #include "app/ClsPosSet.h"
 #include "checkout/Messages.h"
 #include "checkout/PageReceipt.h"
@@ -9,10 +7,6 @@
 #include "platform/QtText.h"
 
 namespace {
-
-QString tr(const char* text) {
-  return QCoreApplication::translate("SaleDevices", text);
-}
 
 Outage::Report reportTo(Messages& screen) {
   return [&screen](const std::string& text) { screen.ShowMessage(qtText(text)); };

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QCoreApplication>
 #include <functional>
 
 #include "checkout/LineReceipt.h"
@@ -13,6 +14,8 @@ struct ReceiptFacts;
 /// The devices of a sale screen, and the receipts that they print. One that fails is told of once
 /// per outage.
 class SaleDevices {
+  Q_DECLARE_TR_FUNCTIONS(SaleDevices)
+
  public:
   SaleDevices(const Ports& ports, const ClsPosSet& settings, const ClsSysParam& shop,
               Messages& screen);

@@ -40,7 +40,7 @@ bool SaleSession::open() {
   checkout_.tell(books_.cancelOpen());
   sale_.follow(books_.lastSettled());
   if (clockIsBehind()) {
-    screen_.messageBox(tr("电脑系统时间错误！") + "\n" + lastBillDated(), tr("致命错误"));
+    screen_.messageBox(tr("电脑系统时间错误！\n%1").arg(lastBillDated()), tr("致命错误"));
     screen_.endProgram();
     return false;
   }

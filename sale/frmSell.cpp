@@ -110,7 +110,7 @@ void frmSell::ShowSaleMenu() {
 }
 
 void frmSell::showTime() {
-  controls_.title2->setText(tr("当前时间：") + qtText(longTime(pos_.clock())));
+  controls_.title2->setText(tr("当前时间：%1").arg(qtText(longTime(pos_.clock()))));
 }
 
 bool frmSell::eventFilter(QObject* watched, QEvent* event) {

@@ -8,6 +8,8 @@
 
 /// The right to sell, and with it to open the till's screens.
 inline constexpr const char* kRightSell = "sell";
+/// The right to see the owner's report.
+inline constexpr const char* kRightReport = "report";
 
 /// One operator's rights, by key. Keys are compared without regard to ASCII case.
 class TESSALY_API ClsRights {

@@ -82,7 +82,10 @@ constexpr std::array kDefinitions = {
     Definition{"GoldRate", &kRate, "1", "金卡打几折（九折写 0.9）"},
     Definition{"BackupOnExit", &kSwitch, "0", "退出程序时备份数据文件：0 否，1 是"},
     Definition{"CheckPayment", &kSwitch, "0", "收款、价格、折扣像打错时先问一声：0 否，1 是"},
+    Definition{"GoodsImport", &kSwitch, "0", "收银台上可以导入商品：0 否，1 是"},
     Definition{"PhonePay", &kSwitch, "0", "收手机扫码付款：0 否，1 是"},
+    Definition{"OwnerReport", &kSwitch, "0",
+               "收银程序的更多功能里有经营报表（要有 report 权限）：0 否，1 是"},
 };
 
 const Definition* find(std::string_view name) {
@@ -203,6 +206,12 @@ bool ClsSysParam::BackupOnExit() const {
 }
 bool ClsSysParam::CheckPayment() const {
   return isOn("CheckPayment");
+}
+bool ClsSysParam::GoodsImport() const {
+  return isOn("GoodsImport");
+}
+bool ClsSysParam::OwnerReport() const {
+  return isOn("OwnerReport");
 }
 bool ClsSysParam::Takes(const TenderKind& kind) const {
   return kind.parameter == nullptr || isOn(kind.parameter);

@@ -37,6 +37,8 @@ class TESSALY_API ClsSysParam {
   Currency GoldRate() const;       ///< of 金卡; 1
   bool BackupOnExit() const;       ///< off
   bool CheckPayment() const;       ///< ask before figures that are likely mistyped; off
+  bool GoodsImport() const;        ///< goods sheets may be imported at the till; off
+  bool OwnerReport() const;        ///< the owner's report in the till's further menu; off
   /// Whether the shop takes that kind of payment: those with a parameter of their own (PhonePay)
   /// are off.
   bool Takes(const TenderKind& kind) const;

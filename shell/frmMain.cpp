@@ -11,10 +11,12 @@
 #include <QVBoxLayout>
 
 #include "app/posMod.h"
+#include "backups/BackupKeeper.h"
 #include "base/Failure.h"
 #include "base/Version.h"
 #include "platform/QtText.h"
 #include "platform/Twips.h"
+#include "shell/BackupLine.h"
 #include "shell/Modal.h"
 #include "shell/Style.h"
 #include "shell/frmLogin.h"
@@ -71,8 +73,10 @@ void frmMain::fillMenus() {
   furtherMenu_->setWindowTitle(tr("更多功能"));
   furtherMenu_->setAlignment(frmMenu::kCentre);
   addScreens(*furtherMenu_, {{tr("销 售 查 询"), "search"},
+                             {tr("经 营 报 表"), "report"},
                              {tr("退    货"), "unsell"},
                              {tr("增 加 会 员"), "addmen"},
+                             {tr("导 入 商 品"), "goodsin"},
                              {tr("键 盘 设 置"), "keyset"},
                              {tr("更 换 操 作 员"), kExit}});
 }
@@ -209,6 +213,8 @@ void frmMain::endOfWork() {
     if (wanted) pos_.backUp();
     return wanted;
   });
+  attempt(tr("当天的备份已完成。"), tr("当天的备份没有完成：%1"),
+          [this] { return makeLastBackup(pos_.backups.get()); });
   if (notDone.isEmpty()) return;
   messageBox(QApplication::activeWindow(), (notDone + done).join('\n'), {}, BoxIcon::kExclamation);
 }
@@ -238,6 +244,8 @@ void frmMain::paintEvent(QPaintEvent*) {
   painter.drawText(QRect(0, line, width(), height() / 15), Qt::AlignCenter,
                    QLocale().toString(day, tr("yyyy年M月d日  dddd", "date format")));
   paintVersion(painter);
+  if (pos_.backups)
+    BackupLine::paint(painter, rect().adjusted(kMenuGap, kMenuGap, -kMenuGap, 0), *pos_.backups);
 }
 
 void frmMain::paintVersion(QPainter& painter) const {
@@ -250,5 +258,7 @@ void frmMain::paintVersion(QPainter& painter) const {
 }
 
 void frmMain::timerEvent(QTimerEvent*) {
-  if (dateShown_ != pos_.clock().date) update();
+  const bool isOtherDay = dateShown_ != pos_.clock().date;
+  const bool hasNews = !ended_ && pos_.backups && pos_.backups->look();
+  if (isOtherDay || hasNews) update();
 }

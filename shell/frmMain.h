@@ -29,8 +29,8 @@ class frmMain : public QWidget {
     bool needsLogin;
     Opener open;
   };
-  /// By menu key: "sell", "count", "search", "posset", "keyset", "addmen", "editpwd", "unsell". A
-  /// menu entry whose screen is not in the table is not shown.
+  /// By menu key: "sell", "count", "search", "posset", "keyset", "addmen", "editpwd", "unsell",
+  /// "goodsin", "report". A menu entry whose screen is not in the table is not shown.
   frmMain(posMod& pos, std::map<QString, Screen> screens, QWidget* parent = nullptr);
   ~frmMain() override;
 

@@ -1,10 +1,12 @@
 #include "shop/DemoShop.h"
 
+#include <array>
+#include <memory>
 #include <optional>
-#include <set>
 #include <sstream>
 #include <string>
-#include <string_view>
+#include <utility>
+#include <vector>
 
 #include "base/Currency.h"
 #include "base/Failure.h"
@@ -12,10 +14,9 @@
 #include "saleslib/ClsMember.h"
 #include "saleslib/ClsSysParam.h"
 #include "shop/DemoGoods.h"
-#include "shop/GoodsSheet.h"
+#include "shop/GoodsImport.h"
 #include "shop/Operators.h"
 #include "store/Connection.h"
-#include "store/FragmentIndex.h"
 #include "store/Transaction.h"
 
 namespace {
@@ -163,53 +164,40 @@ void addMembers(Connection& connection, const Clock& clock) {
   }
 }
 
-void addPromotion(Connection& connection, const DemoGoodsRow& row, Date today) {
-  connection.run("update tmda set cxj = ?, kssj = ?, jssj = ? where sptm = ? and spbm = ?",
-                 *row.promotionPrice, DateTime{plusDays(today, row.promotionFrom.value())},
-                 DateTime{plusDays(today, row.promotionTo.value())}, row.barcode, row.itemCode);
-}
+/// The demo shop's sheet with the days of its promotions as dates.
+class DemoSheet : public SheetReader {
+ public:
+  DemoSheet(std::unique_ptr<SheetReader> sheet, const GoodsMapping& mapping, Date today)
+      : sheet_(std::move(sheet)),
+        dates_{mapping.placeOf(GoodsField::kPromotionFrom).value(),
+               mapping.placeOf(GoodsField::kPromotionTo).value()},
+        today_(today) {}
 
-void addBarcode(Connection& connection, const DemoGoodsRow& row, Date today) {
-  connection.run(
-      "insert into tmda (sptm, ggxh, spbm, spmc, spcd, jldw, xsdj, pfj, zk, dwbl, zhjj, splbmc) "
-      "values (?, ?, ?, ?, ?, ?, ?, ?, ?, 1, ?, ?)",
-      row.barcode, row.specification, row.itemCode, row.name, row.origin, row.unit, row.price,
-      row.memberPrice, row.discount, row.cost, row.category);
-  if (row.promotionPrice) addPromotion(connection, row, today);
-}
+  bool next(std::vector<std::string>& fields) override {
+    if (!sheet_->next(fields)) return false;
+    for (const std::size_t place : dates_) {
+      const std::optional<std::int16_t> days = parseWhole16(fields[place]);
+      if (days) fields[place] = dateText(plusDays(today_, *days));
+    }
+    return true;
+  }
+  std::int64_t line() const override { return sheet_->line(); }
+  double progress() const override { return sheet_->progress(); }
 
-// The case is sold under its own barcode and price, and takes that many units out of the same
-// stock.
-void addCaseBarcode(Connection& connection, const DemoGoodsRow& row) {
-  const Currency cost = lineAmount(row.cost, row.caseRatio, Discount());
-  connection.run(
-      "insert into tmda (sptm, ggxh, spbm, spmc, spcd, jldw, xsdj, pfj, zk, dwbl, zhjj, splbmc) "
-      "values (?, ?, ?, ?, ?, ?, ?, 0, 1, ?, ?, ?)",
-      row.caseBarcode, "1x" + std::to_string(row.caseRatio), row.itemCode, row.name + " 整箱",
-      row.origin, row.caseUnit, row.casePrice, row.caseRatio, cost, row.category);
-}
-
-void addToMaster(Connection& connection, const DemoGoodsRow& row) {
-  connection.run(
-      "insert into spda (f_spbm, f_spmc, f_sphh, f_sptm, f_Ggxh, f_jldw, f_xsdj, f_pfj, f_zk, "
-      "f_zhjj, f_spcd, f_splbmc) values (?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?)",
-      row.itemCode, row.name, row.itemNumber, row.barcode, row.specification, row.unit, row.price,
-      row.memberPrice, row.discount, row.cost, row.origin, row.category);
-  connection.run("insert into stock (spbm, quantity) values (?, ?)", row.itemCode, row.stock);
-}
+ private:
+  std::unique_ptr<SheetReader> sheet_;
+  std::array<std::size_t, 2> dates_;
+  Date today_;
+};
 
 void addGoods(Connection& connection, Date today) {
   std::istringstream text{std::string(kDemoGoods)};
-  GoodsSheet sheet(text);
-  std::set<std::string> categories;
-  while (const std::optional<DemoGoodsRow> row = sheet.next()) {
-    if (categories.insert(row->category).second) {
-      connection.run("insert into SP_LB (SPLBMC) values (?)", row->category);
-    }
-    addBarcode(connection, *row, today);
-    if (row->caseRatio > 0) addCaseBarcode(connection, *row);
-    addToMaster(connection, *row);
-  }
+  OpenedSheet opened = readGoodsSheet(text);
+  const GoodsMapping mapping = guessMapping(opened.headings);
+  DemoSheet sheet(std::move(opened.reader), mapping, today);
+  const std::optional<GoodsPreview> goods = importGoods(
+      connection, sheet, mapping, WriteSlices::Company::kAlone, [](double) { return true; });
+  ensure(goods && goods->mayBeWritten() && !mapping.isGuessed, "the demo goods are accepted");
 }
 
 }  // namespace
@@ -220,6 +208,5 @@ void fillDemoShop(Connection& connection, const Clock& clock) {
   addOperators(connection);
   addMembers(connection, clock);
   addGoods(connection, clock().date);
-  updateFragmentIndex(connection);
   transaction.commit();
 }

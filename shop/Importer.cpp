@@ -9,6 +9,8 @@
 #include "base/Text.h"
 #include "shop/Refusal.h"
 #include "shop/RowDoubts.h"
+#include "shop/SheetReader.h"
+#include "shop/ShownField.h"
 #include "store/Connection.h"
 #include "store/FragmentIndex.h"
 #include "store/StoreError.h"
@@ -18,15 +20,6 @@ namespace {
 
 constexpr std::int64_t kRowsPerProgress = 50000;
 constexpr int kMostBadRows = 20;  // as many as fit on one screen
-
-// A control character must not get at the owner's terminal either.
-std::string shown(const std::string& field) {
-  constexpr std::size_t kLongestShown = 40;
-  if (field.empty()) return "空着";
-  if (hasControlCharacter(field)) return "里面有控制字符";
-  const bool isShort = characters(field) <= kLongestShown;
-  return "写的是“" + (isShort ? field : firstCharacters(field, kLongestShown) + "……") + "”";
-}
 
 std::string lineText(const CsvReader& reader) {
   return "第 " + std::to_string(reader.line()) + " 行";
@@ -49,11 +42,6 @@ const char* otherSeparator(const std::string& header) {
   return "";
 }
 
-bool hasNothing(const std::vector<std::string>& fields) {
-  return std::all_of(fields.begin(), fields.end(),
-                     [](const std::string& field) { return trimmed(field).empty(); });
-}
-
 }  // namespace
 
 Importer::Importer(Connection& connection, Table table, Progress progress, Accounts accounts)
@@ -71,7 +59,7 @@ Imported Importer::run(std::istream& text) {
   Transaction transaction(connection_);
   std::int64_t rows = 0;
   while (badRowCount_ < kMostBadRows && reader.next(fields_)) {
-    if (!hasNothing(fields_)) readRow(reader);
+    if (!holdsNothing(fields_)) readRow(reader);
     if (++rows % kRowsPerProgress == 0) progress_(rows, reader.progress());
   }
   if (badRowCount_ == kMostBadRows) badRows_ += "\n……后面的行没有再看。";
@@ -103,7 +91,7 @@ std::size_t Importer::columnNamed(const std::string& heading) const {
                   "，什么也没有导入。请另存为逗号分隔的 CSV 文件。");
   }
   throw Refusal("表 " + std::string(table_.name) + " 没有“" +
-                (hasControlCharacter(heading) ? shown(heading) : heading) +
+                (hasControlCharacter(heading) ? shownField(heading) : heading) +
                 "”这一列，什么也没有导入。可以有的列：" + columnNames(table_) + "。");
 }
 
@@ -158,8 +146,7 @@ bool Importer::readValues(const CsvReader& reader) {
     const Column& column = table_.columns[present_[place]];
     std::optional<Value> value = column.valueOf(fields_[place]);
     if (!value) {
-      refuseRow(reader, "“" + std::string(column.name) + "”" + std::string(column.expectation()) +
-                            "，" + shown(fields_[place]));
+      refuseRow(reader, expectationMissed(column, fields_[place]));
       return false;
     }
     values_[present_[place]] = *std::move(value);

@@ -19,7 +19,7 @@ std::string labelled(std::int16_t number) {
 }  // namespace
 
 const std::vector<std::string>& operatorRights() {
-  static const std::vector<std::string> rights = {kRightSell};
+  static const std::vector<std::string> rights = {kRightSell, kRightReport};
   return rights;
 }
 

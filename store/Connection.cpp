@@ -9,13 +9,12 @@
 #include "store/Dialect.h"
 #include "store/Engine.h"
 #include "store/FragmentPieces.h"
+#include "store/LockWait.h"
 #include "store/Statement.h"
 #include "store/StatementCache.h"
 #include "store/StoreError.h"
 
 namespace {
-
-constexpr int kBusyMilliseconds = 2000;  // a cashier waits for another program no longer than this
 
 // Read through the engine's handle: closing one of our own would give up the locks of every other
 // connection that this program has to the file.
@@ -89,7 +88,7 @@ void Connection::openEngine(Mode mode) {
     throw StoreError("这个数据文件没有密码，请在设置中去掉密码部分。");
   }
   sqlite3_extended_result_codes(opened, 1);
-  sqlite3_busy_timeout(opened, kBusyMilliseconds);
+  waitForLocks(opened);
   addFragmentPieces(opened);
   unlock(opened, source_);
   requireWritable(opened);

@@ -98,6 +98,7 @@ class Connection {
   friend class Transaction;
   friend class FileReading;
   friend void backUpDataFile(Connection& connection, const std::filesystem::path& target);
+  friend class SteppedCopy;
   std::optional<std::int64_t> keyOfNewRow(std::int64_t rowsWritten) const;
 
   struct EngineCloser {

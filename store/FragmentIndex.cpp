@@ -15,6 +15,7 @@ struct IndexStatements {
   const char* forget;  ///< takes the old texts of written rows out of the index
   const char* add;     ///< puts the written rows' texts in
   const char* clearWritten;
+  const char* merge;  ///< some pages of pieces, from eight of a kind on
   const char* rebuild;
   const char* check;
   const char* countWritten;
@@ -27,6 +28,7 @@ constexpr std::array kIndexes = {
                     " select id, fragment_pieces(ggxh) from tmda"
                     " where id in (select id from tmda_written)",
                     "delete from tmda_written",
+                    "insert into tmda_fragments (tmda_fragments) values ('merge=500,8')",
                     "insert into tmda_fragments (tmda_fragments) values ('rebuild')",
                     "insert into tmda_fragments (tmda_fragments) values ('integrity-check')",
                     "select count(*) as n from (select 1 from tmda_written limit ?)"},
@@ -36,14 +38,15 @@ constexpr std::array kIndexes = {
                     " select id, fragment_pieces(f_sphh), fragment_pieces(f_Ggxh) from spda"
                     " where id in (select id from spda_written)",
                     "delete from spda_written",
+                    "insert into spda_fragments (spda_fragments) values ('merge=500,8')",
                     "insert into spda_fragments (spda_fragments) values ('rebuild')",
                     "insert into spda_fragments (spda_fragments) values ('integrity-check')",
                     "select count(*) as n from (select 1 from spda_written limit ?)"},
 };
 
-bool manyWritten(Connection& connection, const IndexStatements& index) {
-  Rows rows = connection.query(index.countWritten, kManyWritten);
-  return rows.next() && rows.whole("n") == kManyWritten;
+bool areWritten(Connection& connection, const IndexStatements& index, int count) {
+  Rows rows = connection.query(index.countWritten, count);
+  return rows.next() && rows.whole("n") == count;
 }
 
 void update(Connection& connection, const IndexStatements& index) {
@@ -62,9 +65,19 @@ void updateFragmentIndex(Connection& connection) {
   transaction.commit();
 }
 
+void updateFragmentIndexInSteps(Connection& connection) {
+  Transaction transaction(connection);
+  for (const IndexStatements& index : kIndexes) {
+    if (!areWritten(connection, index, 1)) continue;
+    update(connection, index);
+    connection.run(index.merge);
+  }
+  transaction.commit();
+}
+
 void updateLongFragmentIndex(Connection& connection) {
   for (const IndexStatements& index : kIndexes) {
-    if (manyWritten(connection, index)) update(connection, index);
+    if (areWritten(connection, index, kManyWritten)) update(connection, index);
   }
 }
 

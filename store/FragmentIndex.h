@@ -16,7 +16,10 @@ class Connection;
 /// row by row it would be minutes, since the engine ends a piece of the index with each statement.
 /// An import should also write through store/RowWriter.h.
 void updateFragmentIndex(Connection& connection);
-/// The same, when there are enough written rows for a look-up to feel them.
+/// The same for one of many short transactions beside a till that rings: merges what it adds step
+/// by step, where the engine would else now and then merge sixteen pieces at once, for a second.
+void updateFragmentIndexInSteps(Connection& connection);
+/// As the first, when there are enough written rows for a look-up to feel them.
 void updateLongFragmentIndex(Connection& connection);
 
 /// Whether the indexes hold exactly what the tables say. Reads both whole.

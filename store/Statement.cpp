@@ -51,6 +51,7 @@ bool Statement::step() {
   const int code = sqlite3_step(prepared_);
   if (code == SQLITE_ROW) {
     state_ = State::kOnRow;
+    nextIndex_ = 0;
     return true;
   }
   if (code == SQLITE_DONE) {
@@ -113,8 +114,8 @@ Value Statement::column(std::string_view name) const {
   return column(indexOf(name));
 }
 
-// Columns are mostly asked for in the order of the select, so the search starts behind the last
-// one.
+// Columns are mostly asked for in the order of the select, the last ones often of few rows only, so
+// the search starts behind the last one, and in each row at the first.
 int Statement::indexOf(std::string_view name) const {
   const int count = columnCount();
   for (int tried = 0; tried < count; ++tried) {

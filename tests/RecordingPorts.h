@@ -17,7 +17,7 @@ class RecordingPorts : public Ports {
   std::unique_ptr<ByteSink> serialLine(const std::string& name) const override {
     if (isReal) return Ports::serialLine(name);
     opened.push_back(name);
-    if (serialBroken) throw PortError("端口 " + name + " 打不开");
+    if (broken) throw PortError("端口 " + name + " 打不开");
     return std::make_unique<Line>(*this);
   }
 
@@ -27,23 +27,30 @@ class RecordingPorts : public Ports {
   }
 
   bool isReal = false;  ///< records nothing
-  bool serialBroken = false;
+  bool broken = false;  ///< the serial line and the page printer
   mutable std::vector<std::string> opened;
   mutable std::vector<PageDocument> pages;
+  mutable std::vector<int> pageWidthsMm;
   mutable std::string shown;  ///< the bytes sent to the serial line
 
  private:
   struct Line : ByteSink {
     explicit Line(const RecordingPorts& owner) : ports(owner) {}
     void send(std::string_view bytes) override {
-      if (ports.serialBroken) throw PortError("串口断开");
+      if (ports.broken) throw PortError("串口断开");
       ports.shown += bytes;
     }
     const RecordingPorts& ports;
   };
   struct Pages : PagePrinter {
-    Pages(const RecordingPorts& owner, PageRoll roll) : PagePrinter(roll), ports(owner) {}
-    void print(const PageDocument& page) override { ports.pages.push_back(page); }
+    Pages(const RecordingPorts& owner, PageRoll roll)
+        : PagePrinter(roll), ports(owner), widthMm(roll.widthMm) {}
+    void print(const PageDocument& page) override {
+      if (ports.broken) throw PortError("打印机没有响应");
+      ports.pages.push_back(page);
+      ports.pageWidthsMm.push_back(widthMm);
+    }
     const RecordingPorts& ports;
+    int widthMm;
   };
 };

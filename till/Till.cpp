@@ -4,19 +4,25 @@
 #include <QScreen>
 #include <utility>
 
+#include "goodsin/GoodsCompletion.h"
+#include "goodsin/frmGoodsIn.h"
 #include "members/cardStored.h"
 #include "members/frmFMember.h"
 #include "platform/QtText.h"
 #include "reports/frmCount.h"
+#include "reports/frmReport.h"
 #include "reports/frmSearch.h"
 #include "returns/frmUnSell.h"
 #include "sale/frmSell.h"
+#include "saleslib/ClsRights.h"
 #include "settings/frmColor.h"
 #include "settings/frmKeyset.h"
 #include "settings/frmPosSet.h"
 #include "shell/ControlKeys.h"
 #include "shell/Modal.h"
 #include "shell/frmEditPwd.h"
+#include "shop/GoodsStage.h"
+#include "store/Connection.h"
 
 Till::Till(std::filesystem::path folder) : pos_(std::move(folder)) {}
 Till::~Till() = default;
@@ -33,6 +39,9 @@ bool Till::Main() {
   if (!missing.empty()) messageBox(nullptr, qtText(missing), {}, BoxIcon::kInformation);
   pos_.start();
   checkpoint_ = std::make_unique<QuietCheckpoint>(qApp, *pos_.gConn);
+  if (goodsWaiting(*pos_.gConn) > 0) {
+    completion_ = std::make_unique<GoodsCompletion>(pos_.gConn->source());
+  }
   controlKeys_ = std::make_unique<ControlKeys>(qApp, pos_.gKeyBoard);
   frmSell_ = std::make_unique<frmSell>(pos_, saleScreens(), [this] { frmMain_->close(); });
   frmMain_ = std::make_unique<frmMain>(pos_, screens());
@@ -44,6 +53,13 @@ bool Till::Main() {
 }
 
 std::map<QString, frmMain::Screen> Till::screens() {
+  std::map<QString, frmMain::Screen> all = fixedScreens();
+  if (pos_.gSysParam.GoodsImport()) all["goodsin"] = {true, [this] { show<frmGoodsIn>(); }};
+  if (pos_.gSysParam.OwnerReport()) all["report"] = {true, [this] { reportTakings(); }};
+  return all;
+}
+
+std::map<QString, frmMain::Screen> Till::fixedScreens() {
   return {{"sell", {true, [this] { frmSell_->openModal(); }}},
           {"count", {true, [this] { frmCount(pos_, QApplication::activeWindow()).init(); }}},
           {"search", {true, [this] { show<frmSearch>(); }}},
@@ -63,6 +79,12 @@ SaleSession::Openers Till::saleScreens() {
 
 void Till::takeBack() {
   frmUnSell(pos_.gKeyBoard, pos_.returnBooks(), QApplication::activeWindow()).exec();
+}
+
+void Till::reportTakings() {
+  if (pos_.gOperator->Rights().HasRight(kRightReport)) return show<frmReport>();
+  messageBox(QApplication::activeWindow(),
+             QCoreApplication::translate("Till", "您没有看经营报表的权限！"));
 }
 
 template <class Form>

@@ -11,6 +11,7 @@
 #include "shell/frmMain.h"
 
 class ControlKeys;
+class GoodsCompletion;
 class frmSell;
 
 /// The whole program: the process-wide objects, the main window, and the table that says which
@@ -28,14 +29,18 @@ class Till {
  private:
   /// The screens of the main window's menus, and those that the sale screen opens.
   std::map<QString, frmMain::Screen> screens();
+  /// Those that need no shop parameter.
+  std::map<QString, frmMain::Screen> fixedScreens();
   SaleSession::Openers saleScreens();
   void takeBack();
+  void reportTakings();
   /// Shows a dialog made for the occasion, over whichever window is in front.
   template <class Form>
   void show();
 
   posMod pos_;
   std::unique_ptr<QuietCheckpoint> checkpoint_;
+  std::unique_ptr<GoodsCompletion> completion_;  ///< of an import, if one waits
   std::unique_ptr<ControlKeys> controlKeys_;
   std::unique_ptr<frmSell> frmSell_;  ///< one instance for every opening
   std::unique_ptr<frmMain> frmMain_;

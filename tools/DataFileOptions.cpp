@@ -4,6 +4,10 @@
 
 void DataFileOptions::addTo(CLI::App& command) {
   command.add_option("数据文件", path, "店里的数据文件，例如 data/POS.mdb")->required();
+  addPasswordTo(command);
+}
+
+void DataFileOptions::addPasswordTo(CLI::App& command) {
   CLI::Option* given = command.add_option("--file-password", password,
                                           "数据文件的密码；不写用内置的，空的表示没有密码。供脚本使"
                                           "用：写在命令行上，同机的人在进程列表里看得到");

@@ -16,6 +16,8 @@ struct DataFileOptions {
   bool asks = false;
 
   void addTo(CLI::App& command);
+  /// The password alone, for a command that finds the data file among other words.
+  void addPasswordTo(CLI::App& command);
   /// Asks for the password when it is to be asked for; before any other of the command's passwords.
   DataSource source(Console& console) const;
   /// The same for a file that is to be made: typed twice at a terminal.

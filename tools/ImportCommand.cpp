@@ -8,11 +8,13 @@
 #include <vector>
 
 #include "base/Text.h"
+#include "shop/GoodsField.h"
 #include "shop/Importer.h"
 #include "shop/Refusal.h"
 #include "store/Connection.h"
 #include "store/Transaction.h"
 #include "tools/DataFileOptions.h"
+#include "tools/GoodsImportCommand.h"
 #include "tools/ParserTexts.h"
 
 namespace {
@@ -22,6 +24,7 @@ struct Options {
   std::vector<std::string> tables;
   std::vector<std::string> csvs;
   bool replacesAccounts = false;
+  GoodsImportOptions goods;
 };
 
 struct List {
@@ -43,6 +46,15 @@ std::vector<List> listsOf(const Options& options) {
     }
   }
   return lists;
+}
+
+/// The headings of the shop's own sheets.
+std::string goodsHeadings() {
+  std::string headings;
+  for (std::size_t field = 0; field < kGoodsFields; ++field) {
+    headings.append(field == 0 ? "" : " ").append(headingOf(static_cast<GoodsField>(field)));
+  }
+  return headings;
 }
 
 std::ifstream opened(const std::string& csv) {
@@ -84,7 +96,7 @@ void print(const Imported& imported, const List& list, Console& console) {
   }
 }
 
-void import(const Options& options, Console& console) {
+void importTables(const Options& options, Console& console) {
   const std::vector<List> lists = listsOf(options);
   for (const List& list : lists) opened(list.csv);  // before the first is read for minutes
   const std::unique_ptr<Connection> connection = openDataFile(options.file.source(console));
@@ -97,13 +109,36 @@ void import(const Options& options, Console& console) {
   }
 }
 
+int importSheet(const Options& options, Console& console) {
+  if (options.csvs.size() != 1)
+    throw Refusal("商品表一次导入一个文件；几个文件要各配一个 --table。");
+  GoodsImportOptions goods = options.goods;
+  goods.sheet = options.csvs.front();
+  const std::unique_ptr<Connection> connection = openDataFile(options.file.source(console));
+  return importGoodsSheet(*connection, goods, console);
+}
+
+void addGoodsOptions(CLI::App& command, GoodsImportOptions& goods) {
+  command.add_flag("--yes", goods.isConfirmed, "商品表：不问，直接写入");
+  command.add_option("--mapping", goods.mapping, "商品表：用存过的列名对应");
+  command.add_option("--save-mapping", goods.savedMapping, "商品表：把列名对应存成这个名字");
+  command
+      .add_option("--column", goods.columns,
+                  "商品表：列名=字段，写明一列是什么；字段空着就不读。可以写几次")
+      ->allow_extra_args(false);
+}
+
 }  // namespace
 
-void addImportCommand(CLI::App& app, Console& console) {
+void addImportCommand(CLI::App& app, Console& console, int& exitCode) {
   CLI::App* command =
-      app.add_subcommand("import", "从 CSV 文件导入商品、类别、会员或库存，全部成功才算数");
+      app.add_subcommand("import", "从表格文件导入商品，或者从 CSV 文件导入一张表；全部成功才算数");
   command->footer(
-      "第一行是列名，各列用英文逗号分开，编码 UTF-8 或 "
+      "不写 --table，文件就是一张商品表（.xlsx 或 .csv），第一行是列名：\n  " + goodsHeadings() +
+      "\n别的列名会猜，先给您看；写入以前先列出新增、改动、不变和不能导入的行，问过才写。\n"
+      "  tilladmin import 数据文件 商品.xlsx\n"
+      "不是在终端上，又没有写 --yes，就只列出，什么也不写入，退出码是 3。\n\n"
+      "写了 --table 时，第一行是列名，各列用英文逗号分开，编码 UTF-8 或 "
       "GBK。主键已有的行更新，没有的新增；文件里没有的列"
       "不动。\n"
       "有一行不对就什么也不导入，并说明是第几行、错在哪里。条码的商品编码要在 spda "
@@ -112,15 +147,21 @@ void addImportCommand(CLI::App& app, Console& console) {
       tablesExplained());
   const auto options = std::make_shared<Options>();
   options->file.addTo(*command);
-  command->add_option("CSV文件", options->csvs, "要导入的文件，一个 --table 配一个")->required();
+  command->add_option("文件", options->csvs, "要导入的文件；有 --table 时各配一个")->required();
   command
       ->add_option("--table", options->tables,
                    "导入到哪张表：SP_LB、spda、tmda、member 或 stock；可以写几次")
-      ->required()
       ->check(oneOf(tableNames()))
       ->allow_extra_args(false);
   command->add_flag(
       "--replace-accounts", options->replacesAccounts,
       "已有会员的余额、密码、累计消费和积分也照文件改（平时不动，免得把花掉的钱又加回来）");
-  command->callback([options, &console] { import(*options, console); });
+  addGoodsOptions(*command, options->goods);
+  command->callback([options, &console, &exitCode] {
+    if (options->tables.empty()) {
+      exitCode = importSheet(*options, console);
+    } else {
+      importTables(*options, console);
+    }
+  });
 }

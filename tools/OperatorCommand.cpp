@@ -37,6 +37,14 @@ std::string shownName(const Options& options, const ClsOperator& person) {
   return std::to_string(options.number) + " " + person.Name();
 }
 
+std::string rightsOf(const ClsOperator& person) {
+  std::string rights;
+  for (const std::string& right : operatorRights()) {
+    if (person.Rights().HasRight(right)) rights.append(rights.empty() ? "" : ",").append(right);
+  }
+  return rights.empty() ? "-" : rights;
+}
+
 void add(const Options& options, Console& console) {
   const std::unique_ptr<Connection> connection = openDataFile(options.file.source(console));
   addOperator(*connection,
@@ -54,9 +62,7 @@ void list(const Options& options, Console& console) {
   while (rows.next()) {
     ClsOperator person;
     person.Init(*connection, static_cast<std::int16_t>(rows.whole("id").value()));
-    const bool maySell = person.Rights().HasRight(kRightSell);
-    console.out << person.Id() << '\t' << person.Name() << '\t' << (maySell ? kRightSell : "-")
-                << '\n';
+    console.out << person.Id() << '\t' << person.Name() << '\t' << rightsOf(person) << '\n';
   }
 }
 
@@ -105,7 +111,9 @@ void addOperatorCommand(CLI::App& app, Console& console) {
   addNumber(*adding, *options);
   addPassword(*adding, *options);
   adding->add_option("--name", options->name, "姓名")->required();
-  adding->add_option("--right", options->rights, "权限：sell（收银）；可以写几次")
+  adding
+      ->add_option("--right", options->rights,
+                   "权限：sell（收银），report（看经营报表）；可以写几次")
       ->check(oneOf(operatorRights()))
       ->allow_extra_args(false);
   addAction(*parent, console, "list", "列出操作员：用户编号、姓名、权限", options, list);

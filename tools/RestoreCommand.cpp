@@ -6,14 +6,17 @@
 #include <filesystem>
 #include <memory>
 #include <string>
+#include <vector>
 
 #include "store/DataFileRestore.h"
+#include "tools/BackupChoice.h"
 #include "tools/DataFileOptions.h"
 
 namespace {
 
 struct Options {
-  std::string backup;
+  std::vector<std::string> files;  ///< a backup, if one was named, and the data file
+  std::string from;
   DataFileOptions file;
 };
 
@@ -24,10 +27,16 @@ std::string markOf(const DateTime& time) {
   return mark.data();
 }
 
-void restore(const Options& options, Console& console) {
-  const std::filesystem::path aside = restoreDataFile(options.backup, options.file.source(console),
-                                                      "old-" + markOf(console.clock()));
-  console.out << "已用 " << options.backup << " 恢复 " << options.file.path << "。\n";
+void restore(Options& options, Console& console) {
+  if (options.files.size() > 2) throw CLI::ExtrasError({options.files.back()});
+  options.file.path = options.files.back();
+  const DataSource file = options.file.source(console);
+  const std::filesystem::path backup = options.files.size() > 1
+                                           ? std::filesystem::path(options.files.front())
+                                           : askForBackup(file, options.from, console);
+  const std::filesystem::path aside =
+      restoreDataFile(backup, file, "old-" + markOf(console.clock()));
+  console.out << "已用 " << backup.string() << " 恢复 " << options.file.path << "。\n";
   if (!aside.empty()) console.out << "原来的文件留在 " << aside.string() << "。\n";
 }
 
@@ -37,7 +46,12 @@ void addRestoreCommand(CLI::App& app, Console& console) {
   CLI::App* command = app.add_subcommand(
       "restore", "检查备份，用它代替数据文件；原来的文件改名留下。收款程序必须先退出");
   const auto options = std::make_shared<Options>();
-  command->add_option("备份", options->backup, "备份文件")->required();
-  options->file.addTo(*command);
+  command
+      ->add_option(
+          "文件", options->files,
+          "备份和数据文件；只写数据文件时，列出它旁边 backups 文件夹里每天的备份，从中选一个")
+      ->required();
+  options->file.addPasswordTo(*command);
+  command->add_option("--from", options->from, "列出这个文件夹里的备份，例如备份盘上的");
   command->callback([options, &console] { restore(*options, console); });
 }

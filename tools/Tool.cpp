@@ -19,6 +19,7 @@
 #include "tools/OperatorCommand.h"
 #include "tools/ParamCommand.h"
 #include "tools/ParserTexts.h"
+#include "tools/ReportCommand.h"
 #include "tools/RestoreCommand.h"
 
 namespace {
@@ -47,8 +48,9 @@ std::vector<std::string> wordsOf(int count, const char* const* arguments) {
 }  // namespace
 
 int runTool(int count, const char* const* arguments, Console& console) {
-  CLI::App app("店主的工具：建立数据文件，管理操作员和店铺参数，导入导出商品，检查账目。",
-               "tilladmin");
+  CLI::App app(
+      "店主的工具：建立数据文件，管理操作员和店铺参数，导入导出商品，检查账目，做经营报表。",
+      "tilladmin");
   speakChinese(app);
   app.set_version_flag("--version", std::string(tillVersion()), "显示版本");
   app.require_subcommand(1);
@@ -56,7 +58,7 @@ int runTool(int count, const char* const* arguments, Console& console) {
   addCreateCommand(app, console);
   addOperatorCommand(app, console);
   addParamCommand(app, console);
-  addImportCommand(app, console);
+  addImportCommand(app, console, exitCode);
   addImportAccessCommand(app, console);
   addExportCommand(app, console);
   addBackupCommand(app, console);
@@ -64,6 +66,7 @@ int runTool(int count, const char* const* arguments, Console& console) {
   addCheckCommand(app, console, exitCode);
   addBillCommand(app, console);
   addAutostartCommand(app, console);
+  addReportCommand(app, console);
   groupInChinese(app);
   try {
     app.parse(wordsOf(count, arguments));

@@ -11,8 +11,6 @@
 #include "app/Ports.h"
 #include "platform/IniFile.h"
 
-namespace {
-
 class SettingsTest : public testing::Test {
  protected:
   const IniFile& fileWith(const std::string& text) const {
@@ -66,5 +64,3 @@ TEST_F(SettingsTest, PortsAreTheMachinesUnlessTheFileNamesAnother) {
   EXPECT_EQ(ports.path("COM1"), "/dev/ttyS0");
   EXPECT_EQ(ports.path("COM3"), "/tmp/pty");
 }
-
-}  // namespace

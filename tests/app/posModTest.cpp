@@ -11,8 +11,6 @@
 #include "store/DataFile.h"
 #include "store/StoreError.h"
 
-namespace {
-
 namespace fs = std::filesystem;
 using testing::HasSubstr;
 
@@ -117,5 +115,3 @@ TEST_F(posModTest, BackUpTakesTheFileThatIsOpenWhateverElseIsSpelledAlike) {
   fs::create_symlink(pos.gConn->source().path, folder_.file("data/pos3.mdb"));
   EXPECT_THAT([&] { pos.backUp(); }, testing::ThrowsMessage<StoreError>(HasSubstr("自己")));
 }
-
-}  // namespace

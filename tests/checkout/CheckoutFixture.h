@@ -28,6 +28,7 @@ class CheckoutFixture : public ShopFixture {
     line->setQuantity(quantity);
     line->setDiscount(Discount(discount));
     line->setRatio(ratio);
+    line->setCost(Currency::parse("1.2").value());
     EXPECT_TRUE(books.ring(*line).done());
     bill->AddItem(line);
     receipt.PrintLine(*line);

@@ -4,7 +4,7 @@
 
 using testing::StartsWith;
 
-class LinePrinter : public CheckoutFixture {
+class LineReceiptTest : public CheckoutFixture {
  protected:
   /// What is on the paper, a pulse of the drawer as "<drawer>".
   std::string paper() const {
@@ -14,7 +14,7 @@ class LinePrinter : public CheckoutFixture {
   }
 };
 
-TEST_F(LinePrinter, wideReceiptWithMemberAndDrawer) {
+TEST_F(LineReceiptTest, WideWithMemberDrawerAndPhone) {
   connect("LPT1", "LPT1");
   originalPrice = 89;
   attachMember();
@@ -22,7 +22,9 @@ TEST_F(LinePrinter, wideReceiptWithMemberAndDrawer) {
   enter("矿泉水550毫升", "2.00", 3);
   enter("特别特别特别长的名字的饼干😀", "12.50", 0.5);
   enter("😀表情巧克力", "76.25");
-  payCash("100");
+  setParameter("PhonePay", "1");
+  bill->setTendered(Tender::kPhone, Currency::fromYuan(8));
+  payCash("80.5");
   EXPECT_EQ(paper(),
             "                                        \n"
             "              好邻居便利店              \n"
@@ -35,7 +37,7 @@ TEST_F(LinePrinter, wideReceiptWithMemberAndDrawer) {
             "日期：11-22 流水号：1 收银员：01\n"
             "<drawer>\n"
             "------------销售时刻(09:05)------------\n"
-            "原价总计:89应收88.5现金100.0银行卡0.0储值卡0.0找零11.5\n"
+            "原价总计:89应收88.5现金80.5银行卡0.0扫码8.0储值卡0.0找零0.0\n"
             "---------------------------------------\n"
             "谢谢惠顾\n"
             "电话 010-1234\n"
@@ -46,7 +48,7 @@ TEST_F(LinePrinter, wideReceiptWithMemberAndDrawer) {
 }
 
 // A figure too wide for its column takes room from the name, then from the margin.
-TEST_F(LinePrinter, narrowReceipt) {
+TEST_F(LineReceiptTest, Narrow) {
   connect("LPT1", "", "", 2);
   receipt.PrintHeader(*bill);
   enter("矿\x1Bp\r\n水", "2.00", 3);  // no command to the printer, no line of its own
@@ -77,7 +79,7 @@ TEST_F(LinePrinter, narrowReceipt) {
             "电话 010-1234");
 }
 
-TEST_F(LinePrinter, withoutLinePrintingOnlyTheDrawerOpens) {
+TEST_F(LineReceiptTest, WithoutLinePrintingOnlyTheDrawerOpens) {
   connect("USB", "LPT1");
   enter("水", "1");
   payCash("1");
@@ -87,14 +89,14 @@ TEST_F(LinePrinter, withoutLinePrintingOnlyTheDrawerOpens) {
 
 // A printer that is off costs one message. Switched on in the middle of a bill, it prints that
 // bill from its first line on; a bill that was over before is not printed any more.
-TEST_F(LinePrinter, aPrinterThatWasOffPrintsWholeBills) {
+TEST_F(LineReceiptTest, APrinterThatWasOffPrintsWholeBills) {
   connect("LPT1", "", "", 2);
   const auto plug = [this](const std::string& path) { pos.configIni.write("Ports", "LPT1", path); };
   plug(folder.path().string());
   enter("糕", "1");
   enter("饼", "1");
   payCash("2");
-  EXPECT_THAT(screen.messages, testing::SizeIs(1));
+  EXPECT_THAT(screen.said(), StartsWith("端口 LPT1 打不开："));
   plug(folder.file("lpt1"));
   enter("茶", "4");
   payCash("4");
@@ -116,5 +118,5 @@ TEST_F(LinePrinter, aPrinterThatWasOffPrintsWholeBills) {
                          "茶                1.00   1  1.00\r\n"
                          "糖                1.00   1  1.00\r\n"
                          "       总    计"));
-  EXPECT_THAT(screen.messages, testing::SizeIs(2));
+  EXPECT_THAT(screen.said(), StartsWith("端口 LPT1 打不开："));
 }

@@ -1,28 +1,13 @@
 #include "devices/Devices.h"
 
-#include <gmock/gmock.h>
-
-#include <fstream>
-#include <sstream>
-
-#include "RecordingPorts.h"
-#include "TemporaryFolder.h"
-#include "app/ClsPosSet.h"
+#include "ShopFixture.h"
 #include "base/Gbk.h"
-#include "platform/IniFile.h"
+#include "base/Text.h"
 
-namespace {
-
-using testing::ElementsAre;
-using testing::IsEmpty;
-using testing::SizeIs;
-
-class DevicesTest : public testing::Test {
+class DevicesTest : public ShopFixture {
  protected:
-  DevicesTest() { plug("LPT1", "lpt1"); }
-
   void plug(const char* port, const std::string& file) {
-    EXPECT_TRUE(configIni.write("Ports", port, folder.file(file)));
+    EXPECT_TRUE(pos.configIni.write("Ports", port, folder.file(file)));
   }
   void open(const char* printer, const char* drawer, const char* display, int displayModel = 1) {
     settings.PPort = printer;
@@ -31,20 +16,15 @@ class DevicesTest : public testing::Test {
     settings.CVModel = displayModel;
     devices.open(settings);
   }
-  std::string bytes(const char* name) const {
-    std::ostringstream content;
-    content << std::ifstream(folder.file(name), std::ios::binary).rdbuf();
-    return content.str();
-  }
+  /// What was told of printer and drawer, and of the display, since it was last asked for.
+  std::string told() { return replaced(std::exchange(told_, {}), folder.path().string(), "~"); }
+  std::string sent(const char* name) { return fileBytes(folder.file(name)); }
 
   const std::string pulse{"\x1B\x70\x00\x3C\xFF\r\n", 7};
-  TemporaryFolder folder;
-  IniFile configIni{folder.path() / "Config.ini"};
-  RecordingPorts ports{configIni};
   ClsPosSet settings;
-  std::vector<std::string> told, toldOfDisplay;
-  Devices devices{ports, [this](const std::string& text) { told.push_back(text); },
-                  [this](const std::string& text) { toldOfDisplay.push_back(text); }};
+  std::string told_;
+  Devices devices{ports, [this](const std::string& text) { told_ += "机：" + text; },
+                  [this](const std::string& text) { told_ += "屏：" + text; }};
 };
 
 TEST_F(DevicesTest, EachPrinterPrintsWhatItCan) {
@@ -69,7 +49,7 @@ TEST_F(DevicesTest, EachPrinterPrintsWhatItCan) {
     std::vector<std::string> pages;
     for (const PageDocument& page : ports.pages) pages.push_back(page.texts.at(0).text);
     EXPECT_EQ(pages, each.pages);
-    EXPECT_EQ(gbk::decode(bytes("lpt1")), each.paper);
+    EXPECT_EQ(gbk::decode(sent("lpt1")), each.paper);
     std::filesystem::remove(folder.file("lpt1"));
   }
 }
@@ -77,10 +57,12 @@ TEST_F(DevicesTest, EachPrinterPrintsWhatItCan) {
 TEST_F(DevicesTest, AFailingPrinterIsToldOncePerOutage) {
   open("LPT1", "", "");
   const auto print = [](ReceiptPrinter& printer) { printer.printLines({"行"}); };
-  for (const std::size_t outage : {1U, 2U}) {
+  for (int outage = 0; outage < 2; ++outage) {
     plug("LPT1", "");
-    for (int i = 0; i < 2; ++i) EXPECT_FALSE(devices.print(print));
-    EXPECT_THAT(told, SizeIs(outage));
+    for (const char* message : {"机：端口 LPT1 打不开：~/ 是文件夹", ""}) {
+      EXPECT_FALSE(devices.print(print));
+      EXPECT_EQ(told(), message);
+    }
     plug("LPT1", "lpt1");
     EXPECT_TRUE(devices.print(print));
   }
@@ -89,34 +71,26 @@ TEST_F(DevicesTest, AFailingPrinterIsToldOncePerOutage) {
 TEST_F(DevicesTest, TheDisplayTakesModeAndFigureAtThePortOfTheSetting) {
   open("", "", "COM1", 0);  // an unknown model is left alone
   open("", "", "3", 2);
-  EXPECT_THAT(ports.opened, ElementsAre("COM3"));
+  EXPECT_EQ(ports.opened, std::vector<std::string>{"COM3"});
   devices.display().clientView(Currency::parse("12.5").value(), CustomerDisplay::kPrice);
   devices.display().clientView(Currency::parse("-88.5").value(), CustomerDisplay::kChange);
   devices.display().clientView(Currency(), 7);
   EXPECT_EQ(ports.shown, "\x1Bs1\x1BQA12.50\r\x1Bs4\x1BQA-88.50\r\x1BQA0.00\r");
-  ports.serialBroken = true;
+  ports.broken = true;
   for (int i = 0; i < 2; ++i) devices.display().clientView(Currency(), 1);
-  EXPECT_THAT(toldOfDisplay, SizeIs(1));
+  EXPECT_EQ(told(), "屏：串口断开");
   open("", "", "一号口");
-  EXPECT_THAT(toldOfDisplay, SizeIs(2));
-  EXPECT_THAT(told, IsEmpty());
+  EXPECT_EQ(told(), "屏：客户显示屏的端口“一号口”不是有效的端口号");
 }
 
 TEST_F(DevicesTest, TheDrawerOpensThroughItsPortOrTheDisplay) {
-  open("", "LPT1", "COM1");
-  devices.drawer().OpenDrawer();
-  EXPECT_EQ(bytes("lpt1"), pulse);
-
-  open("", "COM1", "COM1");
-  devices.drawer().OpenDrawer();
+  for (const char* port : {"LPT1", "COM1", "COM1"}) {
+    open("", port, "COM1");
+    devices.drawer().OpenDrawer();
+    ports.broken = std::string(port) == "COM1";
+    plug("COM1", "com1");
+  }
+  EXPECT_EQ(sent("lpt1"), pulse);
   EXPECT_EQ(ports.shown, "\x02M");
-  EXPECT_EQ(bytes("lpt1"), pulse);
-
-  // The display is gone: the drawer is tried at its port.
-  ports.serialBroken = true;
-  plug("COM1", "com1");
-  devices.drawer().OpenDrawer();
-  EXPECT_EQ(bytes("com1"), pulse);
+  EXPECT_EQ(sent("com1"), pulse) << "the display is gone: the drawer is tried at its port";
 }
-
-}  // namespace

@@ -4,12 +4,12 @@
 #include <QProcess>
 #include <csignal>
 
-#include "TestShop.h"
+#include <fstream>
+
+#include "TemporaryFolder.h"
 #include "base/FileError.h"
 #include "reports/ListExport.h"
 #include "reports/ResultList.h"
-
-namespace {
 
 namespace fs = std::filesystem;
 using testing::HasSubstr;
@@ -100,5 +100,3 @@ TEST_F(ExportTest, IsItsOwnersAndWhatIsNotWholeLeavesTheOldFile) {
     fs::remove(folder_.file(name));
   }
 }
-
-}  // namespace

@@ -6,7 +6,7 @@
 #include <QFontMetrics>
 
 // On the narrowest screen. Figures come before names, but a name can always be told.
-TEST(BillColumns, figuresTakeRoomFromNameAndOrigin) {
+TEST(BillColumnsTest, FiguresTakeRoomFromNameAndOrigin) {
   constexpr int kRoom = 996;
   QFont font;
   font.setPixelSize(17);

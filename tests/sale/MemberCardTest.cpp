@@ -1,6 +1,6 @@
-#include "TillFixture.h"
+#include "WatchedTill.h"
 
-class MemberCardTest : public TillFixture {
+class MemberCardTest : public WatchedTill {
  protected:
   MemberCardTest() {
     pos.gConn->runScript(R"(
@@ -13,64 +13,36 @@ class MemberCardTest : public TillFixture {
         ('8004', '孙丽', '13800000003', 1, 1, 0, '2026-03-04 10:00:00'),
         ('8005', '孙强', '13800000003', 1, 0, 0, '2026-03-04 10:00:00');
     )");
-    open();
-  }
-  void attach(const QString& answer) {
-    till.question = "会员卡输入会员卡号或电话：";
-    till.answers = {answer};
-    press(kF2);
-    till.question.clear();
-  }
-  std::string attached() const {
-    const ClsMember* member = session.sale().member();
-    EXPECT_EQ(bill().MemberId(), member ? member->Id() : 0);
-    return member ? member->Name() : "";
+    after("");
   }
 };
 
-TEST_F(MemberCardTest, findsByCardThenByTelephoneAndSaysWhyNot) {
-  const struct {
-    const char* answer;
-    int choice;
-    const char *member, *message;
-  } cases[] = {
-      {" ;８００２? ", -1, "李明", ""},
-      {"?6", -1, "吴六", ""},           // as typed before what it is cleaned to
-      {"13800000001", -1, "钱多", ""},  // a card's number wins over a telephone number
-      {"13800000003", 0, "孙丽", ""},
-      {"13800000003", -1, "", ""},
-      {"13800000003", 1, "", "会员卡被禁用！卡号：8005，持卡人：孙强"},
-      {"8003", -1, "", "会员卡被禁用！卡号：8003，持卡人：赵云"},
-      {"8009", -1, "", "无效的会员卡!"},
-      {"", -1, "", ""},
-  };
-  for (const auto& each : cases) {
-    SCOPED_TRACE(each.answer);
-    till.choice = each.choice;
-    attach("8001");
-    attach(each.answer);
-    EXPECT_EQ(attached(), each.member);
-    EXPECT_EQ(till.said(), each.message);
-    EXPECT_EQ(till.memberInfo.empty(), *each.member == '\0');
-  }
-  EXPECT_EQ(till.offered, (QStringList{"8004  孙丽", "8005  孙强（已禁用）"}));
+TEST_F(MemberCardTest, FindsByCardThenByTelephoneAndSaysWhyNot) {
+  expect(R"(
+  F2:_;８００２?_ → 会员：李明，办卡日期：2026-03-04，累计消费：12.50 | 卡号？
+  F2:?6 → 会员：吴六，办卡日期：2026-03-04，累计消费：0.00 | 卡号？
+  F2:13800000001 → 会员：钱多，办卡日期：2026-03-04，累计消费：0.00 | 卡号？
+  F2:13800000003@0 → 会员：孙丽，办卡日期：2026-03-04，累计消费：0.00 | 选：8004 孙丽、8005 孙强（已禁用） | 卡号？
+  F2:13800000003 → -会员 | 选：8004 孙丽、8005 孙强（已禁用） | 卡号？
+  F2:13800000003@1 → -会员 | 选：8004 孙丽、8005 孙强（已禁用） | 卡号？|会员卡被禁用！卡号：8005，持卡人：孙强
+  F2:8003 → -会员 | 卡号？|会员卡被禁用！卡号：8003，持卡人：赵云
+  F2:8009 → -会员 | 卡号？|无效的会员卡!
+  F2: → -会员 | 卡号？
+  )",
+         "F2:8001");
 }
 
-TEST_F(MemberCardTest, theInformationLineGoesWithTheMembersBill) {
-  attach("8002");
-  enter(kWater);
-  press(kF2);
-  EXPECT_EQ(till.said(), "会员卡只能在还没有开始销售时加入！");
-  press(kF5);
-  EXPECT_EQ(attached() + till.memberInfo, "") << "the next bill starts without one";
-  till.choice = 0;
-  press(kF6);
-  EXPECT_EQ(attached() + till.memberInfo, "李明会员：李明，办卡日期：2026-03-04，累计消费：12.50");
-  enter("80g");
-  enter("");
-  EXPECT_EQ(attached() + till.memberInfo, "");
-  attach("8002");
-  EXPECT_EQ(till.memberInfo,
-            "会员：李明，办卡日期：2026-03-04，累计消费：27.98\n"
-            "最近消费时间：2026-11-22 09:05:03，金额：15.48\n最近购买商品：矿泉水、红茶");
+TEST_F(MemberCardTest, CountsForTheBillAndTellsOfThePurchaseBefore) {
+  expect(R"(
+  F2:8002 water → 1 矿泉水 2.20 1 0.9 1.98 100 | 1件/2/1.98元 | 会员：李明，办卡日期：2026-03-04，累计消费：12.50
+    | 1001:99 | 1:1001x1=1.98 | 卡号？ | ^价2.20
+  F2 → 会员卡只能在还没有开始销售时加入！
+  80g → 2 红茶 13.50 1 1 13.50 0 | 2件/16/15.48元 | 1003:-1 | 1:1003x1=13.5 | ^价13.50
+  F1 → -行1 | 流水号：2… | 上一单：金额 15.5实收现金15.5银行卡0.0储值卡0.0找零0.0 优惠0 | 应收15.48 现金15.48银行卡0储值卡0优惠0找零0元
+    | -会员 | 单1:10 15.48 收15.48 0 0 0 惠0 员4 | 单2:空 | 卡8002:0 27.98 2 | -行2 | ^计15.48 ^收15.48 ^找0.00
+  F2:8002 → 会员：李明，办卡日期：2026-03-04，累计消费：27.98/最近消费时间：2026-11-22 09:05:03，金额：15.48/最近购买商品：矿泉水、红茶
+    | 卡号？
+  several@0 → 1 绿茶 12.50 1 0.9 11.25 50 | 1件/12/11.25元 | 1002:49 | 2:1002x1=11.25
+    | 选：绿茶 杭州 库存：50、红茶 安徽 库存：-1 | ^价12.50
+  )");
 }

@@ -11,6 +11,7 @@ class TillScreen : public Told<SaleScreen> {
     rows.clear();
     for (const BillRow& row : picture.rows) rows.push_back(row.cells);
     framed = {picture.row, picture.column};
+    lastColumn = picture.lastColumn;
     text = picture.input;
     title1 = picture.title1.toStdString();
     title3 = picture.title3.toStdString();
@@ -19,7 +20,7 @@ class TillScreen : public Told<SaleScreen> {
   }
   /// The answers in their order. The question repeats for ever without one that it takes.
   QString prompt(const QString& title, const QString& message) override {
-    EXPECT_EQ(title + message, question);
+    if (!title.isEmpty()) messages.push_back((title + message).toStdString());
     if (answers.isEmpty()) throw std::logic_error("a question is asked and no answer is left");
     return answers.takeFirst();
   }
@@ -41,11 +42,11 @@ class TillScreen : public Told<SaleScreen> {
 
   std::vector<std::array<std::string, BillRow::kColumns>> rows;
   std::pair<int, BillRow::Column> framed;  ///< row and column of the framed cell
-  QString text;                            ///< of the input line
+  BillRow::Column lastColumn = BillRow::kCode;
+  QString text;  ///< of the input line
   std::string title1, title3, status, memberInfo;
 
   QStringList offered, answers;
-  QString question;  ///< title and message expected; empty for the price question
   int choice = -1;
   /// What the cashier does in the settlement dialog.
   std::function<void(Settlement&)> pay = [](Settlement& s) { s.confirmCash(s.cashText()); };

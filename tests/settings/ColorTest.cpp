@@ -1,43 +1,26 @@
-#include <gtest/gtest.h>
-
 #include <QColorDialog>
-#include <QLineEdit>
 
 #include "Hands.h"
 #include "SettingsTill.h"
 #include "settings/frmColor.h"
 
-namespace {
-
-constexpr std::array kFields = {&ClsPosSet::C1, &ClsPosSet::C2, &ClsPosSet::C3,
-                                &ClsPosSet::C4, &ClsPosSet::C5, &ClsPosSet::C6};
-using Colours = std::array<int, 6>;
+using Colours = std::vector<int>;
 
 class frmColorTest : public testing::Test {
  protected:
   frmColorTest() {
-    form_.show();
+    form_.open();
     EXPECT_TRUE(QTest::qWaitForWindowActive(&form_));
   }
-  QLineEdit& box(int index) {
-    return *form_.findChild<QLineEdit*>("txtColor" + QString::number(index));
-  }
-  /// Types over a box, from the keyboard.
-  void type(int index, const QString& text) {
-    box(index).setFocus();
-    QTest::keySequence(&box(index), QKeySequence::SelectAll);
-    QTest::keyClick(&box(index), Qt::Key_Delete);
-    QTest::keyClicks(&box(index), text);
-  }
-  void press(Qt::Key key) { QTest::keyClick(form_.focusWidget(), key); }
-  void click(const QString& button) {
-    form_.findChild<QWidget*>(button)->setFocus();
-    press(Qt::Key_Return);
+  /// Types over a box, or presses a button.
+  void type(const QString& control, const QString& text) {
+    form_.findChild<QWidget*>(control)->setFocus();
+    if (control.startsWith("txt")) QTest::keySequence(form_.focusWidget(), QKeySequence::SelectAll);
+    Hands::typeNow(text);
   }
   Colours settings() const {
-    Colours all{};
-    for (std::size_t i = 0; i < all.size(); ++i) all[i] = till_.pos.gPosSet.*kFields[i];
-    return all;
+    const ClsPosSet& set = till_.pos.gPosSet;
+    return {set.C1, set.C2, set.C3, set.C4, set.C5, set.C6};
   }
 
   SettingsTill till_{
@@ -47,26 +30,25 @@ class frmColorTest : public testing::Test {
 };
 
 TEST_F(frmColorTest, EmptyBoxesGiveTheDefaultsAndAreSaved) {
-  for (int i = 0; i < 6; ++i) type(i, "");
-  click("cmdOk");
+  const Colours defaults = {8404992, 0, 255, 65280, 65535, 0};
+  for (int i = 0; i < 6; ++i) type(QString("txtColor%1").arg(i), "\b");
+  type("cmdOk", "\n");
   EXPECT_FALSE(form_.isVisible());
-  EXPECT_EQ(settings(), (Colours{8404992, 0, 255, 65280, 65535, 0}));
+  EXPECT_EQ(settings(), defaults);
   till_.pos.gPosSet.LoadSet(till_.pos.configIni);
-  EXPECT_EQ(settings(), (Colours{8404992, 0, 255, 65280, 65535, 0})) << "from the file";
+  EXPECT_EQ(settings(), defaults) << "from the file";
 }
 
 TEST_F(frmColorTest, ABoxWithoutANumberEndsTheSaving) {
   const std::string before = till_.fileText();
-  type(0, "7");
-  type(1, "red");
-  type(2, "9");
-  std::vector<std::string> said;
-  hands_.confirm(said);
-  click("cmdOk");
-  EXPECT_EQ(said.at(0), "“red”不是颜色的数字！");
-  EXPECT_EQ(form_.focusWidget(), &box(1));
+  type("txtColor0", "7");
+  type("txtColor1", "red");
+  type("txtColor2", "9");
+  hands_.says("messageBox", "“red”不是颜色的数字！");
+  type("cmdOk", "\n");
+  EXPECT_EQ(Hands::textsOf(form_, "txtColor1"), "red@txtColor1");
   EXPECT_EQ(settings(), (Colours{7, 255, 65280, 1, 16777215, 2}));
-  press(Qt::Key_Escape);
+  Hands::typeNow("⎋");
   EXPECT_FALSE(form_.isVisible());
   EXPECT_EQ(till_.fileText(), before);
 }
@@ -76,8 +58,6 @@ TEST_F(frmColorTest, TheColourDialogGivesItsColour) {
     static_cast<QColorDialog&>(shown).setCurrentColor(QColor(1, 2, 3));
     QTest::keyClick(&shown, Qt::Key_Return);
   });
-  click("cmdViewColor3");
-  EXPECT_EQ(box(3).text(), "197121");
+  type("cmdViewColor3", "\n");
+  EXPECT_EQ(form_.findChild<QLineEdit*>("txtColor3")->text(), "197121");
 }
-
-}  // namespace

@@ -1,7 +1,5 @@
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
-#include <QComboBox>
 #include <QGuiApplication>
 #include <filesystem>
 
@@ -15,45 +13,37 @@ namespace {
 
 using testing::HasSubstr;
 
-constexpr std::array kLists = {"cobPPort",  "cobPModel", "printAmount", "printOption",
-                               "cobMBPort", "cobCVPort", "cobCVModel",  "cobVMouse"};
-
 /// The dialog over a settings file, driven by keys.
-class Dialog {
- public:
-  explicit Dialog(posMod& pos) : form_(pos) {
-    form_.show();
-    EXPECT_TRUE(QTest::qWaitForWindowActive(&form_));
+struct Dialog {
+  explicit Dialog(posMod& pos) : form(pos) {
+    form.open();
+    EXPECT_TRUE(QTest::qWaitForWindowActive(&form));
   }
-  QString shown() {
-    QStringList texts;
-    for (const char* list : kLists) texts += form_.findChild<QComboBox*>(list)->currentText();
-    return texts.join("|");
+  std::string shown() {
+    return Hands::textsOf(form,
+                          "cobPPort cobPModel printAmount printOption cobMBPort cobCVPort "
+                          "cobCVModel cobVMouse");
   }
   /// Each list `steps` entries down, from the first list on, Enter after each.
-  void stepDown(std::initializer_list<int> steps) {
-    for (const int count : steps) {
-      for (int i = 0; i < count; ++i) press(Qt::Key_Down);
-      press(Qt::Key_Return);
-    }
+  static void stepDown(std::initializer_list<int> steps) {
+    for (const int count : steps) Hands::typeNow(QString(count, u'↓') + "\n");
   }
-  void press(Qt::Key key) { QTest::keyClick(form_.focusWidget(), key); }
   void click(const char* button) {
-    form_.findChild<QWidget*>(button)->setFocus();
-    press(Qt::Key_Return);
+    form.findChild<QWidget*>(button)->setFocus();
+    Hands::typeNow("\n");
   }
-  bool isOpen() const { return form_.isVisible(); }
-  /// "测试", and what it says.
-  std::string test() {
-    std::vector<std::string> said;
+  /// "测试", which says that.
+  void test(const std::string& result) {
     Hands hands;
-    hands.confirm(said);
+    hands.at("messageBox", [result](QWidget& box) {
+      EXPECT_THAT(box.findChild<QLabel*>("qt_msgbox_label")->text().toStdString(),
+                  HasSubstr(result));
+      Hands::pressNow(Qt::Key_Return);
+    });
     click("cmdTest");
-    return said.at(0);
   }
 
- private:
-  frmPosSet form_;
+  frmPosSet form;
 };
 
 TEST(frmPosSetTest, StoresWhatIsChosenAndKeepsWhatIsNotOnTheLists) {
@@ -62,15 +52,15 @@ TEST(frmPosSetTest, StoresWhatIsChosenAndKeepsWhatIsNotOnTheLists) {
   till.pos.ShowMouse(false);
   for (const bool confirmed : {false, true}) {
     Dialog dialog(till.pos);
-    EXPECT_EQ(dialog.shown(), "LPT2|宽行|不打印|打印商品前7个字简称|无|3||否");
-    for (int i = 0; i < 3; ++i) dialog.press(Qt::Key_Up);  // stays on the first one
+    EXPECT_EQ(dialog.shown(), "LPT2|宽行|不打印|打印商品前7个字简称|无|3||否@cobPPort");
+    Hands::typeNow("↑↑↑");  // stays on the first one
     dialog.stepDown({0, 1, 5, 3, 9, 0, 0, 1});
-    EXPECT_EQ(dialog.shown(), "无|窄行|打印前提示默认'否'|打印商品全称+折扣|COM2|3||是");
+    EXPECT_EQ(dialog.shown(), "无|窄行|打印前提示默认'否'|打印商品全称+折扣|COM2|3||是@cmdTest");
     EXPECT_EQ(till.pos.gPosSet.PPort, "LPT2") << "before it is confirmed";
     EXPECT_NE(QGuiApplication::overrideCursor(), nullptr);
     EXPECT_EQ(till.fileText(), before);
-    confirmed ? dialog.click("cmdOk") : dialog.press(Qt::Key_Escape);
-    EXPECT_FALSE(dialog.isOpen());
+    confirmed ? dialog.click("cmdOk") : Hands::typeNow("⎋");
+    EXPECT_FALSE(dialog.form.isVisible());
   }
   EXPECT_EQ(till.pos.gPosSet.PModel, 2);
   EXPECT_EQ(QGuiApplication::overrideCursor(), nullptr);
@@ -116,14 +106,14 @@ TEST(frmPosSetTest, TheTestTriesWhatIsChosenAndSavesNothing) {
     std::filesystem::remove(till.folder.path() / "drawer");
     Dialog dialog(till.pos);
     dialog.stepDown(each.steps);
-    EXPECT_THAT(dialog.test(), HasSubstr(each.said));
+    dialog.test(each.said);
     EXPECT_THAT(gbk::decode(till.content("printer")), HasSubstr(each.printed));
     EXPECT_EQ(till.content("drawer"), each.kicked);
     EXPECT_EQ(display.received(), each.displayed);
   }
   Dialog dialog(till.pos);
   dialog.stepDown({3});
-  EXPECT_THAT(dialog.test(), HasSubstr("测试行已送到系统打印机"));
+  dialog.test("测试行已送到系统打印机");
   EXPECT_EQ(till.fileText() + till.pos.gPosSet.PPort, file);
   EXPECT_FALSE(std::filesystem::is_empty(till.folder.path() / "paper"));
 }

@@ -1,7 +1,6 @@
 #include <gtest/gtest.h>
 
 #include <QContextMenuEvent>
-#include <QLineEdit>
 #include <QListWidget>
 
 #include "Hands.h"
@@ -10,8 +9,6 @@
 #include "shell/HeldKeys.h"
 #include "shell/Modal.h"
 #include "shell/frmMenu.h"
-
-namespace {
 
 // X11 repeats a key by a release and a press of one moment, which are not always marked as repeats.
 class HeldKeysTest : public testing::Test {
@@ -93,5 +90,3 @@ TEST(ControlKeysTest, ListsGoByTheMapAndTheMenuKeyOpensNoEditingMenu) {
   QApplication::sendEvent(&field, &menu);
   EXPECT_FALSE(QApplication::activePopupWidget());
 }
-
-}  // namespace

@@ -1,18 +1,15 @@
-#include <gtest/gtest.h>
-
 #include <QDialog>
-#include <QLabel>
 #include <QScreen>
+#include <QVBoxLayout>
 
 #include "Hands.h"
 #include "shell/FocusReturn.h"
 #include "shell/Modal.h"
+#include "shell/ScreenFit.h"
 #include "shell/Style.h"
 #include "shell/frmMsg.h"
 
-namespace {
-
-TEST(MessageBoxTest, AnswersToTheKeyboardAlone) {
+TEST(ModalTest, QuestionsAnswerToTheKeyboardAlone) {
   using enum Qt::Key;
   const struct {
     bool yesPreselected;
@@ -30,7 +27,7 @@ TEST(MessageBoxTest, AnswersToTheKeyboardAlone) {
   }
 }
 
-TEST(MessageBoxTest, WhateverWasTypedIsShownAsItIsAndFitsTheScreen) {
+TEST(ModalTest, WhateverWasTypedIsShownAsItIsAndFitsTheScreen) {
   applyStyle(*qApp);
   Hands hands;
   for (const QString& text :
@@ -57,8 +54,7 @@ TEST(FocusReturnTest, TheWindowUnderAClosedOneHasTheKeyboardAgain) {
   QDialog below;
   below.setObjectName("below");
   Hands hands;
-  hands.at("below", [](QWidget& window) { messageBox(&window, "错"); });
-  hands.press("messageBox", {Qt::Key_Return});
+  hands.at("below", [](QWidget& window) { messageBox(&window, "错"); }).says("messageBox", "错");
   hands.at("below", [](QWidget& window) {
     EXPECT_TRUE(QTest::qWaitForWindowActive(&window));
     window.close();
@@ -82,4 +78,18 @@ TEST(frmMsgTest, AnyKeyOrClickClosesItButNotAKeyHeldDown) {
   message.Message("");
 }
 
-}  // namespace
+TEST(ScreenFitTest, AHighDialogScrollsToTheFocus) {
+  ScreenFit fit(qApp);
+  QDialog dialog;
+  auto* layout = new QVBoxLayout(&dialog);
+  layout->setSizeConstraint(QLayout::SetFixedSize);
+  for (int i = 0; i < 60; ++i) layout->addWidget(new QLineEdit);
+  QWidget* last = layout->itemAt(59)->widget();
+  dialog.show();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&dialog));
+  EXPECT_LT(dialog.height(), dialog.screen()->availableSize().height());
+  EXPECT_TRUE(last->visibleRegion().isEmpty());
+  QTest::keyClick(dialog.focusWidget(), Qt::Key_Backtab);
+  EXPECT_TRUE(last->hasFocus());
+  EXPECT_EQ(last->visibleRegion(), QRegion(last->rect()));
+}

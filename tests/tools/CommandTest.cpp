@@ -85,6 +85,27 @@ TEST_F(CommandTest, ARestoredBackupIsNotMixedWithTheOldLog) {
   EXPECT_EQ(openDataFile({old, ""})->Open("select * from stock where spbm='late'").count(), 1U);
 }
 
+TEST_F(CommandTest, TheDatedBackupsAreListedWithWhatTheyHoldAndOneIsRestored) {
+  expect(1, "没有每天的备份", "restore @");
+  std::filesystem::create_directory(folder.file("backups"));
+  expect(0, "", "backup @ ./backups/POS-2026-11-20.mdb");
+  open()->run(
+      "insert into sell (sell_time, operator_id, state) values ('2026-11-21 20:00:00', 1, 1)");
+  expect(0, "", "backup @ ./backups/POS-2026-11-22.mdb");
+  write("backups/POS-2026-11-21.mdb", "noise");
+  write("backups/POS-2026-11-19.mdb.a1b2c3", "a backup that was not finished");
+  for (const char* no : {"", "0\n", "4\n"}) {
+    typed = no;
+    expect(1, "没有选备份", "restore @ --from ./backups");
+  }
+  EXPECT_THAT(out,
+              HasSubstr("1  2026-11-22  单据 1 张，最后一张 2026-11-21 20:00:00\n2  2026-11-21  "));
+  EXPECT_THAT(out, HasSubstr("\n3  2026-11-20  单据 0 张\n"));
+  typed = "3\n";
+  expect(0, "已用", "restore @");
+  EXPECT_EQ(value("select count(*) as value from sell"), "0");
+}
+
 TEST_F(CommandTest, TheTillStartsByItselfAsLongAsItIsToldTo) {
   setenv("XDG_CONFIG_HOME", folder.path().c_str(), 1);
   const std::string entry = folder.file("autostart/till.desktop");
@@ -104,7 +125,7 @@ TEST_F(CommandTest, OperatorsComeAndGo) {
   expect(0, "", "operator add @ --number 7 --name 张三 --password 111 --right sell");
   EXPECT_TRUE(canLogIn("7", "111"));
   expect(1, "已经有操作员 7", "operator add @ --number 7 --name 张三 --password 222");
-  expect(2, "参数的值不对：--right: 只能是 sell，写的是“fly”",
+  expect(2, "参数的值不对：--right: 只能是 sell、report，写的是“fly”",
          "operator add @ --number 8 --name 张三 --password 1 --right fly");
   expect(2, "--number", "operator add @ --number 32768 --name 张三 --password 1");
   typed = "秘密\r\n";
@@ -129,4 +150,17 @@ TEST_F(CommandTest, ParametersAreSetAllOrNone) {
     expect(1, bad, "param set @ ShopName=别的 " + bad);
   expect(0, "ShopName=惠邻=便利店\n", "param list @");
   EXPECT_THAT(out, HasSubstr("PointUnit=5\n"));
+}
+
+TEST_F(CommandTest, AReportGoesToThePeriodsFileOrTheStandardOutput) {
+  expect(0, "2026-11-01 至 2026-11-22", "report @");
+  const std::string file = folder.file("r.html");
+  expect(0, "已写到 " + file + "\n",
+         "report @ --from 1031 --to=2026-11-01 --format=html --out " + file);
+  EXPECT_TRUE(std::filesystem::exists(file));
+  expect(1, "不是日期", "report @ --from 11-31");
+  expect(1, "--to", "report @ --from 2026-11-02 --to 2026-11-01");
+  expect(1, "--out", "report @ --format=xlsx --out -");
+  expect(1, "数据文件本身", "report @ --out " + shop);
+  expect(0, "", "check @");
 }

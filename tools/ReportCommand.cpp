@@ -1,0 +1,126 @@
+#include "tools/ReportCommand.h"
+
+#include <CLI/CLI.hpp>
+#include <filesystem>
+#include <map>
+#include <memory>
+#include <optional>
+#include <string>
+
+#include "shop/Refusal.h"
+#include "store/Connection.h"
+#include "takings/ReportFile.h"
+#include "takings/TakingsReport.h"
+#include "tools/DataFileOptions.h"
+#include "tools/ParserTexts.h"
+
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr int kMostDays = 36'500;
+constexpr std::int64_t kMostRows = 1'000'000;
+constexpr const char* kStandardOutput = "-";
+
+struct Options {
+  DataFileOptions file;
+  std::string from, to, out;
+  std::string format = "text";
+  std::optional<int> slowDays;
+  double stockBelow = ReportTerms().stockBelow;
+  std::size_t mostGoods = ReportTerms().mostGoods;
+};
+
+Date dateOf(const std::string& typed, const Date& byDefault) {
+  if (typed.empty()) return byDefault;
+  const std::optional<Date> date = parseTypedDate(typed, byDefault.year);
+  if (!date) throw Refusal("不是日期：" + typed);
+  return *date;
+}
+
+ReportTerms termsOf(const Options& options, const Date& today) {
+  ReportTerms terms;
+  terms.from = dateOf(options.from, {today.year, today.month, 1});
+  terms.to = dateOf(options.to, today);
+  if (terms.to < terms.from) throw Refusal("--to 的日期比 --from 早。");
+  terms.slowDays = options.slowDays;
+  terms.stockBelow = options.stockBelow;
+  terms.mostGoods = options.mostGoods;
+  return terms;
+}
+
+ReportFormat formatOf(const std::string& word) {
+  static const std::map<std::string, ReportFormat> formats = {{"text", ReportFormat::kText},
+                                                              {"csv", ReportFormat::kCsv},
+                                                              {"xlsx", ReportFormat::kXlsx},
+                                                              {"html", ReportFormat::kHtml}};
+  return formats.at(word);
+}
+
+/// Where texts go unless a file is named; else a file in the present folder.
+std::string targetOf(const Options& options, const ReportTerms& terms, ReportFormat format) {
+  if (!options.out.empty()) return options.out;
+  const bool isForReading = format == ReportFormat::kText || format == ReportFormat::kCsv;
+  return isForReading ? kStandardOutput : reportFileName(terms.from, terms.to, format);
+}
+
+void print(const Report& report, ReportFormat format, Console& console) {
+  if (format == ReportFormat::kXlsx) throw Refusal("xlsx 只能写到文件，请用 --out 写明文件名。");
+  console.out << (format == ReportFormat::kText  ? textReport(report)
+                  : format == ReportFormat::kCsv ? csvReport(report)
+                                                 : htmlReport(report))
+              << std::flush;
+  if (!console.out) throw Refusal("写不下去，磁盘可能满了，报表不完整。");
+}
+
+/// Tells each tenth once.
+ReportProgress progressOn(Console& console) {
+  constexpr int kTenths = 10;
+  return [&console, told = 0](double part) mutable {
+    const int tenths = static_cast<int>(part * kTenths);
+    if (tenths > told) console.err << "已统计 " << (told = tenths) * kTenths << "%" << std::endl;
+    return true;
+  };
+}
+
+void report(const Options& options, Console& console) {
+  const ReportTerms terms = termsOf(options, console.clock().date);
+  const ReportFormat format = formatOf(options.format);
+  const std::string target = targetOf(options, terms, format);
+  const std::unique_ptr<Connection> connection = openDataFile(options.file.source(console));
+  std::error_code ignored;
+  if (fs::equivalent(connection->source().path, target, ignored)) {
+    throw Refusal("不能把数据文件本身当作报表的文件。");
+  }
+  const std::optional<Report> made =
+      takingsReport(*connection, terms, console.clock(), progressOn(console));
+  if (target == kStandardOutput) return print(made.value(), format, console);
+  writeReport(target, made.value(), format);
+  console.out << "已写到 " << target << '\n';
+}
+
+}  // namespace
+
+void addReportCommand(CLI::App& app, Console& console) {
+  CLI::App* command = app.add_subcommand(
+      "report",
+      "经营报表：按日、时段、操作员、分类和商品的营业额和毛利，付款方式，折扣，退货，没有动"
+      "销和库存不足的商品");
+  const auto options = std::make_shared<Options>();
+  options->file.addTo(*command);
+  command->add_option("--from", options->from, "从哪天起；不写从本月一日起");
+  command->add_option("--to", options->to, "到哪天止（含这一天）；不写到今天");
+  command->add_option("--format", options->format, "text、csv、xlsx 或 html；不写是 text")
+      ->check(oneOf({"text", "csv", "xlsx", "html"}));
+  command->add_option("--out", options->out,
+                      "写到哪个文件，- 表示标准输出；不写时 text 和 csv 写到标准输出，xlsx 和 html "
+                      "写到当前文件夹，文件名里有日期");
+  command
+      ->add_option("--slow-days", options->slowDays,
+                   "到最后一天为止多少天没有卖过算没有动销；不写看整个期间")
+      ->check(wholeNumber(1, kMostDays));
+  command->add_option("--stock-below", options->stockBelow, "库存少于多少算不足；不写是 10");
+  command->add_option("--goods", options->mostGoods, "每张商品表最多列多少种；不写是 100")
+      ->check(wholeNumber(1, kMostRows));
+  command->callback([options, &console] { report(*options, console); });
+}
