@@ -56,7 +56,8 @@ TEST(CsvTest, NamesTheLineThatIsNoRow) {
        "UTF-16"},
       {"a\n\"" + std::string(2'000'000, 'x'), "第 2 行太长"}};
   for (const auto& [text, why] : cases)
-    EXPECT_THAT([&] { readAll(text); }, testing::ThrowsMessage<CsvError>(testing::HasSubstr(why)));
+    EXPECT_THAT([&text = text] { readAll(text); },
+                testing::ThrowsMessage<CsvError>(testing::HasSubstr(why)));
 }
 
 }  // namespace

@@ -73,7 +73,8 @@ class PowerCutTest : public FaultyTill {
     return files;
   }
   void sellOne(Tender tender, bool member) {
-    Settled& sale = sales.emplace_back(bill().BillNo());
+    Settled& sale = sales.emplace_back();
+    sale.bill = bill().BillNo();
     sell(tender, member, [&] {
       sale.asked = disk.events.size();
       sale.seenOutside = seenOutside();

@@ -55,14 +55,14 @@ TEST_F(cardStoredTest, FiguresThatAreNoneWriteNothing) {
                                   {"' or ''='", "90", "100", "请输入正数", "@beforeMoney"}};
   for (const auto& [card, paid, credited, message, focus] : cases) {
     SCOPED_TRACE(std::string(card) + " " + paid + " " + credited);
-    hands.at(kWindow, [&](QWidget& shown) {
+    hands.at(kWindow, [&, card = card, paid = paid, credited = credited](QWidget& shown) {
       set(shown, "txtBh", card);
       Hands::pressNow(Qt::Key_Return);
       set(shown, "inMoney", paid);
       set(shown, "addMoney", credited);
       confirmNow(shown);
     });
-    hands.says("messageBox", message).at(kWindow, [&](QWidget& shown) {
+    hands.says("messageBox", message).at(kWindow, [focus = focus](QWidget& shown) {
       EXPECT_TRUE(Hands::textsOf(shown, "txtBh").ends_with(focus));
       Hands::pressNow(Qt::Key_Escape);
     });

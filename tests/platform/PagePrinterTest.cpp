@@ -93,6 +93,6 @@ TEST_F(PagePrinterTest, SaysThatThereIsNowhereToPrint) {
   const std::pair<fs::path, const char*> cases[] = {
       {folder.path() / "missing", "写不进：文件夹不存在"}, {{}, "没有默认打印机"}};
   for (const auto& [to, why] : cases)
-    EXPECT_THAT([&] { PagePrinter(kWide, to).print(receipt("r", 1)); },
+    EXPECT_THAT([&to = to] { PagePrinter(kWide, to).print(receipt("r", 1)); },
                 testing::ThrowsMessage<PortError>(testing::HasSubstr(why)));
 }

@@ -82,11 +82,10 @@ TEST_F(OpeningTest, SaysWhyAFileCannotBeOpenedAndLeavesItAsItIs) {
       {"foreign.mdb", "", "不是本系统的数据文件"}};
   for (const auto& [name, password, why] : cases) {
     const std::string path = folder.file(name), before = contents(path);
-    EXPECT_THAT(
-        [&] {
-          openDataFile({path, password});
-        },
-        testing::ThrowsMessage<StoreError>(AllOf(HasSubstr(why), HasSubstr(path))));
+    EXPECT_THAT(([&, password = password] {
+                  openDataFile({path, password});
+                }),
+                testing::ThrowsMessage<StoreError>(AllOf(HasSubstr(why), HasSubstr(path))));
     EXPECT_EQ(contents(path), before) << name;
   }
 }

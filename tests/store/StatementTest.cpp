@@ -59,7 +59,7 @@ TEST_F(StatementTest, NoMessageRepeatsAPasswordOutOfItsStatement) {
       {"update member set password = 'geheim', bh = '2' where bh = '1'", "冲突"},
       {"select * from member where password = #geheim#", "没有这个日期"}};
   for (const auto& [text, why] : statements) {
-    EXPECT_THAT([&] { connection->Execute(text); },
+    EXPECT_THAT(([&, text = text] { connection->Execute(text); }),
                 testing::ThrowsMessage<StoreError>(
                     AllOf(testing::HasSubstr(why), Not(testing::HasSubstr("geheim")))));
   }
