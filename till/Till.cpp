@@ -12,6 +12,7 @@
 #include "returns/frmUnSell.h"
 #include "sale/frmSell.h"
 #include "settings/frmColor.h"
+#include "settings/frmHelp.h"
 #include "settings/frmKeyset.h"
 #include "settings/frmPosSet.h"
 #include "shell/ControlKeys.h"
@@ -51,18 +52,24 @@ std::map<QString, frmMain::Screen> Till::screens() {
           {"addmen", {true, [this] { show<frmFMember>(); }}},
           {"editpwd", {false, [this] { show<frmEditPwd>(); }}},
           {"posset", {true, [this] { show<frmPosSet>(); }}},
-          {"keyset", {true, [this] { show<frmKeyset>(); }}}};
+          {"keyset", {true, [this] { show<frmKeyset>(); }}},
+          {"help", {false, [this] { help(); }}}};
 }
 
 SaleSession::Openers Till::saleScreens() {
   return {{"addmen", [this] { show<frmFMember>(); }},
           {"topup", [this] { show<cardStored>(); }},
           {"search", [this] { show<frmSearch>(); }},
-          {"color", [this] { show<frmColor>(); }}};
+          {"color", [this] { show<frmColor>(); }},
+          {"help", [this] { help(); }}};
 }
 
 void Till::takeBack() {
   frmUnSell(pos_.gKeyBoard, pos_.returnBooks(), QApplication::activeWindow()).exec();
+}
+
+void Till::help() {
+  frmHelp(pos_.gKeyBoard, QApplication::activeWindow()).exec();
 }
 
 template <class Form>

@@ -30,6 +30,7 @@ class Till {
   std::map<QString, frmMain::Screen> screens();
   SaleSession::Openers saleScreens();
   void takeBack();
+  void help();
   /// Shows a dialog made for the occasion, over whichever window is in front.
   template <class Form>
   void show();
