@@ -143,7 +143,7 @@ void Monkey::playAround() {
 // By keys and clicks alone: not every till has a window manager that closes windows. With
 // everything that leaves a window, and with everything that may leave it because the monkey has
 // changed the meaning of the keys: held bills keep the sale screen open until the keys that recall
-// and void them are found, and the last entry of its menu may be the only door.
+// and void them are found, and an entry near the end of its menu may be the only door.
 void Monkey::goHome() {
   if (atHome()) {
     leaving_ = 0;
@@ -166,7 +166,9 @@ void Monkey::goHome() {
 }
 
 void Monkey::leaveByMenu() {
-  for (const Qt::Key pressed : {Qt::Key_Menu, Qt::Key_Up, Qt::Key_Return}) key(pressed);
+  key(Qt::Key_Menu);
+  for (int entries = 1 + below(2); entries > 0; --entries) key(Qt::Key_Up);
+  key(Qt::Key_Return);
 }
 
 void Monkey::logIn() {

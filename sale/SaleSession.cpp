@@ -112,19 +112,20 @@ void SaleSession::addOpener(int KeyBoard::*key, const QString& screen) {
                        }});
 }
 
+SaleSession::Entries SaleSession::allMenuEntries() {
+  return {{tr("结    账"), "sell"},      {tr("挂    起"), "wait"},    {tr("调    入"), "load"},
+          {tr("打印机开关"), "isprint"}, {tr("本单撤消"), "delsell"}, {tr("颜色设置"), "color"},
+          {tr("退    出"), "exit"},      {tr("帮    助"), "help"}};
+}
+
 void SaleSession::fillMenu() {
-  menu_ = {{"sell", tr("结    账"), [this] { checkout_.SettleBill(); }},
-           {"wait", tr("挂    起"), [this] { held_.SuspendBill(); }},
-           {"load", tr("调    入"), [this] { held_.RecallBill(); }},
-           {"isprint", tr("打印机开关"), [this] { toggleLinePrint(); }},
-           {"delsell", tr("本单撤消"), [this] { lines_.CancelBill(); }}};
-  const auto add = [this](const QString& entry, const QString& caption) {
-    const auto found = openers_.find(entry);
-    if (found != openers_.end()) menu_.push_back({entry, caption, found->second});
-  };
-  add("color", tr("颜色设置"));
-  menu_.push_back({"exit", tr("退    出"), [this] { exit(); }});
-  add("search", {});
+  menu_ = {{"sell", [this] { checkout_.SettleBill(); }}, {"wait", [this] { held_.SuspendBill(); }},
+           {"load", [this] { held_.RecallBill(); }},     {"isprint", [this] { toggleLinePrint(); }},
+           {"delsell", [this] { lines_.CancelBill(); }}, {"exit", [this] { exit(); }}};
+  for (const char* screen : {"color", "search", "help"}) {
+    const auto found = openers_.find(screen);
+    if (found != openers_.end()) menu_.insert(*found);
+  }
 }
 
 bool SaleSession::key(int code, const QString& text) {
@@ -183,19 +184,16 @@ void SaleSession::listClicked() {
 }
 
 void SaleSession::menu(const QString& entry) {
-  const auto found = std::find_if(menu_.begin(), menu_.end(),
-                                  [&](const MenuCommand& command) { return command.key == entry; });
+  const auto found = menu_.find(entry);
   if (found == menu_.end()) return;
-  found->run();
+  found->second();
   show();
 }
 
-std::vector<std::pair<QString, QString>> SaleSession::menuEntries() const {
-  std::vector<std::pair<QString, QString>> listed;
-  for (const MenuCommand& command : menu_) {
-    if (!command.caption.isEmpty()) listed.emplace_back(command.key, command.caption);
-  }
-  return listed;
+SaleSession::Entries SaleSession::menuEntries() const {
+  Entries entries = allMenuEntries();
+  std::erase_if(entries, [this](const auto& entry) { return !menu_.contains(entry.second); });
+  return entries;
 }
 
 void SaleSession::toggleLinePrint() {

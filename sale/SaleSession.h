@@ -27,7 +27,7 @@ class SaleSession {
 
  public:
   /// Screens that the sale screen opens modally, by name: "addmen", "search", "topup", "color",
-  /// "unsell". A name that is missing has no key and no menu entry.
+  /// "help". A name that is missing has no key and no menu entry.
   using Openers = std::map<QString, std::function<void()>>;
 
   /// Needs an operator logged in (ensure).
@@ -56,18 +56,15 @@ class SaleSession {
 
   /// An entry of the function menu, by its key; an unknown key does nothing.
   void menu(const QString& entry);
-  /// The function menu's entries that have an action: key and caption.
-  std::vector<std::pair<QString, QString>> menuEntries() const;
+  /// The function menu's entries: caption and key, in their order.
+  using Entries = std::vector<std::pair<QString, QString>>;
+  static Entries allMenuEntries();
+  /// Those that have an action.
+  Entries menuEntries() const;
 
   const Sale& sale() const { return sale_; }
 
  private:
-  struct MenuCommand {
-    QString key;
-    QString caption;  ///< empty: not listed
-    std::function<void()> run;
-  };
-
   bool clockIsBehind() const;
   QString lastBillDated() const;
   void fillCommands();
@@ -90,7 +87,7 @@ class SaleSession {
   BillLines lines_;
   MemberCard memberCard_;
   HeldBills held_;
-  std::vector<KeyCommand> commands_;  ///< in the order that decides ties
-  std::vector<MenuCommand> menu_;
+  std::vector<KeyCommand> commands_;               ///< in the order that decides ties
+  std::map<QString, std::function<void()>> menu_;  ///< by entry
   bool left_ = false;
 };

@@ -73,7 +73,7 @@ void frmSell::begin() {
   myMenu_ = std::make_unique<frmMenu>(pos_.gKeyBoard, this);
   myMenu_->setObjectName("myMenu");
   myMenu_->setAlignment(frmMenu::kCentre);
-  for (const auto& [key, caption] : session_->menuEntries()) myMenu_->AddMenu(caption, key);
+  for (const auto& [caption, key] : session_->menuEntries()) myMenu_->AddMenu(caption, key);
   myMenu_->MenuClick = [this](const MenuItem& Menu) { session_->menu(Menu.Key); };
   myMenu_->closed = [this] { endProgram(); };
 

@@ -1,20 +1,8 @@
 #include "settings/KeyFunctions.h"
 
-#include <utility>
+#include <QStringList>
 
-namespace {
-
-/// All functions with their keys, those too that cannot be chosen. mF7 does nothing.
-std::vector<std::pair<int, QString>> uses(const KeyBoard& keys) {
-  std::vector<std::pair<int, QString>> all;
-  for (const KeyFunction& function : keyFunctions())
-    all.emplace_back(keys.*function.field, function.name());
-  all.emplace_back(keys.mF3, KeyFunction::tr("增加会员"));
-  all.emplace_back(keys.mF8, KeyFunction::tr("销售查询"));
-  return all;
-}
-
-}  // namespace
+#include "platform/KeyName.h"
 
 QString KeyFunction::label() const {
   return tr("%1(%2)：", "caption of a key's box: its name and its access key").arg(name(), access);
@@ -64,16 +52,36 @@ const std::array<KeyFunction, 15>& keyFunctions() {
   return all;
 }
 
+std::vector<KeyUse> keyUses() {
+  std::vector<KeyUse> all;
+  for (const KeyFunction& function : keyFunctions())
+    all.push_back({function.field, function.name(), function.onSaleScreen()});
+  const QString member = KeyFunction::tr("增加会员"), query = KeyFunction::tr("销售查询");
+  all.push_back({&KeyBoard::mF3, member, member});
+  all.push_back({&KeyBoard::mF8, query, query});
+  return all;
+}
+
 std::map<int, std::vector<QString>> sharedKeys(const KeyBoard& keys) {
   std::map<int, std::vector<QString>> byKey;
-  for (const auto& [code, name] : uses(keys))
-    if (code != 0) byKey[code].push_back(name);
+  for (const KeyUse& use : keyUses())
+    if (keys.*use.field != 0) byKey[keys.*use.field].push_back(use.name);
   std::erase_if(byKey, [](const auto& entry) { return entry.second.size() < 2; });
   return byKey;
 }
 
+QString sharedKeysText(const KeyBoard& keys) {
+  QStringList texts;
+  for (const auto& [code, names] : sharedKeys(keys))
+    texts += KeyFunction::tr("%1：%2", "a key: its functions")
+                 .arg(keyText(code),
+                      QStringList(names.begin(), names.end()).join(KeyFunction::tr("、")));
+  if (texts.isEmpty()) return {};
+  return KeyFunction::tr("一键多用　%1").arg(texts.join(KeyFunction::tr("；")));
+}
+
 std::vector<int> functionKeys(const KeyBoard& keys) {
   std::vector<int> codes;
-  for (const auto& [code, name] : uses(keys)) codes.push_back(code);
+  for (const KeyUse& use : keyUses()) codes.push_back(keys.*use.field);
   return codes;
 }

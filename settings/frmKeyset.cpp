@@ -171,11 +171,7 @@ void frmKeyset::showSharedKeys() {
   const auto shared = sharedKeys(keys);
   for (std::size_t i = 0; i < boxes_.size(); ++i)
     boxes_[i]->setShared(shared.contains(keys.*keyFunctions()[i].field));
-  QStringList texts;
-  for (const auto& [code, names] : shared)
-    texts +=
-        tr("%1：%2").arg(keyText(code), QStringList(names.begin(), names.end()).join(tr("、")));
-  lblShared_->setText(texts.isEmpty() ? QString() : tr("一键多用　%1").arg(texts.join(tr("；"))));
+  lblShared_->setText(sharedKeysText(keys));
   quickKeys_->setFunctionKeys(functionKeys(keys));
   markShared(*lblNote_, quickKeys_->usesFunctionKey());
 }

@@ -61,27 +61,32 @@ frmMain::~frmMain() = default;
 void frmMain::fillMenus() {
   theMenu_->setWindowModality(Qt::WindowModal);
   theMenu_->setAlignment(frmMenu::kCentre);
-  addScreens(*theMenu_, {{tr("前 台 销 售"), "sell"},
-                         {tr("销 售 统 计"), "count"},
-                         {tr("收 银 设 置"), "posset"},
-                         {tr("修 改 密 码"), "editpwd"},
-                         {tr("退 出 系 统"), kEnd}});
+  addScreens(*theMenu_, mainEntries());
   theMenu_->MenuClick = [this](const MenuItem& Menu) { theMenu_MenuClick(Menu); };
   theMenu_->closed = [this] { close(); };
   theMenu_->furtherMenu = [this] { showFurtherMenu(); };
 
   furtherMenu_->setWindowTitle(tr("更多功能"));
   furtherMenu_->setAlignment(frmMenu::kCentre);
-  addScreens(*furtherMenu_, {{tr("销 售 查 询"), "search"},
-                             {tr("经 营 报 表"), "report"},
-                             {tr("退    货"), "unsell"},
-                             {tr("增 加 会 员"), "addmen"},
-                             {tr("导 入 商 品"), "goodsin"},
-                             {tr("键 盘 设 置"), "keyset"},
-                             {tr("更 换 操 作 员"), kExit}});
+  addScreens(*furtherMenu_, furtherEntries());
 }
 
-void frmMain::addScreens(frmMenu& menu, const std::vector<std::pair<QString, QString>>& entries) {
+frmMain::Entries frmMain::mainEntries() {
+  return {{tr("前 台 销 售"), "sell"},
+          {tr("销 售 统 计"), "count"},
+          {tr("收 银 设 置"), "posset"},
+          {tr("修 改 密 码"), "editpwd"},
+          {tr("退 出 系 统"), kEnd}};
+}
+
+frmMain::Entries frmMain::furtherEntries() {
+  return {{tr("销 售 查 询"), "search"},  {tr("经 营 报 表"), "report"},
+          {tr("退    货"), "unsell"},     {tr("增 加 会 员"), "addmen"},
+          {tr("导 入 商 品"), "goodsin"}, {tr("键 盘 设 置"), "keyset"},
+          {tr("更 换 操 作 员"), kExit},  {tr("帮    助"), "help"}};
+}
+
+void frmMain::addScreens(frmMenu& menu, const Entries& entries) {
   for (const auto& [caption, key] : entries) {
     const bool own = key == kExit || key == kEnd;
     if (own || screens_.contains(key)) menu.AddMenu(caption, key);

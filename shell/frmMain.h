@@ -30,9 +30,14 @@ class frmMain : public QWidget {
     Opener open;
   };
   /// By menu key: "sell", "count", "search", "posset", "keyset", "addmen", "editpwd", "unsell",
-  /// "goodsin", "report". A menu entry whose screen is not in the table is not shown.
+  /// "goodsin", "report", "help". A menu entry whose screen is not in the table is not shown.
   frmMain(posMod& pos, std::map<QString, Screen> screens, QWidget* parent = nullptr);
   ~frmMain() override;
+
+  /// The entries of the main menu and of the further one, in their order: caption and key.
+  using Entries = std::vector<std::pair<QString, QString>>;
+  static Entries mainEntries();
+  static Entries furtherEntries();
 
   /// Dispatches a menu entry by its Key; an unknown key does nothing.
   void theMenu_MenuClick(const MenuItem& Menu);
@@ -45,7 +50,7 @@ class frmMain : public QWidget {
 
  private:
   void fillMenus();
-  void addScreens(frmMenu& menu, const std::vector<std::pair<QString, QString>>& entries);
+  void addScreens(frmMenu& menu, const Entries& entries);
   void queueMenu();
   void showMenu();
   void showFurtherMenu();

@@ -16,6 +16,7 @@
 #include "sale/frmSell.h"
 #include "saleslib/ClsRights.h"
 #include "settings/frmColor.h"
+#include "settings/frmHelp.h"
 #include "settings/frmKeyset.h"
 #include "settings/frmPosSet.h"
 #include "shell/ControlKeys.h"
@@ -67,14 +68,16 @@ std::map<QString, frmMain::Screen> Till::fixedScreens() {
           {"addmen", {true, [this] { show<frmFMember>(); }}},
           {"editpwd", {false, [this] { show<frmEditPwd>(); }}},
           {"posset", {true, [this] { show<frmPosSet>(); }}},
-          {"keyset", {true, [this] { show<frmKeyset>(); }}}};
+          {"keyset", {true, [this] { show<frmKeyset>(); }}},
+          {"help", {false, [this] { help(); }}}};
 }
 
 SaleSession::Openers Till::saleScreens() {
   return {{"addmen", [this] { show<frmFMember>(); }},
           {"topup", [this] { show<cardStored>(); }},
           {"search", [this] { show<frmSearch>(); }},
-          {"color", [this] { show<frmColor>(); }}};
+          {"color", [this] { show<frmColor>(); }},
+          {"help", [this] { help(); }}};
 }
 
 void Till::takeBack() {
@@ -85,6 +88,10 @@ void Till::reportTakings() {
   if (pos_.gOperator->Rights().HasRight(kRightReport)) return show<frmReport>();
   messageBox(QApplication::activeWindow(),
              QCoreApplication::translate("Till", "您没有看经营报表的权限！"));
+}
+
+void Till::help() {
+  frmHelp(pos_.gKeyBoard, QApplication::activeWindow()).exec();
 }
 
 template <class Form>

@@ -1,8 +1,12 @@
+#include <gmock/gmock.h>
+
 #include <QAbstractItemView>
 
 #include "Hands.h"
 #include "SettingsTill.h"
 #include "settings/KeyBox.h"
+#include "settings/KeyTable.h"
+#include "settings/frmHelp.h"
 #include "settings/frmKeyset.h"
 
 class frmKeysetTest : public testing::Test {
@@ -131,4 +135,23 @@ TEST_F(frmKeysetTest, APastedTextIsNoKeyAndLeavingKeepsEverything) {
   EXPECT_FALSE(dialog_->isVisible());
   EXPECT_EQ(till_.pos.gKeyBoard.mF5, 116);
   EXPECT_EQ(till_.fileText(), before);
+}
+
+TEST(KeyTable, SaysWhatTheKeysDoAsTheyAreMapped) {
+  KeyBoard keys;
+  keys.mF2 = 'Q';
+  keys.mF4 = 0;
+  keys.mEsc = 'W';
+  keys.QK = {{'Q', "1"}, {65, ""}, {65, "1001"}, {65, "1002"}, {0, "2"}};  // one of them rings
+  std::string said;
+  for (const KeyGroup& group : keyTable(keys))
+    for (const auto& [key, does] : group.rows) said += (key + "=" + does + " ").toStdString();
+  EXPECT_THAT(said, testing::HasSubstr("F1=结账 Q=刷会员卡 F3=增加会员 –=删除最后一行 F5=挂单 "));
+  EXPECT_THAT(said, testing::EndsWith("F10=主菜单的更多功能 A=录入商品 1001 "));
+  frmHelp help(keys);
+  help.open();
+  Hands::typeNow("⎋↓");
+  EXPECT_TRUE(help.isVisible());
+  Hands::typeNow("w");
+  EXPECT_FALSE(help.isVisible()) << "left by the mapped Esc";
 }
