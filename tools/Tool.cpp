@@ -19,6 +19,7 @@
 #include "tools/ParamCommand.h"
 #include "tools/ParserTexts.h"
 #include "tools/RestoreCommand.h"
+#include "tools/SetupCommand.h"
 
 namespace {
 
@@ -52,6 +53,7 @@ int runTool(int count, const char* const* arguments, Console& console) {
   app.set_version_flag("--version", std::string(tillVersion()), "显示版本");
   app.require_subcommand(1);
   int exitCode = kDone;
+  addSetupCommand(app, console);
   addCreateCommand(app, console);
   addOperatorCommand(app, console);
   addParamCommand(app, console);
