@@ -122,10 +122,10 @@ std::vector<ClsSysParam::Parameter> ClsSysParam::list() const {
 
 std::string ClsSysParam::set(std::string_view name, std::string_view value) {
   ensure(connection_ != nullptr, "ClsSysParam is bound before it is used");
+  std::string refused = refusal(name, value);
+  if (!refused.empty()) return refused;
   const Definition* definition = find(name);
-  if (definition == nullptr) return "没有这个参数：" + std::string(name);
   const std::optional<std::string> kept = definition->kind->read(value);
-  if (!kept) return std::string(definition->name) + " " + definition->kind->refusal + "！";
   Transaction transaction(*connection_);
   const std::int64_t known =
       connection_->run("update sys_param set value = ? where name = ?", *kept, definition->name);
@@ -134,6 +134,13 @@ std::string ClsSysParam::set(std::string_view name, std::string_view value) {
   transaction.commit();
   values_[definition->name] = *kept;
   return {};
+}
+
+std::string ClsSysParam::refusal(std::string_view name, std::string_view value) {
+  const Definition* definition = find(name);
+  if (definition == nullptr) return "没有这个参数：" + std::string(name);
+  if (definition->kind->read(value)) return {};
+  return std::string(definition->name) + " " + definition->kind->refusal + "！";
 }
 
 std::string ClsSysParam::value(std::string_view name) const {

@@ -56,6 +56,8 @@ class TESSALY_API ClsSysParam {
   /// 是 or 否; a rate is more than 0 and at most 1; a text is one line of at most 200 characters.
   /// Returns an empty text, or the reason why not (unknown name, wrong kind). Throws StoreError.
   [[nodiscard]] std::string set(std::string_view name, std::string_view value);
+  /// What set would answer, without storing anything.
+  [[nodiscard]] static std::string refusal(std::string_view name, std::string_view value);
 
  private:
   Connection* connection_ = nullptr;

@@ -23,11 +23,16 @@ const std::vector<std::string>& operatorRights() {
   return rights;
 }
 
+std::string refusalOfName(const std::string& name) {
+  const std::string shown = trimmed(name);
+  if (!shown.empty() && characters(shown) <= kLongestName) return {};
+  return "操作员的姓名不能空着，也不能超过 255 个字。";
+}
+
 void addOperator(Connection& connection, const NewOperator& wanted) {
+  const std::string refusal = refusalOfName(wanted.name);
+  if (!refusal.empty()) throw Refusal(refusal);
   const std::string name = trimmed(wanted.name);
-  if (name.empty() || characters(name) > kLongestName) {
-    throw Refusal("操作员的姓名不能空着，也不能超过 255 个字。");
-  }
   Transaction transaction(connection);
   ClsOperator person;
   person.Init(connection, wanted.number);

@@ -19,6 +19,9 @@ struct NewOperator {
 /// The rights that the till asks for.
 const std::vector<std::string>& operatorRights();
 
+/// An empty text, or why nobody can have that name.
+[[nodiscard]] std::string refusalOfName(const std::string& name);
+
 /// Stores the operator with the rights, in one transaction; the code on receipts is the number.
 /// Throws Refusal when the number is taken or the name is empty or longer than 255 characters.
 void addOperator(Connection& connection, const NewOperator& wanted);

@@ -41,6 +41,14 @@ void requireFreePlace(const std::filesystem::path& path) {
   }
 }
 
+std::unique_ptr<Connection> namelessDataFile(const DataSource& target) {
+  WholeFile place(target.path);
+  auto building = std::make_unique<Connection>(DataSource{place.path(), target.password},
+                                               Connection::Mode::kNameless);
+  upgradeSchema(*building, true);
+  return building;
+}
+
 }  // namespace
 
 std::unique_ptr<Connection> openDataFile(const DataSource& source) {
@@ -70,17 +78,19 @@ std::vector<std::filesystem::path> protectDataFile(const std::filesystem::path& 
   return exposed;
 }
 
+std::unique_ptr<Connection> scratchDataFile(const std::filesystem::path& folder) {
+  return namelessDataFile({folder / "scratch", ""});
+}
+
 std::unique_ptr<Connection> createDataFile(const DataSource& source,
                                            const std::function<void(Connection&)>& fill) {
   const DataSource target{findIgnoringCase(source.path.string()), source.password};
   requireFreePlace(target.path);
   WholeFile made(target.path);
   {
-    WholeFile place(target.path);
-    Connection building({place.path(), source.password}, Connection::Mode::kNameless);
-    upgradeSchema(building, true);
-    fill(building);
-    FileReading(building).appendTo(made);
+    const std::unique_ptr<Connection> building = namelessDataFile(target);
+    fill(*building);
+    FileReading(*building).appendTo(made);
   }
   if (!made.finishAsNew()) requireFreePlace(target.path);
   return openDataFile(target);

@@ -21,6 +21,7 @@
 #include "tools/ParserTexts.h"
 #include "tools/ReportCommand.h"
 #include "tools/RestoreCommand.h"
+#include "tools/SetupCommand.h"
 
 namespace {
 
@@ -55,6 +56,7 @@ int runTool(int count, const char* const* arguments, Console& console) {
   app.set_version_flag("--version", std::string(tillVersion()), "显示版本");
   app.require_subcommand(1);
   int exitCode = kDone;
+  addSetupCommand(app, console);
   addCreateCommand(app, console);
   addOperatorCommand(app, console);
   addParamCommand(app, console);
