@@ -40,6 +40,11 @@ bool giveName(int file, const char* name) {
 WholeFile::WholeFile(std::filesystem::path target)
     : target_(std::move(target)),
       folder_(target_.has_parent_path() ? target_.parent_path() : std::filesystem::path(".")) {
+  std::error_code unknown;
+  const std::filesystem::file_type there = std::filesystem::status(target_, unknown).type();
+  // Its name would be taken from a device, which others need.
+  if (there != std::filesystem::file_type::regular && std::filesystem::exists(target_, unknown))
+    fail("那里不是普通文件。");
   file_ = open(folder_.c_str(), O_TMPFILE | O_RDWR | O_CLOEXEC, 0600);
   const bool isUnknownHere = errno == EOPNOTSUPP || errno == EISDIR || errno == EINVAL;
   if (file_ < 0 && !isUnknownHere) failWith(errno);

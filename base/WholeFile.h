@@ -10,7 +10,8 @@
 /// by its owner only, or in a shared folder by its group too (base/PrivateFile.h). Until then it
 /// has no name at all, so that not even a kill leaves anything behind, or one of its own in the
 /// same folder: once path() was asked for, or on a file system that knows no files without a name.
-/// What is not finished goes with this object. All of it throws FileError.
+/// What is not finished goes with this object. It takes the place of a regular file only. All of it
+/// throws FileError.
 class WholeFile {
  public:
   explicit WholeFile(std::filesystem::path target);

@@ -80,7 +80,7 @@ std::optional<Value> valueOf(Empty empty) {
     case Empty::kMustBeFilledIn:
       return std::nullopt;
     case Empty::kNothing:
-      return Value();
+      return std::optional<Value>(std::in_place);
     case Empty::kZero:
       return toValue(0);
     case Empty::kOne:
