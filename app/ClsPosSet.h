@@ -22,6 +22,8 @@ class ClsPosSet {
   int C5 = 0;               ///< title text
   int C6 = 0;               ///< second line text
 
+  bool operator==(const ClsPosSet&) const = default;
+
   /// Reads all fourteen. An absent key has its default; a key with an empty value leaves "" or 0;
   /// one that should be a number and is none keeps its default.
   void LoadSet(const IniFile& file);

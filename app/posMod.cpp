@@ -58,6 +58,12 @@ std::string posMod::OpenDataStore() {
   }
 }
 
+bool posMod::lacksDataFile() const {
+  std::error_code fault;
+  const auto status = std::filesystem::status(dataSource().path, fault);
+  return status.type() == std::filesystem::file_type::not_found;
+}
+
 std::string posMod::missingOperator() const {
   Rows rows = gConn->query(
       "select 1 from operator_rights join operators on id = operator_id where right_key = ?",

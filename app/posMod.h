@@ -55,6 +55,10 @@ class posMod {
   /// folder/data/POS.mdb with the built-in password. An empty text, or why it could not, for a
   /// message box: where there is no file, with the command that makes one.
   [[nodiscard]] std::string OpenDataStore();
+  /// Where the data file is, or would be (see OpenDataStore). Throws Failure.
+  DataSource dataSource() const;
+  /// Whether there is no data file, so that one may be made.
+  [[nodiscard]] bool lacksDataFile() const;
   /// What the owner has to do before anybody can sell: an empty text, or that there is no operator
   /// who may, for a message. Needs the data file open. Throws StoreError.
   [[nodiscard]] std::string missingOperator() const;
@@ -85,6 +89,5 @@ class posMod {
 
  private:
   void startBackups();
-  DataSource dataSource() const;
   std::filesystem::path backupPath() const;
 };

@@ -187,6 +187,16 @@ void printOnDefaultPrinter(const Job& job) {
 
 }  // namespace
 
+void paintOnRoll(QPainter& painter, const PageDocument& document, PageRoll roll) {
+  const double margin = twipsOf(kMarginMm);
+  const double lineTwips = twipsOf(roll.widthMm) - 2 * margin;
+  painter.translate(margin, margin);
+  painter.setFont(fixedPitchFont({document, roll}, lineTwips));
+  std::vector<const PlacedText*> texts;
+  for (const PlacedText& text : document.texts) texts.push_back(&text);
+  drawTexts(painter, texts, lineTwips);
+}
+
 PagePrinter::PagePrinter(PageRoll roll, std::filesystem::path pdfFolder, Clock clock)
     : roll_(roll), pdfFolder_(std::move(pdfFolder)), clock_(std::move(clock)) {}
 

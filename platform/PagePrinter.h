@@ -11,6 +11,12 @@ struct PageRoll {
   int columns = 0;
 };
 
+class QPainter;
+
+/// Draws a document as it is printed on that roll, without page breaks; the painter's unit is the
+/// twip, its origin the paper's top left corner.
+void paintOnRoll(QPainter& painter, const PageDocument& document, PageRoll roll);
+
 /// The system's default printer, or a folder that gets one PDF per job.
 class PagePrinter {
  public:

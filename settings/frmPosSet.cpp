@@ -1,98 +1,13 @@
 #include "settings/frmPosSet.h"
 
 #include <QComboBox>
-#include <QGridLayout>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
 #include <QVBoxLayout>
-#include <variant>
 
 #include "app/posMod.h"
-#include "platform/QtText.h"
-#include "settings/DeviceTest.h"
-#include "shell/Modal.h"
-
-using Text = std::string ClsPosSet::*;
-using Number = int ClsPosSet::*;
-
-struct frmPosSet::Choice {
-  const char* caption;
-  const char* list;
-  std::vector<const char*> entries;  ///< as they are stored; shown in the screen's language
-  const char* hint;
-  std::variant<Text, Number> setting;  ///< the entry's text, or its position
-  int firstPosition = 0;               ///< what the first entry's position is stored as
-};
-
-namespace {
-
-/// Stored as an empty text.
-constexpr const char* kNone = QT_TRANSLATE_NOOP("frmPosSet", "无");
-
-void showText(QComboBox& list, const std::string& setting) {
-  const QString text = qtText(setting);
-  if (!text.isEmpty() && list.findData(text) < 0) list.addItem(text, text);
-  list.setCurrentIndex(text.isEmpty() ? 0 : list.findData(text));
-}
-
-std::string chosenText(const QComboBox& list) {
-  const QString entry = list.currentData().toString();
-  return entry == kNone ? std::string() : entry.toStdString();
-}
-
-}  // namespace
-
-const std::vector<frmPosSet::Choice>& frmPosSet::choices() {
-  static const std::vector<Choice> all = {
-      {QT_TR_NOOP("小票打印机所在端口："),
-       "cobPPort",
-       {kNone, "LPT1", "LPT2", "USB"},
-       QT_TR_NOOP("“无”表示不印小票"),
-       &ClsPosSet::PPort},
-      {QT_TR_NOOP("小票打印机类型："),
-       "cobPModel",
-       {QT_TR_NOOP("宽行"), QT_TR_NOOP("窄行")},
-       "",
-       &ClsPosSet::PModel,
-       1},
-      {QT_TR_NOOP("小票打印动作："),
-       "printAmount",
-       {QT_TR_NOOP("不打印"), QT_TR_NOOP("直接打印1联"), QT_TR_NOOP("直接打印2联"),
-        QT_TR_NOOP("直接打印3联"), QT_TR_NOOP("打印前提示默认'是'"),
-        QT_TR_NOOP("打印前提示默认'否'")},
-       "",
-       &ClsPosSet::printAmount},
-      {QT_TR_NOOP("小票打印选项："),
-       "printOption",
-       {QT_TR_NOOP("打印商品前7个字简称"), QT_TR_NOOP("打印编码+商品全称"),
-        QT_TR_NOOP("打印商品全称"), QT_TR_NOOP("打印商品全称+折扣")},
-       "",
-       &ClsPosSet::printOption},
-      {QT_TR_NOOP("钱箱所在端口："),
-       "cobMBPort",
-       {kNone, "LPT1", "LPT2", "COM1", "COM2"},
-       QT_TR_NOOP("“无”表示不使用钱箱"),
-       &ClsPosSet::MBPort},
-      {QT_TR_NOOP("客显所在端口："),
-       "cobCVPort",
-       {kNone, "COM1", "COM2"},
-       QT_TR_NOOP("“无”表示不使用客显"),
-       &ClsPosSet::CVProt},
-      {QT_TR_NOOP("客显型号："),
-       "cobCVModel",
-       {QT_TR_NOOP("中崎ZQ-8DL"), QT_TR_NOOP("川田PDLED8C")},
-       "",
-       &ClsPosSet::CVModel,
-       1},
-      {QT_TR_NOOP("是否启用鼠标："),
-       "cobVMouse",
-       {QT_TR_NOOP("否"), QT_TR_NOOP("是")},
-       "",
-       &ClsPosSet::VMouse},
-  };
-  return all;
-}
+#include "settings/PosSetLists.h"
 
 frmPosSet::frmPosSet(posMod& pos, QWidget* parent)
     : KeyDrivenDialog(pos.gKeyBoard, EnterKey::kMapped, parent), pos_(pos) {
@@ -100,10 +15,7 @@ frmPosSet::frmPosSet(posMod& pos, QWidget* parent)
   setWindowTitle(tr("收银设置"));
   auto* heading = new QLabel(tr("POS机 设 置"));
   heading->setObjectName("Label1");
-  auto* grid = new QGridLayout;
-  grid->setHorizontalSpacing(16);
-  grid->setVerticalSpacing(10);
-  for (const Choice& choice : choices()) addRow(*grid, choice);
+  lists_ = new PosSetLists(pos.gPosSet);
   auto* hint = new QLabel(tr("* 按向上下光标键行行选择"));
   hint->setObjectName("lblHint");
 
@@ -112,31 +24,14 @@ frmPosSet::frmPosSet(posMod& pos, QWidget* parent)
   layout->setSpacing(16);
   layout->setSizeConstraint(QLayout::SetFixedSize);
   layout->addWidget(heading, 0, Qt::AlignHCenter);
-  layout->addLayout(grid);
+  layout->addWidget(lists_);
   layout->addWidget(hint);
   layout->addWidget(buttons());
 
-  std::vector<QWidget*> controls(lists_.begin(), lists_.end());
+  std::vector<QWidget*> controls(lists_->lists().begin(), lists_->lists().end());
   for (const char* name : {"cmdTest", "cmdOk", "cmdCancel"})
     controls.push_back(findChild<QWidget*>(name));
   walkThrough(controls);
-}
-
-void frmPosSet::addRow(QGridLayout& grid, const Choice& choice) {
-  auto* list = new QComboBox;
-  list->setObjectName(choice.list);
-  for (const char* entry : choice.entries) list->addItem(tr(entry), entry);
-  if (const Text* text = std::get_if<Text>(&choice.setting)) {
-    showText(*list, pos_.gPosSet.**text);
-  } else {
-    const int position = pos_.gPosSet.*std::get<Number>(choice.setting) - choice.firstPosition;
-    list->setCurrentIndex(position < list->count() ? position : -1);
-  }
-  const int row = static_cast<int>(lists_.size());
-  grid.addWidget(new QLabel(tr(choice.caption)), row, 0, Qt::AlignRight | Qt::AlignVCenter);
-  grid.addWidget(list, row, 1);
-  grid.addWidget(new QLabel(tr(choice.hint)), row, 2);
-  lists_.push_back(list);
 }
 
 QWidget* frmPosSet::buttons() {
@@ -150,42 +45,16 @@ QWidget* frmPosSet::buttons() {
   auto* row = new QHBoxLayout(area);
   row->setContentsMargins(0, 0, 0, 0);
   row->setSpacing(16);
-  row->addWidget(button("cmdTest", tr("测试(&T)"), &frmPosSet::test));
+  row->addWidget(
+      button("cmdTest", tr("测试(&T)"), [this] { lists_->test(*pos_.ports, pos_.clock); }));
   row->addStretch();
   row->addWidget(button("cmdOk", tr("确定(&O)"), &frmPosSet::save));
   row->addWidget(button("cmdCancel", tr("取消(&E)"), &frmPosSet::reject));
   return area;
 }
 
-ClsPosSet frmPosSet::chosen() const {
-  ClsPosSet settings = pos_.gPosSet;
-  for (std::size_t i = 0; i < lists_.size(); ++i) {
-    const QComboBox& list = *lists_[i];
-    const Choice& choice = choices()[i];
-    if (const Text* text = std::get_if<Text>(&choice.setting)) {
-      settings.** text = chosenText(list);
-    } else if (list.currentIndex() >= 0) {
-      settings.*std::get<Number>(choice.setting) = list.currentIndex() + choice.firstPosition;
-    }
-  }
-  return settings;
-}
-
-void frmPosSet::test() {
-  const ClsPosSet settings = chosen();
-  DeviceTest devices(*pos_.ports, settings, pos_.clock);
-  QStringList lines;
-  bool failed = false;
-  for (const DeviceTest::Result& result : devices.run()) {
-    lines += tr("%1：%2").arg(result.device, result.text);
-    failed = failed || result.failed;
-  }
-  messageBox(this, lines.join("\n"), tr("测试"),
-             failed ? BoxIcon::kExclamation : BoxIcon::kInformation);
-}
-
 void frmPosSet::save() {
-  pos_.gPosSet = chosen();
+  pos_.gPosSet = lists_->chosen();
   pos_.gPosSet.SaveSet(pos_.configIni);
   pos_.ShowMouse(pos_.gPosSet.VMouse != 0);
   accept();

@@ -25,11 +25,6 @@ double linear(double channel) {
   return channel <= 0.04045 ? channel / 12.92 : std::pow((channel + 0.055) / 1.055, 2.4);
 }
 
-double luminance(const QColor& colour) {
-  return 0.2126 * linear(colour.redF()) + 0.7152 * linear(colour.greenF()) +
-         0.0722 * linear(colour.blueF());
-}
-
 }  // namespace
 
 void applyStyle(QApplication& application) {
@@ -44,6 +39,11 @@ void applyStyle(QApplication& application) {
 
 QColor settingColour(int bgr) {
   return QColor(bgr & 0xff, bgr >> 8 & 0xff, bgr >> 16 & 0xff);
+}
+
+double luminance(const QColor& colour) {
+  return 0.2126 * linear(colour.redF()) + 0.7152 * linear(colour.greenF()) +
+         0.0722 * linear(colour.blueF());
 }
 
 // The luminance at which the contrast ratios against black and against white are equal (WCAG 2).

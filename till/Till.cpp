@@ -19,6 +19,7 @@
 #include "settings/frmHelp.h"
 #include "settings/frmKeyset.h"
 #include "settings/frmPosSet.h"
+#include "setup/frmSetup.h"
 #include "shell/ControlKeys.h"
 #include "shell/Modal.h"
 #include "shell/frmEditPwd.h"
@@ -32,7 +33,7 @@ bool Till::Main() {
   const std::string refusal = pos_.OpenDataStore();
   if (!refusal.empty()) {
     messageBox(nullptr, qtText(refusal));
-    return false;
+    if (!firstStart()) return false;
   }
   const std::string exposed = pos_.protectFiles();
   if (!exposed.empty()) messageBox(nullptr, qtText(exposed), {}, BoxIcon::kExclamation);
@@ -51,6 +52,18 @@ bool Till::Main() {
   frmMain_->showMaximized();
   frmMain_->activateWindow();
   return true;
+}
+
+bool Till::firstStart() {
+  if (!pos_.lacksDataFile()) return false;
+  if (!askYesNo(nullptr, tr("要现在开店吗？"), {}, true)) return false;
+  KeyBoard keys;
+  keys.LoadSet(pos_.configIni);
+  const ControlKeys controlKeys(qApp, keys);
+  if (frmSetup(pos_, keys).exec() != QDialog::Accepted) return false;
+  const std::string refusal = pos_.OpenDataStore();
+  if (!refusal.empty()) messageBox(nullptr, qtText(refusal));
+  return refusal.empty();
 }
 
 std::map<QString, frmMain::Screen> Till::screens() {

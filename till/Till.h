@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QCoreApplication>
 #include <QString>
 #include <filesystem>
 #include <map>
@@ -17,16 +18,21 @@ class frmSell;
 /// The whole program: the process-wide objects, the main window, and the table that says which
 /// screen each menu entry opens.
 class Till {
+  Q_DECLARE_TR_FUNCTIONS(Till)
+
  public:
   /// `folder` is the shop's (app/ShopFolder.h).
   explicit Till(std::filesystem::path folder);
   ~Till();
 
-  /// Opens the data file, starts the services and shows the main window. False when the data file
-  /// could not be opened; the message has been shown then. Throws Failure.
+  /// Opens the data file, starts the services and shows the main window. Where there is no data
+  /// file, a shop can be made first. False when none could be opened; the message has been shown
+  /// then. Throws Failure.
   [[nodiscard]] bool Main();
 
  private:
+  /// Makes a shop where there is no data file, if it is wanted, and opens it. False when none was.
+  bool firstStart();
   /// The screens of the main window's menus, and those that the sale screen opens.
   std::map<QString, frmMain::Screen> screens();
   /// Those that need no shop parameter.
