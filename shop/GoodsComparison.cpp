@@ -122,7 +122,7 @@ void GoodsComparison::count(const Outcome& outcome, std::int64_t line,
       barcode_,
       known(GoodsField::kName),
       outcome.oldPrice,
-      priceText(article_[indexOf(GoodsField::kPrice)].value_or(Value())),
+      priceText(article_[indexOf(GoodsField::kPrice)].value_or(std::monostate{})),
       outcome.isNew ? std::vector<std::string>() : outcome.otherFields};
   if (outcome.isNew) {
     list(preview.added, preview.addedCount, GoodsPreview::kMostListed, article);
@@ -257,7 +257,7 @@ void GoodsComparison::compareCase(const GoodsRow& row, Outcome& outcome) {
   TableRow after = before.value_or(TableRow());
   if (!before) {
     for (const Column& column : barcodes_.columns)
-      after.push_back(column.fallback.value_or(Value()));
+      after.push_back(column.fallback.value_or(std::monostate{}));
   }
   const auto set = [&](const char* column, const Value& value, GoodsField field) {
     Value& place = after[*barcodes_.indexOf(column)];

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <utility>
 #include <vector>
 
 #include "base/Text.h"
@@ -93,6 +94,7 @@ std::optional<Value> valueOf(Empty empty) {
 
 std::vector<Column> allColumns() {
   std::vector<Column> columns;
+  columns.reserve(kDefinitions.size());
   for (const Definition& definition : kDefinitions) {
     columns.push_back({definition.heading, definition.kind, valueOf(definition.empty), ""});
   }
