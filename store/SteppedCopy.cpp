@@ -75,7 +75,7 @@ bool SteppedCopy::copyPages(Connection& original, WholeFile& copy) const {
     copy.flush();
     if (stop_()) return false;
   }
-  static_cast<void>(backup.release());
+  backup.reset();
   check(to, code);
   return true;
 }
