@@ -79,9 +79,8 @@ void StagedTable::updateKnown(const Slice& slice) {
   }
 }
 
-// "or fail": see RowWriter.
 std::string StagedTable::insertText(const Slice& slice) const {
-  std::string text = "insert or fail into ";
+  std::string text = kInsertWithoutCopies;
   text.append(table_.name).append(" (").append(columns_).append(") select ").append(columns_);
   return text.append(waitingIn(slice, "not exists")).append(" order by ").append(keys_);
 }

@@ -25,7 +25,7 @@ RowWriter::RowWriter(Connection& connection, const std::string& table, const Nam
     names += (names.empty() ? "" : ", ") + column;
     marks += marks.empty() ? "?" : ", ?";
   }
-  insertText_ = "insert or fail into " + table + " (" + names + ") values (" + marks + ")";
+  insertText_ = kInsertWithoutCopies + table + " (" + names + ") values (" + marks + ")";
 }
 
 bool RowWriter::update(std::vector<Value> values) {

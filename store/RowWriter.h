@@ -7,6 +7,12 @@
 
 class Connection;
 
+/// How an insert of many rows begins that, as those of RowWriter, keeps no copy of the pages of a
+/// row.
+inline constexpr const char* kInsertWithoutCopies = "insert or fail into ";
+/// How one begins that passes over a row whose key the table has.
+inline constexpr const char* kInsertUnlessThere = "insert or ignore into ";
+
 /// Writes many rows into one table, inside a transaction that its caller takes back as a whole when
 /// one of them fails: the engine then keeps no copy of every page that a row touches to take back
 /// that row alone, which costs ten times the row. Each kind of statement is prepared once.

@@ -6,6 +6,7 @@
 #include "shop/Refusal.h"
 #include "store/Connection.h"
 #include "store/FragmentIndex.h"
+#include "store/RowWriter.h"
 #include "store/Transaction.h"
 #include "tools/AccessValues.h"
 #include "tools/TakeOverSums.h"
@@ -26,8 +27,7 @@ std::string insertTextOf(const TargetTable& target) {
     names += ", complete";
     marks += ", 1";
   }
-  return "insert or ignore into " + std::string(target.name) + " (" + names + ") values (" + marks +
-         ")";
+  return kInsertUnlessThere + std::string(target.name) + " (" + names + ") values (" + marks + ")";
 }
 
 std::int64_t wholeIn(const Value& value) {
