@@ -74,7 +74,8 @@ void StagedTable::updateKnown(const Slice& slice) {
     for (const Column& column : table_.columns) {
       row.push_back(waiting.isNull(column.name) ? Value() : toValue(waiting.text(column.name)));
     }
-    std::ranges::rotate(row, row.begin() + static_cast<std::ptrdiff_t>(table_.keyColumns));
+    std::rotate(row.begin(), row.begin() + static_cast<std::ptrdiff_t>(table_.keyColumns),
+                row.end());
     static_cast<void>(toTable_.update(std::move(row)));
   }
 }
