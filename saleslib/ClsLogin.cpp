@@ -5,6 +5,7 @@
 #include <optional>
 
 #include "base/Failure.h"
+#include "base/Words.h"
 #include "saleslib/ClsOperator.h"
 #include "saleslib/PasswordHash.h"
 #include "store/Connection.h"
@@ -39,7 +40,7 @@ bool ClsLogin::Check(std::string_view number, std::string_view password) {
   const std::optional<std::string> hash = id ? storedHash(*connection_, *id) : std::nullopt;
   const bool matches = passwordMatches(hash.value_or(nobodysHash()), password);
   if (!hash || !matches) {
-    errText_ = "用户编号或密码不正确！";
+    errText_ = Words::tr("用户编号或密码不正确！");
     return false;
   }
   operator_ = std::make_shared<ClsOperator>();

@@ -1,6 +1,7 @@
 #include "saleslib/ClsOperator.h"
 
 #include "base/Failure.h"
+#include "base/Words.h"
 #include "saleslib/PasswordHash.h"
 #include "store/Connection.h"
 #include "store/StoreError.h"
@@ -55,7 +56,7 @@ void ClsOperator::update() {
       "update operators set name = ?, code = ?, online = ?, password = coalesce(?, password)"
       " where id = ?",
       name_, code_, online_, newPasswordHash_, id_);
-  if (changed == 0) throw StoreError("操作员 " + std::to_string(id_) + " 已被删除，没有保存！");
+  if (changed == 0) throw StoreError(Words::tr("操作员 %1 已被删除，没有保存！", id_));
 }
 
 void ClsOperator::storeRights() {

@@ -4,12 +4,13 @@
 
 #include <array>
 
+#include "base/Words.h"
 #include "store/StoreError.h"
 
 namespace {
 
 void startSodium() {
-  if (sodium_init() < 0) throw StoreError("密码组件无法启动，请与管理员联系！");
+  if (sodium_init() < 0) throw StoreError(Words::tr("密码组件无法启动，请与管理员联系！"));
 }
 
 }  // namespace
@@ -20,7 +21,7 @@ std::string passwordHash(std::string_view password) {
   if (crypto_pwhash_str(hash.data(), password.data(), password.size(),
                         crypto_pwhash_OPSLIMIT_INTERACTIVE,
                         crypto_pwhash_MEMLIMIT_INTERACTIVE) != 0) {
-    throw StoreError("内存不足，密码没有保存！");
+    throw StoreError(Words::tr("内存不足，密码没有保存！"));
   }
   return hash.data();
 }

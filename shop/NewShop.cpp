@@ -7,6 +7,7 @@
 #include "base/CsvRow.h"
 #include "base/NumberText.h"
 #include "base/Text.h"
+#include "base/Words.h"
 #include "saleslib/ClsSysParam.h"
 #include "shop/DemoShop.h"
 #include "shop/Importer.h"
@@ -45,12 +46,13 @@ std::vector<std::string> importFiles(Connection& connection, const NewShop& shop
     if (file == shop.files.end()) continue;
     const std::string name = file->second.string();
     std::ifstream text(name, std::ios::binary);
-    if (!fs::is_regular_file(file->second) || !text) throw Refusal("文件读不出来：" + name);
+    if (!fs::is_regular_file(file->second) || !text)
+      throw Refusal(Words::tr("文件读不出来：%1", name));
     try {
       for (const std::string& doubt : import(connection, table, text, clock).doubts)
         doubts.push_back(file->second.filename().string() + " " + doubt);
     } catch (const Refusal& refusal) {
-      throw Refusal(name + "：" + refusal.what());
+      throw Refusal(Words::tr("%1：%2", name, refusal.what()));
     }
   }
   return doubts;
@@ -83,7 +85,7 @@ void addTypedGoods(Connection& connection, const NewShop& shop, const Clock& clo
     import(connection, "spda", master, clock);
     import(connection, "tmda", prices, clock);
   } catch (const Refusal& refusal) {
-    throw Refusal(std::string("录入的商品（第一种是第 2 行）：") + refusal.what());
+    throw Refusal(Words::tr("录入的商品（第一种是第 2 行）：%1", refusal.what()));
   }
 }
 
@@ -107,7 +109,7 @@ void restore(const NewShop& shop, const DataSource& target,
              const std::function<void()>& storeSettings) {
   std::error_code unreadable;
   if (fs::exists(target.path, unreadable))
-    throw StoreError("已经有这个文件，不会覆盖：" + target.path.string());
+    throw StoreError(Words::tr("已经有这个文件，不会覆盖：%1", target.path.string()));
   requireSoundDataFile({shop.backup, target.password}, Soundness::kEveryPage);
   storeSettings();
   static_cast<void>(restoreDataFile(shop.backup, target, "old"));
@@ -117,7 +119,7 @@ std::string fieldRefusal(const Table& table, const char* column, const std::stri
                          const char* name) {
   const Column& wanted = table.columns[table.indexOf(column).value()];
   if (wanted.valueOf(field)) return {};
-  return std::string(name).append(wanted.expectation());
+  return Words::tr(name) + wanted.expectation();
 }
 
 }  // namespace
@@ -141,11 +143,12 @@ const std::vector<std::string>& shopSwitches() {
 
 std::string refusalOf(const TypedGoods& goods) {
   const Table table = tableNamed("tmda", {});
-  for (const auto& [column, field, name] : {std::tuple("sptm", trimmed(goods.barcode), "条码"),
-                                            std::tuple("spmc", trimmed(goods.name), "商品名称"),
-                                            std::tuple("xsdj", trimmed(goods.price), "零售价")}) {
+  for (const auto& [column, field, name] :
+       {std::tuple("sptm", trimmed(goods.barcode), Words::mark("条码")),
+        std::tuple("spmc", trimmed(goods.name), Words::mark("商品名称")),
+        std::tuple("xsdj", trimmed(goods.price), Words::mark("零售价"))}) {
     const std::string refusal = fieldRefusal(table, column, field, name);
-    if (!refusal.empty()) return refusal + "。";
+    if (!refusal.empty()) return Words::tr("%1。", refusal);
   }
   return {};
 }

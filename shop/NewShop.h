@@ -26,6 +26,7 @@ struct NewShop {
   // The rest is for kAnswers.
   /// By the names of ClsSysParam.
   std::map<std::string, std::string, std::less<>> parameters = {
+      // untranslated: printed on the receipts
       {"ReceiptText1", "欢迎光临"}, {"ReceiptText3", "谢谢惠顾，欢迎再来！"},
       {"RoundJiao", "1"},           {"BackupOnExit", "1"},
       {"CheckPayment", "1"},        {"PhonePay", "1"},

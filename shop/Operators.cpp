@@ -3,6 +3,7 @@
 #include <set>
 
 #include "base/Text.h"
+#include "base/Words.h"
 #include "saleslib/ClsRights.h"
 #include "shop/Refusal.h"
 #include "store/Connection.h"
@@ -13,7 +14,7 @@ namespace {
 constexpr std::size_t kLongestName = 255;
 
 std::string labelled(std::int16_t number) {
-  return "操作员 " + std::to_string(number);
+  return Words::tr("操作员 %1", number);
 }
 
 }  // namespace
@@ -26,7 +27,7 @@ const std::vector<std::string>& operatorRights() {
 std::string refusalOfName(const std::string& name) {
   const std::string shown = trimmed(name);
   if (!shown.empty() && characters(shown) <= kLongestName) return {};
-  return "操作员的姓名不能空着，也不能超过 255 个字。";
+  return Words::tr("操作员的姓名不能空着，也不能超过 255 个字。");
 }
 
 void addOperator(Connection& connection, const NewOperator& wanted) {
@@ -36,7 +37,8 @@ void addOperator(Connection& connection, const NewOperator& wanted) {
   Transaction transaction(connection);
   ClsOperator person;
   person.Init(connection, wanted.number);
-  if (person.Found()) throw Refusal("已经有" + labelled(wanted.number) + "：" + person.Name());
+  if (person.Found())
+    throw Refusal(Words::tr("已经有%1：%2", labelled(wanted.number), person.Name()));
   person.setName(name);
   person.setCode(std::to_string(wanted.number));
   person.setPassword(wanted.password);
@@ -53,14 +55,15 @@ void addOperator(Connection& connection, const NewOperator& wanted) {
 ClsOperator existingOperator(Connection& connection, std::int16_t number) {
   ClsOperator person;
   person.Init(connection, number);
-  if (!person.Found()) throw Refusal("没有" + labelled(number) + "。");
+  if (!person.Found()) throw Refusal(Words::tr("没有%1。", labelled(number)));
   return person;
 }
 
 void removeOperator(Connection& connection, std::int16_t number) {
   Transaction transaction(connection);
   if (connection.query("select id from sell where operator_id = ? and state = 0", number).next()) {
-    throw Refusal(labelled(number) + "还有没结的单据，先让本人在收银台处理完，再删除。");
+    throw Refusal(
+        Words::tr("%1还有没结的单据，先让本人在收银台处理完，再删除。", labelled(number)));
   }
   connection.run("delete from operator_rights where operator_id = ?", number);
   connection.run("delete from operators where id = ?", number);

@@ -13,6 +13,7 @@
 #include "base/CsvRow.h"
 #include "base/DateTime.h"
 #include "base/NumberText.h"
+#include "base/Words.h"
 #include "shop/Refusal.h"
 #include "shop/SheetReader.h"
 #include "shop/XlsxFormats.h"
@@ -192,7 +193,7 @@ std::unique_ptr<SheetReader> openWorkbook(const std::filesystem::path& file) {
   try {
     return std::make_unique<WorkbookRows>(Workbook(file).written());
   } catch (const std::exception&) {
-    throw Refusal("这个工作簿读不出来：" + file.string() +
-                  "。请用表格软件打开，另存为 .xlsx 文件。");
+    throw Refusal(
+        Words::tr("这个工作簿读不出来：%1。请用表格软件打开，另存为 .xlsx 文件。", file.string()));
   }
 }

@@ -5,6 +5,7 @@
 #include <cstddef>
 
 #include "base/Text.h"
+#include "base/Words.h"
 #include "shop/GoodsImport.h"
 #include "shop/Refusal.h"
 #include "shop/TimeLeft.h"
@@ -58,13 +59,14 @@ class ProgressBar {
 
 void setColumn(GoodsMapping& mapping, const std::string& wanted) {
   const std::size_t equals = wanted.rfind('=');
-  if (equals == std::string::npos) throw Refusal("--column 要写成 列名=字段：" + wanted);
+  if (equals == std::string::npos)
+    throw Refusal(Words::tr("--column 要写成 列名=字段：%1", wanted));
   const std::string heading = trimmed(wanted.substr(0, equals));
   const std::string name = trimmed(wanted.substr(equals + 1));
   const std::optional<GoodsField> field = fieldOfHeading(name);
-  if (!field && !name.empty()) throw Refusal("没有“" + name + "”这个字段。");
+  if (!field && !name.empty()) throw Refusal(Words::tr("没有“%1”这个字段。", name));
   const auto column = std::ranges::find(mapping.columns, heading, &GoodsMapping::Column::heading);
-  if (column == mapping.columns.end()) throw Refusal("表里没有“" + heading + "”这一列。");
+  if (column == mapping.columns.end()) throw Refusal(Words::tr("表里没有“%1”这一列。", heading));
   mapping.choose(static_cast<std::size_t>(column - mapping.columns.begin()), field);
 }
 
@@ -78,19 +80,19 @@ GoodsMapping mappingOf(Connection& connection, const GoodsImportOptions& options
 }
 
 void print(const GoodsMapping& mapping, Console& console) {
-  console.out << "表里的列：\n";
+  console.out << Words::tr("表里的列：") << '\n';
   for (const GoodsMapping::Column& column : mapping.columns) {
     console.out << "  " << column.heading << " → "
-                << (column.field ? headingOf(*column.field) : "（不读）") << '\n';
+                << (column.field ? headingOf(*column.field) : Words::tr("（不读）")) << '\n';
   }
 }
 
 std::string shownChange(const GoodsPreview::Article& article) {
   std::string text;
   if (!article.oldPrice.empty())
-    text.append("零售价 ").append(article.oldPrice).append(" → ").append(article.newPrice);
+    text = Words::tr("零售价 %1 → %2", article.oldPrice, article.newPrice);
   for (const std::string& field : article.otherFields)
-    text.append(text.empty() ? "" : "、").append(field);
+    text.append(text.empty() ? "" : Words::tr("、")).append(field);
   return text;
 }
 
@@ -98,13 +100,13 @@ template <class Entries, class Shown>
 void print(const std::string& heading, std::int64_t count, const Entries& entries, Shown shown,
            Console& console) {
   if (count == 0) return;
-  console.out << heading << ' ' << count << " 行：\n";
+  console.out << Words::tr("%1 %2 行：", heading, count) << '\n';
   const std::size_t most = std::min(entries.size(), kMostShown);
   for (std::size_t place = 0; place < most; ++place) {
-    console.out << "  第 " << entries[place].line << " 行  " << shown(entries[place]) << '\n';
+    console.out << Words::tr("  第 %1 行  %2", entries[place].line, shown(entries[place])) << '\n';
   }
   const auto more = count - static_cast<std::int64_t>(most);
-  if (more > 0) console.out << "  ……还有 " << more << " 行\n";
+  if (more > 0) console.out << Words::tr("  ……还有 %1 行", more) << '\n';
 }
 
 void print(const GoodsPreview& preview, Console& console) {
@@ -113,34 +115,36 @@ void print(const GoodsPreview& preview, Console& console) {
   };
   const auto complaint = [](const GoodsPreview::Complaint& each) { return each.reason; };
   print(
-      "新增", preview.addedCount, preview.added,
+      Words::tr("新增"), preview.addedCount, preview.added,
       [&](const auto& each) { return article(each) + each.newPrice; }, console);
   print(
-      "改动", preview.changedCount, preview.changed,
+      Words::tr("改动"), preview.changedCount, preview.changed,
       [&](const auto& each) { return article(each) + shownChange(each); }, console);
-  if (preview.unchangedCount > 0) console.out << "不变 " << preview.unchangedCount << " 行\n";
-  print("可能有错", preview.doubtCount, preview.doubts, complaint, console);
-  print("不能导入", preview.refusedCount, preview.refused, complaint, console);
+  if (preview.unchangedCount > 0)
+    console.out << Words::tr("不变 %1 行", preview.unchangedCount) << '\n';
+  print(Words::tr("可能有错"), preview.doubtCount, preview.doubts, complaint, console);
+  print(Words::tr("不能导入"), preview.refusedCount, preview.refused, complaint, console);
 }
 
 bool saysYes(Console& console) {
-  console.err << "要写入吗？（是/否）" << std::flush;
+  console.err << Words::tr("要写入吗？（是/否）") << std::flush;
   std::string answer;
   std::getline(console.in, answer);
   answer = asciiLower(trimmed(answer));
+  // untranslated: what may be typed in either language
   return answer == "是" || answer == "y" || answer == "yes";
 }
 
 /// Whether the sheet is to be written; says why when it is not.
 bool isWanted(const GoodsPreview& preview, Console& console) {
   if (!preview.mayBeWritten()) {
-    console.err << "什么也没有写入：请先改正不能导入的行。\n";
+    console.err << Words::tr("什么也没有写入：请先改正不能导入的行。") << '\n';
   } else if (!console.isTerminal) {
-    console.err << "什么也没有写入：看过以后要写入，加上 --yes。\n";
+    console.err << Words::tr("什么也没有写入：看过以后要写入，加上 --yes。") << '\n';
   } else if (saysYes(console)) {
     return true;
   } else {
-    console.err << "什么也没有写入。\n";
+    console.err << Words::tr("什么也没有写入。") << '\n';
   }
   return false;
 }
@@ -166,10 +170,11 @@ int importGoodsSheet(Connection& connection, const GoodsImportOptions& options, 
           .value();
   if (options.isConfirmed || !written.mayBeWritten()) print(written, console);
   if (!written.mayBeWritten()) {
-    console.err << "什么也没有写入：请先改正不能导入的行。\n";
+    console.err << Words::tr("什么也没有写入：请先改正不能导入的行。") << '\n';
     return kNothingWritten;
   }
-  console.out << "已导入商品：新增 " << written.addedCount << " 行，改动 " << written.changedCount
-              << " 行，不变 " << written.unchangedCount << " 行\n";
+  console.out << Words::tr("已导入商品：新增 %1 行，改动 %2 行，不变 %3 行", written.addedCount,
+                           written.changedCount, written.unchangedCount)
+              << '\n';
   return 0;
 }

@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "base/Text.h"
+#include "base/Words.h"
 #include "saleslib/ClsOperator.h"
 #include "saleslib/ClsRights.h"
 #include "shop/Operators.h"
@@ -30,7 +31,7 @@ struct Options {
 using Shared = std::shared_ptr<Options>;
 
 std::string passwordOf(const Options& options, Console& console) {
-  return options.password ? *options.password : askNewPassword(console);
+  return options.password ? *options.password : askNewPassword(console, Words::tr("密码："));
 }
 
 std::string shownName(const Options& options, const ClsOperator& person) {
@@ -49,10 +50,12 @@ void add(const Options& options, Console& console) {
   const std::unique_ptr<Connection> connection = openDataFile(options.file.source(console));
   addOperator(*connection,
               {options.number, options.name, passwordOf(options, console), options.rights});
-  console.out << "已增加操作员 " << options.number << ' ' << trimmed(options.name) << '\n';
+  console.out << Words::tr("已增加操作员 %1 %2", options.number, trimmed(options.name)) << '\n';
   if (options.rights.empty()) {
-    console.out << "没有写 --right sell，这位操作员不能收银；要能收银，先删除，再带上 --right sell "
-                   "增加。\n";
+    console.out << Words::tr(
+                       "没有写 --right sell，这位操作员不能收银；要能收银，先删除，再带上 --right "
+                       "sell 增加。")
+                << '\n';
   }
 }
 
@@ -71,29 +74,29 @@ void changePassword(const Options& options, Console& console) {
   ClsOperator person = existingOperator(*connection, options.number);
   person.setPassword(passwordOf(options, console));
   person.Save();
-  console.out << "已更改操作员 " << shownName(options, person) << " 的密码\n";
+  console.out << Words::tr("已更改操作员 %1 的密码", shownName(options, person)) << '\n';
 }
 
 void remove(const Options& options, Console& console) {
   const std::unique_ptr<Connection> connection = openDataFile(options.file.source(console));
   const ClsOperator person = existingOperator(*connection, options.number);
   removeOperator(*connection, options.number);
-  console.out << "已删除操作员 " << shownName(options, person) << '\n';
+  console.out << Words::tr("已删除操作员 %1", shownName(options, person)) << '\n';
 }
 
 void addNumber(CLI::App& command, Options& options) {
-  command.add_option("--number", options.number, "用户编号（登录时输入），1 到 32767")
+  command.add_option("--number", options.number, Words::tr("用户编号（登录时输入），1 到 32767"))
       ->required()
       ->check(wholeNumber(1, INT16_MAX));
 }
 
 void addPassword(CLI::App& command, Options& options) {
-  command.add_option(
-      "--password", options.password,
-      "登录密码；不写就从终端或标准输入读。供脚本使用：写在命令行上，同机的人在进程列表里看得到");
+  command.add_option("--password", options.password,
+                     Words::tr("登录密码；不写就从终端或标准输入读。供脚本使用：写在命令行上，同机"
+                               "的人在进程列表里看得到"));
 }
 
-CLI::App* addAction(CLI::App& parent, Console& console, const char* name, const char* help,
+CLI::App* addAction(CLI::App& parent, Console& console, const char* name, const std::string& help,
                     const Shared& options, void (*action)(const Options&, Console&)) {
   CLI::App* command = parent.add_subcommand(name, help);
   options->file.addTo(*command);
@@ -104,21 +107,23 @@ CLI::App* addAction(CLI::App& parent, Console& console, const char* name, const 
 }  // namespace
 
 void addOperatorCommand(CLI::App& app, Console& console) {
-  CLI::App* parent = app.add_subcommand("operator", "操作员：增加、列出、改密码、删除");
+  CLI::App* parent = app.add_subcommand("operator", Words::tr("操作员：增加、列出、改密码、删除"));
   parent->require_subcommand(1);
   const auto options = std::make_shared<Options>();
-  CLI::App* adding = addAction(*parent, console, "add", "增加操作员", options, add);
+  CLI::App* adding = addAction(*parent, console, "add", Words::tr("增加操作员"), options, add);
   addNumber(*adding, *options);
   addPassword(*adding, *options);
-  adding->add_option("--name", options->name, "姓名")->required();
+  adding->add_option("--name", options->name, Words::tr("姓名"))->required();
   adding
       ->add_option("--right", options->rights,
-                   "权限：sell（收银），report（看经营报表）；可以写几次")
+                   Words::tr("权限：sell（收银），report（看经营报表）；可以写几次"))
       ->check(oneOf(operatorRights()))
       ->allow_extra_args(false);
-  addAction(*parent, console, "list", "列出操作员：用户编号、姓名、权限", options, list);
-  CLI::App* changing = addAction(*parent, console, "password", "更改密码", options, changePassword);
+  addAction(*parent, console, "list", Words::tr("列出操作员：用户编号、姓名、权限"), options, list);
+  CLI::App* changing =
+      addAction(*parent, console, "password", Words::tr("更改密码"), options, changePassword);
   addNumber(*changing, *options);
   addPassword(*changing, *options);
-  addNumber(*addAction(*parent, console, "remove", "删除操作员", options, remove), *options);
+  addNumber(*addAction(*parent, console, "remove", Words::tr("删除操作员"), options, remove),
+            *options);
 }

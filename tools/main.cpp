@@ -1,17 +1,32 @@
 #include <unistd.h>
 
 #include <exception>
+#include <filesystem>
 #include <iostream>
 
+#include "app/Language.h"
+#include "base/ShopFolder.h"
+#include "base/Words.h"
+#include "platform/IniFile.h"
 #include "tools/Tool.h"
+
+namespace {
+
+std::filesystem::path programFolder() {
+  std::error_code unknown;
+  return std::filesystem::read_symlink("/proc/self/exe", unknown).parent_path();
+}
+
+}  // namespace
 
 int main(int count, char** arguments) {
   try {
     std::ios::sync_with_stdio(false);
+    speak(chosenLanguage(IniFile(shopFolder("", programFolder()) / "Config.ini")));
     Console console{std::cin, std::cout, std::cerr, localTime, isatty(STDIN_FILENO) == 1};
     return runTool(count, arguments, console);
   } catch (const std::exception& failure) {
-    std::cerr << "程序出错，必须结束：" << failure.what() << '\n';
+    std::cerr << Words::tr("程序出错，必须结束：%1", failure.what()) << '\n';
     return 1;
   }
 }
