@@ -455,6 +455,29 @@ Take the payment like this?</translation>
     </message>
 </context>
 <context>
+    <name>KeyCard</name>
+    <message>
+        <source>| 按键 | %1 |</source>
+        <translation>| Key | %1 |</translation>
+    </message>
+    <message>
+        <source># 收银员按键卡 {.card}</source>
+        <translation># The cashier&apos;s keys {.card}</translation>
+    </message>
+    <message>
+        <source>一笔销售：扫描商品；都扫完了，在空行按 `%1`；输入收到的现金，再按 `%1`。</source>
+        <translation>A sale: scan the goods; when all are scanned, press `%1` on the empty line; type the cash received and press `%1` again.</translation>
+    </message>
+    <message>
+        <source>打错了：`%1` 删除最后一行，`%2` 撤消整单。</source>
+        <translation>Something went wrong: `%1` deletes the last line, `%2` voids the bill.</translation>
+    </message>
+    <message>
+        <source>店里改过按键的，以程序里的“帮助”为准：它在主菜单的更多功能和销售界面的功能菜单里，总是最后一项。</source>
+        <translation>Where the shop has changed its keys, &quot;Help&quot; in the program is right: the last entry of the main menu&apos;s further functions and of the sale screen&apos;s function menu.</translation>
+    </message>
+</context>
+<context>
     <name>KeyFunction</name>
     <message>
         <source>%1(%2)：</source>
