@@ -119,7 +119,7 @@ std::string fieldRefusal(const Table& table, const char* column, const std::stri
                          const char* name) {
   const Column& wanted = table.columns[table.indexOf(column).value()];
   if (wanted.valueOf(field)) return {};
-  return Words::tr(name) + wanted.expectation();
+  return Words::tr("%1%2", Words::tr(name), wanted.expectation());
 }
 
 }  // namespace

@@ -23,9 +23,8 @@ std::string contents(const DataSource& backup) {
         opened.query("select count(*) as bills, max(sell_time) as last from sell where state = 1");
     rows.next();
     const std::int64_t bills = rows.whole("bills").value();
-    std::string text = Words::tr("单据 %1 张", bills);
-    if (bills > 0) text.append(Words::tr("，最后一张 ")).append(rows.text("last"));
-    return text;
+    return bills > 0 ? Words::tr("单据 %1 张，最后一张 %2", bills, rows.text("last"))
+                     : Words::tr("单据 %1 张", bills);
   } catch (const Failure& failure) {
     return failure.what();
   }

@@ -3008,10 +3008,6 @@ Last goods: %3</translation>
         <translation>%1 bills</translation>
     </message>
     <message>
-        <source>，最后一张 </source>
-        <translation>, the last one of </translation>
-    </message>
-    <message>
         <source>这里没有每天的备份：%1</source>
         <translation>There are no daily backups here: %1</translation>
     </message>
@@ -4232,6 +4228,14 @@ Please write the goods anew.</translation>
     <message>
         <source>的目录读不出来</source>
         <translation>Backup: none yet</translation>
+    </message>
+    <message>
+        <source>%1%2</source>
+        <translation type="unfinished">%1 %2 </translation>
+    </message>
+    <message>
+        <source>单据 %1 张，最后一张 %2</source>
+        <translation>%1 bills, the last one of %2</translation>
     </message>
 </context>
 <context>
