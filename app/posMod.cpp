@@ -21,6 +21,16 @@
 #include "store/DataFileCopy.h"
 #include "store/DataFileLock.h"
 
+namespace {
+
+/// What may not be looked at is there.
+bool isMissing(const std::filesystem::path& file) {
+  std::error_code fault;
+  return std::filesystem::status(file, fault).type() == std::filesystem::file_type::not_found;
+}
+
+}  // namespace
+
 posMod::posMod(std::filesystem::path shopFolder, Clock presentTime)
     : folder(std::move(shopFolder)),
       clock(std::move(presentTime)),
@@ -43,7 +53,6 @@ DataSource posMod::dataSource() const {
 
 std::string posMod::OpenDataStore() {
   DataSource source;
-  std::error_code ignored;
   try {
     source = dataSource();
     lock_ = std::make_unique<DataFileLock>(source.path);
@@ -51,17 +60,16 @@ std::string posMod::OpenDataStore() {
     return {};
   } catch (const Failure& failure) {
     lock_.reset();
-    if (std::filesystem::exists(source.path, ignored)) return failure.what();
-    return tr("%1\n还没有数据文件的话，请店主建立一个：\ntilladmin create %2")
-        .arg(qtText(failure.what()), qtText(source.path.string()))
+    if (!isMissing(source.path)) return failure.what();
+    return tr("%1\n已经开过店的，它可能在没有接上的磁盘上，请接上再打开。\n"
+              "还没有开店的，接下来就可以开店。")
+        .arg(qtText(failure.what()))
         .toStdString();
   }
 }
 
 bool posMod::lacksDataFile() const {
-  std::error_code fault;
-  const auto status = std::filesystem::status(dataSource().path, fault);
-  return status.type() == std::filesystem::file_type::not_found;
+  return isMissing(dataSource().path);
 }
 
 std::string posMod::missingOperator() const {
