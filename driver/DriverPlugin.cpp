@@ -210,7 +210,7 @@ class Driver : public QObject {
 
 }  // namespace
 
-/// What Qt loads; the argument is the socket's file descriptor, or "IN,OUT" of two pipes.
+/// What Qt loads; the argument is the socket's file descriptor, or "IN:OUT" of two pipes.
 class DriverPlugin : public QGenericPlugin {
   Q_OBJECT
   Q_PLUGIN_METADATA(IID QGenericPluginFactoryInterface_iid FILE "DriverPlugin.json")
@@ -218,7 +218,7 @@ class DriverPlugin : public QGenericPlugin {
  public:
   QObject* create(const QString&, const QString& ends) override {
     messagesBefore = qInstallMessageHandler(leaveOutMissingScreen);
-    const QStringList both = ends.split(QLatin1Char(','));
+    const QStringList both = ends.split(QLatin1Char(':'));
     return new Driver(both.first().toInt(), both.last().toInt());
   }
 };
