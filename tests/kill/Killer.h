@@ -46,7 +46,7 @@ class Killer {
   bool struck() const { return struck_; }
 
  private:
-  static constexpr int kPatienceMs = 20;  ///< how soon it notices that the till writes no more
+  static constexpr int kPatienceMs = 20;  ///< how soon it notices that the till is spared
 
   void strikeAt(Clock::time_point moment, const std::stop_token& spared) {
     std::mutex mutex;
