@@ -20,6 +20,14 @@
 #include "store/DataFile.h"
 #include "store/DataFileCopy.h"
 #include "store/DataFileLock.h"
+#include "store/PracticeFile.h"
+
+namespace {
+
+/// On papers, which are Chinese whatever the screens speak.
+constexpr const char* kPracticeTitle = "练习，不入账";
+
+}  // namespace
 
 namespace {
 
@@ -125,6 +133,26 @@ ReturnBooks posMod::returnBooks() const {
 
 TopUpBooks posMod::topUpBooks() const {
   return TopUpBooks(*gConn);
+}
+
+// Its receipts can be taken for the shop's by nobody.
+std::unique_ptr<posMod> posMod::practice() const {
+  ensure(gOperator != nullptr, "somebody practises");
+  auto practice = std::make_unique<posMod>(folder, clock);
+  practice->gConn = practiceDataFile(*gConn, std::filesystem::temp_directory_path());
+  practice->gSysParam.Conn(*practice->gConn);
+  ensure(practice->gSysParam.set("ShopName", kPracticeTitle).empty(), "a title is a shop's name");
+  practice->gMemberSvc.Conn(*practice->gConn);
+  practice->gKeyBoard = gKeyBoard;
+  practice->gPosSet = gPosSet;
+  practice->gPosSet.MBPort.clear();
+  practice->gOperator = std::make_shared<ClsOperator>();
+  practice->gOperator->Init(*practice->gConn, gOperator->Id());
+  return practice;
+}
+
+Identification posMod::identification() {
+  return {*gConn, gSysParam, loginBrake};
 }
 
 void posMod::ShowMouse(bool show) {

@@ -1,7 +1,7 @@
 #include "store/Schema.h"
+#include "store/StaffCardStep.h"
 
 namespace {
-
 // Column types: TEXT and NUMERIC are the engine's; CURRENCY is a plain decimal number with up to
 // four decimals; DATETIME is a text in storedText form. Text compares without regard to ASCII case,
 // but for passwords.
@@ -290,10 +290,10 @@ create unique index goods_mapping_key on goods_mapping (name, heading);
 insert into tmda_fragments (tmda_fragments) values ('automerge=0');
 insert into spda_fragments (spda_fragments) values ('automerge=0');
 )";
-
 }  // namespace
 
 const std::vector<std::string>& schemaSteps() {
-  static const std::vector<std::string> steps = {kFirstStep, kSecondStep, kThirdStep, kGoodsStep};
+  static const std::vector<std::string> steps = {kFirstStep, kSecondStep, kThirdStep, kGoodsStep,
+                                                 kStaffCardStep};
   return steps;
 }
