@@ -33,7 +33,7 @@ ItemLookup::Line ItemLookup::lookUp(const std::function<FoundGoods()>& find) {
     if (chosen < 0) return nullptr;
     const auto [line, priceMissing] =
         found.line(static_cast<std::size_t>(chosen), *sale_.bill(), sale_.member());
-    if (priceMissing) line->setPrice(askPrice());
+    if (priceMissing) line->typePrice(askPrice());
     return line;
   } catch (const Failure& failure) {
     screen_.messageBox(qtText(failure.what()));

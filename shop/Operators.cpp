@@ -1,9 +1,8 @@
 #include "shop/Operators.h"
 
-#include <set>
-
 #include "base/Text.h"
 #include "saleslib/ClsRights.h"
+#include "saleslib/Journal.h"
 #include "shop/Refusal.h"
 #include "store/Connection.h"
 #include "store/Transaction.h"
@@ -19,7 +18,7 @@ std::string labelled(std::int16_t number) {
 }  // namespace
 
 const std::vector<std::string>& operatorRights() {
-  static const std::vector<std::string> rights = {kRightSell, kRightReport};
+  static const std::vector<std::string> rights = {kRightSell, kRightReport, kRightJournal};
   return rights;
 }
 
@@ -40,13 +39,9 @@ void addOperator(Connection& connection, const NewOperator& wanted) {
   person.setName(name);
   person.setCode(std::to_string(wanted.number));
   person.setPassword(wanted.password);
-  person.Save();
   // What an operator of that number once had is not inherited.
-  connection.run("delete from operator_rights where operator_id = ?", wanted.number);
-  for (const std::string& right : std::set(wanted.rights.begin(), wanted.rights.end())) {
-    connection.run("insert into operator_rights (operator_id, right_key) values (?, ?)",
-                   wanted.number, right);
-  }
+  person.setRights(ClsRights({wanted.rights.begin(), wanted.rights.end()}));
+  person.Save();
   transaction.commit();
 }
 
@@ -64,5 +59,6 @@ void removeOperator(Connection& connection, std::int16_t number) {
   }
   connection.run("delete from operator_rights where operator_id = ?", number);
   connection.run("delete from operators where id = ?", number);
+  Journal(connection).note(EntryKind::kOperatorRemoved, std::to_string(number));
   transaction.commit();
 }

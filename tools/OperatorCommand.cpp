@@ -46,7 +46,7 @@ std::string rightsOf(const ClsOperator& person) {
 }
 
 void add(const Options& options, Console& console) {
-  const std::unique_ptr<Connection> connection = openDataFile(options.file.source(console));
+  const std::unique_ptr<Connection> connection = options.file.open(console);
   addOperator(*connection,
               {options.number, options.name, passwordOf(options, console), options.rights});
   console.out << "已增加操作员 " << options.number << ' ' << trimmed(options.name) << '\n';
@@ -57,7 +57,7 @@ void add(const Options& options, Console& console) {
 }
 
 void list(const Options& options, Console& console) {
-  const std::unique_ptr<Connection> connection = openDataFile(options.file.source(console));
+  const std::unique_ptr<Connection> connection = options.file.open(console);
   Rows rows = connection->query("select id from operators order by id");
   while (rows.next()) {
     ClsOperator person;
@@ -67,7 +67,7 @@ void list(const Options& options, Console& console) {
 }
 
 void changePassword(const Options& options, Console& console) {
-  const std::unique_ptr<Connection> connection = openDataFile(options.file.source(console));
+  const std::unique_ptr<Connection> connection = options.file.open(console);
   ClsOperator person = existingOperator(*connection, options.number);
   person.setPassword(passwordOf(options, console));
   person.Save();
@@ -75,7 +75,7 @@ void changePassword(const Options& options, Console& console) {
 }
 
 void remove(const Options& options, Console& console) {
-  const std::unique_ptr<Connection> connection = openDataFile(options.file.source(console));
+  const std::unique_ptr<Connection> connection = options.file.open(console);
   const ClsOperator person = existingOperator(*connection, options.number);
   removeOperator(*connection, options.number);
   console.out << "已删除操作员 " << shownName(options, person) << '\n';
@@ -113,7 +113,7 @@ void addOperatorCommand(CLI::App& app, Console& console) {
   adding->add_option("--name", options->name, "姓名")->required();
   adding
       ->add_option("--right", options->rights,
-                   "权限：sell（收银），report（看经营报表）；可以写几次")
+                   "权限：sell（收银），report（看经营报表），journal（看日志）；可以写几次")
       ->check(oneOf(operatorRights()))
       ->allow_extra_args(false);
   addAction(*parent, console, "list", "列出操作员：用户编号、姓名、权限", options, list);
