@@ -14,12 +14,14 @@
 #include "platform/QtText.h"
 #include "saleslib/BillBooks.h"
 #include "saleslib/ClsRights.h"
+#include "saleslib/Journal.h"
 #include "saleslib/ReturnBooks.h"
 #include "saleslib/TopUpBooks.h"
 #include "store/Connection.h"
 #include "store/DataFile.h"
 #include "store/DataFileCopy.h"
 #include "store/DataFileLock.h"
+#include "store/Transaction.h"
 
 posMod::posMod(std::filesystem::path shopFolder, Clock presentTime)
     : folder(std::move(shopFolder)),
@@ -48,6 +50,11 @@ std::string posMod::OpenDataStore() {
     source = dataSource();
     lock_ = std::make_unique<DataFileLock>(source.path);
     gConn = openDataFile(source);
+    gConn->setUser({.number = [this]() -> std::optional<std::int64_t> {
+                      if (!gOperator) return std::nullopt;
+                      return gOperator->Id();
+                    },
+                    .clock = clock});
     return {};
   } catch (const Failure& failure) {
     lock_.reset();
@@ -119,6 +126,10 @@ TopUpBooks posMod::topUpBooks() const {
   return TopUpBooks(*gConn);
 }
 
+Journal posMod::journal() const {
+  return Journal(*gConn);
+}
+
 void posMod::ShowMouse(bool show) {
   showMousePointer(show);
 }
@@ -128,7 +139,10 @@ void posMod::logOff() {
   if (!gOperator) return;
   ClsOperator leaving = *gOperator;  // whoever cannot be logged off stays as he was
   leaving.setOnline(0);
+  Transaction logging(*gConn);
   leaving.Save();
+  journal().note(EntryKind::kLoggedOff, std::to_string(leaving.Id()));
+  logging.commit();
   gOperator.reset();
 }
 

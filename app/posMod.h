@@ -18,6 +18,7 @@ class BackupKeeper;
 class BillBooks;
 class Connection;
 class DataFileLock;
+class Journal;
 class ReturnBooks;
 class TopUpBooks;
 struct DataSource;
@@ -75,6 +76,8 @@ class posMod {
   BillBooks billBooks() const;
   ReturnBooks returnBooks() const;
   TopUpBooks topUpBooks() const;
+  /// For what is done without writing into the books; those note for themselves what they do.
+  Journal journal() const;
   /// Forces the mouse pointer visible or hidden.
   void ShowMouse(bool show);
   /// Logs the operator off, if one is logged in. Throws Failure, for a data file that has been

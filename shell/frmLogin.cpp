@@ -6,8 +6,10 @@
 #include <QPushButton>
 
 #include "app/posMod.h"
+#include "base/Failure.h"
 #include "platform/QtText.h"
 #include "saleslib/ClsLogin.h"
+#include "saleslib/Journal.h"
 #include "shell/FramedFields.h"
 #include "shell/Modal.h"
 
@@ -57,6 +59,12 @@ void frmLogin::check() {
     return;
   }
   pos_.gOperator = checked;
+  try {
+    pos_.journal().note(EntryKind::kLoggedIn, std::to_string(checked->Id()));
+  } catch (const Failure& failure) {
+    pos_.gOperator.reset();
+    return messageBox(this, qtText(failure.what()));
+  }
   accept();
 }
 

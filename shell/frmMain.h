@@ -30,7 +30,8 @@ class frmMain : public QWidget {
     Opener open;
   };
   /// By menu key: "sell", "count", "search", "posset", "keyset", "addmen", "editpwd", "unsell",
-  /// "goodsin", "report", "help". A menu entry whose screen is not in the table is not shown.
+  /// "goodsin", "report", "journal", "help". A menu entry whose screen is not in the table is not
+  /// shown.
   frmMain(posMod& pos, std::map<QString, Screen> screens, QWidget* parent = nullptr);
   ~frmMain() override;
 

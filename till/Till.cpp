@@ -10,6 +10,7 @@
 #include "members/frmFMember.h"
 #include "platform/QtText.h"
 #include "reports/frmCount.h"
+#include "reports/frmJournal.h"
 #include "reports/frmReport.h"
 #include "reports/frmSearch.h"
 #include "returns/frmUnSell.h"
@@ -70,6 +71,7 @@ std::map<QString, frmMain::Screen> Till::screens() {
   std::map<QString, frmMain::Screen> all = fixedScreens();
   if (pos_.gSysParam.GoodsImport()) all["goodsin"] = {true, [this] { show<frmGoodsIn>(); }};
   if (pos_.gSysParam.OwnerReport()) all["report"] = {true, [this] { reportTakings(); }};
+  if (pos_.gSysParam.KeepsJournal()) all["journal"] = {true, [this] { showJournal(); }};
   return all;
 }
 
@@ -101,6 +103,12 @@ void Till::reportTakings() {
   if (pos_.gOperator->Rights().HasRight(kRightReport)) return show<frmReport>();
   messageBox(QApplication::activeWindow(),
              QCoreApplication::translate("Till", "您没有看经营报表的权限！"));
+}
+
+void Till::showJournal() {
+  if (pos_.gOperator->Rights().HasRight(kRightJournal)) return show<frmJournal>();
+  messageBox(QApplication::activeWindow(),
+             QCoreApplication::translate("Till", "您没有看日志的权限！"));
 }
 
 void Till::help() {

@@ -40,6 +40,7 @@ class Till {
   SaleSession::Openers saleScreens();
   void takeBack();
   void reportTakings();
+  void showJournal();
   void help();
   /// Shows a dialog made for the occasion, over whichever window is in front.
   template <class Form>
