@@ -11,7 +11,7 @@ constexpr const char* kNewCard = "88001234";
 
 // Entries of the main menu and of the further menu, by position.
 enum MainMenu { kSell, kCount, kPosSet, kEditPwd, kEnd, kMainEntries };
-enum FurtherMenu { kSearch, kUnSell, kAddMen, kKeySet, kExit, kHelp, kFurtherEntries };
+enum FurtherMenu { kSearch, kUnSell, kAddMen, kKeySet, kJournal, kExit, kHelp, kFurtherEntries };
 
 /// Moves the highlight of a menu, which stays where it was last time, and chooses.
 void choose(TillDriver& till, int& highlight, int entry, int entries) {
@@ -59,6 +59,11 @@ void DemoDay::evening() {
   shot(till, "keyboard-settings");
   till.tabTo("cmdCancel");
   till.key("Space");
+  furtherScreen(kJournal, "frmJournal");
+  till.key("Return");
+  till.waitForText("lblState", "共");
+  shot(till, "journal");
+  till.key("Esc");
   furtherScreen(kHelp, "frmHelp");
   shot(till, "help");
   till.key("Esc");
