@@ -125,7 +125,7 @@ TEST_F(CommandTest, OperatorsComeAndGo) {
   expect(0, "", "operator add @ --number 7 --name 张三 --password 111 --right sell");
   EXPECT_TRUE(canLogIn("7", "111"));
   expect(1, "已经有操作员 7", "operator add @ --number 7 --name 张三 --password 222");
-  expect(2, "参数的值不对：--right: 只能是 sell、report，写的是“fly”",
+  expect(2, "参数的值不对：--right: 只能是 sell、report、journal，写的是“fly”",
          "operator add @ --number 8 --name 张三 --password 1 --right fly");
   expect(2, "--number", "operator add @ --number 32768 --name 张三 --password 1");
   typed = "秘密\r\n";
