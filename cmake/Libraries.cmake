@@ -3,6 +3,7 @@ find_package(PkgConfig REQUIRED)
 find_package(Qt6 6.4 REQUIRED COMPONENTS Core Gui Widgets PrintSupport SerialPort Network Test
              LinguistTools)
 find_package(CLI11 REQUIRED)
+find_package(nlohmann_json REQUIRED)
 if(TILL_TESTS)
   find_package(GTest REQUIRED)
 endif()

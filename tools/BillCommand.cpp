@@ -25,7 +25,7 @@ void redate(const Options& options, Console& console) {
   if (!to && !options.to.empty()) {
     throw Refusal(Words::tr("--to 要写成 2026-11-22 09:05:03 的样子，写的是“%1”。", options.to));
   }
-  const std::unique_ptr<Connection> connection = openDataFile(options.file.source(console));
+  const std::unique_ptr<Connection> connection = options.file.open(console);
   const Redated done = redateBill(*connection, options.number, to, console.clock());
   console.out << Words::tr("单据 %1 的时间 %2 已改成 %3，商品行跟着改了 %4 行", options.number,
                            storedText(done.from), storedText(done.to), done.lines)

@@ -2,7 +2,7 @@
 
 #include <CLI/CLI.hpp>
 
-#include "base/Words.h"
+#include "store/Connection.h"
 
 void DataFileOptions::addTo(CLI::App& command) {
   command.add_option(Words::tr("数据文件"), path, Words::tr("店里的数据文件，例如 data/POS.mdb"))
@@ -25,4 +25,16 @@ DataSource DataFileOptions::source(Console& console) const {
 
 DataSource DataFileOptions::newSource(Console& console) const {
   return {path, asks ? askNewPassword(console, Words::tr("数据文件的密码：")) : password};
+}
+
+std::unique_ptr<Connection> DataFileOptions::open(Console& console) const {
+  return open(source(console), console);
+}
+
+std::unique_ptr<Connection> DataFileOptions::open(const DataSource& source, Console& console) {
+  std::unique_ptr<Connection> connection = openDataFile(source);
+  ConnectionUser tool;
+  tool.clock = console.clock;
+  connection->setUser(std::move(tool));
+  return connection;
 }

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <utility>
 
-#include "base/Words.h"
+#include "saleslib/Journal.h"
 #include "shop/Refusal.h"
 #include "store/Connection.h"
 #include "store/FragmentIndex.h"
@@ -58,6 +58,7 @@ TakenOver TakeOver::run() {
     if (!note.empty()) done_.notes.push_back(note);
   }
   updateFragmentIndex(connection_);
+  if (const Journal journal(connection_); journal.isOn()) journal.begin();
   all.commit();
   return std::move(done_);
 }
