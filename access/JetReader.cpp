@@ -34,20 +34,20 @@ struct Type {
   bool isReadable;
 };
 constexpr Type kTypes[] = {
-    {"是/否", MDB_BOOL, true},         {"字节", MDB_BYTE, true},
-    {"整型", MDB_INT, true},           {"长整型", MDB_LONGINT, true},
-    {"货币", MDB_MONEY, true},         {"单精度", MDB_FLOAT, true},
-    {"双精度", MDB_DOUBLE, true},      {"日期/时间", MDB_DATETIME, true},
-    {"文本", MDB_TEXT, true},          {"备注", MDB_MEMO, true},
-    {"小数", MDB_NUMERIC, true},       {"OLE 对象", MDB_OLE, false},
-    {"同步复制 ID", MDB_REPID, false}, {"二进制", MDB_BINARY, false},
+    {Words::mark("是/否"), MDB_BOOL, true},         {Words::mark("字节"), MDB_BYTE, true},
+    {Words::mark("整型"), MDB_INT, true},           {Words::mark("长整型"), MDB_LONGINT, true},
+    {Words::mark("货币"), MDB_MONEY, true},         {Words::mark("单精度"), MDB_FLOAT, true},
+    {Words::mark("双精度"), MDB_DOUBLE, true},      {Words::mark("日期/时间"), MDB_DATETIME, true},
+    {Words::mark("文本"), MDB_TEXT, true},          {Words::mark("备注"), MDB_MEMO, true},
+    {Words::mark("小数"), MDB_NUMERIC, true},       {Words::mark("OLE 对象"), MDB_OLE, false},
+    {Words::mark("同步复制 ID"), MDB_REPID, false}, {Words::mark("二进制"), MDB_BINARY, false},
 };
 
 Type typeOf(const MdbColumn& column) {
   for (const Type& type : kTypes) {
     if (type.code == column.col_type) return type;
   }
-  return {"别的类型", column.col_type, false};
+  return {Words::mark("别的类型"), column.col_type, false};
 }
 
 template <class T>

@@ -7,6 +7,7 @@
 #include "base/Failure.h"
 #include "base/NumberText.h"
 #include "base/Text.h"
+#include "base/Words.h"
 #include "saleslib/Journal.h"
 #include "saleslib/Tenders.h"
 #include "store/Connection.h"
@@ -91,13 +92,16 @@ constexpr std::array kDefinitions = {
     Definition{"GoodsImport", &kSwitch, "0", Words::mark("收银台上可以导入商品：0 否，1 是")},
     Definition{"PhonePay", &kSwitch, "0", Words::mark("收手机扫码付款：0 否，1 是")},
     Definition{"OwnerReport", &kSwitch, "0",
-               "收银程序的更多功能里有经营报表（要有 report 权限）：0 否，1 是"},
-    Definition{"Practice", &kSwitch, "0", "收银程序的更多功能里有练习，练习不入账：0 否，1 是"},
-    Definition{"Approval", &kSwitch, "0", "操作员没有权限的操作要有人授权：0 否，1 是"},
+               Words::mark("收银程序的更多功能里有经营报表（要有 report 权限）：0 否，1 是")},
+    Definition{"Practice", &kSwitch, "0",
+               Words::mark("收银程序的更多功能里有练习，练习不入账：0 否，1 是")},
+    Definition{"Approval", &kSwitch, "0",
+               Words::mark("操作员没有权限的操作要有人授权：0 否，1 是")},
     Definition{
         "Journal", &kSwitch, "0",
-        "记日志：每笔业务一条，只增不改，check 拿账目和它核对；打开时收银程序先退出：0 否，1 "
-        "是"},
+        Words::mark(
+            "记日志：每笔业务一条，只增不改，check 拿账目和它核对；打开时收银程序先退出：0 否，1 "
+            "是")},
 };
 
 const Definition* find(std::string_view name) {

@@ -1,5 +1,6 @@
 #include "saleslib/Identification.h"
 
+#include "base/Words.h"
 #include "saleslib/ClsLogin.h"
 #include "saleslib/ClsOperator.h"
 #include "saleslib/ClsSysParam.h"
@@ -29,7 +30,7 @@ Identification::Answer Identification::byPassword(std::string_view number,
 Identification::Answer Identification::bySwipe(std::string_view typed) {
   return answer([&] {
     Answer found{staffCardHolder(connection_, typed)};
-    if (!found.person) found.refusal = "没有这张员工卡！";
+    if (!found.person) found.refusal = Words::tr("没有这张员工卡！");
     return found;
   });
 }

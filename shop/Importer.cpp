@@ -7,6 +7,7 @@
 
 #include "base/CsvReader.h"
 #include "base/Text.h"
+#include "base/Words.h"
 #include "saleslib/Journal.h"
 #include "saleslib/JournalBase.h"
 #include "shop/Refusal.h"

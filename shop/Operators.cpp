@@ -28,22 +28,25 @@ std::string labelled(std::int16_t number) {
 std::string refusalOfRight(const std::string& text) {
   if (parseRight(text) || equalIgnoringCase(text, kEveryRight)) return {};
   std::string keys;
-  for (const std::string& key : allRights()) keys.append(keys.empty() ? "" : "、").append(key);
-  return "只能是 " + keys + "、" + kEveryRight +
-         "（全部）；discount、return 后面可以写上限（discount:10）。写的是“" + text + "”";
+  for (const std::string& key : allRights())
+    keys.append(keys.empty() ? "" : Words::tr("、")).append(key);
+  return Words::tr(
+      "只能是 %1、%2（全部）；discount、return 后面可以写上限（discount:10）。写的是“%3”", keys,
+      kEveryRight, text);
 }
 
 std::string rightsForPeople() {
   std::string all;
   for (const RightKind& kind : rightKinds()) {
-    all.append(all.empty() ? "" : "、").append(kind.key).append("（").append(kind.word);
-    if (kind.limit == RightKind::Limit::kPercent)
-      all.append("，可以写最多百分之几：").append(kind.key).append(":10");
-    if (kind.limit == RightKind::Limit::kYuan)
-      all.append("，可以写最多多少元：").append(kind.key).append(":200");
-    all.append("）");
+    const char* text = kind.limit == RightKind::Limit::kPercent
+                           ? Words::mark("%1（%2，可以写最多百分之几：%1:10）")
+                       : kind.limit == RightKind::Limit::kYuan
+                           ? Words::mark("%1（%2，可以写最多多少元：%1:200）")
+                           : Words::mark("%1（%2）");
+    all.append(all.empty() ? "" : Words::tr("、"))
+        .append(Words::tr(text, kind.key, Words::tr(kind.word)));
   }
-  return all.append("，或者 ").append(kEveryRight).append("（全部）");
+  return Words::tr("%1，或者 %2（全部）", all, kEveryRight);
 }
 
 std::vector<std::string> rightsMeant(const std::vector<std::string>& named) {

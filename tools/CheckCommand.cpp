@@ -66,11 +66,17 @@ void check(const Options& options, Console& console, int& exitCode) {
     exitCode = kFaultsFound;
     return;
   }
-  console.out << "账目正确：单据 " << found.bills << " 张（其中未结 " << found.openBills
-              << " 张），商品行 " << found.lines << " 行，退货 " << found.returns << " 笔，库存 "
-              << found.stockRows << " 条";
-  if (found.entries > 0) console.out << "，日志 " << found.entries << " 条";
-  console.out << "。\n";
+  const char* text =
+      found.entries > 0
+          ? Words::mark(
+                "账目正确：单据 %1 张（其中未结 %2 张），商品行 %3 行，退货 %4 笔，库存 %5 条，"
+                "日志 %6 条。")
+          : Words::mark(
+                "账目正确：单据 %1 张（其中未结 %2 张），商品行 %3 行，退货 %4 笔，库存 %5 "
+                "条。");
+  console.out << Words::tr(text, found.bills, found.openBills, found.lines, found.returns,
+                           found.stockRows, found.entries)
+              << '\n';
 }
 
 }  // namespace

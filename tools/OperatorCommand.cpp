@@ -51,7 +51,7 @@ void add(const Options& options, Console& console) {
   const std::unique_ptr<Connection> connection = options.file.open(console);
   addOperator(*connection, {options.number, options.name, passwordOf(options, console),
                             rightsMeant(options.rights)});
-  console.out << "已增加操作员 " << options.number << ' ' << trimmed(options.name) << '\n';
+  console.out << Words::tr("已增加操作员 %1 %2", options.number, trimmed(options.name)) << '\n';
   if (options.rights.empty()) {
     console.out << Words::tr(
                        "没有写 --right sell，这位操作员不能收银；要能收银，先删除，再带上 --right "
@@ -119,14 +119,16 @@ CLI::App* addAction(CLI::App& parent, Console& console, const char* name, const 
 }  // namespace
 
 void addOperatorCommand(CLI::App& app, Console& console) {
-  CLI::App* parent = app.add_subcommand("operator", "操作员：增加、列出、改密码、员工卡、删除");
+  CLI::App* parent =
+      app.add_subcommand("operator", Words::tr("操作员：增加、列出、改密码、员工卡、删除"));
   parent->require_subcommand(1);
   const auto options = std::make_shared<Options>();
   CLI::App* adding = addAction(*parent, console, "add", Words::tr("增加操作员"), options, add);
   addNumber(*adding, *options);
   addPassword(*adding, *options);
-  adding->add_option("--name", options->name, "姓名")->required();
-  adding->add_option("--right", options->rights, "权限，可以写几次：" + rightsForPeople())
+  adding->add_option("--name", options->name, Words::tr("姓名"))->required();
+  adding
+      ->add_option("--right", options->rights, Words::tr("权限，可以写几次：%1", rightsForPeople()))
       ->check(aRight())
       ->allow_extra_args(false);
   addAction(*parent, console, "list", Words::tr("列出操作员：用户编号、姓名、权限"), options, list);
@@ -134,6 +136,7 @@ void addOperatorCommand(CLI::App& app, Console& console) {
       addAction(*parent, console, "password", Words::tr("更改密码"), options, changePassword);
   addNumber(*changing, *options);
   addPassword(*changing, *options);
-  addNumber(*addAction(*parent, console, "remove", "删除操作员", options, remove), *options);
+  addNumber(*addAction(*parent, console, "remove", Words::tr("删除操作员"), options, remove),
+            *options);
   addStaffCardCommand(*parent, console);
 }

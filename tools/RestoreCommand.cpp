@@ -8,6 +8,7 @@
 #include <string>
 #include <vector>
 
+#include "base/Words.h"
 #include "saleslib/Journal.h"
 #include "store/Connection.h"
 #include "store/DataFileRestore.h"
@@ -40,8 +41,8 @@ void restore(Options& options, Console& console) {
       restoreDataFile(backup, file, "old-" + markOf(console.clock()));
   Journal(*options.file.open(file, console))
       .note(EntryKind::kRestored, {}, {{"backup", backup.string()}, {"old", aside.string()}});
-  console.out << "已用 " << backup.string() << " 恢复 " << options.file.path << "。\n";
-  if (!aside.empty()) console.out << "原来的文件留在 " << aside.string() << "。\n";
+  console.out << Words::tr("已用 %1 恢复 %2。", backup.string(), options.file.path) << '\n';
+  if (!aside.empty()) console.out << Words::tr("原来的文件留在 %1。", aside.string()) << '\n';
 }
 
 }  // namespace

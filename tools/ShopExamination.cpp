@@ -90,8 +90,8 @@ void examineRights(const Examination& books) {
   Rows rights = books.connection.query("select operator_id, right_key from operator_rights");
   while (rights.next()) {
     if (parseRight(rights.text("right_key"))) continue;
-    books.remark("操作员 " + rights.text("operator_id") + " 的权限“" + rights.text("right_key") +
-                 "”收款程序不认识");
+    books.remark(Words::tr("操作员 %1 的权限“%2”收款程序不认识", rights.text("operator_id"),
+                           rights.text("right_key")));
   }
 }
 

@@ -444,6 +444,13 @@ Take the payment like this?</translation>
     </message>
 </context>
 <context>
+    <name>Identification</name>
+    <message>
+        <source>密码连续错了几次，请等 %1 秒再试。</source>
+        <translation>Several wrong passwords in a row. Please wait %1 seconds.</translation>
+    </message>
+</context>
+<context>
     <name>ItemLookup</name>
     <message>
         <source>%1  货号: %2</source>
@@ -452,6 +459,37 @@ Take the payment like this?</translation>
     <message>
         <source>  库存：%1</source>
         <translation>  In stock: %1</translation>
+    </message>
+</context>
+<context>
+    <name>JournalModel</name>
+    <message>
+        <source>%1，%2 批准</source>
+        <translation>%1, approved by %2</translation>
+    </message>
+    <message>
+        <source>号码</source>
+        <translation>No.</translation>
+    </message>
+    <message>
+        <source>时间</source>
+        <translation>Time</translation>
+    </message>
+    <message>
+        <source>操作员</source>
+        <translation>Operator</translation>
+    </message>
+    <message>
+        <source>种类</source>
+        <translation>Kind</translation>
+    </message>
+    <message>
+        <source>对象</source>
+        <translation>What</translation>
+    </message>
+    <message>
+        <source>内容</source>
+        <translation>Contents</translation>
     </message>
 </context>
 <context>
@@ -620,6 +658,57 @@ Take the payment like this?</translation>
     <message>
         <source>；</source>
         <translation>; </translation>
+    </message>
+</context>
+<context>
+    <name>KeyHelp</name>
+    <message>
+        <source>%1=退出</source>
+        <translation>%1=Leave</translation>
+    </message>
+    <message>
+        <source>%1=结账</source>
+        <translation>%1=Settle</translation>
+    </message>
+    <message>
+        <source>%1=会员卡</source>
+        <translation>%1=Member</translation>
+    </message>
+    <message>
+        <source>%1=增加会员</source>
+        <translation>%1=Add member</translation>
+    </message>
+    <message>
+        <source>%1删除最后一行</source>
+        <translation>%1=Delete line</translation>
+    </message>
+    <message>
+        <source>%1挂单</source>
+        <translation>%1=Hold</translation>
+    </message>
+    <message>
+        <source>%1取单</source>
+        <translation>%1=Recall</translation>
+    </message>
+    <message>
+        <source>%1补打小票查询销售</source>
+        <translation>%1=Query, reprint</translation>
+    </message>
+    <message>
+        <source>%1会员充值</source>
+        <translation>%1=Top up</translation>
+    </message>
+    <message>
+        <source>%1=整单撤消</source>
+        <translation>%1=Void bill</translation>
+    </message>
+    <message>
+        <source>方向箭头</source>
+        <translation>Arrows</translation>
+    </message>
+    <message>
+        <source>%1改数量折扣</source>
+        <translation>%1=Qty, discount</translation>
     </message>
 </context>
 <context>
@@ -1249,6 +1338,83 @@ Take the payment like this?</translation>
     </message>
 </context>
 <context>
+    <name>Right</name>
+    <message>
+        <source>收银</source>
+        <translation>sell</translation>
+    </message>
+    <message>
+        <source>打折和优惠</source>
+        <translation>give discounts</translation>
+    </message>
+    <message>
+        <source>手工定价</source>
+        <translation>type prices</translation>
+    </message>
+    <message>
+        <source>负数量</source>
+        <translation>negative quantities</translation>
+    </message>
+    <message>
+        <source>删行和撤单</source>
+        <translation>delete lines and void bills</translation>
+    </message>
+    <message>
+        <source>退货</source>
+        <translation>return goods</translation>
+    </message>
+    <message>
+        <source>会员充值</source>
+        <translation>top up cards</translation>
+    </message>
+    <message>
+        <source>开钱箱</source>
+        <translation>open the drawer</translation>
+    </message>
+    <message>
+        <source>补打小票</source>
+        <translation>reprint receipts</translation>
+    </message>
+    <message>
+        <source>销售查询和导出</source>
+        <translation>query and export sales</translation>
+    </message>
+    <message>
+        <source>会员资料</source>
+        <translation>members</translation>
+    </message>
+    <message>
+        <source>设置和导入商品</source>
+        <translation>settings and goods import</translation>
+    </message>
+    <message>
+        <source>交班</source>
+        <translation>hand-over</translation>
+    </message>
+    <message>
+        <source>经营报表</source>
+        <translation>the owner&apos;s report</translation>
+    </message>
+    <message>
+        <source>操作日志</source>
+        <translation>the journal</translation>
+    </message>
+    <message>
+        <source>%1 %2</source>
+        <comment>a deed, and how much of it</comment>
+        <translation>%1, %2</translation>
+    </message>
+    <message>
+        <source>%1%</source>
+        <comment>per cent</comment>
+        <translation>%1%</translation>
+    </message>
+    <message>
+        <source>%1 元</source>
+        <translation>%1 yuan</translation>
+    </message>
+</context>
+<context>
     <name>RulesPage</name>
     <message>
         <source>收手机扫码付款：</source>
@@ -1486,13 +1652,6 @@ Last goods: %3</translation>
     </message>
 </context>
 <context>
-    <name>SellControls</name>
-    <message>
-        <source>ESC=退出 Enter=结账 F2=会员卡 F3=增加会员 F4删除最后一行 F5挂单 F6取单 F8补打小票查询销售 F9会员充值 F12=整单撤消 方向箭头改数量折扣</source>
-        <translation>ESC=Leave Enter=Settle F2=Member F3=Add&#xa0;member F4=Delete&#xa0;line F5=Hold F6=Recall F8=Query/reprint F9=Top&#xa0;up F12=Void&#xa0;bill Arrows=Qty/discount</translation>
-    </message>
-</context>
-<context>
     <name>SettlementTexts</name>
     <message>
         <source>%1%2</source>
@@ -1649,6 +1808,10 @@ Last goods: %3</translation>
     <message>
         <source>您没有看经营报表的权限！</source>
         <translation>You have no right to see the owner&apos;s report.</translation>
+    </message>
+    <message>
+        <source>您没有看日志的权限！</source>
+        <translation>You have no right to see the journal.</translation>
     </message>
 </context>
 <context>
@@ -3754,16 +3917,8 @@ One wrong line, and nothing is imported; it says which line and what is wrong. T
         <translation>the login password; read from the terminal or standard input unless given. For scripts: others on this machine see it in the list of processes</translation>
     </message>
     <message>
-        <source>操作员：增加、列出、改密码、删除</source>
-        <translation>operators: add, list, change passwords, remove</translation>
-    </message>
-    <message>
         <source>增加操作员</source>
         <translation>add an operator</translation>
-    </message>
-    <message>
-        <source>权限：sell（收银），report（看经营报表）；可以写几次</source>
-        <translation>rights: sell (ring and settle), report (see the owner&apos;s report); can be given several times</translation>
     </message>
     <message>
         <source>列出操作员：用户编号、姓名、权限</source>
@@ -4227,15 +4382,559 @@ Please write the goods anew.</translation>
     </message>
     <message>
         <source>的目录读不出来</source>
-        <translation>Backup: none yet</translation>
+        <translation>&apos;s catalog can&apos;t be read</translation>
     </message>
     <message>
         <source>%1%2</source>
-        <translation type="unfinished">%1 %2 </translation>
+        <translation>%1 %2</translation>
     </message>
     <message>
         <source>单据 %1 张，最后一张 %2</source>
         <translation>%1 bills, the last one of %2</translation>
+    </message>
+    <message>
+        <source>收银程序的更多功能里有练习，练习不入账：0 否，1 是</source>
+        <translation>practice among the till&apos;s further functions, outside the books: 0 no, 1 yes</translation>
+    </message>
+    <message>
+        <source>操作员没有权限的操作要有人授权：0 否，1 是</source>
+        <translation>what an operator may not do, somebody has to approve: 0 no, 1 yes</translation>
+    </message>
+    <message>
+        <source>记日志：每笔业务一条，只增不改，check 拿账目和它核对；打开时收银程序先退出：0 否，1 是</source>
+        <translation>keep a journal: an entry for all that is done, never changed, which check compares with the books; end the till before turning it on: 0 no, 1 yes</translation>
+    </message>
+    <message>
+        <source>没有这张员工卡！</source>
+        <translation>There is no such staff card.</translation>
+    </message>
+    <message>
+        <source>日志开始</source>
+        <translation>Journal begun</translation>
+    </message>
+    <message>
+        <source>起点账面</source>
+        <translation>Books at the beginning</translation>
+    </message>
+    <message>
+        <source>日志停用</source>
+        <translation>Journal ended</translation>
+    </message>
+    <message>
+        <source>登录</source>
+        <translation>Login</translation>
+    </message>
+    <message>
+        <source>登录被拒</source>
+        <translation>Login refused</translation>
+    </message>
+    <message>
+        <source>退出登录</source>
+        <translation>Logout</translation>
+    </message>
+    <message>
+        <source>开单</source>
+        <translation>Bill begun</translation>
+    </message>
+    <message>
+        <source>手输单价</source>
+        <translation>Price typed</translation>
+    </message>
+    <message>
+        <source>减少数量</source>
+        <translation>Quantity lowered</translation>
+    </message>
+    <message>
+        <source>改折扣</source>
+        <translation>Discount changed</translation>
+    </message>
+    <message>
+        <source>删除商品行</source>
+        <translation>Line deleted</translation>
+    </message>
+    <message>
+        <source>撤消单据</source>
+        <translation>Bill voided</translation>
+    </message>
+    <message>
+        <source>挂单</source>
+        <translation>Bill held</translation>
+    </message>
+    <message>
+        <source>调入挂单</source>
+        <translation>Bill recalled</translation>
+    </message>
+    <message>
+        <source>储值卡付款</source>
+        <translation>Card charged</translation>
+    </message>
+    <message>
+        <source>结账</source>
+        <translation>Bill settled</translation>
+    </message>
+    <message>
+        <source>补存结账</source>
+        <translation>Paid bill completed</translation>
+    </message>
+    <message>
+        <source>改单据时间</source>
+        <translation>Bill redated</translation>
+    </message>
+    <message>
+        <source>退货</source>
+        <translation>Goods returned</translation>
+    </message>
+    <message>
+        <source>充值收款</source>
+        <translation>Top-up paid</translation>
+    </message>
+    <message>
+        <source>充值到账</source>
+        <translation>Top-up credited</translation>
+    </message>
+    <message>
+        <source>增加会员</source>
+        <translation>Member added</translation>
+    </message>
+    <message>
+        <source>修改会员</source>
+        <translation>Member changed</translation>
+    </message>
+    <message>
+        <source>开钱箱</source>
+        <translation>Drawer opened</translation>
+    </message>
+    <message>
+        <source>补打小票</source>
+        <translation>Receipt reprinted</translation>
+    </message>
+    <message>
+        <source>导出</source>
+        <translation>Export</translation>
+    </message>
+    <message>
+        <source>经营报表</source>
+        <translation>Owner&apos;s report</translation>
+    </message>
+    <message>
+        <source>改本机设置</source>
+        <translation>Settings changed</translation>
+    </message>
+    <message>
+        <source>设店铺参数</source>
+        <translation>Shop parameter set</translation>
+    </message>
+    <message>
+        <source>修改操作员</source>
+        <translation>Operator changed</translation>
+    </message>
+    <message>
+        <source>导入</source>
+        <translation>Import</translation>
+    </message>
+    <message>
+        <source>设库存</source>
+        <translation>Stock set</translation>
+    </message>
+    <message>
+        <source>恢复备份</source>
+        <translation>Backup restored</translation>
+    </message>
+    <message>
+        <source>时钟倒退</source>
+        <translation>Clock set back</translation>
+    </message>
+    <message>
+        <source>，</source>
+        <translation>, </translation>
+    </message>
+    <message>
+        <source>%1 %2</source>
+        <translation>%1 %2</translation>
+    </message>
+    <message>
+        <source>%1 行</source>
+        <translation>%1 lines</translation>
+    </message>
+    <message>
+        <source>应收</source>
+        <translation>due</translation>
+    </message>
+    <message>
+        <source>会员内部号</source>
+        <translation>internal member number</translation>
+    </message>
+    <message>
+        <source>商品行</source>
+        <translation>line</translation>
+    </message>
+    <message>
+        <source>数量</source>
+        <translation>quantity</translation>
+    </message>
+    <message>
+        <source>退款</source>
+        <translation>refund</translation>
+    </message>
+    <message>
+        <source>卡号</source>
+        <translation>card</translation>
+    </message>
+    <message>
+        <source>付款</source>
+        <translation>paid</translation>
+    </message>
+    <message>
+        <source>充值</source>
+        <translation>top-up</translation>
+    </message>
+    <message>
+        <source>编号</source>
+        <translation>number</translation>
+    </message>
+    <message>
+        <source>权限</source>
+        <translation>rights</translation>
+    </message>
+    <message>
+        <source>余额变动</source>
+        <translation>balance changed by</translation>
+    </message>
+    <message>
+        <source>%1 种商品的库存</source>
+        <translation>stock of %1 goods</translation>
+    </message>
+    <message>
+        <source>%1 位会员</source>
+        <translation>%1 members</translation>
+    </message>
+    <message>
+        <source>%1 位操作员</source>
+        <translation>%1 operators</translation>
+    </message>
+    <message>
+        <source>%1 笔退货</source>
+        <translation>%1 returns</translation>
+    </message>
+    <message>
+        <source>%1 笔充值</source>
+        <translation>%1 top-ups</translation>
+    </message>
+    <message>
+        <source>单据 %1 到 %2</source>
+        <translation>bills %1 to %2</translation>
+    </message>
+    <message>
+        <source>从</source>
+        <translation>from</translation>
+    </message>
+    <message>
+        <source>到</source>
+        <translation>to</translation>
+    </message>
+    <message>
+        <source>合计</source>
+        <translation>total</translation>
+    </message>
+    <message>
+        <source>更新</source>
+        <translation>updated</translation>
+    </message>
+    <message>
+        <source>行数</source>
+        <translation>lines</translation>
+    </message>
+    <message>
+        <source>备份</source>
+        <translation>backup</translation>
+    </message>
+    <message>
+        <source>原文件</source>
+        <translation>old file</translation>
+    </message>
+    <message>
+        <source>%1 改成 %2</source>
+        <translation>%1 changed to %2</translation>
+    </message>
+    <message>
+        <source>内容读不出来</source>
+        <translation>the contents can&apos;t be read</translation>
+    </message>
+    <message>
+        <source>收银</source>
+        <translation>sell</translation>
+    </message>
+    <message>
+        <source>打折和优惠</source>
+        <translation>discounts</translation>
+    </message>
+    <message>
+        <source>手工定价</source>
+        <translation>typed prices</translation>
+    </message>
+    <message>
+        <source>负数量</source>
+        <translation>negative quantities</translation>
+    </message>
+    <message>
+        <source>删行和撤单</source>
+        <translation>delete lines and void bills</translation>
+    </message>
+    <message>
+        <source>会员充值</source>
+        <translation>top up cards</translation>
+    </message>
+    <message>
+        <source>销售查询和导出</source>
+        <translation>query and export sales</translation>
+    </message>
+    <message>
+        <source>会员资料</source>
+        <translation>members</translation>
+    </message>
+    <message>
+        <source>设置和导入商品</source>
+        <translation>settings and goods import</translation>
+    </message>
+    <message>
+        <source>交班</source>
+        <translation>hand-over</translation>
+    </message>
+    <message>
+        <source>操作日志</source>
+        <translation>the journal</translation>
+    </message>
+    <message>
+        <source>店主工具</source>
+        <translation>Owner&apos;s tool</translation>
+    </message>
+    <message>
+        <source>只能是 %1、%2（全部）；discount、return 后面可以写上限（discount:10）。写的是“%3”</source>
+        <translation>It can only be %1 or %2 (all of them); a limit can stand behind discount and return (discount:10). It is &quot;%3&quot;</translation>
+    </message>
+    <message>
+        <source>%1（%2，可以写最多百分之几：%1:10）</source>
+        <translation>%1 (%2, up to so many per cent: %1:10)</translation>
+    </message>
+    <message>
+        <source>%1（%2，可以写最多多少元：%1:200）</source>
+        <translation>%1 (%2, up to so many yuan: %1:200)</translation>
+    </message>
+    <message>
+        <source>%1，或者 %2（全部）</source>
+        <translation>%1, or %2 (all of them)</translation>
+    </message>
+    <message>
+        <source>账目正确：单据 %1 张（其中未结 %2 张），商品行 %3 行，退货 %4 笔，库存 %5 条，日志 %6 条。</source>
+        <translation>The books are right: %1 bills (%2 of them open), %3 lines, %4 returns, %5 rows of stock, %6 journal entries.</translation>
+    </message>
+    <message>
+        <source>日志少了第 %1 条</source>
+        <translation>entry %1 of the journal is missing</translation>
+    </message>
+    <message>
+        <source>日志少了第 %1 到第 %2 条</source>
+        <translation>entries %1 to %2 of the journal are missing</translation>
+    </message>
+    <message>
+        <source>日志第 %1 条</source>
+        <translation>entry %1 of the journal</translation>
+    </message>
+    <message>
+        <source>%1与它的校验值不符：它，或者它前面的一条，被改过或删过</source>
+        <translation>%1 does not match its seal: it, or the one before it, was changed or deleted</translation>
+    </message>
+    <message>
+        <source>%1的时间 %2 早于前一条的 %3</source>
+        <translation>%1 has the time %2, before that of the one before it, %3</translation>
+    </message>
+    <message>
+        <source>日志里没有这一种：%1</source>
+        <translation>The journal has no such kind: %1</translation>
+    </message>
+    <message>
+        <source>写不下去，磁盘可能满了，日志不完整。</source>
+        <translation>Writing failed, the disk may be full; the journal is incomplete.</translation>
+    </message>
+    <message>
+        <source>种类：</source>
+        <translation>Kinds:</translation>
+    </message>
+    <message>
+        <source>列出日志：号码、时间、机号、操作员、批准人、种类、对象、内容，各用制表符分开</source>
+        <translation>list the journal: number, time, till, operator, who approved, kind, what, contents, separated by tabs</translation>
+    </message>
+    <message>
+        <source>从哪天起</source>
+        <translation>from which day</translation>
+    </message>
+    <message>
+        <source>到哪天止（含这一天）</source>
+        <translation>to which day (included)</translation>
+    </message>
+    <message>
+        <source>只列这一种，见下</source>
+        <translation>only this kind, see below</translation>
+    </message>
+    <message>
+        <source>只列这位操作员；0 是店主工具</source>
+        <translation>only this operator; 0 is the owner&apos;s tool</translation>
+    </message>
+    <message>
+        <source>只列这台收银机</source>
+        <translation>only this till</translation>
+    </message>
+    <message>
+        <source>没有</source>
+        <translation>none</translation>
+    </message>
+    <message>
+        <source>%1 日志记的是 %2，账上是 %3</source>
+        <translation>%1 is %2 in the journal, %3 in the books</translation>
+    </message>
+    <message>
+        <source>操作员</source>
+        <translation>Operator</translation>
+    </message>
+    <message>
+        <source>日志第 %1 条读不出来：%2</source>
+        <translation>entry %1 of the journal can&apos;t be read: %2</translation>
+    </message>
+    <message>
+        <source>单据 %1 在日志第 %2 条和第 %3 条之间，在本程序以外改过</source>
+        <translation>bill %1 was changed outside this program between the journal&apos;s entries %2 and %3</translation>
+    </message>
+    <message>
+        <source>店铺参数 Journal 是 1，日志却是空的：被删掉了</source>
+        <translation>the shop parameter Journal is 1, but the journal is empty: it was deleted</translation>
+    </message>
+    <message>
+        <source>店铺参数 Journal 是 1，日志却停用了</source>
+        <translation>the shop parameter Journal is 1, but the journal was ended</translation>
+    </message>
+    <message>
+        <source>单据 %1 在日志第 %2 条结了账，账上却没有这张已结的单据了</source>
+        <translation>bill %1 was settled by the journal&apos;s entry %2, but the books no longer have it as settled</translation>
+    </message>
+    <message>
+        <source>单据 %1 不在日志里：是在本程序以外加进去的</source>
+        <translation>bill %1 is not in the journal: it was added outside this program</translation>
+    </message>
+    <message>
+        <source>单据 %1 与日志第 %2 条不符：%3</source>
+        <translation>bill %1 differs from the journal&apos;s entry %2: %3</translation>
+    </message>
+    <message>
+        <source>日志开始以前的单据 %1 到 %2 里有改过的：那时有 %3 张已结的，现在有 %4 张</source>
+        <translation>of the bills %1 to %2, from before the journal, some were changed: %3 were settled then, %4 are now</translation>
+    </message>
+    <message>
+        <source>未结的单据 %1 没有开单的日志</source>
+        <translation>the open bill %1 was begun without a journal entry</translation>
+    </message>
+    <message>
+        <source>单据 %1 开了单，日志里没有结账也没有撤消，账上却没有了</source>
+        <translation>bill %1 was begun and neither settled nor voided in the journal, but the books no longer have it</translation>
+    </message>
+    <message>
+        <source>%1 不在日志里：是在本程序以外加进去的</source>
+        <translation>%1 is not in the journal: added outside this program</translation>
+    </message>
+    <message>
+        <source>%1 的资料与日志不符：%2</source>
+        <translation>%1 differs from the journal: %2</translation>
+    </message>
+    <message>
+        <source>会员 %1 在日志里，账上却没有了</source>
+        <translation>member %1 is in the journal, but no longer in the books</translation>
+    </message>
+    <message>
+        <source>%1是 %2，按日志应是 %3</source>
+        <translation>%1 is %2, but %3 by the journal</translation>
+    </message>
+    <message>
+        <source>储值卡 %1 的余额</source>
+        <translation>the balance of stored-value card %1</translation>
+    </message>
+    <message>
+        <source>会员 %1 的累计消费</source>
+        <translation>what member %1 has spent so far</translation>
+    </message>
+    <message>
+        <source>会员 %1 的积分</source>
+        <translation>the points of member %1</translation>
+    </message>
+    <message>
+        <source>%1 与日志不符：%2</source>
+        <translation>%1 differs from the journal: %2</translation>
+    </message>
+    <message>
+        <source>%1 %2 在日志里，账上却没有了</source>
+        <translation>%1 %2 is in the journal, but no longer in the books</translation>
+    </message>
+    <message>
+        <source>店铺参数 %1 是“%2”，按日志没有设过</source>
+        <translation>the shop parameter %1 is &quot;%2&quot;, but was never set by the journal</translation>
+    </message>
+    <message>
+        <source>店铺参数 %1 是“%2”，按日志应是“%3”</source>
+        <translation>the shop parameter %1 is &quot;%2&quot;, but &quot;%3&quot; by the journal</translation>
+    </message>
+    <message>
+        <source>店铺参数 %1 按日志应是“%2”，现在没有了</source>
+        <translation>the shop parameter %1 is &quot;%2&quot; by the journal, but no longer there</translation>
+    </message>
+    <message>
+        <source>不是数字：%1</source>
+        <translation>This is no number: %1</translation>
+    </message>
+    <message>
+        <source>操作员：增加、列出、改密码、员工卡、删除</source>
+        <translation>operators: add, list, change passwords, staff cards, remove</translation>
+    </message>
+    <message>
+        <source>权限，可以写几次：%1</source>
+        <translation>rights, can be given several times: %1</translation>
+    </message>
+    <message>
+        <source>操作员 %1 没有员工卡了</source>
+        <translation>Operator %1 has no staff card any more</translation>
+    </message>
+    <message>
+        <source>请刷卡：</source>
+        <translation>Please swipe the card: </translation>
+    </message>
+    <message>
+        <source>这不是刷卡器读出的卡号：应以“;”开头，以“?”结尾。</source>
+        <translation>No card reader gives such a number: it begins with &quot;;&quot; and ends with &quot;?&quot;.</translation>
+    </message>
+    <message>
+        <source>这张卡已经是别的操作员的员工卡了。</source>
+        <translation>This is another operator&apos;s staff card already.</translation>
+    </message>
+    <message>
+        <source>操作员 %1 以后可以刷这张卡授权，不用密码</source>
+        <translation>Operator %1 can approve with this card from now on, without a password</translation>
+    </message>
+    <message>
+        <source>员工卡：刷卡代替编号和密码，给收银台上的操作授权</source>
+        <translation>staff card: approves at the till in place of number and password</translation>
+    </message>
+    <message>
+        <source>用户编号，1 到 32767</source>
+        <translation>the user number, 1 to 32767</translation>
+    </message>
+    <message>
+        <source>收回员工卡</source>
+        <translation>take the staff card back</translation>
+    </message>
+    <message>
+        <source>商品 %1 的库存是 %2，按日志应是 %3</source>
+        <translation>the stock of goods %1 is %2, but %3 by the journal</translation>
+    </message>
+    <message>
+        <source>商品 %1 按日志有库存 %2，库存里却没有它了</source>
+        <translation>goods %1 have a stock of %2 by the journal, but are no longer in stock</translation>
     </message>
 </context>
 <context>
@@ -4302,6 +5001,37 @@ Please write the goods anew.</translation>
     <message>
         <source>备注</source>
         <translation>Remarks</translation>
+    </message>
+</context>
+<context>
+    <name>dlgApproval</name>
+    <message>
+        <source>授权</source>
+        <translation>Approval</translation>
+    </message>
+    <message>
+        <source>放弃</source>
+        <translation>Give up</translation>
+    </message>
+    <message>
+        <source>用户编号或刷卡：</source>
+        <translation>User number or staff card:</translation>
+    </message>
+    <message>
+        <source>密码：</source>
+        <translation>Password:</translation>
+    </message>
+    <message>
+        <source>%1最多只能到 %2。请有权限的人授权，%3 放弃。</source>
+        <translation>%1: up to %2 only. Somebody with the right may approve; %3 gives up.</translation>
+    </message>
+    <message>
+        <source>%1没有这个权限。请有权限的人授权，%2 放弃。</source>
+        <translation>%1 has no right to do this. Somebody with the right may approve; %2 gives up.</translation>
+    </message>
+    <message>
+        <source>%1也不能授权：%2。</source>
+        <translation>%1 can&apos;t approve either: %2.</translation>
     </message>
 </context>
 <context>
@@ -4729,6 +5459,53 @@ Member since: %3</translation>
     </message>
 </context>
 <context>
+    <name>frmJournal</name>
+    <message>
+        <source>查询(&amp;S)</source>
+        <translation>&amp;Search</translation>
+    </message>
+    <message>
+        <source>退出(&amp;X)</source>
+        <translation>E&amp;xit</translation>
+    </message>
+    <message>
+        <source>日志</source>
+        <translation>Journal</translation>
+    </message>
+    <message>
+        <source>全部种类</source>
+        <translation>All kinds</translation>
+    </message>
+    <message>
+        <source>全部操作员</source>
+        <translation>All operators</translation>
+    </message>
+    <message>
+        <source>%1 %2</source>
+        <translation>%1 %2</translation>
+    </message>
+    <message>
+        <source>日期：</source>
+        <translation>Dates:</translation>
+    </message>
+    <message>
+        <source>到</source>
+        <translation>to</translation>
+    </message>
+    <message>
+        <source>已找到 %L1 条，按 %2 停止</source>
+        <translation>%L1 entries found, %2 stops it</translation>
+    </message>
+    <message>
+        <source>共 %L1 条</source>
+        <translation>%L1 entries</translation>
+    </message>
+    <message>
+        <source>只列出前 %L1 条，后面的没有再看</source>
+        <translation>Only the first %L1 entries; the others were not looked at</translation>
+    </message>
+</context>
+<context>
     <name>frmKeyset</name>
     <message>
         <source>键盘设置</source>
@@ -4920,6 +5697,14 @@ Member since: %3</translation>
     <message>
         <source>版本 %1</source>
         <translation>Version %1</translation>
+    </message>
+    <message>
+        <source>日    志</source>
+        <translation>Journal</translation>
+    </message>
+    <message>
+        <source>练    习</source>
+        <translation>Practice</translation>
     </message>
 </context>
 <context>
@@ -5275,14 +6060,6 @@ Member since: %3</translation>
 <context>
     <name>posMod</name>
     <message>
-        <source>%1
-还没有数据文件的话，请店主建立一个：
-tilladmin create %2</source>
-        <translation>%1
-If there is no data file yet, ask the owner to make one:
-tilladmin create %2</translation>
-    </message>
-    <message>
         <source>还没有能收银的操作员。请店主增加一位：
 tilladmin operator add %1 --number 1 --name 姓名 --right sell</source>
         <translation>No operator may sell yet. Ask the owner to add one:
@@ -5293,6 +6070,14 @@ tilladmin operator add %1 --number 1 --name NAME --right sell</translation>
 %1</source>
         <translation>Others can read and write these files, and this program may not change that. Ask the administrator to take the permission away:
 %1</translation>
+    </message>
+    <message>
+        <source>%1
+已经开过店的，它可能在没有接上的磁盘上，请接上再打开。
+还没有开店的，接下来就可以开店。</source>
+        <translation>%1
+If the shop has been set up, the file may be on a disk that is not connected; connect it and start again.
+If there is no shop yet, it can be set up now.</translation>
     </message>
 </context>
 </TS>
