@@ -676,11 +676,11 @@ Take the payment like this?</translation>
     </message>
     <message>
         <source>%1=增加会员</source>
-        <translation>%1=Add member</translation>
+        <translation>%1=Add&#xa0;member</translation>
     </message>
     <message>
         <source>%1删除最后一行</source>
-        <translation>%1=Delete line</translation>
+        <translation>%1=Delete&#xa0;line</translation>
     </message>
     <message>
         <source>%1挂单</source>
@@ -692,15 +692,15 @@ Take the payment like this?</translation>
     </message>
     <message>
         <source>%1补打小票查询销售</source>
-        <translation>%1=Query, reprint</translation>
+        <translation>%1=Query,&#xa0;reprint</translation>
     </message>
     <message>
         <source>%1会员充值</source>
-        <translation>%1=Top up</translation>
+        <translation>%1=Top&#xa0;up</translation>
     </message>
     <message>
         <source>%1=整单撤消</source>
-        <translation>%1=Void bill</translation>
+        <translation>%1=Void&#xa0;bill</translation>
     </message>
     <message>
         <source>方向箭头</source>
@@ -708,7 +708,7 @@ Take the payment like this?</translation>
     </message>
     <message>
         <source>%1改数量折扣</source>
-        <translation>%1=Qty, discount</translation>
+        <translation>%1=Qty,&#xa0;discount</translation>
     </message>
 </context>
 <context>
