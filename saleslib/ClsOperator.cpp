@@ -3,6 +3,7 @@
 #include <nlohmann/json.hpp>
 
 #include "base/Failure.h"
+#include "base/Words.h"
 #include "saleslib/Journal.h"
 #include "saleslib/JournalRecords.h"
 #include "saleslib/PasswordHash.h"

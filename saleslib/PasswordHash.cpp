@@ -4,6 +4,7 @@
 
 #include <array>
 
+#include "base/Words.h"
 #include "saleslib/Sodium.h"
 #include "store/StoreError.h"
 

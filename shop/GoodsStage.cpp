@@ -5,6 +5,7 @@
 #include <random>
 #include <utility>
 
+#include "base/Words.h"
 #include "saleslib/Journal.h"
 #include "shop/Refusal.h"
 #include "store/Connection.h"

@@ -4,6 +4,7 @@
 #include <string>
 #include <vector>
 
+#include "base/Words.h"
 #include "saleslib/Journal.h"
 #include "saleslib/JournalRecords.h"
 #include "shop/Refusal.h"

@@ -2,6 +2,7 @@
 
 #include <CLI/CLI.hpp>
 
+#include "base/Words.h"
 #include "store/Connection.h"
 
 void DataFileOptions::addTo(CLI::App& command) {

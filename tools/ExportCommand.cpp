@@ -7,6 +7,7 @@
 #include <string>
 
 #include "base/WholeFile.h"
+#include "base/Words.h"
 #include "saleslib/Journal.h"
 #include "shop/Exporter.h"
 #include "shop/Refusal.h"

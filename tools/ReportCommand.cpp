@@ -7,6 +7,7 @@
 #include <optional>
 #include <string>
 
+#include "base/Words.h"
 #include "saleslib/Journal.h"
 #include "shop/Refusal.h"
 #include "store/Connection.h"

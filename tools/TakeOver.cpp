@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "base/Words.h"
 #include "saleslib/Journal.h"
 #include "shop/Refusal.h"
 #include "store/Connection.h"
