@@ -119,11 +119,13 @@ TEST_F(JournalTest, IsKeptOnlyWhereTheOwnerWantsIt) {
 TEST_F(JournalTest, GoesOnWithWhatTheOwnersToolDoes) {
   expect(0, "", "param set @ Journal=1");
   play();
+  execute("update sell set sell_time = '2031-01-01 09:00:00' where id = 4");
   write("stock.csv", "spbm,quantity\nB,40\nC,3\n");
   write("member.csv", "bh,name,card\n8001,陈,80\n8009,周,5\n");
   write("goods.csv", "商品编码,条码,名称,零售价,库存\nA,690001,面,4,77\nD,690002,油,30,6\n");
   for (const char* command :
-       {"import @ --table stock ./stock.csv", "import @ --table member ./member.csv",
+       {"bill redate @ 4", "import @ --table stock ./stock.csv",
+        "import @ --table member ./member.csv",
         "import @ --table member ./member.csv --replace-accounts", "import @ ./goods.csv --yes",
         "operator password @ --number 2 --password 9", "operator remove @ --number 2",
         "operator add @ --number 4 --name 新 --password 4 --right journal",
