@@ -88,6 +88,8 @@ constexpr std::array kDefinitions = {
     Definition{"PhonePay", &kSwitch, "0", "收手机扫码付款：0 否，1 是"},
     Definition{"OwnerReport", &kSwitch, "0",
                "收银程序的更多功能里有经营报表（要有 report 权限）：0 否，1 是"},
+    Definition{"Practice", &kSwitch, "0", "收银程序的更多功能里有练习，练习不入账：0 否，1 是"},
+    Definition{"Approval", &kSwitch, "0", "操作员没有权限的操作要有人授权：0 否，1 是"},
     Definition{
         "Journal", &kSwitch, "0",
         "记日志：每笔业务一条，只增不改，check 拿账目和它核对；打开时收银程序先退出：0 否，1 "
@@ -236,6 +238,12 @@ bool ClsSysParam::CheckPayment() const {
 }
 bool ClsSysParam::GoodsImport() const {
   return isOn("GoodsImport");
+}
+bool ClsSysParam::Practice() const {
+  return isOn("Practice");
+}
+bool ClsSysParam::Approval() const {
+  return isOn("Approval");
 }
 bool ClsSysParam::OwnerReport() const {
   return isOn("OwnerReport");

@@ -68,7 +68,7 @@ void Journal::write(const std::optional<Last>& before, EntryKind kind, const std
                      .time = time,
                      .till = kTill,
                      .operatorId = connection_.user().number(),
-                     .approver = {},
+                     .approver = connection_.user().approver(),
                      .kind = entryKind(kind).key,
                      .touches = touches,
                      .body = textOf(body),

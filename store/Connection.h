@@ -27,6 +27,10 @@ struct ConnectionUser {
   std::function<std::optional<std::int64_t>()> number = [] {
     return std::optional<std::int64_t>(0);
   };
+  /// Who allows what is being done, where somebody had to be asked.
+  std::function<std::optional<std::int64_t>()> approver = [] {
+    return std::optional<std::int64_t>();
+  };
   Clock clock = localTime;
 };
 
@@ -102,6 +106,9 @@ class Connection {
   /// The pages (4 KiB each) that were in the log after the last commit and were not copied since.
   int logPages() const { return logPages_; }
   static constexpr int kMostLogPages = 16'384;
+  /// From now on the tables of that data file that this one has not can be read as if they were its
+  /// own, as they are at each moment; nothing can be written to them. For a nameless file.
+  void readBeside(const DataSource& other);
   /// From now on `asked` is called every few milliseconds while a statement runs, in its thread;
   /// when it says yes, the statement ends by a StoreError. It must not use the connection.
   void stopWhen(std::function<bool()> asked);
@@ -130,6 +137,7 @@ class Connection {
   std::unique_ptr<sqlite3, EngineCloser> engine_;
   std::unique_ptr<StatementCache> statements_;
   std::function<bool()> stopAsked_;
+  const char* begin_ = "begin immediate";  ///< of an outermost transaction
   int transactionDepth_ = 0;
   int logPages_ = 0;
   WriteMarks marks_;

@@ -1,5 +1,6 @@
 #include "store/Schema.h"
 #include "store/SchemaTexts.h"
+#include "store/StaffCardStep.h"
 
 namespace {
 
@@ -22,7 +23,7 @@ create index sell_phone_slip on sell (phone_slip) where phone_slip is not null;
 }  // namespace
 
 const std::vector<std::string>& schemaSteps() {
-  static const std::vector<std::string> steps = {kFirstTables, kSecondStep, kThirdStep,
-                                                 kGoodsTables, kJournalTable};
+  static const std::vector<std::string> steps = {kFirstTables, kSecondStep,    kThirdStep,
+                                                 kGoodsTables, kStaffCardStep, kJournalTable};
   return steps;
 }

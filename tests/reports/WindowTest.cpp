@@ -1,7 +1,7 @@
 #include <QTableView>
 #include <QTimer>
 
-#include "Hands.h"
+#include "Approvals.h"
 #include "ReportsFixture.h"
 #include "base/Gbk.h"
 #include "base/Text.h"
@@ -75,6 +75,21 @@ TEST_F(frmCountTest, ShowsTheDayAndPrintsTheSheet) {
             "    销售交班表/今日累计发生 [2] 笔交易/共交易 [3.25] 件商品/交易额 [12.50] "
             "元/其中扫码 [0.50] 元");
   EXPECT_THAT(ports.pageWidthsMm, ElementsAre(58)) << "\"usb\" is no printer";
+}
+
+TEST_F(frmCountTest, TheSheetOfAShiftNeedsItsRight) {
+  askForApprovals(pos, {"sell"}, {"shift"});
+  pos.gPosSet.PPort = "LPT1";
+  Hands hands;
+  for (const char* answer : {kGivesUp, kApproves}) {
+    hands.at("frmCount", [](QWidget& form) { typeAt(form, "print1", " "); });
+    hands.type("dlgApproval", answer);
+  }
+  hands.at("frmCount", [](QWidget&) { Hands::pressNow(Key_Escape); });
+  frmCount(pos).init();
+  const std::string printed = gbk::decode(fileBytes(folder.file("lpt1")));
+  EXPECT_EQ(printed.find("销售交班表"), printed.rfind("销售交班表")) << "once";
+  EXPECT_NE(printed.find("销售交班表"), std::string::npos);
 }
 
 class frmSearchTest : public ReportsFixture {
@@ -155,6 +170,32 @@ TEST_F(frmSearchTest, TheLastBillIsPrintedAgainByOneKeyWithItsAmountsInSight) {
   EXPECT_EQ(form->findChild<QLineEdit*>("numberSerch")->text(), "2");
   const auto* list = form->findChild<QTableView*>("ListView1");
   EXPECT_LE(list->columnViewportPosition(kColumnUnitCost), list->viewport()->width());
+}
+
+TEST_F(frmSearchTest, QueryAndReprintNeedTheirRightsEachOnce) {
+  sell(2, "2026-11-22 09:00:00", "A1", 2);
+  settle(2, "2026-11-22 09:00:00", 2, "5");
+  pos.gPosSet.PPort = "USB";
+  askForApprovals(pos, {"reprint"}, {"query", "reprint"});
+  open();
+  QTest::keyClick(form.get(), Key_L, Qt::AltModifier);
+  EXPECT_EQ(found(), "2 康师傅红烧牛肉面 2 5 |  2 5 |");
+  EXPECT_EQ(ports.pages.size(), 1U) << "that bill is looked for to be printed, not to be queried";
+  pos.gOperator->setRights(ClsRights({"sell"}));
+  hands.type("dlgApproval", kGivesUp);
+  type("zjmtm", "none\n");
+  EXPECT_EQ(found(), "2 康师傅红烧牛肉面 2 5 |  2 5 |");
+  hands.type("dlgApproval", kApproves);
+  Hands::typeNow("\n");
+  EXPECT_EQ(found(), "  0 0 |");
+  type("zjmtm", "K\n");
+  EXPECT_EQ(found(), "2 康师傅红烧牛肉面 2 5 |  2 5 |") << "not asked again in this window";
+  for (const char* answer : {kGivesUp, kSwipes}) {
+    hands.type("dlgApproval", answer);
+    type("Command3", "\n");
+  }
+  EXPECT_EQ(ports.pages.size(), 2U);
+  EXPECT_TRUE(hands.idle());
 }
 
 TEST_F(frmSearchTest, DatesAndTimesAreTakenAsTypedAndImpossibleOnesSaid) {
