@@ -10,12 +10,15 @@
 #include "app/RightTexts.h"
 #include "app/posMod.h"
 #include "base/Failure.h"
+#include "base/NumberText.h"
 #include "platform/KeyName.h"
 #include "platform/QtText.h"
 #include "saleslib/Identification.h"
+#include "saleslib/Journal.h"
 #include "saleslib/StaffCard.h"
 #include "shell/FramedFields.h"
 #include "shell/IdentityTexts.h"
+#include "shell/Modal.h"
 #include "shell/ShownText.h"
 
 dlgApproval::dlgApproval(posMod& pos, const Deed& deed, QWidget* parent)
@@ -95,9 +98,31 @@ void dlgApproval::say(const QString& text) {
   style()->polish(lblSaid_);
 }
 
+namespace {
+
+/// Notes what came of a question in the journal. False, and a message said why, when that failed.
+bool noteAnswer(const posMod& pos, QWidget* parent, const Deed& deed, const ClsOperator* approver) {
+  const RightKind& right = rightKind(deed.right);
+  try {
+    pos.journal().note(approver ? EntryKind::kApprovalGiven : EntryKind::kApprovalRefused,
+                       right.key,
+                       {{"right", right.word},
+                        {"size", deed.size.isZero() ? "" : generalNumber(deed.size)},
+                        {"approver", approver ? std::to_string(approver->Id()) : ""}});
+    return true;
+  } catch (const Failure& failure) {
+    messageBox(parent, qtText(failure.what()));
+    return false;
+  }
+}
+
+}  // namespace
+
 Permit askLeave(posMod& pos, QWidget* parent, const Deed& deed) {
   ensure(pos.gOperator != nullptr, "who asks for leave is logged in");
   return pos.permission.may(*pos.gOperator, deed, [&](const Deed& wanted) {
-    return dlgApproval(pos, wanted, parent).ask();
+    std::shared_ptr<const ClsOperator> approver = dlgApproval(pos, wanted, parent).ask();
+    if (!noteAnswer(pos, parent, wanted, approver.get())) approver.reset();
+    return approver;
   });
 }

@@ -8,6 +8,7 @@
 #include "base/NumberText.h"
 #include "base/Text.h"
 #include "saleslib/ClsSysParam.h"
+#include "saleslib/Journal.h"
 #include "shop/DemoShop.h"
 #include "shop/Importer.h"
 #include "shop/Refusal.h"
@@ -111,6 +112,7 @@ void restore(const NewShop& shop, const DataSource& target,
   requireSoundDataFile({shop.backup, target.password}, Soundness::kEveryPage);
   storeSettings();
   static_cast<void>(restoreDataFile(shop.backup, target, "old"));
+  Journal(*openDataFile(target)).note(EntryKind::kRestored, {}, {{"backup", shop.backup.string()}});
 }
 
 std::string fieldRefusal(const Table& table, const char* column, const std::string& field,

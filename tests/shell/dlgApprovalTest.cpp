@@ -29,6 +29,7 @@ class dlgApprovalTest : public LoginFixture {
 };
 
 TEST_F(dlgApprovalTest, OnlyWhoHasTheRightApprovesAndForOneTime) {
+  setParameter("Journal", "1");
   see("张三没有这个权限。请有权限的人授权，Esc 放弃。||@txtNumber");
   type("1\n111\n").see("张三也不能授权：设置和导入商品。|1|@txtNumber");
   type("2\n111\n").see("用户编号或密码不正确！|2|@txtPassword");
@@ -45,6 +46,10 @@ TEST_F(dlgApprovalTest, OnlyWhoHasTheRightApprovesAndForOneTime) {
   openSettings();
   EXPECT_EQ(opened, 2);
   EXPECT_EQ(pos.gOperator->Id(), 1) << "it goes on in the cashier's name";
+  EXPECT_EQ(stored("group_concat(kind || ' ' || touches, '|') as v from fact where kind in "
+                   "('approval_given', 'approval_refused')"),
+            "approval_given settings|approval_given settings|approval_refused settings|"
+            "approval_refused settings");
   setParameter("Approval", "0");
   openSettings();
   EXPECT_EQ(opened, 3);
