@@ -21,6 +21,7 @@ class BackupKeeper;
 class BillBooks;
 class Connection;
 class DataFileLock;
+class Journal;
 class ReturnBooks;
 class TopUpBooks;
 struct DataSource;
@@ -87,6 +88,8 @@ class posMod {
   /// which is gone with it. Its papers say so in the place of the shop's name. Needs the data file
   /// open and somebody logged in (ensure). Throws Failure.
   std::unique_ptr<posMod> practice() const;
+  /// For what is done without writing into the books; those note for themselves what they do.
+  Journal journal() const;
   /// Forces the mouse pointer visible or hidden.
   void ShowMouse(bool show);
   /// Logs the operator off, if one is logged in. Throws Failure, for a data file that has been

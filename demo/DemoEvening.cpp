@@ -11,7 +11,17 @@ constexpr const char* kNewCard = "88001234";
 
 // Entries of the main menu and of the further menu, by position.
 enum MainMenu { kSell, kCount, kPosSet, kEditPwd, kEnd, kMainEntries };
-enum FurtherMenu { kSearch, kUnSell, kAddMen, kKeySet, kPractice, kExit, kHelp, kFurtherEntries };
+enum FurtherMenu {
+  kSearch,
+  kUnSell,
+  kAddMen,
+  kKeySet,
+  kPractice,
+  kJournal,
+  kExit,
+  kHelp,
+  kFurtherEntries
+};
 
 /// Moves the highlight of a menu, which stays where it was last time, and chooses.
 void choose(TillDriver& till, int& highlight, int entry, int entries) {
@@ -61,6 +71,11 @@ void DemoDay::evening() {
   till.key("Space");
   furtherScreen(kPractice, "frmSell");
   practise(till);
+  furtherScreen(kJournal, "frmJournal");
+  till.key("Return");
+  till.waitForText("lblState", "共");
+  shot(till, "journal");
+  till.key("Esc");
   furtherScreen(kHelp, "frmHelp");
   shot(till, "help");
   till.key("Esc");

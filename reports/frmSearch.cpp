@@ -27,6 +27,7 @@
 #include "saleslib/GoodsLookup.h"
 #include "shell/DateField.h"
 #include "shell/Modal.h"
+#include "shell/Noted.h"
 #include "shell/dlgApproval.h"
 
 namespace {
@@ -228,6 +229,7 @@ bool frmSearch::hasList(const QString& otherwise) {
 
 void frmSearch::printReport() {
   if (!hasList(tr("没有可打印的内容！")) || !Frame5_->check() || !mayQuery()) return;
+  if (!noted(pos_, this, EntryKind::kReported, qtText(kExportTitle))) return;
   print(reportSheet(*ListView1_->list(), Frame5_->start(), Frame5_->end(), pos_.clock()));
 }
 
@@ -242,6 +244,7 @@ void frmSearch::printReceipt() {
   const bool bySlip = takesSlips() && list.lineCount() > 0;
   const std::string number =
       bySlip ? list.text(0, kColumnBill) : Frame5_->numberSerch->text().toStdString();
+  if (!noted(pos_, this, EntryKind::kReprinted, qtText(number))) return;
   print(reprintPage(list, number, pos_.gSysParam, pos_.clock()));
 }
 
@@ -274,7 +277,8 @@ void frmSearch::exportList() {
   if (!hasList(tr("没有可导出的内容！")) || !mayQuery()) return;
   const QString name = qtText(kExportTitle) + ' ' + qtText(dateText(pos_.clock().date));
   ExportDialog dialog(pos_.gKeyBoard, exportFolder(pos_.configIni, pos_.folder), name, this);
-  if (dialog.exec() == QDialog::Accepted) exportTo(dialog.file());
+  if (dialog.exec() != QDialog::Accepted) return;
+  if (noted(pos_, this, EntryKind::kExported, dialog.name())) exportTo(dialog.file());
 }
 
 void frmSearch::exportTo(const std::filesystem::path& file) {

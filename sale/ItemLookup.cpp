@@ -38,7 +38,7 @@ ItemLookup::Line ItemLookup::lookUp(const std::function<FoundGoods()>& find) {
     const std::optional<Currency> price = askPrice();
     givenUp_ = !price;
     if (givenUp_) return nullptr;
-    line->setPrice(*price);
+    line->typePrice(*price);
     return line;
   } catch (const Failure& failure) {
     screen_.messageBox(qtText(failure.what()));

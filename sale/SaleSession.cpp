@@ -9,6 +9,7 @@
 #include "platform/QtText.h"
 #include "platform/VirtualKey.h"
 #include "sale/TopUpReport.h"
+#include "saleslib/Journal.h"
 #include "saleslib/TopUpBooks.h"
 
 namespace {
@@ -97,9 +98,8 @@ void SaleSession::fillCommands() {
   add(&KeyBoard::mF6, [this] { held_.RecallBill(); });
   addOpener(&KeyBoard::mF8, "search");
   addOpener(&KeyBoard::mF9, "topup");
-  commands_.push_back({&KeyBoard::mF10, [this] {
-                         return allowed(Right::kDrawer, [this] { devices_.drawer().OpenDrawer(); });
-                       }});
+  commands_.push_back(
+      {&KeyBoard::mF10, [this] { return allowed(Right::kDrawer, [this] { openDrawer(); }); }});
   addOpener(&KeyBoard::mF11, "search");
   commands_.push_back({&KeyBoard::mF12, [this] { return lines_.CancelBill(); }});
   add(&KeyBoard::mEsc, [this] { exit(); });
@@ -210,6 +210,17 @@ SaleSession::Entries SaleSession::menuEntries() const {
   Entries entries = allMenuEntries();
   std::erase_if(entries, [this](const auto& entry) { return !menu_.contains(entry.second); });
   return entries;
+}
+
+// Without a sale, so the journal comes first: what it cannot tell of is not done.
+void SaleSession::openDrawer() {
+  if (!devices_.drawer().isConfigured()) return;
+  try {
+    pos_.journal().note(EntryKind::kDrawerOpened);
+    devices_.drawer().OpenDrawer();
+  } catch (const Failure& failure) {
+    screen_.messageBox(qtText(failure.what()));
+  }
 }
 
 void SaleSession::toggleLinePrint() {

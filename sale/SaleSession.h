@@ -81,6 +81,7 @@ class SaleSession {
   const clsQk* quickKeyFor(int code, const QString& text) const;
   bool quickKey(int code);
   void show() { screen_.show(sale_.picture()); }
+  void openDrawer();
   void toggleLinePrint();
 
   posMod& pos_;

@@ -176,7 +176,7 @@ void frmSell::resizeEvent(QResizeEvent* event) {
 }
 
 void frmSell::arrange() {
-  controls_.arrange(pos_.gPosSet);
+  controls_.arrange(pos_.gPosSet, pos_.gKeyBoard);
   moveEditor();
 }
 

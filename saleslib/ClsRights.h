@@ -13,6 +13,8 @@
 inline constexpr const char* kRightSell = "sell";
 /// The right to see the owner's report.
 inline constexpr const char* kRightReport = "report";
+/// The right to see the journal.
+inline constexpr const char* kRightJournal = "journal";
 
 /// One operator's rights, by key. Keys are compared without regard to ASCII case.
 class TESSALY_API ClsRights {

@@ -6,6 +6,9 @@
 #include <QPushButton>
 
 #include "app/posMod.h"
+#include "base/Failure.h"
+#include "platform/QtText.h"
+#include "saleslib/Journal.h"
 #include "shell/FramedFields.h"
 #include "shell/IdentityTexts.h"
 #include "shell/Modal.h"
@@ -55,6 +58,12 @@ void frmLogin::check() {
     return;
   }
   pos_.gOperator = answer.person;
+  try {
+    pos_.journal().note(EntryKind::kLoggedIn, std::to_string(answer.person->Id()));
+  } catch (const Failure& failure) {
+    pos_.gOperator.reset();
+    return messageBox(this, qtText(failure.what()));
+  }
   accept();
 }
 

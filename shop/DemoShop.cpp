@@ -207,13 +207,24 @@ void addGoods(Connection& connection, Date today) {
   ensure(goods && goods->mayBeWritten() && !mapping.isGuessed, "the demo goods are accepted");
 }
 
+// Of what is done from then on: the shop as it was filled is what it begins with.
+void keepJournal(Connection& connection) {
+  ClsSysParam parameters;
+  parameters.Conn(connection);
+  ensure(parameters.set("Journal", "1").empty(), "demo parameters are accepted");
+}
+
 }  // namespace
 
 void fillDemoShop(Connection& connection, const Clock& clock) {
+  ConnectionUser maker;
+  maker.clock = clock;
+  connection.setUser(std::move(maker));
   Transaction transaction(connection);
   addParameters(connection);
   addOperators(connection);
   addMembers(connection, clock);
   addGoods(connection, clock().date);
+  keepJournal(connection);
   transaction.commit();
 }

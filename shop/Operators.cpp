@@ -6,6 +6,8 @@
 
 #include "base/Failure.h"
 #include "base/Text.h"
+#include "saleslib/ClsRights.h"
+#include "saleslib/Journal.h"
 #include "saleslib/Right.h"
 #include "saleslib/StaffCard.h"
 #include "shop/Refusal.h"
@@ -84,14 +86,10 @@ void addOperator(Connection& connection, const NewOperator& wanted) {
   person.setName(name);
   person.setCode(std::to_string(wanted.number));
   person.setPassword(wanted.password);
-  person.Save();
   // What an operator of that number once had is not inherited.
-  connection.run("delete from operator_rights where operator_id = ?", wanted.number);
   takeStaffCard(connection, wanted.number);
-  for (const std::string& right : std::set(wanted.rights.begin(), wanted.rights.end())) {
-    connection.run("insert into operator_rights (operator_id, right_key) values (?, ?)",
-                   wanted.number, right);
-  }
+  person.setRights(ClsRights({wanted.rights.begin(), wanted.rights.end()}));
+  person.Save();
   transaction.commit();
 }
 
@@ -110,5 +108,6 @@ void removeOperator(Connection& connection, std::int16_t number) {
   connection.run("delete from operator_rights where operator_id = ?", number);
   takeStaffCard(connection, number);
   connection.run("delete from operators where id = ?", number);
+  Journal(connection).note(EntryKind::kOperatorRemoved, std::to_string(number));
   transaction.commit();
 }

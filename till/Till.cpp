@@ -10,6 +10,7 @@
 #include "members/frmFMember.h"
 #include "platform/QtText.h"
 #include "reports/frmCount.h"
+#include "reports/frmJournal.h"
 #include "reports/frmReport.h"
 #include "reports/frmSearch.h"
 #include "returns/frmUnSell.h"
@@ -73,6 +74,8 @@ std::map<QString, frmMain::Screen> Till::screens() {
   if (pos_.gSysParam.Practice()) all["practice"] = {true, [this] { practise(); }};
   if (pos_.gSysParam.OwnerReport())
     all["report"] = {true, [this] { reportTakings(); }, Right::kReport};
+  if (pos_.gSysParam.KeepsJournal())
+    all["journal"] = {true, [this] { showJournal(); }, Right::kJournal};
   return all;
 }
 
@@ -114,6 +117,13 @@ void Till::practise() {
                  [] {});
   screen.showPractice();
   screen.openModal();
+}
+
+void Till::showJournal() {
+  if (pos_.permission.approver() || pos_.gOperator->Rights().HasRight(kRightJournal))
+    return show<frmJournal>(pos_);
+  messageBox(QApplication::activeWindow(),
+             QCoreApplication::translate("Till", "您没有看日志的权限！"));
 }
 
 void Till::help() {

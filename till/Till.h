@@ -41,6 +41,7 @@ class Till {
   void reportTakings();
   /// The sale screen on a data file that nobody keeps.
   void practise();
+  void showJournal();
   void help();
   /// Shows a dialog made for the occasion, over whichever window is in front.
   template <class Form>

@@ -47,7 +47,7 @@ std::string rightsOf(const ClsOperator& person) {
 }
 
 void add(const Options& options, Console& console) {
-  const std::unique_ptr<Connection> connection = openDataFile(options.file.source(console));
+  const std::unique_ptr<Connection> connection = options.file.open(console);
   addOperator(*connection, {options.number, options.name, passwordOf(options, console),
                             rightsMeant(options.rights)});
   console.out << "已增加操作员 " << options.number << ' ' << trimmed(options.name) << '\n';
@@ -58,7 +58,7 @@ void add(const Options& options, Console& console) {
 }
 
 void list(const Options& options, Console& console) {
-  const std::unique_ptr<Connection> connection = openDataFile(options.file.source(console));
+  const std::unique_ptr<Connection> connection = options.file.open(console);
   Rows rows = connection->query("select id from operators order by id");
   while (rows.next()) {
     ClsOperator person;
@@ -68,7 +68,7 @@ void list(const Options& options, Console& console) {
 }
 
 void changePassword(const Options& options, Console& console) {
-  const std::unique_ptr<Connection> connection = openDataFile(options.file.source(console));
+  const std::unique_ptr<Connection> connection = options.file.open(console);
   ClsOperator person = existingOperator(*connection, options.number);
   person.setPassword(passwordOf(options, console));
   person.Save();
@@ -76,7 +76,7 @@ void changePassword(const Options& options, Console& console) {
 }
 
 void remove(const Options& options, Console& console) {
-  const std::unique_ptr<Connection> connection = openDataFile(options.file.source(console));
+  const std::unique_ptr<Connection> connection = options.file.open(console);
   const ClsOperator person = existingOperator(*connection, options.number);
   removeOperator(*connection, options.number);
   console.out << "已删除操作员 " << shownName(options, person) << '\n';

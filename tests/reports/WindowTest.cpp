@@ -7,8 +7,10 @@
 #include "base/Text.h"
 #include "reports/ResultColumns.h"
 #include "reports/frmCount.h"
+#include "reports/frmJournal.h"
 #include "reports/frmReport.h"
 #include "reports/frmSearch.h"
+#include "saleslib/Journal.h"
 
 namespace {
 
@@ -291,6 +293,31 @@ TEST_F(frmReportTest, WritesThePeriodsReportToTheFolderUnlessItIsStopped) {
   EXPECT_THAT(fileBytes(file.string()),
               testing::AllOf(testing::HasSubstr("<td>2026-11-01</td>"),
                              testing::Not(testing::HasSubstr("99.00</td>"))));
+}
+
+using frmJournalTest = ReportsFixture;
+
+TEST_F(frmJournalTest, ShowsThePeriodsEntriesByOperatorAndKind) {
+  Hands hands;
+  setParameter("Journal", "1");
+  now.date.day = 23;
+  pos.journal().note(EntryKind::kDrawerOpened);
+  setParameter("PointUnit", "7");
+  pos.gOperator->Init(store, 2);
+  pos.journal().note(EntryKind::kReprinted, "5");
+  hands.at("frmJournal", [&](QWidget& form) {
+    const auto found = [&form](const char* control, const QString& keys) {
+      typeAt(form, control, keys + "\n");
+      return rowsOf(form, "listEntries", {2, 3, 4, 5});
+    };
+    EXPECT_EQ(found("DtBegin", "11-23"),
+              "张三 开钱箱   |张三 设店铺参数 PointUnit 10 改成 7 |李四 补打小票 5  |");
+    EXPECT_EQ(found("cobOperator", "↓↓"), "张三 开钱箱   |张三 设店铺参数 PointUnit 10 改成 7 |");
+    EXPECT_EQ(found("cobOperator", "↓"), "李四 补打小票 5  |");
+    EXPECT_EQ(found("cobKind", "↓"), "");
+    Hands::pressNow(Key_Escape);
+  });
+  frmJournal(pos).exec();
 }
 
 }  // namespace
