@@ -14,6 +14,7 @@ class dlgApprovalTest : public LoginFixture {
     pos.gOperator = std::make_shared<ClsOperator>();
     pos.gOperator->Init(*pos.gConn, 1);
     askForApprovals(pos, {"sell"}, {"settings"});
+    setParameter("Journal", "1");
     pos.loginBrake = LoginBrake([this] { return steady; });
   }
   void openSettings() {
@@ -48,6 +49,9 @@ TEST_F(dlgApprovalTest, OnlyWhoHasTheRightApprovesAndForOneTime) {
   openSettings();
   EXPECT_EQ(opened, 2);
   EXPECT_EQ(pos.gOperator->Id(), 1) << "it goes on in the cashier's name";
+  EXPECT_EQ(stored("group_concat(kind || coalesce(approver, '-')) as v from fact where touches ="
+                   " 'settings'"),
+            "approved2,approved2,approval_refused-,approval_refused-");
   setParameter("Approval", "0");
   openSettings();
   EXPECT_EQ(opened, 3);
