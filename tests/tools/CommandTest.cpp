@@ -142,7 +142,7 @@ TEST_F(CommandTest, OperatorsComeAndGo) {
          "operator add @ --number 10 --name 李四 --password 1 --right all --right DISCOUNT:10");
   expect(0, "10\t李四\tsell,discount:10,price,negative,delete,return,topup,drawer,reprint,query,",
          "operator list @");
-  expect(0, "账目相符", "check @");
+  expect(0, "账目正确", "check @");
   for (const char* track : {"12345", ";8899?"}) {
     typed = track;
     expect(*track == ';' ? 0 : 1, "卡", "operator card @ --number 10");
