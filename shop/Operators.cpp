@@ -12,6 +12,11 @@ namespace {
 
 constexpr std::size_t kLongestName = 255;
 
+void addRight(Connection& connection, std::int16_t number, const std::string& right) {
+  connection.run("insert into operator_rights (operator_id, right_key) values (?, ?)", number,
+                 right);
+}
+
 std::string labelled(std::int16_t number) {
   return "操作员 " + std::to_string(number);
 }
@@ -44,8 +49,7 @@ void addOperator(Connection& connection, const NewOperator& wanted) {
   // What an operator of that number once had is not inherited.
   connection.run("delete from operator_rights where operator_id = ?", wanted.number);
   for (const std::string& right : std::set(wanted.rights.begin(), wanted.rights.end())) {
-    connection.run("insert into operator_rights (operator_id, right_key) values (?, ?)",
-                   wanted.number, right);
+    addRight(connection, wanted.number, right);
   }
   transaction.commit();
 }
@@ -55,6 +59,21 @@ ClsOperator existingOperator(Connection& connection, std::int16_t number) {
   person.Init(connection, number);
   if (!person.Found()) throw Refusal("没有" + labelled(number) + "。");
   return person;
+}
+
+void changeRights(Connection& connection, std::int16_t number,
+                  const std::vector<std::string>& given, const std::vector<std::string>& taken) {
+  Transaction transaction(connection);
+  static_cast<void>(existingOperator(connection, number));
+  std::set<std::string> changed(given.begin(), given.end());
+  changed.insert(taken.begin(), taken.end());
+  for (const std::string& right : changed) {  // rights are kept in either case of letters
+    connection.run("delete from operator_rights where operator_id = ? and lower(right_key) = ?",
+                   number, right);
+  }
+  for (const std::string& right : taken) changed.erase(right);
+  for (const std::string& right : changed) addRight(connection, number, right);
+  transaction.commit();
 }
 
 void removeOperator(Connection& connection, std::int16_t number) {
