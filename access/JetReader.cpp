@@ -27,25 +27,25 @@ using TablePointer = std::unique_ptr<MdbTableDef, TableCloser>;
 }
 
 struct Type {
-  int code;
   const char* name;
+  int code;
   bool isReadable;
 };
 constexpr Type kTypes[] = {
-    {MDB_BOOL, "是/否", true},         {MDB_BYTE, "字节", true},
-    {MDB_INT, "整型", true},           {MDB_LONGINT, "长整型", true},
-    {MDB_MONEY, "货币", true},         {MDB_FLOAT, "单精度", true},
-    {MDB_DOUBLE, "双精度", true},      {MDB_DATETIME, "日期/时间", true},
-    {MDB_TEXT, "文本", true},          {MDB_MEMO, "备注", true},
-    {MDB_NUMERIC, "小数", true},       {MDB_OLE, "OLE 对象", false},
-    {MDB_REPID, "同步复制 ID", false}, {MDB_BINARY, "二进制", false},
+    {"是/否", MDB_BOOL, true},         {"字节", MDB_BYTE, true},
+    {"整型", MDB_INT, true},           {"长整型", MDB_LONGINT, true},
+    {"货币", MDB_MONEY, true},         {"单精度", MDB_FLOAT, true},
+    {"双精度", MDB_DOUBLE, true},      {"日期/时间", MDB_DATETIME, true},
+    {"文本", MDB_TEXT, true},          {"备注", MDB_MEMO, true},
+    {"小数", MDB_NUMERIC, true},       {"OLE 对象", MDB_OLE, false},
+    {"同步复制 ID", MDB_REPID, false}, {"二进制", MDB_BINARY, false},
 };
 
 Type typeOf(const MdbColumn& column) {
   for (const Type& type : kTypes) {
     if (type.code == column.col_type) return type;
   }
-  return {column.col_type, "别的类型", false};
+  return {"别的类型", column.col_type, false};
 }
 
 template <class T>

@@ -31,9 +31,9 @@ BackupKeeper::~BackupKeeper() {
 }
 
 // A run that was stopped has nothing to tell.
-bool BackupKeeper::look() {
+bool BackupKeeper::look(std::chrono::milliseconds patience) {
   if (result_.valid()) {
-    if (result_.wait_for(Seconds(0)) != std::future_status::ready) return false;
+    if (result_.wait_for(patience) != std::future_status::ready) return false;
     state_ = result_.get();
     thread_.join();
     return true;

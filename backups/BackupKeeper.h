@@ -30,9 +30,9 @@ class BackupKeeper {
   BackupKeeper(const BackupKeeper&) = delete;
   BackupKeeper& operator=(const BackupKeeper&) = delete;
 
-  /// To be called about once a second: starts what is due, takes up what is ready. True when the
-  /// state has changed.
-  bool look();
+  /// To be called about once a second: starts what is due, takes up what is ready, or is so within
+  /// that time. True when the state has changed.
+  bool look(std::chrono::milliseconds patience = {});
   /// Today's once more, as at the end of the program; what still runs is given up for it.
   void makeAnew();
   bool isRunning() const { return result_.valid(); }

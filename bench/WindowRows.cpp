@@ -1,6 +1,7 @@
 #include <QListWidget>
 #include <fstream>
 
+#include "base/Failure.h"
 #include "bench/BareTill.h"
 #include "bench/BenchShop.h"
 #include "bench/Goods.h"
@@ -10,6 +11,7 @@
 #include "platform/QtText.h"
 #include "store/Connection.h"
 #include "store/DataFile.h"
+#include "store/FragmentPieces.h"
 
 namespace {
 
@@ -156,26 +158,31 @@ void wholeSale(Run& run, benchmark::State& state, Measured& row) {
   row.claims = {{"ratio", row.ratio(), 3}};
 }
 
-/// The toolkit's list of as many texts, until it has been painted.
-void showToolkitsList(PaintWatch& paint) {
+/// The toolkit's list of the texts that a query gives, until it has been painted.
+void showToolkitsList(BareEngine::Statement& query, PaintWatch& paint) {
   QListWidget list;
   list.setObjectName("list");
-  for (int entry = 0; entry < goods::kLooseGoods; ++entry) {
-    list.addItem(qtText(goods::name(entry) + " " + goods::barcode(entry)));
-  }
+  for (const auto& row : query.read(goods::kLooseGoods)) list.addItem(qtText(row.front()));
+  ensure(list.count() == goods::kLooseGoods, "the bare list shows what the menu shows");
   list.setWindowState(Qt::WindowMaximized);
   list.setAttribute(Qt::WA_ShowWithoutActivating);  // the keyboard stays with the sale window
   paint.untilPainted("list", [&list] { list.show(); });
 }
 
 /// A fragment that ten thousand goods have, until their menu has been painted; against the
-/// toolkit's list of ten thousand texts that need not be looked up.
+/// toolkit's list of the same goods, selected by the same fragment.
 void longMenu(Run& run, benchmark::State& state, Measured& row) {
   Till till(run);
   PaintWatch paint;
+  BareEngine engine(run.shops.copy(run.largest()) / "bare.mdb");
+  BareEngine::Statement query(engine,
+                              "select spmc || ' ' || sptm from tmda where ggxh like ?1 and tmda.id"
+                              " in (select docid from tmda_fragments where ggxh match ?2)");
+  const std::string like = std::string("%") + goods::kLoose + '%', match = *fragmentQuery(like);
+  query.bind(1, like).bind(2, match);
   till.window.open([&] {
     for ([[maybe_unused]] auto _ : state) {
-      row.bare.time([&] { showToolkitsList(paint); });
+      row.bare.time([&] { showToolkitsList(query, paint); });
       till.window.compose(goods::kLoose);
       const Stopwatch since;
       till.window.ringFromMenu([&] { row.till.add(since.microseconds()); });

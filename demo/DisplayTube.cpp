@@ -6,7 +6,11 @@
 #include <termios.h>
 #include <unistd.h>
 
+#include <filesystem>
 #include <stdexcept>
+#include <system_error>
+
+#include "base/Text.h"
 
 namespace {
 
@@ -49,6 +53,11 @@ DisplayTube::~DisplayTube() {
   listener_.join();
   close(slave_);
   close(master_);
+  // A till that was killed while it locked the line leaves an empty lock, which the toolkit
+  // respects for half a minute, and the next line may have the same number.
+  std::error_code none;
+  std::filesystem::remove("/var/lock/LCK.." + replaced(path_.substr(sizeof "/dev"), "/", "_"),
+                          none);
 }
 
 void DisplayTube::listen() {

@@ -6,6 +6,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPointer>
+#include <QRegularExpression>
 #include <QSocketNotifier>
 #include <QTest>
 #include <QTimer>
@@ -17,6 +18,7 @@
 
 #include "Monkey.h"
 #include "Screenshot.h"
+#include "ShownTexts.h"
 
 namespace {
 
@@ -31,7 +33,7 @@ void leaveOutMissingScreen(QtMsgType type, const QMessageLogContext& context, co
     messagesBefore(type, context, text);
 }
 
-/// Executes command lines from a socket inside the till's process, one after the other:
+/// Executes command lines from a socket or a pipe inside the till's process, one after the other:
 ///   key NAME       a key click in the active window (names as QKeySequence knows them)
 ///   type TEXT      key clicks that type a text
 ///   wait NAME      until the active window's objectName is NAME
@@ -40,6 +42,8 @@ void leaveOutMissingScreen(QtMsgType type, const QMessageLogContext& context, co
 ///   focus          the name of the control that has the keyboard
 ///   window         the name of the active window
 ///   settle         once the keys sent before have been delivered
+///   sees TEXT      whether the active window shows that text, blanks aside; an error tells what it
+///                  shows
 ///   shot FILE      a picture of the screen
 ///   monkey S N W   N random events from seed S, with the words of file W (see Monkey); answered by
 ///                  several lines
@@ -47,14 +51,14 @@ void leaveOutMissingScreen(QtMsgType type, const QMessageLogContext& context, co
 /// delivered, because a window that it opens only returns when that window is closed.
 class Driver : public QObject {
  public:
-  explicit Driver(int socket) : socket_(socket), notifier_(socket, QSocketNotifier::Read) {
+  Driver(int in, int out) : in_(in), out_(out), notifier_(in, QSocketNotifier::Read) {
     connect(&notifier_, &QSocketNotifier::activated, this, &Driver::readCommands);
   }
 
  private:
   void readCommands() {
     char bytes[4096];
-    const ssize_t got = ::read(socket_, bytes, sizeof bytes);
+    const ssize_t got = ::read(in_, bytes, sizeof bytes);
     if (got <= 0) {
       notifier_.setEnabled(false);
       return;
@@ -86,6 +90,8 @@ class Driver : public QObject {
       answer(QStringLiteral("ok ") + (window != nullptr ? window->objectName() : QString()));
     } else if (command == QLatin1String("settle")) {
       QTimer::singleShot(0, this, [this] { answer(QStringLiteral("ok")); });
+    } else if (command == QLatin1String("sees")) {
+      answerWhetherSeen(argument);
     } else if (command == QLatin1String("shot")) {
       answer(screenshot().save(argument) ? QStringLiteral("ok")
                                          : QStringLiteral("error cannot save"));
@@ -176,16 +182,27 @@ class Driver : public QObject {
     answer(QStringLiteral("error no such control"));
   }
 
+  void answerWhetherSeen(QString text) {
+    const QWidget* popup = QApplication::activePopupWidget();
+    const QWidget* window = popup != nullptr ? popup : QApplication::activeWindow();
+    const QStringList texts = window != nullptr ? shownTexts(*window) : QStringList();
+    QString shown = texts.join(QLatin1Char('|'));
+    shown.replace(QLatin1Char('\n'), QLatin1Char(' '));
+    static const QRegularExpression blanks(QStringLiteral("\\s"));
+    const bool isSeen = QString(shown).remove(blanks).contains(text.remove(blanks));
+    answer(isSeen ? QStringLiteral("ok") : QStringLiteral("error ") + shown);
+  }
+
   void answer(const QString& line) {
     const QByteArray bytes = line.toUtf8() + '\n';
     for (qsizetype sent = 0; sent < bytes.size();) {
-      const ssize_t step = ::write(socket_, bytes.constData() + sent, bytes.size() - sent);
+      const ssize_t step = ::write(out_, bytes.constData() + sent, bytes.size() - sent);
       if (step <= 0) return;
       sent += step;
     }
   }
 
-  int socket_;
+  int in_, out_;
   QSocketNotifier notifier_;
   QByteArray pending_;
   std::unique_ptr<Monkey> monkey_;
@@ -193,15 +210,16 @@ class Driver : public QObject {
 
 }  // namespace
 
-/// What Qt loads; the argument is the socket's file descriptor.
+/// What Qt loads; the argument is the socket's file descriptor, or "IN:OUT" of two pipes.
 class DriverPlugin : public QGenericPlugin {
   Q_OBJECT
   Q_PLUGIN_METADATA(IID QGenericPluginFactoryInterface_iid FILE "DriverPlugin.json")
 
  public:
-  QObject* create(const QString&, const QString& socket) override {
+  QObject* create(const QString&, const QString& ends) override {
     messagesBefore = qInstallMessageHandler(leaveOutMissingScreen);
-    return new Driver(socket.toInt());
+    const QStringList both = ends.split(QLatin1Char(':'));
+    return new Driver(both.first().toInt(), both.last().toInt());
   }
 };
 

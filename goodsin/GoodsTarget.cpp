@@ -7,6 +7,8 @@
 
 GoodsTarget openShop(Connection& connection) {
   const DataSource source = connection.source();
+  const ConnectionUser user{.number = [who = connection.user().number()] { return who; },
+                            .clock = connection.user().clock};
   return {[&connection](const auto& headings) { return mappingFor(connection, headings); },
           [&connection](const auto& name, const auto& mapping) {
             saveMapping(connection, name, mapping);
@@ -15,8 +17,9 @@ GoodsTarget openShop(Connection& connection) {
             const auto own = openDataFile(source);
             return previewGoods(*own, *openGoodsSheet(sheet.file).reader, sheet.mapping, goOn);
           },
-          [source](const GoodsSheet& sheet, const GoOn& goOn) {
+          [source, user](const GoodsSheet& sheet, const GoOn& goOn) {
             const auto own = openDataFile(source);
+            own->setUser(user);
             return importGoods(*own, *openGoodsSheet(sheet.file).reader, sheet.mapping,
                                WriteSlices::Company::kOthers, goOn);
           }};

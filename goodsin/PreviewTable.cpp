@@ -83,10 +83,10 @@ void PreviewTable::addMore(std::int64_t count, std::size_t listed, const QString
 }
 
 QString summaryOf(const GoodsPreview& preview) {
-  const QString counts = PreviewTable::tr("新增 %1 行，改动 %2 行，不变 %3 行")
-                             .arg(preview.addedCount)
-                             .arg(preview.changedCount)
-                             .arg(preview.unchangedCount);
+  QString counts = PreviewTable::tr("新增 %1 行，改动 %2 行，不变 %3 行")
+                       .arg(preview.addedCount)
+                       .arg(preview.changedCount)
+                       .arg(preview.unchangedCount);
   if (preview.mayBeWritten()) return counts;
   return PreviewTable::tr("%1，不能导入 %2 行").arg(counts).arg(preview.refusedCount);
 }

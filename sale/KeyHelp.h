@@ -3,13 +3,17 @@
 #include <QLabel>
 #include <QStringList>
 
-/// A label for a list of phrases parted by blanks. A phrase is never broken: lines are filled with
-/// whole phrases, as many as the width takes, and centred.
+class KeyBoard;
+
+/// What the keys of the sale screen do, as they are mapped, in phrases parted by blanks. A phrase
+/// is never broken: lines are filled with whole phrases, as many as the width takes, and centred.
 class KeyHelp : public QLabel {
   Q_OBJECT
 
  public:
   using QLabel::QLabel;
+  /// A function without a key is left out.
+  void show(const KeyBoard& keys);
   int heightForWidth(int width) const override;
 
  protected:

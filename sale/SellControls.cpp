@@ -40,14 +40,12 @@ SellControls::SellControls(QWidget* screen)
   title->setAlignment(Qt::AlignCenter);
   title3->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
   txtmoney->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-  ViewF->setText(
-      tr("ESC=退出 Enter=结账 F2=会员卡 F3=增加会员 F4删除最后一行 F5挂单 F6取单 "
-         "F8补打小票查询销售 F9会员充值 F12=整单撤消 方向箭头改数量折扣"));
   t->setContextMenuPolicy(Qt::NoContextMenu);
   t->setInputMethodHints(Qt::ImhPreferLatin | Qt::ImhNoPredictiveText);
 }
 
-void SellControls::arrange(const ClsPosSet& settings) {
+void SellControls::arrange(const ClsPosSet& settings, const KeyBoard& keys) {
+  ViewF->show(keys);
   const int type = sellTypeSize(screen_->width());
   screen_->setStyleSheet(sellStyleSheet(settings, type));
   setSizes(type);

@@ -1,11 +1,10 @@
 #pragma once
 
-#include <QCoreApplication>
-
 class BillView;
 class ClsPosSet;
 class FittedLabel;
 class InputLine;
+class KeyBoard;
 class KeyHelp;
 class QFrame;
 class QLabel;
@@ -15,13 +14,12 @@ class QWidget;
 /// The controls of the sale screen: what they look like and where they are, at any size of the
 /// screen from 1024 x 768 on. The input line lies in the list.
 class SellControls {
-  Q_DECLARE_TR_FUNCTIONS(SellControls)
-
  public:
   explicit SellControls(QWidget* screen);
 
-  /// Gives them the six colours of the settings, and sizes and places for the size of the screen.
-  void arrange(const ClsPosSet& settings);
+  /// Gives them the six colours of the settings, the keys as they are mapped, and sizes and places
+  /// for the size of the screen.
+  void arrange(const ClsPosSet& settings, const KeyBoard& keys);
   /// The member's lines take room from the status line when there are any.
   void showMember(const QString& text);
 

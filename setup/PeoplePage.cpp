@@ -43,11 +43,11 @@ QString PeoplePage::take() {
     const bool isEmpty = person.name->text().trimmed().isEmpty() &&
                          person.password->text().isEmpty() && person.again->text().isEmpty();
     if (number > 1 && isEmpty) continue;
-    const QString refused = refusal(person);
+    QString refused = refusal(person);
     if (!refused.isEmpty()) return refused;
     answers_.shop.operators.push_back(
         {number, person.name->text().toStdString(), person.password->text().toStdString(),
-         number == 1 ? operatorRights() : std::vector<std::string>{kRightSell}});
+         number == 1 ? allRights() : std::vector<std::string>{kRightSell}});
   }
   return {};
 }

@@ -74,8 +74,14 @@ int MenuEntries::contentHeight() const {
 
 void MenuEntries::setCurrent(int index) {
   current_ = index;
+  sayCurrent();
   scrollToCurrent();
   update();
+}
+
+// For readers of the screen: what is painted tells them nothing.
+void MenuEntries::sayCurrent() {
+  if (isVisible()) setAccessibleName(title(current_));
 }
 
 void MenuEntries::scrollToCurrent() {
@@ -140,6 +146,7 @@ void MenuEntries::showEvent(QShowEvent* event) {
   pointer_ = QCursor::pos();
   pressed_ = -1;
   QWidget::showEvent(event);
+  sayCurrent();
 }
 
 // A pointer that merely lies where the menu comes up or scrolls along must not take the highlight

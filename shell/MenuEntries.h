@@ -58,6 +58,7 @@ class MenuEntries : public QWidget {
   void wheelEvent(QWheelEvent* event) override;
 
  private:
+  void sayCurrent();
   int captionWidth(const QString& title, int widest);
   int contentHeight() const;
   int indexBelow(int y) const;

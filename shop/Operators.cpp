@@ -1,9 +1,15 @@
 #include "shop/Operators.h"
 
+#include <map>
+#include <optional>
 #include <set>
 
+#include "base/Failure.h"
 #include "base/Text.h"
 #include "saleslib/ClsRights.h"
+#include "saleslib/Journal.h"
+#include "saleslib/Right.h"
+#include "saleslib/StaffCard.h"
 #include "shop/Refusal.h"
 #include "store/Connection.h"
 #include "store/Transaction.h"
@@ -12,20 +18,55 @@ namespace {
 
 constexpr std::size_t kLongestName = 255;
 
-void addRight(Connection& connection, std::int16_t number, const std::string& right) {
-  connection.run("insert into operator_rights (operator_id, right_key) values (?, ?)", number,
-                 right);
-}
-
 std::string labelled(std::int16_t number) {
   return "操作员 " + std::to_string(number);
 }
 
 }  // namespace
 
-const std::vector<std::string>& operatorRights() {
-  static const std::vector<std::string> rights = {kRightSell, kRightReport};
-  return rights;
+std::string refusalOfRight(const std::string& text) {
+  if (parseRight(text) || equalIgnoringCase(text, kEveryRight)) return {};
+  std::string keys;
+  for (const std::string& key : allRights()) keys.append(keys.empty() ? "" : "、").append(key);
+  return "只能是 " + keys + "、" + kEveryRight +
+         "（全部）；discount、return 后面可以写上限（discount:10）。写的是“" + text + "”";
+}
+
+std::string rightsForPeople() {
+  std::string all;
+  for (const RightKind& kind : rightKinds()) {
+    all.append(all.empty() ? "" : "、").append(kind.key).append("（").append(kind.word);
+    if (kind.limit == RightKind::Limit::kPercent)
+      all.append("，可以写最多百分之几：").append(kind.key).append(":10");
+    if (kind.limit == RightKind::Limit::kYuan)
+      all.append("，可以写最多多少元：").append(kind.key).append(":200");
+    all.append("）");
+  }
+  return all.append("，或者 ").append(kEveryRight).append("（全部）");
+}
+
+std::vector<std::string> rightsMeant(const std::vector<std::string>& named) {
+  std::map<Right, std::string> meant;
+  for (const std::string& text : named) {
+    const bool isEvery = equalIgnoringCase(text, kEveryRight);
+    for (const std::string& each : isEvery ? allRights() : std::vector{text}) {
+      const std::optional<HeldRight> right = parseRight(each);
+      ensure(right.has_value(), "a named right is one");
+      meant[right->right] = rightText(*right);
+    }
+  }
+  std::vector<std::string> texts;
+  for (const auto& [right, text] : meant) texts.push_back(text);
+  return texts;
+}
+
+std::vector<std::string> shownRights(const ClsRights& rights) {
+  std::vector<std::string> shown;
+  for (const RightKind& kind : rightKinds()) {
+    if (rights.HasRight(kind.key))
+      shown.push_back(rightText({kind.right, rights.Limit(kind.right)}));
+  }
+  return shown;
 }
 
 std::string refusalOfName(const std::string& name) {
@@ -45,12 +86,10 @@ void addOperator(Connection& connection, const NewOperator& wanted) {
   person.setName(name);
   person.setCode(std::to_string(wanted.number));
   person.setPassword(wanted.password);
-  person.Save();
   // What an operator of that number once had is not inherited.
-  connection.run("delete from operator_rights where operator_id = ?", wanted.number);
-  for (const std::string& right : std::set(wanted.rights.begin(), wanted.rights.end())) {
-    addRight(connection, wanted.number, right);
-  }
+  takeStaffCard(connection, wanted.number);
+  person.setRights(ClsRights({wanted.rights.begin(), wanted.rights.end()}));
+  person.Save();
   transaction.commit();
 }
 
@@ -64,15 +103,16 @@ ClsOperator existingOperator(Connection& connection, std::int16_t number) {
 void changeRights(Connection& connection, std::int16_t number,
                   const std::vector<std::string>& given, const std::vector<std::string>& taken) {
   Transaction transaction(connection);
-  static_cast<void>(existingOperator(connection, number));
-  std::set<std::string> changed(given.begin(), given.end());
-  changed.insert(taken.begin(), taken.end());
-  for (const std::string& right : changed) {  // rights are kept in either case of letters
-    connection.run("delete from operator_rights where operator_id = ? and lower(right_key) = ?",
-                   number, right);
-  }
-  for (const std::string& right : taken) changed.erase(right);
-  for (const std::string& right : changed) addRight(connection, number, right);
+  ClsOperator person = existingOperator(connection, number);
+  std::vector<std::string> named = shownRights(person.Rights());
+  named.insert(named.end(), given.begin(), given.end());
+  std::set<Right> lost;
+  for (const std::string& text : rightsMeant(taken)) lost.insert(parseRight(text)->right);
+  std::set<std::string> held;
+  for (const std::string& text : rightsMeant(named))
+    if (!lost.contains(parseRight(text)->right)) held.insert(text);
+  person.setRights(ClsRights(held));
+  person.Save();
   transaction.commit();
 }
 
@@ -82,6 +122,8 @@ void removeOperator(Connection& connection, std::int16_t number) {
     throw Refusal(labelled(number) + "还有没结的单据，先让本人在收银台处理完，再删除。");
   }
   connection.run("delete from operator_rights where operator_id = ?", number);
+  takeStaffCard(connection, number);
   connection.run("delete from operators where id = ?", number);
+  Journal(connection).note(EntryKind::kOperatorRemoved, std::to_string(number));
   transaction.commit();
 }

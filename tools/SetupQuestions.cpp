@@ -66,7 +66,7 @@ void askForOperator(Questions& questions, NewShop& shop, const std::string& who,
 }
 
 void askForPeople(Questions& questions, NewShop& shop) {
-  askForOperator(questions, shop, "店主", operatorRights(), refusalOfName);
+  askForOperator(questions, shop, "店主", allRights(), refusalOfName);
   askForOperator(
       questions, shop, "第一位收银员（不写就没有）", {kRightSell},
       [](const std::string& name) { return name.empty() ? std::string() : refusalOfName(name); });

@@ -29,7 +29,7 @@ class posModTest : public testing::Test {
 };
 
 TEST_F(posModTest, OpensTheConfiguredDataFileOrSaysWhyNot) {
-  EXPECT_THAT(openingFault(), testing::AllOf(HasSubstr("找不到"), HasSubstr("tilladmin create")));
+  EXPECT_THAT(openingFault(), testing::AllOf(HasSubstr("找不到"), HasSubstr("没有接上的磁盘")));
   EXPECT_TRUE(fs::is_empty(folder_.path() / "data")) << "no new empty shop";
   makeShop("data/pos.MDB");
   EXPECT_EQ(openingFault(), "");

@@ -59,7 +59,10 @@ class BackupKeeperTest : public testing::Test {
     return {*books_, medium, [this] { return DateTime{today_, 9, 0, 0}; }, 0s, 0s};
   }
   static void lookUntilNews(BackupKeeper& backups) {
-    while (!backups.look()) std::this_thread::sleep_for(std::chrono::milliseconds(1));
+    for (int seconds = 0; seconds < 60; ++seconds) {
+      if (backups.look(std::chrono::seconds(1))) return;
+    }
+    FAIL() << "no backup within a minute";
   }
   std::int64_t linesIn(const fs::path& file) const {
     Connection copy({file, ""}, Connection::Mode::kExisting);

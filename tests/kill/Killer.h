@@ -7,8 +7,10 @@
 
 #include <atomic>
 #include <chrono>
+#include <condition_variable>
 #include <filesystem>
 #include <fstream>
+#include <mutex>
 #include <stdexcept>
 #include <thread>
 
@@ -47,10 +49,10 @@ class Killer {
   static constexpr int kPatienceMs = 20;  ///< how soon it notices that the till is spared
 
   void strikeAt(Clock::time_point moment, const std::stop_token& spared) {
-    constexpr std::chrono::milliseconds kPatience(kPatienceMs);
-    while (!spared.stop_requested() && Clock::now() + kPatience < moment)
-      std::this_thread::sleep_for(kPatience);
-    std::this_thread::sleep_until(moment);
+    std::mutex mutex;
+    std::unique_lock lock(mutex);
+    std::condition_variable_any never;  // nothing but the moment or the till's being spared ends it
+    never.wait_until(lock, spared, moment, [] { return false; });
     if (spared.stop_requested()) return;
     struck_ = true;
     ::kill(process_, SIGKILL);

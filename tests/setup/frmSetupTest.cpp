@@ -32,7 +32,7 @@ TEST(frmSetupTest, AShopIsMadeByKeyboardAndSellsWithoutARestart) {
   fs::remove(shop.program() / "data");
   TillDriver till(shop.program());
   till.waitFor("messageBox");
-  till.waitForText("qt_msgbox_label", "还没有数据文件的话，请店主建立一个： tilladmin create ");
+  till.waitForText("qt_msgbox_label", "还没有开店的，接下来就可以开店。");
   till.key("Return");
   till.sync();
   till.waitFor("messageBox");
