@@ -14,20 +14,20 @@
 #include "platform/QtText.h"
 #include "saleslib/BillBooks.h"
 #include "saleslib/ClsRights.h"
+#include "saleslib/Journal.h"
 #include "saleslib/ReturnBooks.h"
 #include "saleslib/TopUpBooks.h"
 #include "store/Connection.h"
 #include "store/DataFile.h"
 #include "store/DataFileCopy.h"
 #include "store/DataFileLock.h"
+#include "store/PracticeFile.h"
+#include "store/Transaction.h"
 
 namespace {
 
-/// What may not be looked at is there.
-bool isMissing(const std::filesystem::path& file) {
-  std::error_code fault;
-  return std::filesystem::status(file, fault).type() == std::filesystem::file_type::not_found;
-}
+/// On papers, which are Chinese whatever the screens speak.
+constexpr const char* kPracticeTitle = "练习，不入账";
 
 }  // namespace
 
@@ -57,6 +57,16 @@ std::string posMod::OpenDataStore() {
     source = dataSource();
     lock_ = std::make_unique<DataFileLock>(source.path);
     gConn = openDataFile(source);
+    gConn->setUser({.number = [this]() -> std::optional<std::int64_t> {
+                      if (!gOperator) return std::nullopt;
+                      return gOperator->Id();
+                    },
+                    .approver = [this]() -> std::optional<std::int64_t> {
+                      const auto approver = permission.approver();
+                      if (!approver) return std::nullopt;
+                      return approver->Id();
+                    },
+                    .clock = clock});
     return {};
   } catch (const Failure& failure) {
     lock_.reset();
@@ -127,6 +137,30 @@ TopUpBooks posMod::topUpBooks() const {
   return TopUpBooks(*gConn);
 }
 
+// Its receipts can be taken for the shop's by nobody.
+std::unique_ptr<posMod> posMod::practice() const {
+  ensure(gOperator != nullptr, "somebody practises");
+  auto practice = std::make_unique<posMod>(folder, clock);
+  practice->gConn = practiceDataFile(*gConn, std::filesystem::temp_directory_path());
+  practice->gSysParam.Conn(*practice->gConn);
+  ensure(practice->gSysParam.set("ShopName", kPracticeTitle).empty(), "a title is a shop's name");
+  practice->gMemberSvc.Conn(*practice->gConn);
+  practice->gKeyBoard = gKeyBoard;
+  practice->gPosSet = gPosSet;
+  practice->gPosSet.MBPort.clear();
+  practice->gOperator = std::make_shared<ClsOperator>();
+  practice->gOperator->Init(*practice->gConn, gOperator->Id());
+  return practice;
+}
+
+Identification posMod::identification() {
+  return {*gConn, gSysParam, loginBrake};
+}
+
+Journal posMod::journal() const {
+  return Journal(*gConn);
+}
+
 void posMod::ShowMouse(bool show) {
   showMousePointer(show);
 }
@@ -136,7 +170,10 @@ void posMod::logOff() {
   if (!gOperator) return;
   ClsOperator leaving = *gOperator;  // whoever cannot be logged off stays as he was
   leaving.setOnline(0);
+  Transaction logging(*gConn);
   leaving.Save();
+  journal().note(EntryKind::kLoggedOff, std::to_string(leaving.Id()));
+  logging.commit();
   gOperator.reset();
 }
 

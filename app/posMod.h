@@ -13,11 +13,15 @@
 #include "saleslib/ClsMemberSvc.h"
 #include "saleslib/ClsOperator.h"
 #include "saleslib/ClsSysParam.h"
+#include "saleslib/Identification.h"
+#include "saleslib/LoginBrake.h"
+#include "saleslib/Permission.h"
 
 class BackupKeeper;
 class BillBooks;
 class Connection;
 class DataFileLock;
+class Journal;
 class ReturnBooks;
 class TopUpBooks;
 struct DataSource;
@@ -47,8 +51,10 @@ class posMod {
   KeyBoard gKeyBoard;
   ClsPosSet gPosSet;
   std::shared_ptr<ClsOperator> gOperator;  ///< who is logged in; none when nobody is
-  std::unique_ptr<const Ports> ports;      ///< never none
-  std::unique_ptr<BackupKeeper> backups;   ///< the dated ones; none until start, and unless wanted
+  Permission permission{gSysParam};        ///< asked before all that needs a right
+  LoginBrake loginBrake;
+  std::unique_ptr<const Ports> ports;     ///< never none
+  std::unique_ptr<BackupKeeper> backups;  ///< the dated ones; none until start, and unless wanted
 
   /// Takes the till's lock on the data file and opens it: Path of section Database as
   /// DataSource::parse reads it (a relative one starts at the shop's folder), else
@@ -75,6 +81,15 @@ class posMod {
   BillBooks billBooks() const;
   ReturnBooks returnBooks() const;
   TopUpBooks topUpBooks() const;
+  /// Who somebody is who gives a number and password; the same brake for all who ask.
+  Identification identification();
+  /// A till to practise at, for the same operator and with the same keys, devices (but for the
+  /// drawer, which it has none of) and goods. All that it writes goes into a data file of its own,
+  /// which is gone with it. Its papers say so in the place of the shop's name. Needs the data file
+  /// open and somebody logged in (ensure). Throws Failure.
+  std::unique_ptr<posMod> practice() const;
+  /// For what is done without writing into the books; those note for themselves what they do.
+  Journal journal() const;
   /// Forces the mouse pointer visible or hidden.
   void ShowMouse(bool show);
   /// Logs the operator off, if one is logged in. Throws Failure, for a data file that has been

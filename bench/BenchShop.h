@@ -32,6 +32,7 @@ class BenchShop : public SaleScreen {
   void show(const SalePicture&) override {}
   void ShowMessage(const QString& text) override;
   void messageBox(const QString& text, const QString& title) override;
+  Permit leave(const Deed& deed) override { return std::make_shared<const Grant>(Grant{deed}); }
   bool askYesNo(const QString&, const QString&, bool yesPreselected) override {
     return yesPreselected;
   }

@@ -44,6 +44,7 @@ void addRow(Run& run, const std::string& what, int size, int samples, Body body)
 // The rows, by what they are about.
 void addLookUpRows(Run& run);
 void addSaleRows(Run& run);
+void addJournalRows(Run& run);
 void addWindowRows(Run& run);
 void addReportRows(Run& run);
 void addProgramRows(Run& run);

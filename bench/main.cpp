@@ -68,6 +68,7 @@ int main(int argc, char** argv) {
   Run run{options.full, Shops(options.folder), {}};
   addLookUpRows(run);
   addSaleRows(run);
+  addJournalRows(run);
   addWindowRows(run);
   addReportRows(run);
   addImportRow(run);

@@ -2,6 +2,8 @@
 
 #include <QString>
 
+#include "saleslib/Permission.h"
+
 /// What is said to the cashier and asked in the system's boxes. The sale window implements it; a
 /// test can.
 class Messages {
@@ -15,4 +17,7 @@ class Messages {
   /// A question with Yes and No, one of them preselected.
   [[nodiscard]] virtual bool askYesNo(const QString& text, const QString& title,
                                       bool yesPreselected) = 0;
+  /// Whether the operator may do that, or somebody approves it on the spot (see Permission); none
+  /// when not. The permit is kept until it is done.
+  [[nodiscard]] virtual Permit leave(const Deed& deed) = 0;
 };

@@ -97,11 +97,18 @@ bool Settlement::mayBePaid(const ClsSell& paid, const QString& cash) {
   return false;
 }
 
+// What the shop gives up is a discount, whether it is given here or on a line.
+bool Settlement::mayBeGivenUp(const ClsSell& paid) {
+  if (paid.Favorable() <= Currency()) return true;
+  favour_ = screen_.leave({Right::kDiscount, percentOf(paid.Favorable(), paid.Amount())});
+  return favour_ != nullptr;
+}
+
 void Settlement::confirmCash(const QString& cash) {
   if (settled_) return;
   ClsSell paid = bill_;
   if (const auto amount = money(cash)) paid.setCash(*amount);
-  if (!mayBePaid(paid, cash)) return;
+  if (!mayBePaid(paid, cash) || !mayBeGivenUp(paid)) return;
   bill_.setCash(paid.Cash());
   const std::string fault = books_.markPaid(bill_);
   if (!fault.empty()) return say(cashNotStored(fault));
@@ -135,7 +142,7 @@ std::optional<CardOutcome> Settlement::payByCard(const QString& number, const QS
   paid.setCardPay(roundedToFen(bill_.Amount()));
   paid.setCash(Currency());
   paid.setCardNo(card.toStdString());
-  if (!mayBePaid(paid, "0")) return std::nullopt;
+  if (!mayBePaid(paid, "0") || !mayBeGivenUp(paid)) return std::nullopt;
   return charge(std::move(paid), password);
 }
 

@@ -5,6 +5,7 @@
 #include <optional>
 
 #include "base/Currency.h"
+#include "saleslib/Permission.h"
 #include "saleslib/StoredCard.h"
 #include "saleslib/Tenders.h"
 
@@ -74,6 +75,7 @@ class Settlement {
   void say(const QString& text);
   ClsSell& unpaid();
   bool mayBePaid(const ClsSell& paid, const QString& cash);
+  bool mayBeGivenUp(const ClsSell& paid);
   std::optional<CardOutcome> charge(ClsSell paid, const QString& password);
   void showAndPrint();
 
@@ -82,6 +84,7 @@ class Settlement {
   CustomerDisplay& display_;
   Messages& screen_;
   std::function<void()> paid_;
+  Permit favour_;         ///< leave for the discount that the bill was confirmed with
   Currency cardBalance_;  ///< left on the card after payByCard
   bool settled_ = false;
 };

@@ -2,6 +2,7 @@
 find_package(PkgConfig REQUIRED)
 find_package(Qt6 6.4 REQUIRED COMPONENTS Core Gui Widgets PrintSupport SerialPort Network Test)
 find_package(CLI11 REQUIRED)
+find_package(nlohmann_json REQUIRED)
 if(TILL_TESTS)
   find_package(GTest REQUIRED)
 endif()

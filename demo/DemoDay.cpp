@@ -73,6 +73,25 @@ void DemoDay::basketOfEveryKind(TillDriver& till) {
   till.enter(goods_.itemNumber);
 }
 
+// What this cashier may not do alone.
+void DemoDay::approvals(TillDriver& till) {
+  till.key("Up");
+  till.key("Right");
+  till.enter("0.8");
+  till.waitFor("dlgApproval");
+  shot(till, "discount-to-be-approved");
+  till.key("Esc");
+  till.waitFor("frmSell");
+  till.key("Down");
+  till.key("F10");
+  till.waitFor("dlgApproval");
+  till.enter("3");
+  till.type("333");
+  shot(till, "drawer-to-be-approved");
+  till.key("Return");
+  till.waitFor("frmSell");
+}
+
 void DemoDay::morning() {
   setUpDevices("LPT1");
   TillDriver till(shop_);
@@ -145,6 +164,7 @@ void DemoDay::afternoon() {
   till.enter(goods_.plain);
   till.enter(goods_.promoted);
   till.enter(goods_.byTheCase);
+  approvals(till);
   till.key("F1");
   till.waitFor("frmEndSell");
   for (int field = 0; field < 4; ++field) till.key("Tab");

@@ -29,6 +29,7 @@ class DemoDay {
   void setUpDevices(const char* receiptPort);
   void logIn(TillDriver& till, const char* number, const char* password);
   void basketOfEveryKind(TillDriver& till);
+  void approvals(TillDriver& till);
   void newMember(TillDriver& till);
   void topUp(TillDriver& till);
   void memberBill(TillDriver& till);
@@ -36,6 +37,7 @@ class DemoDay {
   void colours(TillDriver& till);
   void takeBack(TillDriver& till);
   void handOver(TillDriver& till);
+  void practise(TillDriver& till);
   void query(TillDriver& till);
   void exportList(TillDriver& till, const char* file);
   void shot(TillDriver& till, const char* name);

@@ -11,7 +11,17 @@ constexpr const char* kNewCard = "88001234";
 
 // Entries of the main menu and of the further menu, by position.
 enum MainMenu { kSell, kCount, kPosSet, kEditPwd, kEnd, kMainEntries };
-enum FurtherMenu { kSearch, kUnSell, kAddMen, kKeySet, kExit, kHelp, kFurtherEntries };
+enum FurtherMenu {
+  kSearch,
+  kUnSell,
+  kAddMen,
+  kKeySet,
+  kPractice,
+  kJournal,
+  kExit,
+  kHelp,
+  kFurtherEntries
+};
 
 /// Moves the highlight of a menu, which stays where it was last time, and chooses.
 void choose(TillDriver& till, int& highlight, int entry, int entries) {
@@ -59,6 +69,13 @@ void DemoDay::evening() {
   shot(till, "keyboard-settings");
   till.tabTo("cmdCancel");
   till.key("Space");
+  furtherScreen(kPractice, "frmSell");
+  practise(till);
+  furtherScreen(kJournal, "frmJournal");
+  till.key("Return");
+  till.waitForText("lblState", "共");
+  shot(till, "journal");
+  till.key("Esc");
   furtherScreen(kHelp, "frmHelp");
   shot(till, "help");
   till.key("Esc");
@@ -183,6 +200,19 @@ void DemoDay::handOver(TillDriver& till) {
   till.tabTo("print1");
   till.key("Space");
   till.sync();
+  till.key("Esc");
+}
+
+// Nothing of it is in the day's books.
+void DemoDay::practise(TillDriver& till) {
+  till.enter(goods_.plain);
+  till.enter(goods_.another);
+  till.key("F10");
+  shot(till, "practice");
+  till.key("F1");
+  till.waitFor("frmEndSell");
+  till.enter("100");
+  till.waitFor("frmSell");
   till.key("Esc");
 }
 

@@ -26,6 +26,7 @@ std::optional<GoodsPreview> GoodsRun::import(const std::filesystem::path& file,
   return run(
       [&](const GoOn& goOn) {
         const auto connection = openDataFile(shop_);
+        connection->setUser(user_);
         return importGoods(*connection, *openGoodsSheet(file).reader, mapping,
                            WriteSlices::Company::kOthers, goOn);
       },

@@ -7,16 +7,18 @@
 
 #include "shop/GoodsMapping.h"
 #include "shop/GoodsPreview.h"
+#include "store/Connection.h"
 #include "store/DataSource.h"
 
 /// The reading and the bringing in of a goods sheet, each in a thread of its own with a connection
 /// of its own, while the events of its window go on; both return when that has ended, nothing when
-/// it was stopped. `show` is called some times a second with the part that is done, 0 ... 1.
+/// it was stopped. `user` is who imports, asked in that thread. `show` is called some times a
+/// second with the part that is done, 0 ... 1.
 class GoodsRun {
  public:
   using Show = std::function<void(double part)>;
 
-  explicit GoodsRun(DataSource shop) : shop_(std::move(shop)) {}
+  GoodsRun(DataSource shop, ConnectionUser user) : shop_(std::move(shop)), user_(std::move(user)) {}
 
   /// Throw Failure (see shop/GoodsImport.h).
   [[nodiscard]] std::optional<GoodsPreview> preview(const std::filesystem::path& file,
@@ -32,6 +34,7 @@ class GoodsRun {
   std::optional<GoodsPreview> run(const Work& work, const Show& show);
 
   DataSource shop_;
+  ConnectionUser user_;
   std::atomic<bool> stopped_ = false;
   bool running_ = false;
 };

@@ -22,10 +22,11 @@ constexpr int kWhole = 1000;                // steps of the progress bar
 
 }  // namespace
 
-dlgGoodsPreview::dlgGoodsPreview(const KeyBoard& keys, DataSource shop, std::filesystem::path file,
-                                 GoodsMapping mapping, QWidget* parent)
+dlgGoodsPreview::dlgGoodsPreview(const KeyBoard& keys, const Connection& shop,
+                                 std::filesystem::path file, GoodsMapping mapping, QWidget* parent)
     : KeyDrivenDialog(keys, EnterKey::kMapped, parent),
-      run_(std::move(shop)),
+      run_(shop.source(),
+           {.number = [who = shop.user().number()] { return who; }, .clock = shop.user().clock}),
       file_(std::move(file)),
       mapping_(std::move(mapping)),
       lblState_(label("lblState", {})),

@@ -16,7 +16,7 @@ class dlgGoodsPreview : public KeyDrivenDialog {
   Q_OBJECT
 
  public:
-  dlgGoodsPreview(const KeyBoard& keys, DataSource shop, std::filesystem::path file,
+  dlgGoodsPreview(const KeyBoard& keys, const Connection& shop, std::filesystem::path file,
                   GoodsMapping mapping, QWidget* parent);
 
   /// What was brought in; made for an accepted dialog.

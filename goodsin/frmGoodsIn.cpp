@@ -165,7 +165,7 @@ void frmGoodsIn::preview() {
     messageBox(this, qtText(failure.what()), windowTitle(), BoxIcon::kExclamation);
     return focusWhole(txtName_);
   }
-  dlgGoodsPreview shown(pos_.gKeyBoard, pos_.gConn->source(), pathOf(*txtFile_), mapping_, this);
+  dlgGoodsPreview shown(pos_.gKeyBoard, *pos_.gConn, pathOf(*txtFile_), mapping_, this);
   if (shown.exec() != QDialog::Accepted) return focusWhole(txtFile_);
   messageBox(this,
              tr("已导入商品：新增 %1 行，改动 %2 行。")

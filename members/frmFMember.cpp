@@ -19,6 +19,7 @@
 #include "saleslib/ClsMember.h"
 #include "shell/DateField.h"
 #include "shell/Modal.h"
+#include "shell/dlgApproval.h"
 
 namespace {
 
@@ -217,6 +218,8 @@ void frmFMember::store() {
     return;
   }
   if (!DTPicker1_->check()) return;
+  const Permit leave = balanceAgreed();
+  if (!leave) return focusWhole(card_);
   member_->setName(textOf(txtName_));
   member_->setOther(textOf(txtOther_));
   member_->setPhone(halfWidth(textOf(txtPhone_)));
@@ -252,6 +255,13 @@ QString frmFMember::readFigures() {
   member_->setPoints(*points);
   member_->setBalance(*balance);
   return {};
+}
+
+/// Money on a new card is as good as a top-up.
+Permit frmFMember::balanceAgreed() {
+  const auto balance = Currency::parse(textOf(card_));
+  if (!balance || balance->isZero()) return std::make_shared<const Grant>();
+  return askLeave(pos_, this, {Right::kTopUp});
 }
 
 /// Nothing for a text that is none of the classes.

@@ -4,6 +4,7 @@
 #include <memory>
 #include <optional>
 
+#include "saleslib/Permission.h"
 #include "shell/KeyDrivenDialog.h"
 
 class ClsMember;
@@ -36,6 +37,7 @@ class frmFMember : public KeyDrivenDialog {
   void addMember();
   void store();
   QString readFigures();
+  Permit balanceAgreed();
   std::optional<double> classRate() const;
   void report(const QString& text);
 

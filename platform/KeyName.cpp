@@ -53,6 +53,11 @@ QString keyName(int code) {
   return named(kNamedKeys, code);
 }
 
+QString shortKeyText(int code) {
+  const QString name = keyName(code);
+  return name.isEmpty() ? QString::number(code) : name;
+}
+
 QString keyText(int code) {
   const QString name = keyName(code);
   const QString number = QString::number(code);

@@ -9,6 +9,7 @@
 #include <QRadioButton>
 #include <algorithm>
 
+#include "base/NumberText.h"
 #include "reports/LastBill.h"
 #include "shell/DateField.h"
 #include "shell/TimeField.h"
@@ -121,6 +122,12 @@ bool SearchPanel::check() {
   const std::initializer_list<CheckedField*> fields = {DtBegin, DTPBeginTime, Dtfinish,
                                                        DtfinishTime};
   return std::all_of(fields.begin(), fields.end(), [](auto* field) { return field->check(); });
+}
+
+void SearchPanel::checkQuantityLimit() {
+  if (parseNumber(xssl->text().toStdString())) return;
+  xssl->setText("0");
+  xssl->setFocus();
 }
 
 DateTime SearchPanel::start() const {

@@ -24,6 +24,8 @@ class SearchPanel : public QFrame {
   /// Whether dates and times are some; else the first that is none is said and has the focus. What
   /// follows is of those that were some at the last check.
   [[nodiscard]] bool check();
+  /// A quantity limit that is no number becomes 0, with the focus there.
+  void checkQuantityLimit();
   DateTime start() const;
   DateTime end() const;
   /// As typed; an empty period is the day from its start on.

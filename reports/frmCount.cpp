@@ -18,6 +18,7 @@
 #include "saleslib/BillBooks.h"
 #include "saleslib/ClsDayStat.h"
 #include "shell/Modal.h"
+#include "shell/dlgApproval.h"
 
 namespace {
 
@@ -104,6 +105,8 @@ void frmCount::show(const ClsDayStat& day) {
 }
 
 void frmCount::printSheet() {
+  const Permit leave = askLeave(pos_, this, {Right::kShift});
+  if (!leave) return;
   try {
     const ShiftSheet sheet = sheetOf(pos_.billBooks().today(), pos_.gSysParam);
     ReceiptPrinter::ofSettings(pos_.gPosSet, *pos_.ports)->print(sheet.document());

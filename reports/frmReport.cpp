@@ -16,6 +16,7 @@
 #include "reports/ExportFolder.h"
 #include "shell/DateField.h"
 #include "shell/Modal.h"
+#include "shell/Noted.h"
 #include "shell/ShownText.h"
 #include "store/Connection.h"
 #include "takings/ReportFile.h"
@@ -145,6 +146,8 @@ void frmReport::make() {
   const std::filesystem::path file = exportFolder(pos_.configIni, pos_.folder) /
                                      reportFileName(DtBegin_->date(), Dtfinish_->date(), format());
   if (!mayWrite(file)) return;
+  const QString name = qtText(file.filename().string());
+  if (!noted(pos_, this, EntryKind::kReported, name)) return;
   try {
     makeFile(file);
   } catch (const Failure& failure) {

@@ -10,7 +10,6 @@
 
 #include "app/posMod.h"
 #include "base/Failure.h"
-#include "base/NumberText.h"
 #include "devices/ReceiptPrinter.h"
 #include "platform/KeyName.h"
 #include "platform/PortError.h"
@@ -28,6 +27,8 @@
 #include "saleslib/GoodsLookup.h"
 #include "shell/DateField.h"
 #include "shell/Modal.h"
+#include "shell/Noted.h"
+#include "shell/dlgApproval.h"
 
 namespace {
 
@@ -41,12 +42,6 @@ constexpr int kBlankKey = 32;  // virtual-key code
 
 /// Of the file and in it, whatever the screens speak.
 constexpr const char* kExportTitle = "商品查询";
-
-/// The key as people call it; its code when it has no name.
-QString shownKey(int key) {
-  const QString name = keyName(key);
-  return name.isEmpty() ? QString::number(key) : name;
-}
 
 }  // namespace
 
@@ -74,10 +69,10 @@ void frmSearch::build() {
   ListView1_->setObjectName("ListView1");
   connect(ListView1_, &ResultTable::headingClicked, this, &frmSearch::sortBy);
   for (QPushButton* button : Frame5_->findChildren<QPushButton*>()) button->setAutoDefault(false);
-  connect(Frame5_->cmdSearch, &QPushButton::clicked, this, &frmSearch::search);
+  connect(Frame5_->cmdSearch, &QPushButton::clicked, this, &frmSearch::searchWanted);
   connect(Frame5_->Command1, &QPushButton::clicked, this, &frmSearch::exportList);
   connect(Frame5_->Command2, &QPushButton::clicked, this, &frmSearch::printReport);
-  connect(Frame5_->Command3, &QPushButton::clicked, this, &frmSearch::printReceipt);
+  connect(Frame5_->Command3, &QPushButton::clicked, this, &frmSearch::reprintWanted);
   connect(Frame5_->cmdLast, &QPushButton::clicked, this, &frmSearch::reprintLastBill);
   connect(Frame5_->Command4, &QPushButton::clicked, this, &QDialog::close);
 }
@@ -92,7 +87,8 @@ void frmSearch::load() {
     Frame5_->Combo1->addItem(qtText(category));
   Frame5_->Combo1->setEditText(choose);
   const KeyBoard& keys = pos_.gKeyBoard;
-  Frame5_->showIdle(tr("%1：查询　%2：退出").arg(shownKey(keys.mEnter), shownKey(keys.mEsc)));
+  Frame5_->showIdle(
+      tr("%1：查询　%2：退出").arg(shortKeyText(keys.mEnter), shortKeyText(keys.mEsc)));
 }
 
 void frmSearch::connectQuery() {
@@ -138,7 +134,7 @@ bool frmSearch::handleKey(const QObject* watched, const QKeyEvent& event) {
   } else if (auto* button = qobject_cast<QPushButton*>(focusWidget())) {
     button->click();
   } else {
-    search();
+    searchWanted();
   }
   return true;
 }
@@ -149,20 +145,23 @@ void frmSearch::checkOrder(const SearchCriteria& wanted) {
   Frame5_->Dtfinish->setFocus();
 }
 
-void frmSearch::checkQuantityLimit() {
-  if (parseNumber(Frame5_->xssl->text().toStdString())) return;
-  Frame5_->xssl->setText("0");
-  Frame5_->xssl->setFocus();
+/// Asked for once per window; what was approved holds until it is closed.
+bool frmSearch::mayQuery() {
+  if (!queryLeave_) queryLeave_ = askLeave(pos_, this, {Right::kQuery});
+  return queryLeave_ != nullptr;
+}
+
+void frmSearch::searchWanted() {
+  if (mayQuery()) search();
 }
 
 void frmSearch::search() {
-  printWhenFound_ = false;
   if (export_.isRunning() || !Frame5_->check()) return;
   stopQuery();
   SearchCriteria wanted = Frame5_->criteria();
   wanted.takesSlips = takesSlips();
   checkOrder(wanted);
-  checkQuantityLimit();
+  Frame5_->checkQuantityLimit();
   const std::optional<std::string> statement = searchStatement(wanted);
   if (!statement) {
     messageBox(this, tr("单号应为数字！"), tr("注意"), BoxIcon::kInformation);
@@ -194,10 +193,11 @@ void frmSearch::showAll() {
   }
   Frame5_->showIdle(
       tr("共 %L1 行。在列表中按空格键排序。%2").arg(ListView1_->lineCount()).arg(parts));
-  if (std::exchange(printWhenFound_, false)) printReceipt();
+  if (const Permit leave = std::exchange(printWhenFound_, {})) printReceipt();
 }
 
 void frmSearch::stopQuery() {
+  printWhenFound_ = {};
   if (!query_->isRunning()) return;
   query_->stop();
   ListView1_->restore();
@@ -205,6 +205,7 @@ void frmSearch::stopQuery() {
 }
 
 void frmSearch::showFailure(const QString& why) {
+  printWhenFound_ = {};
   ListView1_->restore();
   Frame5_->showIdle({});
   messageBox(this, why);
@@ -216,7 +217,7 @@ void frmSearch::sortBy(int column) {
 }
 
 QString frmSearch::escKey() const {
-  return shownKey(pos_.gKeyBoard.mEsc);
+  return shortKeyText(pos_.gKeyBoard.mEsc);
 }
 
 /// Whether there is a whole list to work on; else says so.
@@ -227,16 +228,23 @@ bool frmSearch::hasList(const QString& otherwise) {
 }
 
 void frmSearch::printReport() {
-  if (!hasList(tr("没有可打印的内容！")) || !Frame5_->check()) return;
+  if (!hasList(tr("没有可打印的内容！")) || !Frame5_->check() || !mayQuery()) return;
+  if (!noted(pos_, this, EntryKind::kReported, qtText(kExportTitle))) return;
   print(reportSheet(*ListView1_->list(), Frame5_->start(), Frame5_->end(), pos_.clock()));
 }
 
-void frmSearch::printReceipt() {
+void frmSearch::reprintWanted() {
   if (!hasList(tr("没有可打印的内容！"))) return;
+  const Permit leave = askLeave(pos_, this, {Right::kReprint});
+  if (leave) printReceipt();
+}
+
+void frmSearch::printReceipt() {
   const ResultList& list = *ListView1_->list();
   const bool bySlip = takesSlips() && list.lineCount() > 0;
   const std::string number =
       bySlip ? list.text(0, kColumnBill) : Frame5_->numberSerch->text().toStdString();
+  if (!noted(pos_, this, EntryKind::kReprinted, qtText(number))) return;
   print(reprintPage(list, number, pos_.gSysParam, pos_.clock()));
 }
 
@@ -246,9 +254,11 @@ void frmSearch::reprintLastBill() {
   try {
     const std::optional<LastBill> bill = lastBill(*pos_.gConn);
     if (!bill) return messageBox(this, tr("还没有可以补打的单据！"));
+    const Permit leave = askLeave(pos_, this, {Right::kReprint});
+    if (!leave) return;
     Frame5_->lookFor(*bill);
     search();
-    printWhenFound_ = true;
+    printWhenFound_ = leave;
   } catch (const Failure& failure) {
     messageBox(this, qtText(failure.what()));
   }
@@ -264,10 +274,11 @@ void frmSearch::print(const Document& document) {
 }
 
 void frmSearch::exportList() {
-  if (!hasList(tr("没有可导出的内容！"))) return;
+  if (!hasList(tr("没有可导出的内容！")) || !mayQuery()) return;
   const QString name = qtText(kExportTitle) + ' ' + qtText(dateText(pos_.clock().date));
   ExportDialog dialog(pos_.gKeyBoard, exportFolder(pos_.configIni, pos_.folder), name, this);
-  if (dialog.exec() == QDialog::Accepted) exportTo(dialog.file());
+  if (dialog.exec() != QDialog::Accepted) return;
+  if (noted(pos_, this, EntryKind::kExported, dialog.name())) exportTo(dialog.file());
 }
 
 void frmSearch::exportTo(const std::filesystem::path& file) {

@@ -4,6 +4,7 @@
 
 #include "reports/ExportRun.h"
 #include "reports/SearchCriteria.h"
+#include "saleslib/Permission.h"
 #include "shell/KeyDrivenDialog.h"
 
 class LineQuery;
@@ -37,7 +38,8 @@ class frmSearch : public KeyDrivenDialog {
   void connectQuery();
 
   void checkOrder(const SearchCriteria& wanted);
-  void checkQuantityLimit();
+  bool mayQuery();
+  void searchWanted();
   void search();
   bool takesSlips() const;
   void addPage(const SoldPage& page);
@@ -49,6 +51,7 @@ class frmSearch : public KeyDrivenDialog {
 
   bool hasList(const QString& otherwise);
   void printReport();
+  void reprintWanted();
   void printReceipt();
   void reprintLastBill();
   template <class Document>
@@ -61,7 +64,8 @@ class frmSearch : public KeyDrivenDialog {
   ResultTable* ListView1_;
   LineQuery* query_;
   ExportRun export_;
-  SearchCriteria asked_;         ///< by the query that runs
-  SearchCriteria found_;         ///< by the query that filled the list
-  bool printWhenFound_ = false;  ///< a receipt of what the running query finds
+  SearchCriteria asked_;   ///< by the query that runs
+  SearchCriteria found_;   ///< by the query that filled the list
+  Permit queryLeave_;      ///< to query and export, once it was asked for
+  Permit printWhenFound_;  ///< to print a receipt of what the running query finds; none: don't
 };

@@ -8,13 +8,14 @@
 #include <QPushButton>
 #include <QTableView>
 #include <QVBoxLayout>
-#include <utility>
 
+#include "app/posMod.h"
 #include "base/Failure.h"
 #include "base/NumberText.h"
 #include "platform/QtText.h"
 #include "returns/ReturnLines.h"
 #include "shell/Modal.h"
+#include "shell/dlgApproval.h"
 #include "shell/frmMsg.h"
 
 namespace {
@@ -29,9 +30,10 @@ bool onItsWayTo(QString text, const QString& plain) {
 
 }  // namespace
 
-frmUnSell::frmUnSell(const KeyBoard& keys, ReturnBooks books, QWidget* parent)
-    : KeyDrivenDialog(keys, EnterKey::kPlain, parent),
-      returns_(std::move(books)),
+frmUnSell::frmUnSell(posMod& pos, QWidget* parent)
+    : KeyDrivenDialog(pos.gKeyBoard, EnterKey::kPlain, parent),
+      pos_(pos),
+      returns_(pos.returnBooks()),
       lines_(new ReturnLines(this)),
       txtNo_(field("txtNo")),
       txttm_(field("txttm")),
@@ -241,7 +243,8 @@ void frmUnSell::storeReturn() {
     return;
   }
   const double quantity = returns_.quantityOf(txtAmount_->text());
-  if (!refundAgreed(quantity, *refund)) {
+  const Permit leave = refundAgreed(quantity, *refund);
+  if (!leave) {
     focusWhole(txtmoney_);
     return;
   }
@@ -253,12 +256,15 @@ void frmUnSell::storeReturn() {
   if (!refusal.isEmpty()) message(refusal);
 }
 
-bool frmUnSell::refundAgreed(double quantity, Currency refund) {
+/// Leave to pay that back; none when the cashier, or whoever had to approve it, thinks better of
+/// it.
+Permit frmUnSell::refundAgreed(double quantity, Currency refund) {
   try {
     const QString doubt = returns_.doubt(quantity, refund);
-    return doubt.isEmpty() || askYesNo(this, doubt, tr("退货"), false);
+    if (!doubt.isEmpty() && !askYesNo(this, doubt, tr("退货"), false)) return {};
+    return askLeave(pos_, this, {Right::kReturn, refund});
   } catch (const Failure& failure) {
     message(qtText(failure.what()));
-    return false;
+    return {};
   }
 }

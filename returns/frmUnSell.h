@@ -4,11 +4,13 @@
 
 #include "base/Currency.h"
 #include "returns/Returns.h"
+#include "saleslib/Permission.h"
 #include "shell/KeyDrivenDialog.h"
 
 class QLayout;
 class QTableView;
 class ReturnLines;
+class posMod;
 
 /// The returns screen: a stored bill, one of its lines, how much of it comes back and what is
 /// refunded. Draws a Returns and turns keys into its calls.
@@ -16,7 +18,7 @@ class frmUnSell : public KeyDrivenDialog {
   Q_OBJECT
 
  public:
-  frmUnSell(const KeyBoard& keys, ReturnBooks books, QWidget* parent = nullptr);
+  explicit frmUnSell(posMod& pos, QWidget* parent = nullptr);
 
  private:
   QLineEdit* figure(const char* name);
@@ -37,8 +39,9 @@ class frmUnSell : public KeyDrivenDialog {
   void showRefund(Currency refund);
   void rewriteRefund();
   void storeReturn();
-  bool refundAgreed(double quantity, Currency refund);
+  Permit refundAgreed(double quantity, Currency refund);
 
+  posMod& pos_;
   Returns returns_;
   ReturnLines* lines_;
   QLineEdit* txtNo_;

@@ -31,6 +31,17 @@ bool isBarcode(const QString& typed) {
   return characters(typed.toStdString()) > kLongestShortCode;
 }
 
+// A line of no quantity is as good as deleted. What is given away counts from the full price, and
+// giving less away than before needs nobody.
+std::optional<Deed> deedOf(const ClsSellItem& before, const ClsSellItem& changed) {
+  if (changed.Quantity() != before.Quantity()) {
+    if (changed.Quantity() < 0) return Deed{Right::kNegative};
+    if (changed.Quantity() == 0) return Deed{Right::kDelete};
+  }
+  if (changed.Discount() >= before.Discount()) return std::nullopt;
+  return Deed{Right::kDiscount, percentOff(changed.Discount())};
+}
+
 }  // namespace
 
 BillLines::BillLines(const SalePart& part, Checkout& checkout)
@@ -67,7 +78,8 @@ void BillLines::enterGoods(const QString& typed) {
   if (sale_.line() != nullptr) checkout_.commitLine();
   const QString code = codeOf(typed);
   auto line = isBarcode(typed) ? lookup_.LookupBarcode(code) : lookup_.LookupSpec(code);
-  if (!line && !isBarcode(typed)) line = lookup_.LookupItemNo(code);
+  if (!line && !lookup_.givenUp() && !isBarcode(typed)) line = lookup_.LookupItemNo(code);
+  if (lookup_.givenUp()) return sale_.setInput(typed);
   if (!line) return notFound(typed);
   line->setQuantity(1);
   if (!ring(std::move(line))) sale_.setInput({});
@@ -107,7 +119,7 @@ void BillLines::changeQuantity(const QString& typed) {
   if (*quantity == before) return sale_.backToEntry();
   ClsSellItem changed = *sale_.line();
   changed.setQuantity(*quantity);
-  if (!correct(std::move(changed))) sale_.setInput(qtText(generalNumber(before)));
+  change(std::move(changed), typed, qtText(generalNumber(before)));
 }
 
 void BillLines::changeDiscount(const QString& typed) {
@@ -117,7 +129,14 @@ void BillLines::changeDiscount(const QString& typed) {
   if (!meant) return sale_.setInput({});
   ClsSellItem changed = *sale_.line();
   changed.setDiscount(Discount(*factor));
-  if (!correct(std::move(changed))) sale_.setInput({});
+  change(std::move(changed), typed, {});
+}
+
+// What was typed stays, to be taken again or typed over, when nobody allows it.
+void BillLines::change(ClsSellItem changed, const QString& typed, const QString& refused) {
+  const Permit allowed = leave(deedOf(*sale_.line(), changed));
+  if (!allowed) return sale_.setInput(typed);
+  if (!correct(std::move(changed))) sale_.setInput(refused);
 }
 
 bool BillLines::correct(ClsSellItem changed) {
@@ -145,9 +164,20 @@ void BillLines::tell(const QString& status) {
   devices_.display().clientView(sale_.line()->Price(), CustomerDisplay::kPrice);
 }
 
-void BillLines::CancelBill() {
+bool BillLines::CancelBill() {
+  const Permit allowed =
+      leave(sale_.isEmpty() ? std::nullopt : std::optional(Deed{Right::kDelete}));
+  if (!allowed) return false;
   devices_.receipt.FeedLines(*sale_.bill());
-  if (sale_.isEmpty()) return screen_.ShowMessage(tr("没有商品，无需删除！"));
+  if (sale_.isEmpty()) {
+    screen_.ShowMessage(tr("没有商品，无需删除！"));
+  } else {
+    voidBill();
+  }
+  return true;
+}
+
+void BillLines::voidBill() {
   std::vector<StockOutcome> refusals;
   const bool cancelled = guarded([&] {
     refusals = books_.cancel(*sale_.bill(), sale_.line());
@@ -162,13 +192,15 @@ void BillLines::CancelBill() {
 }
 
 // The row that goes is the current line's, also when the entry row below it is the selected one.
-void BillLines::DeleteCurrentLine() {
+bool BillLines::DeleteCurrentLine() {
   if (sale_.line() == nullptr) {
     screen_.ShowMessage(sale_.isEmpty()
                             ? tr("没有商品，无需删除！")
                             : tr("没有可删除的行：已确认的商品不能单独删除，只能整单撤消。"));
-    return;
+    return true;
   }
+  const Permit allowed = leave(Deed{Right::kDelete});
+  if (!allowed) return false;
   guarded([this] {
     const StockOutcome stock = books_.remove(*sale_.line());
     if (!stock.done()) {
@@ -179,4 +211,5 @@ void BillLines::DeleteCurrentLine() {
     sale_.setStatus(sale_texts::removed(*sale_.bill(), sale_.figures()));
     return true;
   });
+  return true;
 }

@@ -21,15 +21,18 @@ class BillLines : private SalePart {
   void Enter();
   /// A quick key's item code, as if it were typed on the entry row and confirmed.
   void EnterQuickKey(const QString& itemCode);
-  /// Voids the open bill and the current line, and prepares the next bill.
-  void CancelBill();
-  /// Says why there is nothing to delete when there is no current line.
-  void DeleteCurrentLine();
+  /// Voids the open bill and the current line, and prepares the next bill. False when that was not
+  /// allowed: everything is as it was, what stands in the input line too.
+  [[nodiscard]] bool CancelBill();
+  /// Says why there is nothing to delete when there is no current line. False as for CancelBill.
+  [[nodiscard]] bool DeleteCurrentLine();
 
  private:
   void enterGoods(const QString& typed);
   bool ring(std::shared_ptr<ClsSellItem> line);
+  void change(ClsSellItem changed, const QString& typed, const QString& refused);
   void dropWhileEditing(const QString& code);
+  void voidBill();
   void notFound(const QString& code);
   void changeQuantity(const QString& typed);
   void changeDiscount(const QString& typed);

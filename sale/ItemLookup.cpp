@@ -26,6 +26,7 @@ ItemLookup::Line ItemLookup::LookupItemNo(const QString& code) {
 // The price is asked for last, because the question waits for the cashier: by then every field has
 // been read.
 ItemLookup::Line ItemLookup::lookUp(const std::function<FoundGoods()>& find) {
+  givenUp_ = false;
   try {
     const FoundGoods found = find();
     if (found.count() == 0) return nullptr;
@@ -33,7 +34,11 @@ ItemLookup::Line ItemLookup::lookUp(const std::function<FoundGoods()>& find) {
     if (chosen < 0) return nullptr;
     const auto [line, priceMissing] =
         found.line(static_cast<std::size_t>(chosen), *sale_.bill(), sale_.member());
-    if (priceMissing) line->setPrice(askPrice());
+    if (!priceMissing) return line;
+    const std::optional<Currency> price = askPrice();
+    givenUp_ = !price;
+    if (givenUp_) return nullptr;
+    line->typePrice(*price);
     return line;
   } catch (const Failure& failure) {
     screen_.messageBox(qtText(failure.what()));
@@ -54,8 +59,10 @@ int ItemLookup::choose(const FoundGoods& found) {
 }
 
 // A negative price would pay the customer for taking the goods, so it counts as no answer.
-Currency ItemLookup::askPrice() {
+std::optional<Currency> ItemLookup::askPrice() {
   screen_.show(sale_.picture());
+  const Permit allowed = screen_.leave({Right::kPrice});
+  if (!allowed) return std::nullopt;
   while (true) {
     const QString typed = screen_.prompt({}, {});
     const auto price = Currency::parse(typed.toStdString());

@@ -4,6 +4,7 @@
 #include <QString>
 #include <functional>
 #include <memory>
+#include <optional>
 
 #include "saleslib/GoodsLookup.h"
 
@@ -27,14 +28,17 @@ class ItemLookup {
   [[nodiscard]] Line LookupSpec(const QString& code);
   /// spda by a fragment of the item number.
   [[nodiscard]] Line LookupItemNo(const QString& code);
+  /// The last look-up found goods whose price nobody may type.
+  bool givenUp() const { return givenUp_; }
 
  private:
   Line lookUp(const std::function<FoundGoods()>& find);
   int choose(const FoundGoods& found);
-  Currency askPrice();
+  std::optional<Currency> askPrice();
 
   const Sale& sale_;
   const BillBooks& books_;
   GoodsLookup goods_;
   SaleScreen& screen_;
+  bool givenUp_ = false;
 };

@@ -4,6 +4,10 @@
 #include "platform/QtText.h"
 #include "sale/SaleScreen.h"
 
+Permit SalePart::leave(const std::optional<Deed>& deed) const {
+  return deed ? screen_.leave(*deed) : std::make_shared<const Grant>();
+}
+
 bool SalePart::guarded(const std::function<bool()>& work) const {
   try {
     return work();

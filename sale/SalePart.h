@@ -1,6 +1,9 @@
 #pragma once
 
 #include <functional>
+#include <optional>
+
+#include "saleslib/Permission.h"
 
 class BillBooks;
 class Sale;
@@ -18,6 +21,8 @@ class SalePart {
   /// Does that work. A Failure is shown, and the sale goes on; false then, and when the work says
   /// so.
   bool guarded(const std::function<bool()>& work) const;
+  /// Leave for that from the screen's Messages; what needs no right may always be done.
+  Permit leave(const std::optional<Deed>& deed) const;
 
   Sale& sale_;
   BillBooks& books_;

@@ -9,6 +9,7 @@
 #include "platform/QtText.h"
 #include "platform/VirtualKey.h"
 #include "sale/TopUpReport.h"
+#include "saleslib/Journal.h"
 #include "saleslib/TopUpBooks.h"
 
 namespace {
@@ -92,24 +93,35 @@ void SaleSession::fillCommands() {
   add(&KeyBoard::mF1, [this] { checkout_.SettleBill(); });
   add(&KeyBoard::mF2, [this] { memberCard_.AttachMember(); });
   addOpener(&KeyBoard::mF3, "addmen");
-  add(&KeyBoard::mF4, [this] { lines_.DeleteCurrentLine(); });
+  commands_.push_back({&KeyBoard::mF4, [this] { return lines_.DeleteCurrentLine(); }});
   add(&KeyBoard::mF5, [this] { held_.SuspendBill(); });
   add(&KeyBoard::mF6, [this] { held_.RecallBill(); });
   addOpener(&KeyBoard::mF8, "search");
   addOpener(&KeyBoard::mF9, "topup");
-  add(&KeyBoard::mF10, [this] { devices_.drawer().OpenDrawer(); });
+  commands_.push_back(
+      {&KeyBoard::mF10, [this] { return allowed(Right::kDrawer, [this] { openDrawer(); }); }});
   addOpener(&KeyBoard::mF11, "search");
-  add(&KeyBoard::mF12, [this] { lines_.CancelBill(); });
+  commands_.push_back({&KeyBoard::mF12, [this] { return lines_.CancelBill(); }});
   add(&KeyBoard::mEsc, [this] { exit(); });
 }
 
 void SaleSession::addOpener(int KeyBoard::*key, const QString& screen) {
   const auto found = openers_.find(screen);
   if (found == openers_.end()) return;
-  commands_.push_back({key, [open = found->second] {
-                         open();
-                         return true;
-                       }});
+  commands_.push_back({key, [this, &opener = found->second] { return open(opener); }});
+}
+
+bool SaleSession::open(const Opener& opener) {
+  if (opener.right) return allowed(*opener.right, opener.open);
+  opener.open();
+  return true;
+}
+
+// Without leave the key press did nothing, and what stands in the input line stays.
+bool SaleSession::allowed(Right right, const std::function<void()>& deed) {
+  const Permit permit = screen_.leave({right});
+  if (permit) deed();
+  return permit != nullptr;
 }
 
 SaleSession::Entries SaleSession::allMenuEntries() {
@@ -119,12 +131,16 @@ SaleSession::Entries SaleSession::allMenuEntries() {
 }
 
 void SaleSession::fillMenu() {
-  menu_ = {{"sell", [this] { checkout_.SettleBill(); }}, {"wait", [this] { held_.SuspendBill(); }},
-           {"load", [this] { held_.RecallBill(); }},     {"isprint", [this] { toggleLinePrint(); }},
-           {"delsell", [this] { lines_.CancelBill(); }}, {"exit", [this] { exit(); }}};
+  menu_ = {{"sell", [this] { checkout_.SettleBill(); }},
+           {"wait", [this] { held_.SuspendBill(); }},
+           {"load", [this] { held_.RecallBill(); }},
+           {"isprint", [this] { toggleLinePrint(); }},
+           {"delsell", [this] { (void)lines_.CancelBill(); }},
+           {"exit", [this] { exit(); }}};
   for (const char* screen : {"color", "search", "help"}) {
     const auto found = openers_.find(screen);
-    if (found != openers_.end()) menu_.insert(*found);
+    if (found != openers_.end())
+      menu_[screen] = [this, &opener = found->second] { (void)open(opener); };
   }
 }
 
@@ -194,6 +210,17 @@ SaleSession::Entries SaleSession::menuEntries() const {
   Entries entries = allMenuEntries();
   std::erase_if(entries, [this](const auto& entry) { return !menu_.contains(entry.second); });
   return entries;
+}
+
+// Without a sale, so the journal comes first: what it cannot tell of is not done.
+void SaleSession::openDrawer() {
+  if (!devices_.drawer().isConfigured()) return;
+  try {
+    pos_.journal().note(EntryKind::kDrawerOpened);
+    devices_.drawer().OpenDrawer();
+  } catch (const Failure& failure) {
+    screen_.messageBox(qtText(failure.what()));
+  }
 }
 
 void SaleSession::toggleLinePrint() {

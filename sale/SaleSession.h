@@ -4,6 +4,7 @@
 #include <QString>
 #include <functional>
 #include <map>
+#include <optional>
 #include <utility>
 #include <vector>
 
@@ -28,7 +29,11 @@ class SaleSession {
  public:
   /// Screens that the sale screen opens modally, by name: "addmen", "search", "topup", "color",
   /// "help". A name that is missing has no key and no menu entry.
-  using Openers = std::map<QString, std::function<void()>>;
+  struct Opener {
+    std::function<void()> open;
+    std::optional<Right> right = {};  ///< needed to open it
+  };
+  using Openers = std::map<QString, Opener>;
 
   /// Needs an operator logged in (ensure).
   SaleSession(posMod& pos, SaleScreen& screen, Openers openers);
@@ -70,10 +75,13 @@ class SaleSession {
   void fillCommands();
   void fillMenu();
   void addOpener(int KeyBoard::*key, const QString& screen);
+  [[nodiscard]] bool open(const Opener& opener);
+  [[nodiscard]] bool allowed(Right right, const std::function<void()>& deed);
   bool run(int code);
   const clsQk* quickKeyFor(int code, const QString& text) const;
   bool quickKey(int code);
   void show() { screen_.show(sale_.picture()); }
+  void openDrawer();
   void toggleLinePrint();
 
   posMod& pos_;

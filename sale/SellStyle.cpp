@@ -31,6 +31,7 @@ QString colours(const ClsPosSet& settings) {
              "#txtmoney { background: %2; color: %3; }"
              "#lblViewMember { color: %4; }"
              "#frmSell > #title { color: %5; }"
+             "#frmSell[practice=\"true\"] > #title { background: #c43b00; color: white; }"
              "#frmSell > #title1, #frmSell > #title2, #frmSell > #title3 { color: %6; }"
              "#ViewF { color: %7; }"
              "#lv { selection-background-color: #ffe08a; selection-color: black; }"

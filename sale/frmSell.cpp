@@ -1,5 +1,6 @@
 #include "sale/frmSell.h"
 
+#include <QApplication>
 #include <QCloseEvent>
 #include <QContextMenuEvent>
 #include <QEventLoop>
@@ -19,6 +20,7 @@
 #include "sale/FittedLabel.h"
 #include "sale/InputLine.h"
 #include "sale/frmRecord.h"
+#include "shell/dlgApproval.h"
 #include "shell/frmInput.h"
 #include "shell/frmMenu.h"
 
@@ -47,7 +49,7 @@ frmSell::frmSell(posMod& pos, SaleSession::Openers openers, std::function<void()
 
   // After the colour dialog the six colours are applied again.
   if (const auto colour = openers_.find("color"); colour != openers_.end()) {
-    colour->second = [this, open = colour->second] {
+    colour->second.open = [this, open = colour->second.open] {
       open();
       arrange();
     };
@@ -55,6 +57,10 @@ frmSell::frmSell(posMod& pos, SaleSession::Openers openers, std::function<void()
 }
 
 frmSell::~frmSell() = default;
+
+void frmSell::showPractice() {
+  setProperty("practice", true);
+}
 
 void frmSell::openModal() {
   begin();
@@ -218,6 +224,12 @@ void frmSell::messageBox(const QString& text, const QString& title) {
 
 bool frmSell::askYesNo(const QString& text, const QString& title, bool yesPreselected) {
   return messages_.ask(text, title, yesPreselected);
+}
+
+// Over the settlement dialog, when that is where it is asked.
+Permit frmSell::leave(const Deed& deed) {
+  QWidget* front = QApplication::activeModalWidget();
+  return askLeave(pos_, front != nullptr ? front : this, deed);
 }
 
 QString frmSell::prompt(const QString& title, const QString& message) {

@@ -32,6 +32,8 @@ class frmSell : public QWidget, private SaleScreen {
 
   /// Shows the screen modally; returns when it has been left. Needs an operator. Throws StoreError.
   void openModal();
+  /// The screen is one to practise at: its heading is a coloured band across it. Before it opens.
+  void showPractice();
   /// Opens the function menu: the menu key or a right click.
   void ShowSaleMenu();
 
@@ -46,6 +48,7 @@ class frmSell : public QWidget, private SaleScreen {
   void ShowMessage(const QString& text) override;
   void messageBox(const QString& text, const QString& title) override;
   bool askYesNo(const QString& text, const QString& title, bool yesPreselected) override;
+  Permit leave(const Deed& deed) override;
   QString prompt(const QString& title, const QString& message) override;
   int choose(int count, const std::function<QString(int position)>& caption) override;
   std::int32_t chooseHeldBill(const std::vector<std::shared_ptr<ClsSell>>& bills) override;

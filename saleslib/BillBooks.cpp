@@ -4,6 +4,7 @@
 
 #include "base/Failure.h"
 #include "base/NumberText.h"
+#include "saleslib/BillNotes.h"
 #include "saleslib/CardNumber.h"
 #include "saleslib/ClsDayStat.h"
 #include "saleslib/ClsMemberSvc.h"
@@ -44,7 +45,11 @@ StockOutcome BillBooks::putBack(const ClsSellItem& line) {
 
 std::shared_ptr<ClsSell> BillBooks::open() {
   auto bill = std::make_shared<ClsSell>();
-  return bill->Open(connection_, 0, cashier_->Id(), clock_) ? bill : nullptr;
+  Transaction opening(connection_);
+  if (!bill->Open(connection_, 0, cashier_->Id(), clock_)) return nullptr;
+  BillNotes(connection_).opened(*bill);
+  opening.commit();
+  return bill;
 }
 
 StockOutcome BillBooks::ring(ClsSellItem& line) {
@@ -53,6 +58,7 @@ StockOutcome BillBooks::ring(ClsSellItem& line) {
   StockOutcome outcome = take(line, line.StockQuantity(), rules_.StockRule());
   if (!outcome.done()) return outcome;
   line.Save();
+  BillNotes(connection_).rung(line);
   ringing.commit();
   ensure(line.Id() != 0, "a rung line is stored");
   return outcome;
@@ -66,6 +72,7 @@ StockOutcome BillBooks::correct(ClsSellItem& line, ClsSellItem changed) {
   StockOutcome outcome = take(line, more, rules_.StockRule());
   if (!outcome.done()) return outcome;
   changed.Save();
+  BillNotes(connection_).corrected(line, changed);
   correcting.commit();
   line = std::move(changed);
   return outcome;
@@ -76,6 +83,7 @@ StockOutcome BillBooks::remove(ClsSellItem& line) {
   Transaction removing(connection_);
   StockOutcome outcome = putBack(line);
   if (!outcome.done()) return outcome;
+  BillNotes(connection_).deleted(line);
   line.Delete();
   removing.commit();
   return outcome;
@@ -91,6 +99,7 @@ std::vector<StockOutcome> BillBooks::cancel(ClsSell& bill, ClsSellItem* line) {
   };
   for (const auto& each : bill.Items()) giveBack(*each);
   if (line != nullptr) giveBack(*line);
+  BillNotes(connection_).left(EntryKind::kBillCancelled, bill, line);
   bill.Void();
   cancelling.commit();
   return refusals;
@@ -101,6 +110,7 @@ std::shared_ptr<ClsSell> BillBooks::hold(ClsSell& bill) {
   ensure(bill.State() == kOpen && !bill.Paid(), "a bill that was paid is not put aside");
   Transaction holding(connection_);
   save(bill);
+  BillNotes(connection_).left(EntryKind::kBillSuspended, bill);
   auto next = open();
   if (next) holding.commit();
   return next;
@@ -120,6 +130,7 @@ BillBooks::Recalled BillBooks::recall(const ClsSell& held, ClsSell& empty,
   }
   takeAgain(recalled);
   save(*recalled.bill);
+  BillNotes(connection_).left(EntryKind::kBillRecalled, *recalled.bill);
   accept(*recalled.bill);
   recalled.member = member(held.MemberId());
   recalling.commit();
@@ -144,7 +155,10 @@ void BillBooks::takeAgain(Recalled& recalled) {
 void BillBooks::drop(ClsSell& empty) {
   ensure(empty.State() == kOpen && !empty.Paid() && empty.Items().empty(),
          "only an empty bill goes without its stock");
+  Transaction dropping(connection_);
+  BillNotes(connection_).left(EntryKind::kBillCancelled, empty);
   empty.Void();
+  dropping.commit();
 }
 
 std::vector<StockOutcome> BillBooks::cancelOpen() {
@@ -175,18 +189,23 @@ CardResult BillBooks::payByCard(ClsSell& bill, const std::string& password) {
   CardResult result = chargeCard(connection_, bill.CardNo(), password, bill.CardPay());
   if (result.outcome != CardOutcome::kDone) return result;
   if (!bill.SavePaid()) throw StoreError(bill.ErrText());
+  BillNotes(connection_).charged(bill);
   paying.commit();
   ensure(!connection_.inTransaction(), "a payment is durable before it is shown");
   return result;
 }
 
 bool BillBooks::settle(ClsSell& bill) {
+  return settleAs(EntryKind::kBillSettled, bill);
+}
+
+bool BillBooks::settleAs(EntryKind kind, ClsSell& bill) {
   ensure(bill.Paid(), "a bill is stored as settled after its payment is durable");
   bill.setState(kSettled);
   try {
     Transaction settling(connection_);
     if (bill.Save()) {
-      creditMember(bill);
+      BillNotes(connection_).settled(kind, bill, creditMember(bill));
       settling.commit();
       return true;
     }
@@ -198,12 +217,12 @@ bool BillBooks::settle(ClsSell& bill) {
   return false;
 }
 
-void BillBooks::creditMember(const ClsSell& bill) {
-  if (bill.MemberId() == 0) return;
+Credit BillBooks::creditMember(const ClsSell& bill) {
+  if (bill.MemberId() == 0) return {};
   try {
-    creditPurchase(connection_, bill.MemberId(), bill.Amount(), rules_.PointUnit());
+    return creditPurchase(connection_, bill.MemberId(), bill.Amount(), rules_.PointUnit());
   } catch (const StoreError&) {
-    return;
+    return {};
   }
 }
 
@@ -215,7 +234,7 @@ std::vector<BillBooks::PaidBill> BillBooks::completePaid() {
     paid.push_back({bill});
     try {
       bill->LoadLines();
-      paid.back().isSettled = settle(*bill);
+      paid.back().isSettled = settleAs(EntryKind::kBillCompleted, *bill);
     } catch (const Failure& failure) {
       paid.back().fault = failure.what();
     }

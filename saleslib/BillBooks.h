@@ -14,6 +14,7 @@
 #include "saleslib/ClsStock.h"
 #include "saleslib/Export.h"
 #include "saleslib/GoodsLookup.h"
+#include "saleslib/JournalKinds.h"
 #include "saleslib/StoredCard.h"
 
 class ClsDayStat;
@@ -22,8 +23,9 @@ class Connection;
 
 /// The books behind a sale screen, kept by one cashier: bills, the stock that their lines take, and
 /// what they are paid with. Each step is one transaction; a step that is refused or fails has
-/// written nothing and left bill and line as they were. A refused movement of stock is an outcome,
-/// a broken store throws StoreError.
+/// written nothing and left bill and line as they were. In a shop that keeps a journal, each step
+/// that it tells of (saleslib/BillNotes.h) is noted in the same transaction. A refused movement of
+/// stock is an outcome, a broken store throws StoreError.
 class TESSALY_API BillBooks {
  public:
   /// Connection and rules outlive the books. There is a cashier (ensure).
@@ -116,7 +118,8 @@ class TESSALY_API BillBooks {
   StockOutcome take(const ClsSellItem& line, double quantity, std::int16_t rule);
   StockOutcome putBack(const ClsSellItem& line);
   void takeAgain(Recalled& recalled);
-  void creditMember(const ClsSell& bill);
+  bool settleAs(EntryKind kind, ClsSell& bill);
+  Credit creditMember(const ClsSell& bill);
 
   Connection& connection_;
   const ClsSysParam& rules_;

@@ -6,8 +6,10 @@
 
 #include "base/Failure.h"
 #include "saleslib/ClsOperator.h"
+#include "saleslib/Journal.h"
 #include "saleslib/PasswordHash.h"
 #include "store/Connection.h"
+#include "store/StoreError.h"
 
 namespace {
 
@@ -31,6 +33,15 @@ void ClsLogin::Conn(Connection& connection) {
   connection_ = &connection;
 }
 
+// A refusal stays one when it cannot be noted; then it says why not.
+void ClsLogin::note(const std::string& number) {
+  try {
+    Journal(*connection_).note(EntryKind::kLoginRefused, number);
+  } catch (const StoreError& error) {
+    errText_ = error.what();
+  }
+}
+
 bool ClsLogin::Check(std::string_view number, std::string_view password) {
   ensure(connection_ != nullptr, "ClsLogin is bound before it is used");
   operator_.reset();
@@ -40,6 +51,7 @@ bool ClsLogin::Check(std::string_view number, std::string_view password) {
   const bool matches = passwordMatches(hash.value_or(nobodysHash()), password);
   if (!hash || !matches) {
     errText_ = "用户编号或密码不正确！";
+    note(id ? std::to_string(*id) : std::string());
     return false;
   }
   operator_ = std::make_shared<ClsOperator>();

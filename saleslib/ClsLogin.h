@@ -14,7 +14,8 @@ class Connection;
 class TESSALY_API ClsLogin {
  public:
   void Conn(Connection& connection);
-  /// Both exactly as typed. True when they belong to an operator, who is then in Operator().
+  /// Both exactly as typed; a refusal is noted in the journal. True when they belong to an
+  /// operator, who is then in Operator().
   [[nodiscard]] bool Check(std::string_view number, std::string_view password);
   /// The operator of the last successful check, else none.
   std::shared_ptr<ClsOperator> Operator() const { return operator_; }
@@ -22,6 +23,8 @@ class TESSALY_API ClsLogin {
   const std::string& ErrText() const { return errText_; }
 
  private:
+  void note(const std::string& number);
+
   Connection* connection_ = nullptr;
   std::shared_ptr<ClsOperator> operator_;
   std::string errText_;

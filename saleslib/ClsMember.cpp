@@ -1,12 +1,16 @@
 #include "saleslib/ClsMember.h"
 
 #include <cmath>
+#include <nlohmann/json.hpp>
 #include <utility>
 
 #include "base/Failure.h"
 #include "saleslib/Fields.h"
+#include "saleslib/Journal.h"
+#include "saleslib/JournalRecords.h"
 #include "store/Connection.h"
 #include "store/StoreError.h"
+#include "store/Transaction.h"
 
 namespace {
 
@@ -49,11 +53,14 @@ bool ClsMember::Save() {
   try {
     errText_ = refusal();
     if (!errText_.empty()) return false;
-    if (Id() == 0) {
-      insert();
-    } else {
-      update();
-    }
+    Transaction saving(*connection_);
+    const bool isNew = Id() == 0;
+    isNew ? insert() : update();
+    Journal(*connection_)
+        .note(isNew ? EntryKind::kMemberAdded : EntryKind::kMemberChanged, bh_, [&] {
+          return nlohmann::json{{"member", memberRecord(*connection_, id_)}};
+        });
+    saving.commit();
   } catch (const StoreError& error) {
     errText_ = error.what();
     return false;

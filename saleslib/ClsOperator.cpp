@@ -1,6 +1,10 @@
 #include "saleslib/ClsOperator.h"
 
+#include <nlohmann/json.hpp>
+
 #include "base/Failure.h"
+#include "saleslib/Journal.h"
+#include "saleslib/JournalRecords.h"
 #include "saleslib/PasswordHash.h"
 #include "store/Connection.h"
 #include "store/StoreError.h"
@@ -39,6 +43,12 @@ void ClsOperator::Save() {
     insert();
   }
   if (newRights_) storeRights();
+  if (!found_ || edited_ || newRights_) {
+    const EntryKind kind = found_ ? EntryKind::kOperatorChanged : EntryKind::kOperatorAdded;
+    Journal(*connection_).note(kind, id_, [this] {
+      return nlohmann::json{{"operator", operatorRecord(*connection_, id_)}};
+    });
+  }
   transaction.commit();
   found_ = true;
 }
@@ -68,4 +78,5 @@ void ClsOperator::storeRights() {
 
 void ClsOperator::setPassword(std::string_view password) {
   newPasswordHash_ = passwordHash(password);
+  edited_ = true;
 }

@@ -26,11 +26,17 @@ class TESSALY_API ClsOperator {
 
   /// The identifier printed on receipts after "收银员：".
   const std::string& Code() const { return code_; }
-  void setCode(std::string code) { code_ = std::move(code); }
+  void setCode(std::string code) {
+    code_ = std::move(code);
+    edited_ = true;
+  }
   /// The operator's new password; stored by Save. May be empty.
   void setPassword(std::string_view password);
   const std::string& Name() const { return name_; }
-  void setName(std::string name) { name_ = std::move(name); }
+  void setName(std::string name) {
+    name_ = std::move(name);
+    edited_ = true;
+  }
   std::int16_t Id() const { return id_; }
   const ClsRights& Rights() const { return rights_; }
   void setRights(ClsRights rights) {
@@ -52,5 +58,5 @@ class TESSALY_API ClsOperator {
   std::int16_t online_ = 0;
   std::optional<std::string> newPasswordHash_;
   ClsRights rights_;
-  bool newRights_ = false;
+  bool newRights_ = false, edited_ = false;
 };

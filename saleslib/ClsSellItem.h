@@ -32,6 +32,13 @@ class TESSALY_API ClsSellItem {
 
   Currency Price() const { return price_; }
   void setPrice(Currency price) { change(price_, price); }
+  /// A price that the cashier typed, for goods that have none.
+  void typePrice(Currency price) {
+    setPrice(price);
+    priceTyped_ = true;
+  }
+  /// Whether the price was typed, as far as this object knows: its row does not.
+  bool PriceTyped() const { return priceTyped_; }
   double Quantity() const { return quantity_; }  ///< in units of sale
   void setQuantity(double quantity) { change(quantity_, quantity); }
   ::Discount Discount() const { return discount_; }
@@ -80,6 +87,7 @@ class TESSALY_API ClsSellItem {
   WriteMark inserted_ = kNotWritten;
   WriteMark saved_ = kNotWritten;
   Currency price_, cost_;
+  bool priceTyped_ = false;
   double quantity_ = 1;
   ::Discount discount_;
   std::int16_t ratio_ = 1;

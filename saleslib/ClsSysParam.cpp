@@ -1,11 +1,13 @@
 #include "saleslib/ClsSysParam.h"
 
 #include <array>
+#include <nlohmann/json.hpp>
 #include <optional>
 
 #include "base/Failure.h"
 #include "base/NumberText.h"
 #include "base/Text.h"
+#include "saleslib/Journal.h"
 #include "saleslib/Tenders.h"
 #include "store/Connection.h"
 #include "store/Transaction.h"
@@ -86,6 +88,12 @@ constexpr std::array kDefinitions = {
     Definition{"PhonePay", &kSwitch, "0", "收手机扫码付款：0 否，1 是"},
     Definition{"OwnerReport", &kSwitch, "0",
                "收银程序的更多功能里有经营报表（要有 report 权限）：0 否，1 是"},
+    Definition{"Practice", &kSwitch, "0", "收银程序的更多功能里有练习，练习不入账：0 否，1 是"},
+    Definition{"Approval", &kSwitch, "0", "操作员没有权限的操作要有人授权：0 否，1 是"},
+    Definition{
+        "Journal", &kSwitch, "0",
+        "记日志：每笔业务一条，只增不改，check 拿账目和它核对；打开时收银程序先退出：0 否，1 "
+        "是"},
 };
 
 const Definition* find(std::string_view name) {
@@ -126,14 +134,28 @@ std::string ClsSysParam::set(std::string_view name, std::string_view value) {
   if (!refused.empty()) return refused;
   const Definition* definition = find(name);
   const std::optional<std::string> kept = definition->kind->read(value);
+  const std::string before = this->value(definition->name);
   Transaction transaction(*connection_);
   const std::int64_t known =
       connection_->run("update sys_param set value = ? where name = ?", *kept, definition->name);
   if (known == 0)
     connection_->run("insert into sys_param (name, value) values (?, ?)", definition->name, *kept);
+  note(definition->name, before, *kept);
   transaction.commit();
   values_[definition->name] = *kept;
   return {};
+}
+
+// The parameter Journal begins and ends the journal itself.
+void ClsSysParam::note(const std::string& name, const std::string& before,
+                       const std::string& value) {
+  const Journal journal(*connection_);
+  const bool isSwitch = name == "Journal";
+  if (isSwitch && value == "1" && !journal.isOn()) return journal.begin();
+  journal.note(EntryKind::kParameterSet, name, [&] {
+    return nlohmann::json{{"parameters", {{name, value}}}, {"before", before}};
+  });
+  if (isSwitch && value == "0") journal.end();
 }
 
 std::string ClsSysParam::refusal(std::string_view name, std::string_view value) {
@@ -217,8 +239,17 @@ bool ClsSysParam::CheckPayment() const {
 bool ClsSysParam::GoodsImport() const {
   return isOn("GoodsImport");
 }
+bool ClsSysParam::Practice() const {
+  return isOn("Practice");
+}
+bool ClsSysParam::Approval() const {
+  return isOn("Approval");
+}
 bool ClsSysParam::OwnerReport() const {
   return isOn("OwnerReport");
+}
+bool ClsSysParam::KeepsJournal() const {
+  return isOn("Journal");
 }
 bool ClsSysParam::Takes(const TenderKind& kind) const {
   return kind.parameter == nullptr || isOn(kind.parameter);

@@ -38,7 +38,10 @@ class TESSALY_API ClsSysParam {
   bool BackupOnExit() const;       ///< off
   bool CheckPayment() const;       ///< ask before figures that are likely mistyped; off
   bool GoodsImport() const;        ///< goods sheets may be imported at the till; off
+  bool Approval() const;           ///< deeds need a right or an approval; off
+  bool Practice() const;           ///< practising in the till's further menu; off
   bool OwnerReport() const;        ///< the owner's report in the till's further menu; off
+  bool KeepsJournal() const;       ///< what is done is noted (saleslib/Journal.h); off
   /// Whether the shop takes that kind of payment: those with a parameter of their own (PhonePay)
   /// are off.
   bool Takes(const TenderKind& kind) const;
@@ -52,9 +55,10 @@ class TESSALY_API ClsSysParam {
   };
   /// All parameters in a fixed order; unbound, with their defaults.
   std::vector<Parameter> list() const;
-  /// Stores one parameter; its name counts without regard to case. A switch is 0, 1, true, false,
-  /// 是 or 否; a rate is more than 0 and at most 1; a text is one line of at most 200 characters.
-  /// Returns an empty text, or the reason why not (unknown name, wrong kind). Throws StoreError.
+  /// Stores one parameter, and notes it in the journal, which Journal begins and ends; its name
+  /// counts without regard to case. A switch is 0, 1, true, false, 是 or 否; a rate is more than 0
+  /// and at most 1; a text is one line of at most 200 characters. Returns an empty text, or the
+  /// reason why not (unknown name, wrong kind). Throws StoreError.
   [[nodiscard]] std::string set(std::string_view name, std::string_view value);
   /// What set would answer, without storing anything.
   [[nodiscard]] static std::string refusal(std::string_view name, std::string_view value);
@@ -64,6 +68,7 @@ class TESSALY_API ClsSysParam {
   /// What is set, by name, in the form that Kind's reader gave it.
   std::map<std::string, std::string, std::less<>> values_;
 
+  void note(const std::string& name, const std::string& before, const std::string& value);
   std::string value(std::string_view name) const;
   std::int16_t whole(std::string_view name) const;
   bool isOn(std::string_view name) const;

@@ -21,11 +21,12 @@ void ClsUnSell::Save() {
   Transaction transaction(*connection_);
   limitTo(heldByLine());
   if (!(quantity_ > 0)) return;
-  connection_->run(
+  const std::optional<std::int64_t> key = connection_->insert(
       "insert into un_sell (un_time, sell_id, item_id, quantity, money, cost, ratio, discount,"
       " operator_id) values (?, ?, ?, ?, ?, ?, ?, ?, ?)",
       clock_(), billNo_, itemId_, quantity_, money_, cost_, ratio_, discount_, operatorId_);
   transaction.commit();
+  id_ = key32(key.value());
 }
 
 void ClsUnSell::limitTo(double held) {

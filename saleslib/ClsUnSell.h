@@ -28,6 +28,8 @@ class TESSALY_API ClsUnSell {
   /// The stored returns against a line. Throws StoreError.
   static std::vector<Earlier> OfLine(Connection& connection, std::int32_t itemId);
 
+  /// The record's number; 0 until it is stored.
+  std::int32_t Id() const { return id_; }
   double UnQty() const { return quantity_; }
   void setUnQty(double quantity) { quantity_ = quantity; }
   Currency UnMoney() const { return money_; }
@@ -44,7 +46,7 @@ class TESSALY_API ClsUnSell {
 
   Connection* connection_ = nullptr;
   Clock clock_ = localTime;
-  std::int32_t billNo_ = 0, itemId_ = 0;
+  std::int32_t billNo_ = 0, itemId_ = 0, id_ = 0;
   double quantity_ = 0;
   Currency money_, cost_;
   std::int16_t operatorId_ = 0, ratio_ = 1;

@@ -4,15 +4,8 @@
 
 #include <array>
 
+#include "saleslib/Sodium.h"
 #include "store/StoreError.h"
-
-namespace {
-
-void startSodium() {
-  if (sodium_init() < 0) throw StoreError("密码组件无法启动，请与管理员联系！");
-}
-
-}  // namespace
 
 std::string passwordHash(std::string_view password) {
   startSodium();

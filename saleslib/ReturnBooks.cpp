@@ -1,11 +1,14 @@
 #include "saleslib/ReturnBooks.h"
 
 #include <algorithm>
+#include <nlohmann/json.hpp>
 #include <utility>
 
 #include "base/Failure.h"
 #include "base/NumberText.h"
 #include "saleslib/ClsStock.h"
+#include "saleslib/Journal.h"
+#include "saleslib/JournalRecords.h"
 #include "saleslib/StoredCard.h"
 #include "store/Connection.h"
 #include "store/StoreError.h"
@@ -91,6 +94,8 @@ ReturnBooks::Outcome ReturnBooks::takeBack(ClsSell& bill, ClsSellItem& line, dou
   ensure(holds(bill, line), "a line is taken back from its own bill");
   ensure(quantity > 0 && refund >= Currency(), "goods come back, and money goes out");
   Transaction all(connection_);
+  const Journal journal(connection_);
+  const std::string before = journal.isOn() ? billMark(connection_, bill.BillNo()) : "";
   const ClsUnSell returned = record(bill, line, quantity, refund);
   if (!(returned.UnQty() > 0)) return {Outcome::kNothingHeld};
   ClsStock stock;
@@ -101,6 +106,18 @@ ReturnBooks::Outcome ReturnBooks::takeBack(ClsSell& bill, ClsSellItem& line, dou
   lowerLine(bill, line, returned.UnQty());
   if (bill.MemberId() > 0) debitPurchase(connection_, bill.MemberId(), returned.UnMoney());
   if (!bill.Save()) throw StoreError(bill.ErrText());
+  journal.note(EntryKind::kGoodsReturned, bill.BillNo(), [&] {
+    nlohmann::json body = billRecord(connection_, bill.BillNo());
+    body["before"] = before;
+    body["return"] = returnRecord(connection_, returned.Id());
+    body["item"] = line.SpCode();
+    if (bill.MemberId() > 0) {
+      body["credit"] = {{"member", bill.MemberId()},
+                        {"spent", generalNumber(-returned.UnMoney())},
+                        {"points", 0}};
+    }
+    return body;
+  });
   all.commit();
   return {};
 }

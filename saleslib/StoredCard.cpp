@@ -60,16 +60,16 @@ CardResult chargeCard(Connection& connection, const std::string& number,
   return result;
 }
 
-void creditPurchase(Connection& connection, std::int32_t memberId, Currency amount,
-                    std::int16_t pointUnit) {
+Credit creditPurchase(Connection& connection, std::int32_t memberId, Currency amount,
+                      std::int16_t pointUnit) {
   Transaction crediting(connection);
   Rows rows = connection.query("select total_spent, points from member where id = ?", memberId);
-  if (!rows.next()) return;
+  if (!rows.next()) return {};
   const std::int16_t points = whole16(rows, "points");
   try {
     static_cast<void>(money(rows, "total_spent") + amount);
   } catch (const Overflow&) {
-    return;
+    return {};
   }
   const int earned = pointsAfter(amount, pointUnit, points).value_or(points) - points;
   connection.run(
@@ -77,6 +77,7 @@ void creditPurchase(Connection& connection, std::int32_t memberId, Currency amou
       " where id = ?",
       amount, earned, memberId);
   crediting.commit();
+  return {memberId, amount, earned};
 }
 
 void debitPurchase(Connection& connection, std::int32_t memberId, Currency refund) {

@@ -36,10 +36,16 @@ struct CardResult {
 TESSALY_API CardResult chargeCard(Connection& connection, const std::string& number,
                                   const std::string& password, Currency due);
 
-/// Adds what a member has bought to purchases and points; a member that is gone, or whose figures
-/// have no room for more, stays as it is. Throws StoreError.
-TESSALY_API void creditPurchase(Connection& connection, std::int32_t memberId, Currency amount,
-                                std::int16_t pointUnit);
+/// What was added to a member's purchases and points.
+struct Credit {
+  std::int32_t memberId = 0;  ///< 0: nobody was credited
+  Currency spent;
+  int points = 0;
+};
+/// Adds what a member has bought to purchases and points, and gives what was added; a member that
+/// is gone, or whose figures have no room for more, stays as it is. Throws StoreError.
+TESSALY_API Credit creditPurchase(Connection& connection, std::int32_t memberId, Currency amount,
+                                  std::int16_t pointUnit);
 /// Takes a refund from what a member has bought; the points stay. A member that is gone has no
 /// purchases. Throws StoreError.
 TESSALY_API void debitPurchase(Connection& connection, std::int32_t memberId, Currency refund);

@@ -1,9 +1,13 @@
 #include "saleslib/TopUpBooks.h"
 
+#include <nlohmann/json.hpp>
+
 #include "base/Failure.h"
 #include "base/NumberText.h"
 #include "saleslib/CardNumber.h"
 #include "saleslib/Fields.h"
+#include "saleslib/Journal.h"
+#include "saleslib/JournalRecords.h"
 #include "store/Connection.h"
 #include "store/Literal.h"
 #include "store/StoreError.h"
@@ -27,10 +31,15 @@ std::optional<std::int64_t> TopUpBooks::begunRecord(const TopUp& topUp) const {
 }
 
 std::int64_t TopUpBooks::writeRecord(const TopUp& topUp) {
+  Transaction recording(connection_);
   const std::optional<std::int64_t> record = connection_.ExecuteInsert(
       "insert into cardStored([cardbh],[addmoney],[inMoney],[commerce],[bz]) values(" +
       quotedText(topUp.cardNumber) + "," + amount(topUp.credited) + " ," + amount(topUp.paid) +
       "  ," + amount(topUp.balance) + "  ," + quotedText(topUp.remark) + ")");
+  Journal(connection_).note(EntryKind::kTopUpBegun, record.value(), [&] {
+    return nlohmann::json{{"top_up", topUpRecord(connection_, record.value())}};
+  });
+  recording.commit();
   return record.value();
 }
 
@@ -48,6 +57,12 @@ void TopUpBooks::load(const TopUp& topUp, std::int64_t record) {
       "update cardStored set complete = 1, commerce = (select card from member where bh = cardbh)"
       " where id = ?",
       record);
+  Journal(connection_).note(EntryKind::kTopUpLoaded, record, [&] {
+    return nlohmann::json{
+        {"top_up", topUpRecord(connection_, record)},
+        {"card",
+         {{"number", topUp.cardNumber}, {"by", generalNumber(topUp.balance - topUp.before)}}}};
+  });
   both.commit();
 }
 

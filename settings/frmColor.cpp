@@ -14,6 +14,7 @@
 #include "app/posMod.h"
 #include "base/NumberText.h"
 #include "shell/Modal.h"
+#include "shell/Noted.h"
 #include "shell/Style.h"
 
 namespace {
@@ -164,6 +165,7 @@ void frmColor::save() {
     }
     pos_.gPosSet.*kRoles[i].setting = *colour;
   }
+  if (!noted(pos_, this, EntryKind::kSettingsChanged, "Color")) return;
   pos_.gPosSet.SaveSet(pos_.configIni);
   accept();
 }

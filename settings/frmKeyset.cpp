@@ -17,6 +17,7 @@
 #include "settings/KeyFunctions.h"
 #include "settings/QuickKeyModel.h"
 #include "shell/Modal.h"
+#include "shell/Noted.h"
 
 namespace {
 
@@ -233,6 +234,7 @@ void frmKeyset::putInto(KeyBoard& keys) const {
 }
 
 void frmKeyset::save() {
+  if (!noted(pos_, this, EntryKind::kSettingsChanged, "KeyBoard")) return;
   KeyBoard& keys = pos_.gKeyBoard;
   putInto(keys);
   keys.ReSetQk();

@@ -8,6 +8,7 @@
 
 #include "app/posMod.h"
 #include "settings/PosSetLists.h"
+#include "shell/Noted.h"
 
 frmPosSet::frmPosSet(posMod& pos, QWidget* parent)
     : KeyDrivenDialog(pos.gKeyBoard, EnterKey::kMapped, parent), pos_(pos) {
@@ -54,6 +55,7 @@ QWidget* frmPosSet::buttons() {
 }
 
 void frmPosSet::save() {
+  if (!noted(pos_, this, EntryKind::kSettingsChanged, "POS")) return;
   pos_.gPosSet = lists_->chosen();
   pos_.gPosSet.SaveSet(pos_.configIni);
   pos_.ShowMouse(pos_.gPosSet.VMouse != 0);

@@ -45,10 +45,9 @@ QString PeoplePage::take() {
     if (number > 1 && isEmpty) continue;
     QString refused = refusal(person);
     if (!refused.isEmpty()) return refused;
-    answers_.shop.operators.push_back({number,
-                                       person.name->text().toStdString(),
-                                       person.password->text().toStdString(),
-                                       {kRightSell}});
+    answers_.shop.operators.push_back(
+        {number, person.name->text().toStdString(), person.password->text().toStdString(),
+         number == 1 ? allRights() : std::vector<std::string>{kRightSell}});
   }
   return {};
 }

@@ -4,7 +4,7 @@
 
 #include "setup/SetupPage.h"
 
-/// The owner and, unless left empty, the first cashier. Both may sell.
+/// The owner, who has every right, and, unless left empty, the first cashier, who may sell.
 class PeoplePage : public SetupPage {
   Q_OBJECT
 

@@ -8,8 +8,8 @@
 #include "app/posMod.h"
 #include "base/Failure.h"
 #include "platform/QtText.h"
-#include "saleslib/ClsLogin.h"
 #include "shell/FramedFields.h"
+#include "shell/IdentityTexts.h"
 #include "shell/frmMsg.h"
 
 frmEditPwd::frmEditPwd(posMod& pos, QWidget* parent)
@@ -37,14 +37,14 @@ frmEditPwd::frmEditPwd(posMod& pos, QWidget* parent)
 }
 
 void frmEditPwd::change() {
-  std::string refusal;
+  QString refusal;
   try {
     refusal = store();
   } catch (const Failure& failure) {
-    refusal = failure.what();
+    refusal = qtText(failure.what());
   }
-  if (!refusal.empty()) {
-    frmMsg(this).Message(qtText(refusal));
+  if (!refusal.isEmpty()) {
+    frmMsg(this).Message(refusal);
     return;
   }
   // Whoever was at the till logs in again: the next protected screen asks who is there.
@@ -53,14 +53,14 @@ void frmEditPwd::change() {
 }
 
 /// An empty text, or why the old password does not do, which is then to be typed anew.
-std::string frmEditPwd::store() {
-  ClsLogin login;
-  login.Conn(*pos_.gConn);
-  if (!login.Check(txtNumber_->text().toStdString(), txtPassword_->text().toStdString())) {
+QString frmEditPwd::store() {
+  const Identification::Answer answer = pos_.identification().byPassword(
+      txtNumber_->text().toStdString(), txtPassword_->text().toStdString());
+  if (!answer.person) {
     focusWhole(txtPassword_);
-    return login.ErrText();
+    return refusalText(answer);
   }
-  login.Operator()->setPassword(txtNewPwd_->text().toStdString());
-  login.Operator()->Save();
+  answer.person->setPassword(txtNewPwd_->text().toStdString());
+  answer.person->Save();
   return {};
 }

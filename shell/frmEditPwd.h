@@ -1,7 +1,5 @@
 #pragma once
 
-#include <string>
-
 #include "shell/KeyDrivenDialog.h"
 
 class posMod;
@@ -16,7 +14,7 @@ class frmEditPwd : public KeyDrivenDialog {
 
  private:
   void change();
-  std::string store();
+  QString store();
 
   posMod& pos_;
   QLineEdit* txtNumber_;

@@ -6,9 +6,11 @@
 #include <QPushButton>
 
 #include "app/posMod.h"
+#include "base/Failure.h"
 #include "platform/QtText.h"
-#include "saleslib/ClsLogin.h"
+#include "saleslib/Journal.h"
 #include "shell/FramedFields.h"
+#include "shell/IdentityTexts.h"
 #include "shell/Modal.h"
 
 frmLogin::frmLogin(posMod& pos, QWidget* parent)
@@ -41,22 +43,27 @@ int frmLogin::goLogin() {
 }
 
 void frmLogin::check() {
-  ClsLogin login;
-  login.Conn(*pos_.gConn);
-  if (!login.Check(txtNumber_->text().toStdString(), txtPassword_->text().toStdString())) {
-    messageBox(this, qtText(login.ErrText()), {}, BoxIcon::kInformation);
+  const Identification::Answer answer = pos_.identification().byPassword(
+      txtNumber_->text().toStdString(), txtPassword_->text().toStdString());
+  if (!answer.person) {
+    messageBox(this, refusalText(answer), {}, BoxIcon::kInformation);
     result_ = kFailed;
     focusWhole(txtPassword_);  // behind dots nobody sees that typing would only add to it
     return;
   }
   result_ = kAccepted;
-  const std::shared_ptr<ClsOperator> checked = login.Operator();
-  if (!checked->Rights().HasRight(kRightSell)) {
+  if (!answer.person->Rights().HasRight(kRightSell)) {
     messageBox(this, tr("没有权限！"), {}, BoxIcon::kQuestion);
     focusWhole(txtNumber_);
     return;
   }
-  pos_.gOperator = checked;
+  pos_.gOperator = answer.person;
+  try {
+    pos_.journal().note(EntryKind::kLoggedIn, std::to_string(answer.person->Id()));
+  } catch (const Failure& failure) {
+    pos_.gOperator.reset();
+    return messageBox(this, qtText(failure.what()));
+  }
   accept();
 }
 

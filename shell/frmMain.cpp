@@ -19,6 +19,7 @@
 #include "shell/BackupLine.h"
 #include "shell/Modal.h"
 #include "shell/Style.h"
+#include "shell/dlgApproval.h"
 #include "shell/frmLogin.h"
 #include "shell/frmMenu.h"
 
@@ -83,6 +84,7 @@ frmMain::Entries frmMain::furtherEntries() {
   return {{tr("销 售 查 询"), "search"},  {tr("经 营 报 表"), "report"},
           {tr("退    货"), "unsell"},     {tr("增 加 会 员"), "addmen"},
           {tr("导 入 商 品"), "goodsin"}, {tr("键 盘 设 置"), "keyset"},
+          {tr("日    志"), "journal"},    {tr("练    习"), "practice"},
           {tr("更 换 操 作 员"), kExit},  {tr("帮    助"), "help"}};
 }
 
@@ -167,7 +169,9 @@ void frmMain::theMenu_MenuClick(const MenuItem& Menu) {
 // file. The menu comes again then.
 void frmMain::openScreen(const Screen& screen) {
   try {
-    if (!screen.needsLogin || someoneLoggedIn()) screen.open();
+    if (screen.needsLogin && !someoneLoggedIn()) return;
+    const Permit leave = screen.right ? askLeave(pos_, this, {*screen.right}) : nullptr;
+    if (!screen.right || leave) screen.open();
   } catch (const Failure& failure) {
     messageBox(this, qtText(failure.what()), {}, BoxIcon::kExclamation);
   }

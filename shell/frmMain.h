@@ -4,10 +4,12 @@
 #include <functional>
 #include <map>
 #include <memory>
+#include <optional>
 #include <utility>
 #include <vector>
 
 #include "base/DateTime.h"
+#include "saleslib/Right.h"
 #include "shell/MenuItem.h"
 
 class QLabel;
@@ -28,9 +30,11 @@ class frmMain : public QWidget {
   struct Screen {
     bool needsLogin;
     Opener open;
+    std::optional<Right> right = {};  ///< needed to open it; implies needsLogin
   };
   /// By menu key: "sell", "count", "search", "posset", "keyset", "addmen", "editpwd", "unsell",
-  /// "goodsin", "report", "help". A menu entry whose screen is not in the table is not shown.
+  /// "goodsin", "report", "journal", "practice", "help". A menu entry whose screen is not in the
+  /// table is not shown.
   frmMain(posMod& pos, std::map<QString, Screen> screens, QWidget* parent = nullptr);
   ~frmMain() override;
 

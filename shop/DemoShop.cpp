@@ -12,6 +12,7 @@
 #include "base/Failure.h"
 #include "base/NumberText.h"
 #include "saleslib/ClsMember.h"
+#include "saleslib/ClsRights.h"
 #include "saleslib/ClsSysParam.h"
 #include "shop/DemoGoods.h"
 #include "shop/GoodsImport.h"
@@ -41,6 +42,8 @@ constexpr DemoParameter kParameters[] = {
     {"SilverRate", "0.98"},
     {"GoldRate", "0.95"},
     {"CheckPayment", "1"},
+    {"Approval", "1"},
+    {"Practice", "1"},
 };
 
 struct DemoMember {
@@ -137,9 +140,13 @@ void addParameters(Connection& connection) {
 }
 
 void addOperators(Connection& connection) {
-  addOperator(connection, {1, "张三", "111", {kRightSell}});
-  addOperator(connection, {2, "李四", "222", {kRightSell}});
-  addOperator(connection, {3, "王五", "333", {}});
+  const std::vector<std::string> cashier = {"sell",  "discount:10", "price",   "delete", "topup",
+                                            "query", "reprint",     "members", "shift"};
+  std::vector<std::string> supervisor = allRights();
+  std::erase(supervisor, kRightSell);
+  addOperator(connection, {1, "张三", "111", allRights()});
+  addOperator(connection, {2, "李四", "222", cashier});
+  addOperator(connection, {3, "王五", "333", supervisor});
 }
 
 void addMembers(Connection& connection, const Clock& clock) {
@@ -200,13 +207,24 @@ void addGoods(Connection& connection, Date today) {
   ensure(goods && goods->mayBeWritten() && !mapping.isGuessed, "the demo goods are accepted");
 }
 
+// Of what is done from then on: the shop as it was filled is what it begins with.
+void keepJournal(Connection& connection) {
+  ClsSysParam parameters;
+  parameters.Conn(connection);
+  ensure(parameters.set("Journal", "1").empty(), "demo parameters are accepted");
+}
+
 }  // namespace
 
 void fillDemoShop(Connection& connection, const Clock& clock) {
+  ConnectionUser maker;
+  maker.clock = clock;
+  connection.setUser(std::move(maker));
   Transaction transaction(connection);
   addParameters(connection);
   addOperators(connection);
   addMembers(connection, clock);
   addGoods(connection, clock().date);
+  keepJournal(connection);
   transaction.commit();
 }

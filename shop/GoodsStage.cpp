@@ -5,6 +5,7 @@
 #include <random>
 #include <utility>
 
+#include "saleslib/Journal.h"
 #include "shop/Refusal.h"
 #include "store/Connection.h"
 #include "store/FragmentIndex.h"
@@ -118,6 +119,9 @@ void GoodsStage::seal() {
         category);
   }
   connection_.run("update goods_in set whole = 1");
+  Rows rows = connection_.query("select staged from goods_in");
+  Journal(connection_)
+      .note(EntryKind::kImported, "goods", {{"rows", rows.next() ? rows.text("staged") : ""}});
   sealing.commit();
   isSealed_ = true;
 }

@@ -7,6 +7,8 @@
 
 #include "base/CsvReader.h"
 #include "base/Text.h"
+#include "saleslib/Journal.h"
+#include "saleslib/JournalBase.h"
 #include "shop/Refusal.h"
 #include "shop/RowDoubts.h"
 #include "shop/SheetReader.h"
@@ -57,6 +59,8 @@ Imported Importer::run(std::istream& text) {
   chooseUpdated();
   prepareWriting();
   Transaction transaction(connection_);
+  Rows topUps = connection_.query("select max(id) as last from cardStored");
+  lastTopUp_ = topUps.next() ? topUps.whole("last").value_or(0) : 0;
   std::int64_t rows = 0;
   while (badRowCount_ < kMostBadRows && reader.next(fields_)) {
     if (!holdsNothing(fields_)) readRow(reader);
@@ -65,8 +69,19 @@ Imported Importer::run(std::istream& text) {
   if (badRowCount_ == kMostBadRows) badRows_ += "\n……后面的行没有再看。";
   if (badRowCount_ > 0) throw Refusal("什么也没有导入：\n" + badRows_);
   updateFragmentIndex(connection_);
+  noteImport();
   transaction.commit();
   return imported_;
+}
+
+void Importer::noteImport() {
+  Journal(connection_)
+      .note(EntryKind::kImported, table_.name,
+            {{"added", std::to_string(imported_.added)},
+             {"updated", std::to_string(imported_.updated)}});
+  const JournalBase base(connection_);
+  if (equalIgnoringCase(table_.name, "stock")) base.noteStock(counted_);
+  if (equalIgnoringCase(table_.name, "member")) base.noteMembers(lastTopUp_);
 }
 
 void Importer::readHeader(CsvReader& reader) {
@@ -173,6 +188,8 @@ void Importer::writeRow(const CsvReader& reader) {
 }
 
 bool Importer::write(const CsvReader& reader) {
+  if (equalIgnoringCase(table_.name, "stock"))
+    counted_.push_back(std::get<std::string>(values_[0]));
   recordBalance();
   std::vector<Value> bound;
   bound.reserve(updated_.size() + table_.keyColumns);

@@ -57,6 +57,7 @@ class Importer {
   void writeRow(const CsvReader& reader);
   bool write(const CsvReader& reader);
   void recordBalance();
+  void noteImport();
   void requireFirst(const CsvReader& reader);
   bool isAmongGoods() const;
   std::vector<Value> key() const;
@@ -78,6 +79,8 @@ class Importer {
   std::vector<Value> values_;         ///< the row to write, in the order of the table's columns
   RowNumbers seen_;                   ///< rows that the file has had
   std::set<std::string> seenOthers_;  ///< keys of those that have no number
+  std::vector<std::string> counted_;  ///< items whose stock was set
+  std::int64_t lastTopUp_ = 0;        ///< before the import
   std::string badRows_;
   int badRowCount_ = 0;
   Imported imported_;

@@ -1,9 +1,15 @@
 #include "shop/Operators.h"
 
+#include <map>
+#include <optional>
 #include <set>
 
+#include "base/Failure.h"
 #include "base/Text.h"
 #include "saleslib/ClsRights.h"
+#include "saleslib/Journal.h"
+#include "saleslib/Right.h"
+#include "saleslib/StaffCard.h"
 #include "shop/Refusal.h"
 #include "store/Connection.h"
 #include "store/Transaction.h"
@@ -18,9 +24,49 @@ std::string labelled(std::int16_t number) {
 
 }  // namespace
 
-const std::vector<std::string>& operatorRights() {
-  static const std::vector<std::string> rights = {kRightSell, kRightReport};
-  return rights;
+std::string refusalOfRight(const std::string& text) {
+  if (parseRight(text) || equalIgnoringCase(text, kEveryRight)) return {};
+  std::string keys;
+  for (const std::string& key : allRights()) keys.append(keys.empty() ? "" : "、").append(key);
+  return "只能是 " + keys + "、" + kEveryRight +
+         "（全部）；discount、return 后面可以写上限（discount:10）。写的是“" + text + "”";
+}
+
+std::string rightsForPeople() {
+  std::string all;
+  for (const RightKind& kind : rightKinds()) {
+    all.append(all.empty() ? "" : "、").append(kind.key).append("（").append(kind.word);
+    if (kind.limit == RightKind::Limit::kPercent)
+      all.append("，可以写最多百分之几：").append(kind.key).append(":10");
+    if (kind.limit == RightKind::Limit::kYuan)
+      all.append("，可以写最多多少元：").append(kind.key).append(":200");
+    all.append("）");
+  }
+  return all.append("，或者 ").append(kEveryRight).append("（全部）");
+}
+
+std::vector<std::string> rightsMeant(const std::vector<std::string>& named) {
+  std::map<Right, std::string> meant;
+  for (const std::string& text : named) {
+    const bool isEvery = equalIgnoringCase(text, kEveryRight);
+    for (const std::string& each : isEvery ? allRights() : std::vector{text}) {
+      const std::optional<HeldRight> right = parseRight(each);
+      ensure(right.has_value(), "a named right is one");
+      meant[right->right] = rightText(*right);
+    }
+  }
+  std::vector<std::string> texts;
+  for (const auto& [right, text] : meant) texts.push_back(text);
+  return texts;
+}
+
+std::vector<std::string> shownRights(const ClsRights& rights) {
+  std::vector<std::string> shown;
+  for (const RightKind& kind : rightKinds()) {
+    if (rights.HasRight(kind.key))
+      shown.push_back(rightText({kind.right, rights.Limit(kind.right)}));
+  }
+  return shown;
 }
 
 std::string refusalOfName(const std::string& name) {
@@ -40,13 +86,10 @@ void addOperator(Connection& connection, const NewOperator& wanted) {
   person.setName(name);
   person.setCode(std::to_string(wanted.number));
   person.setPassword(wanted.password);
-  person.Save();
   // What an operator of that number once had is not inherited.
-  connection.run("delete from operator_rights where operator_id = ?", wanted.number);
-  for (const std::string& right : std::set(wanted.rights.begin(), wanted.rights.end())) {
-    connection.run("insert into operator_rights (operator_id, right_key) values (?, ?)",
-                   wanted.number, right);
-  }
+  takeStaffCard(connection, wanted.number);
+  person.setRights(ClsRights({wanted.rights.begin(), wanted.rights.end()}));
+  person.Save();
   transaction.commit();
 }
 
@@ -63,6 +106,8 @@ void removeOperator(Connection& connection, std::int16_t number) {
     throw Refusal(labelled(number) + "还有没结的单据，先让本人在收银台处理完，再删除。");
   }
   connection.run("delete from operator_rights where operator_id = ?", number);
+  takeStaffCard(connection, number);
   connection.run("delete from operators where id = ?", number);
+  Journal(connection).note(EntryKind::kOperatorRemoved, std::to_string(number));
   transaction.commit();
 }

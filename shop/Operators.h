@@ -13,11 +13,20 @@ struct NewOperator {
   std::int16_t number = 0;
   std::string name;
   std::string password;
-  std::vector<std::string> rights;  ///< of operatorRights()
+  std::vector<std::string> rights;  ///< none is refused (refusalOfRight)
 };
 
-/// The rights that the till asks for.
-const std::vector<std::string>& operatorRights();
+/// The word for all rights together, where rights are named one by one.
+inline constexpr const char* kEveryRight = "all";
+/// An empty text, or why that is neither a right (see parseRight) nor kEveryRight.
+[[nodiscard]] std::string refusalOfRight(const std::string& text);
+/// What the owner may be told of the rights: "sell（收银）、discount（打折和优惠，…）".
+std::string rightsForPeople();
+/// The rights that were named, each once; a right of several limits has the last one.
+std::vector<std::string> rightsMeant(const std::vector<std::string>& named);
+/// The till's rights among these, as they are stored, in the order in which people are told of
+/// them.
+std::vector<std::string> shownRights(const ClsRights& rights);
 
 /// An empty text, or why nobody can have that name.
 [[nodiscard]] std::string refusalOfName(const std::string& name);

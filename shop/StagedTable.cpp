@@ -4,6 +4,8 @@
 #include <utility>
 
 #include "base/Text.h"
+#include "saleslib/Journal.h"
+#include "saleslib/JournalBase.h"
 #include "store/Connection.h"
 
 namespace {
@@ -62,6 +64,7 @@ std::int64_t StagedTable::move(int rows) {
   if (!slice) return 0;
   updateKnown(*slice);
   connection_.runBound(insertText(*slice).c_str(), slice->bound);
+  noteStock(*slice);
   return takeOut(*slice);
 }
 
@@ -78,6 +81,15 @@ void StagedTable::updateKnown(const Slice& slice) {
                 row.end());
     static_cast<void>(toTable_.update(std::move(row)));
   }
+}
+
+void StagedTable::noteStock(const Slice& slice) const {
+  if (std::string_view(table_.name) != "stock" || !Journal(connection_).isOn()) return;
+  std::vector<std::string> items;
+  Rows rows =
+      connection_.queryBound(("select spbm from " + staged_ + slice.where).c_str(), slice.bound);
+  while (rows.next()) items.push_back(rows.text("spbm"));
+  JournalBase(connection_).noteStock(items);
 }
 
 std::string StagedTable::insertText(const Slice& slice) const {

@@ -21,7 +21,7 @@ class StagedTable {
   /// Puts a row, in the order of the table's columns, into a run.
   void add(std::int64_t run, TableRow row);
   /// Moves some `rows` rows with the lowest keys into their table, where a row with the key of one
-  /// is replaced; gives how many, none when nothing waits.
+  /// is replaced, and notes stock in the journal; gives how many, none when nothing waits.
   std::int64_t move(int rows);
   /// Removes as many instead.
   std::int64_t remove(int rows);
@@ -34,6 +34,7 @@ class StagedTable {
   std::optional<Slice> lowest(int rows) const;
   std::optional<std::string> keyBehind(std::int64_t run, std::int64_t rows) const;
   void updateKnown(const Slice& slice);
+  void noteStock(const Slice& slice) const;
   std::string insertText(const Slice& slice) const;
   std::string waitingIn(const Slice& slice, const char* existence) const;
   std::int64_t takeOut(const Slice& slice);

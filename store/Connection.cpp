@@ -27,6 +27,24 @@ bool beginsAsPlainFile(sqlite3* engine) {
   return code == SQLITE_OK && std::memcmp(beginning, kPlainBeginning, sizeof beginning) == 0;
 }
 
+/// A path as it stands in the engine's names of files with options: signs that mean something there
+/// by their numbers.
+std::string uriPath(const std::string& path) {
+  std::string uri;
+  for (const char sign : path) {
+    if (sign == '%') {
+      uri += "%25";
+    } else if (sign == '?') {
+      uri += "%3f";
+    } else if (sign == '#') {
+      uri += "%23";
+    } else {
+      uri += sign;
+    }
+  }
+  return uri;
+}
+
 void execute(sqlite3* engine, const char* statements) {
   check(engine, sqlite3_exec(engine, statements, nullptr, nullptr, nullptr));
 }
@@ -79,8 +97,9 @@ Connection::Connection(const DataSource& source, Mode mode) : source_(source) {
 // One thread uses the connection, so the engine need not lock its own calls.
 void Connection::openEngine(Mode mode) {
   sqlite3* opened = nullptr;
-  const int code = sqlite3_open_v2(source_.path.c_str(), &opened,
-                                   SQLITE_OPEN_READWRITE | SQLITE_OPEN_NOMUTEX, nullptr);
+  const int code =
+      sqlite3_open_v2(source_.path.c_str(), &opened,
+                      SQLITE_OPEN_READWRITE | SQLITE_OPEN_NOMUTEX | SQLITE_OPEN_URI, nullptr);
   engine_.reset(opened);
   check(opened, code);
   if (mode == Mode::kNameless) unlink(source_.path.c_str());
@@ -179,6 +198,16 @@ int Connection::committed(void* connection, sqlite3* engine, const char*, int lo
   }
   static_cast<Connection*>(connection)->logPages_ = logPages - std::max(copied, 0);
   return SQLITE_OK;
+}
+
+// The engine reads the other file at once, so that its page size can only be the usual one. Of a
+// transaction that begins with the write lock it would want that of both files.
+void Connection::readBeside(const DataSource& other) {
+  ensure(!file_, "another file is read beside a nameless one");
+  execute(engine_.get(), "pragma cipher_default_page_size = 4096");
+  const std::string place = "file:" + uriPath(other.path.string()) + "?mode=ro";
+  run("attach ? as shop key ?", place, other.password);
+  begin_ = "begin";
 }
 
 void Connection::stopWhen(std::function<bool()> asked) {

@@ -6,8 +6,10 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
+#include "base/DateTime.h"
 #include "store/DataFilePath.h"
 #include "store/DataSource.h"
 #include "store/Recordset.h"
@@ -18,6 +20,19 @@
 class Statement;
 class StatementCache;
 struct sqlite3;
+
+/// Who uses a connection and what time it is: for those who note down what is written.
+struct ConnectionUser {
+  /// The operator's number; 0 for the owner's tool, nothing when nobody is logged in.
+  std::function<std::optional<std::int64_t>()> number = [] {
+    return std::optional<std::int64_t>(0);
+  };
+  /// Who allows what is being done, where somebody had to be asked.
+  std::function<std::optional<std::int64_t>()> approver = [] {
+    return std::optional<std::int64_t>();
+  };
+  Clock clock = localTime;
+};
 
 /// The one connection to the data file. Every failure throws StoreError.
 ///
@@ -38,6 +53,8 @@ class Connection {
   Connection& operator=(const Connection&) = delete;
 
   const DataSource& source() const { return source_; }
+  const ConnectionUser& user() const { return user_; }
+  void setUser(ConnectionUser user) { user_ = std::move(user); }
   /// Throws StoreError, with a text for people, when the file has been deleted, moved, replaced or
   /// linked since it was opened: what is written now would be lost. So do Execute, run and a
   /// transaction's beginning.
@@ -89,6 +106,9 @@ class Connection {
   /// The pages (4 KiB each) that were in the log after the last commit and were not copied since.
   int logPages() const { return logPages_; }
   static constexpr int kMostLogPages = 16'384;
+  /// From now on the tables of that data file that this one has not can be read as if they were its
+  /// own, as they are at each moment; nothing can be written to them. For a nameless file.
+  void readBeside(const DataSource& other);
   /// From now on `asked` is called every few milliseconds while a statement runs, in its thread;
   /// when it says yes, the statement ends by a StoreError. It must not use the connection.
   void stopWhen(std::function<bool()> asked);
@@ -112,10 +132,12 @@ class Connection {
   std::int64_t runToEnd(std::string_view text, std::vector<Value> values);
 
   DataSource source_;
+  ConnectionUser user_;
   std::optional<FileIdentity> file_;  ///< none while nameless
   std::unique_ptr<sqlite3, EngineCloser> engine_;
   std::unique_ptr<StatementCache> statements_;
   std::function<bool()> stopAsked_;
+  const char* begin_ = "begin immediate";  ///< of an outermost transaction
   int transactionDepth_ = 0;
   int logPages_ = 0;
   WriteMarks marks_;

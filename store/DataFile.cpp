@@ -41,6 +41,8 @@ void requireFreePlace(const std::filesystem::path& path) {
   }
 }
 
+}  // namespace
+
 std::unique_ptr<Connection> namelessDataFile(const DataSource& target) {
   WholeFile place(target.path);
   auto building = std::make_unique<Connection>(DataSource{place.path(), target.password},
@@ -48,8 +50,6 @@ std::unique_ptr<Connection> namelessDataFile(const DataSource& target) {
   upgradeSchema(*building, true);
   return building;
 }
-
-}  // namespace
 
 std::unique_ptr<Connection> openDataFile(const DataSource& source) {
   auto connection = std::make_unique<Connection>(source, Connection::Mode::kExisting);

@@ -21,6 +21,10 @@ std::unique_ptr<Connection> openDataFile(const DataSource& source);
 std::unique_ptr<Connection> createDataFile(
     const DataSource& source, const std::function<void(Connection&)>& fill = [](Connection&) {});
 
+/// A new data file that never has a name, not even that of the source, in whose folder its room is
+/// taken. It goes with its connection, even when the program is killed. Throws Failure.
+std::unique_ptr<Connection> namelessDataFile(const DataSource& source);
+
 /// A new data file for trying things out. It has no name and goes with its connection, even when
 /// the program is killed; the folder is where its room is taken. Throws Failure.
 std::unique_ptr<Connection> scratchDataFile(const std::filesystem::path& folder);

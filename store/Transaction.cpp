@@ -20,7 +20,7 @@ Transaction::Transaction(Connection& connection)
     : connection_(connection),
       depth_(connection.transactionDepth_ + 1),
       begin_(connection.writeMark()) {
-  connection_.run(depth_ == kOutermost ? "begin immediate"
+  connection_.run(depth_ == kOutermost ? connection_.begin_
                                        : savepoint("savepoint", depth_).c_str());
   connection_.transactionDepth_ = depth_;
 }

@@ -33,6 +33,12 @@ class Told : public Screen {
     return answersYes.value_or(yesPreselected);
   }
 
+  Permit leave(const Deed& deed) override { return mayDo(deed); }
+
+  /// Whether a deed is allowed; else every one is.
+  std::function<Permit(const Deed& deed)> mayDo = [](const Deed& deed) {
+    return std::make_shared<const Grant>(Grant{deed});
+  };
   std::vector<std::string> messages;    ///< of the message window, message boxes and questions
   std::optional<bool> answersYes;       ///< to a question; else the preselected answer
   std::function<void()> asked = [] {};  ///< what happens while the question is shown

@@ -10,6 +10,7 @@
 #include "members/frmFMember.h"
 #include "platform/QtText.h"
 #include "reports/frmCount.h"
+#include "reports/frmJournal.h"
 #include "reports/frmReport.h"
 #include "reports/frmSearch.h"
 #include "returns/frmUnSell.h"
@@ -68,39 +69,61 @@ bool Till::firstStart() {
 
 std::map<QString, frmMain::Screen> Till::screens() {
   std::map<QString, frmMain::Screen> all = fixedScreens();
-  if (pos_.gSysParam.GoodsImport()) all["goodsin"] = {true, [this] { show<frmGoodsIn>(); }};
-  if (pos_.gSysParam.OwnerReport()) all["report"] = {true, [this] { reportTakings(); }};
+  if (pos_.gSysParam.GoodsImport())
+    all["goodsin"] = {true, [this] { show<frmGoodsIn>(pos_); }, Right::kSettings};
+  if (pos_.gSysParam.Practice()) all["practice"] = {true, [this] { practise(); }};
+  if (pos_.gSysParam.OwnerReport())
+    all["report"] = {true, [this] { reportTakings(); }, Right::kReport};
+  if (pos_.gSysParam.KeepsJournal())
+    all["journal"] = {true, [this] { showJournal(); }, Right::kJournal};
   return all;
 }
 
 std::map<QString, frmMain::Screen> Till::fixedScreens() {
   return {{"sell", {true, [this] { frmSell_->openModal(); }}},
           {"count", {true, [this] { frmCount(pos_, QApplication::activeWindow()).init(); }}},
-          {"search", {true, [this] { show<frmSearch>(); }}},
-          {"unsell", {true, [this] { takeBack(); }}},
-          {"addmen", {true, [this] { show<frmFMember>(); }}},
-          {"editpwd", {false, [this] { show<frmEditPwd>(); }}},
-          {"posset", {true, [this] { show<frmPosSet>(); }}},
-          {"keyset", {true, [this] { show<frmKeyset>(); }}},
+          {"search", {true, [this] { show<frmSearch>(pos_); }}},
+          {"unsell", {true, [this] { show<frmUnSell>(pos_); }}},
+          {"addmen", {true, [this] { show<frmFMember>(pos_); }, Right::kMembers}},
+          {"editpwd", {false, [this] { show<frmEditPwd>(pos_); }}},
+          {"posset", {true, [this] { show<frmPosSet>(pos_); }, Right::kSettings}},
+          {"keyset", {true, [this] { show<frmKeyset>(pos_); }, Right::kSettings}},
           {"help", {false, [this] { help(); }}}};
 }
 
 SaleSession::Openers Till::saleScreens() {
-  return {{"addmen", [this] { show<frmFMember>(); }},
-          {"topup", [this] { show<cardStored>(); }},
-          {"search", [this] { show<frmSearch>(); }},
-          {"color", [this] { show<frmColor>(); }},
-          {"help", [this] { help(); }}};
-}
-
-void Till::takeBack() {
-  frmUnSell(pos_.gKeyBoard, pos_.returnBooks(), QApplication::activeWindow()).exec();
+  return {{"addmen", {[this] { show<frmFMember>(pos_); }, Right::kMembers}},
+          {"topup", {[this] { show<cardStored>(pos_); }, Right::kTopUp}},
+          {"search", {[this] { show<frmSearch>(pos_); }}},
+          {"color", {[this] { show<frmColor>(pos_); }, Right::kSettings}},
+          {"help", {[this] { help(); }}}};
 }
 
 void Till::reportTakings() {
-  if (pos_.gOperator->Rights().HasRight(kRightReport)) return show<frmReport>();
+  // Where no approvals are asked for, this is the one right that is needed all the same.
+  if (pos_.permission.approver() || pos_.gOperator->Rights().HasRight(kRightReport))
+    return show<frmReport>(pos_);
   messageBox(QApplication::activeWindow(),
              QCoreApplication::translate("Till", "您没有看经营报表的权限！"));
+}
+
+// The sales query and the settings would be the real ones.
+void Till::practise() {
+  const std::unique_ptr<posMod> practice = pos_.practice();
+  frmSell screen(*practice,
+                 {{"addmen", {[&practice] { show<frmFMember>(*practice); }, Right::kMembers}},
+                  {"topup", {[&practice] { show<cardStored>(*practice); }, Right::kTopUp}},
+                  {"help", {[this] { help(); }}}},
+                 [] {});
+  screen.showPractice();
+  screen.openModal();
+}
+
+void Till::showJournal() {
+  if (pos_.permission.approver() || pos_.gOperator->Rights().HasRight(kRightJournal))
+    return show<frmJournal>(pos_);
+  messageBox(QApplication::activeWindow(),
+             QCoreApplication::translate("Till", "您没有看日志的权限！"));
 }
 
 void Till::help() {
@@ -108,7 +131,7 @@ void Till::help() {
 }
 
 template <class Form>
-void Till::show() {
-  Form form(pos_, QApplication::activeWindow());
+void Till::show(posMod& pos) {
+  Form form(pos, QApplication::activeWindow());
   form.exec();
 }

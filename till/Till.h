@@ -38,12 +38,14 @@ class Till {
   /// Those that need no shop parameter.
   std::map<QString, frmMain::Screen> fixedScreens();
   SaleSession::Openers saleScreens();
-  void takeBack();
   void reportTakings();
+  /// The sale screen on a data file that nobody keeps.
+  void practise();
+  void showJournal();
   void help();
   /// Shows a dialog made for the occasion, over whichever window is in front.
   template <class Form>
-  void show();
+  static void show(posMod& pos);
 
   posMod pos_;
   std::unique_ptr<QuietCheckpoint> checkpoint_;

@@ -16,7 +16,7 @@ struct Options {
 };
 
 void backUp(const Options& options, Console& console) {
-  const std::unique_ptr<Connection> connection = openDataFile(options.file.source(console));
+  const std::unique_ptr<Connection> connection = options.file.open(console);
   backUpDataFile(*connection, options.target);
   console.out << "已备份到 " << options.target << "，并已打开检查过。\n";
 }

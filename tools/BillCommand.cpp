@@ -24,7 +24,7 @@ void redate(const Options& options, Console& console) {
   if (!to && !options.to.empty()) {
     throw Refusal("--to 要写成 2026-11-22 09:05:03 的样子，写的是“" + options.to + "”。");
   }
-  const std::unique_ptr<Connection> connection = openDataFile(options.file.source(console));
+  const std::unique_ptr<Connection> connection = options.file.open(console);
   const Redated done = redateBill(*connection, options.number, to, console.clock());
   console.out << "单据 " << options.number << " 的时间 " << storedText(done.from) << " 已改成 "
               << storedText(done.to) << "，商品行跟着改了 " << done.lines << " 行\n";

@@ -1,8 +1,11 @@
 #include "tools/BillDate.h"
 
+#include <nlohmann/json.hpp>
 #include <string>
 #include <vector>
 
+#include "saleslib/Journal.h"
+#include "saleslib/JournalRecords.h"
 #include "shop/Refusal.h"
 #include "store/Connection.h"
 #include "store/StoreError.h"
@@ -70,8 +73,15 @@ Redated redateBill(Connection& connection, std::int64_t number, std::optional<Da
   }
   if (to && *to > now) throw Refusal("--to 的时间还没有到。");
   const DateTime right = to ? *to : timeOfFirst(lines, now);
+  const std::string before = billMark(connection, number);
   connection.run("update sell set sell_time = ? where id = ?", right, number);
   const std::int64_t changed = redateLines(connection, lines, right, now);
+  Journal(connection).note(EntryKind::kBillRedated, number, [&] {
+    nlohmann::json body = billRecord(connection, number);
+    body["from"] = storedText(time.value_or(DateTime()));
+    body["before"] = before;
+    return body;
+  });
   redating.commit();
   return {time.value_or(DateTime()), right, changed};
 }

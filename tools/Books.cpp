@@ -25,6 +25,7 @@ BooksSummary Books::check() {
   examineMembers(books);
   examineGoods(books);
   examineShop(books);
+  examineJournal(books);
   return found_;
 }
 
@@ -42,13 +43,15 @@ void Books::count() {
       "(select count(*) from sell where paid = 1 and state = 0) as paid_bills, "
       "(select count(*) from sellProducts) as lines, "
       "(select count(*) from un_sell) as returns, "
-      "(select count(*) from stock) as stock_rows");
+      "(select count(*) from stock) as stock_rows, "
+      "(select count(*) from fact) as entries");
   rows.next();
   found_.bills = rows.whole("bills").value();
   found_.openBills = rows.whole("open_bills").value();
   found_.paidBills = rows.whole("paid_bills").value();
   found_.lines = rows.whole("lines").value();
   found_.returns = rows.whole("returns").value();
+  found_.entries = rows.whole("entries").value();
   found_.stockRows = rows.whole("stock_rows").value();
 }
 

@@ -37,7 +37,7 @@ void nameIncompleteTopUps(Connection& connection, Console& console) {
 }
 
 void check(const Options& options, Console& console, int& exitCode) {
-  const std::unique_ptr<Connection> connection = openDataFile(options.file.source(console));
+  const std::unique_ptr<Connection> connection = options.file.open(console);
   if (options.repair) repairIndex(*connection, console);
   Books books(
       *connection, [&console](const std::string& fault) { console.out << fault << '\n'; },
@@ -60,7 +60,9 @@ void check(const Options& options, Console& console, int& exitCode) {
   }
   console.out << "账目正确：单据 " << found.bills << " 张（其中未结 " << found.openBills
               << " 张），商品行 " << found.lines << " 行，退货 " << found.returns << " 笔，库存 "
-              << found.stockRows << " 条。\n";
+              << found.stockRows << " 条";
+  if (found.entries > 0) console.out << "，日志 " << found.entries << " 条";
+  console.out << "。\n";
 }
 
 }  // namespace

@@ -2,6 +2,8 @@
 
 #include <CLI/CLI.hpp>
 
+#include "store/Connection.h"
+
 void DataFileOptions::addTo(CLI::App& command) {
   command.add_option("数据文件", path, "店里的数据文件，例如 data/POS.mdb")->required();
   addPasswordTo(command);
@@ -21,4 +23,16 @@ DataSource DataFileOptions::source(Console& console) const {
 
 DataSource DataFileOptions::newSource(Console& console) const {
   return {path, asks ? askNewPassword(console, "数据文件的密码：") : password};
+}
+
+std::unique_ptr<Connection> DataFileOptions::open(Console& console) const {
+  return open(source(console), console);
+}
+
+std::unique_ptr<Connection> DataFileOptions::open(const DataSource& source, Console& console) {
+  std::unique_ptr<Connection> connection = openDataFile(source);
+  ConnectionUser tool;
+  tool.clock = console.clock;
+  connection->setUser(std::move(tool));
+  return connection;
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <memory>
 #include <string>
 
 #include "store/DataFile.h"
@@ -8,6 +9,7 @@
 namespace CLI {
 class App;
 }
+class Connection;
 
 /// What every command takes: the data file as its first argument, and the file's password.
 struct DataFileOptions {
@@ -22,4 +24,7 @@ struct DataFileOptions {
   DataSource source(Console& console) const;
   /// The same for a file that is to be made: typed twice at a terminal.
   DataSource newSource(Console& console) const;
+  /// Opens the file for the owner's tool, who writes at the console's time. Throws StoreError.
+  std::unique_ptr<Connection> open(Console& console) const;
+  static std::unique_ptr<Connection> open(const DataSource& source, Console& console);
 };

@@ -54,6 +54,13 @@ void examineMembers(const Examination& books);
 /// stock belong to goods.
 void examineGoods(const Examination& books);
 
+/// The journal, where the shop keeps one: its chain is whole, and the books are what its entries
+/// make them: bills and lines, returns, top-ups, stock, members with balance, purchases and points,
+/// operators with rights and passwords, shop parameters. Bills of before it began are held against
+/// the marks with which it began. The exception to the above: it keeps some bytes for each bill and
+/// item in memory, and each member, return and top-up.
+void examineJournal(const Examination& books);
+
 /// Operators, rights and shop parameters; that no number is given twice or runs out, and that no
 /// row is missing where none is ever deleted.
 void examineShop(const Examination& books);

@@ -7,6 +7,7 @@
 #include <string>
 
 #include "base/WholeFile.h"
+#include "saleslib/Journal.h"
 #include "shop/Exporter.h"
 #include "shop/Refusal.h"
 #include "store/Connection.h"
@@ -60,8 +61,9 @@ std::int64_t exportToPath(Connection& connection, const Table& table, const fs::
 }
 
 void exportTo(const Options& options, Console& console) {
-  const std::unique_ptr<Connection> connection = openDataFile(options.file.source(console));
+  const std::unique_ptr<Connection> connection = options.file.open(console);
   const Table table = tableNamed(options.table, console.clock());
+  Journal(*connection).note(EntryKind::kExported, table.name, {{"to", options.csv}});
   if (options.csv == "-") {
     exportToStream(*connection, table, console.out);
     return;

@@ -89,7 +89,7 @@ void importAccess(const Options& options, Console& console) {
   const AccessPlan plan = planned(file, options.choices, console.clock());
   if (options.listsOnly || options.file.path.empty()) return list(file, plan, console);
   requireComplete(plan);
-  const std::unique_ptr<Connection> connection = openDataFile(options.file.source(console));
+  const std::unique_ptr<Connection> connection = options.file.open(console);
   TakeOver takeOver(*connection, file, plan,
                     [&console](const std::string& table, std::int64_t rows) {
                       console.err << shown(table) << " 已读 " << rows << " 行" << std::endl;

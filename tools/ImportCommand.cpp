@@ -99,7 +99,7 @@ void print(const Imported& imported, const List& list, Console& console) {
 void importTables(const Options& options, Console& console) {
   const std::vector<List> lists = listsOf(options);
   for (const List& list : lists) opened(list.csv);  // before the first is read for minutes
-  const std::unique_ptr<Connection> connection = openDataFile(options.file.source(console));
+  const std::unique_ptr<Connection> connection = options.file.open(console);
   Transaction all(*connection);
   std::vector<Imported> done;
   for (const List& list : lists) done.push_back(importList(*connection, list, options, console));
@@ -114,7 +114,7 @@ int importSheet(const Options& options, Console& console) {
     throw Refusal("商品表一次导入一个文件；几个文件要各配一个 --table。");
   GoodsImportOptions goods = options.goods;
   goods.sheet = options.csvs.front();
-  const std::unique_ptr<Connection> connection = openDataFile(options.file.source(console));
+  const std::unique_ptr<Connection> connection = options.file.open(console);
   return importGoodsSheet(*connection, goods, console);
 }
 

@@ -10,12 +10,14 @@
 #include "base/Text.h"
 #include "saleslib/ClsOperator.h"
 #include "saleslib/ClsRights.h"
+#include "saleslib/Right.h"
 #include "shop/Operators.h"
 #include "shop/Refusal.h"
 #include "store/Connection.h"
 #include "store/Transaction.h"
 #include "tools/DataFileOptions.h"
 #include "tools/ParserTexts.h"
+#include "tools/StaffCardCommand.h"
 
 namespace {
 
@@ -39,16 +41,15 @@ std::string shownName(const Options& options, const ClsOperator& person) {
 
 std::string rightsOf(const ClsOperator& person) {
   std::string rights;
-  for (const std::string& right : operatorRights()) {
-    if (person.Rights().HasRight(right)) rights.append(rights.empty() ? "" : ",").append(right);
-  }
+  for (const std::string& right : shownRights(person.Rights()))
+    rights.append(rights.empty() ? "" : ",").append(right);
   return rights.empty() ? "-" : rights;
 }
 
 void add(const Options& options, Console& console) {
-  const std::unique_ptr<Connection> connection = openDataFile(options.file.source(console));
-  addOperator(*connection,
-              {options.number, options.name, passwordOf(options, console), options.rights});
+  const std::unique_ptr<Connection> connection = options.file.open(console);
+  addOperator(*connection, {options.number, options.name, passwordOf(options, console),
+                            rightsMeant(options.rights)});
   console.out << "已增加操作员 " << options.number << ' ' << trimmed(options.name) << '\n';
   if (options.rights.empty()) {
     console.out << "没有写 --right sell，这位操作员不能收银；要能收银，先删除，再带上 --right sell "
@@ -57,7 +58,7 @@ void add(const Options& options, Console& console) {
 }
 
 void list(const Options& options, Console& console) {
-  const std::unique_ptr<Connection> connection = openDataFile(options.file.source(console));
+  const std::unique_ptr<Connection> connection = options.file.open(console);
   Rows rows = connection->query("select id from operators order by id");
   while (rows.next()) {
     ClsOperator person;
@@ -67,7 +68,7 @@ void list(const Options& options, Console& console) {
 }
 
 void changePassword(const Options& options, Console& console) {
-  const std::unique_ptr<Connection> connection = openDataFile(options.file.source(console));
+  const std::unique_ptr<Connection> connection = options.file.open(console);
   ClsOperator person = existingOperator(*connection, options.number);
   person.setPassword(passwordOf(options, console));
   person.Save();
@@ -75,10 +76,21 @@ void changePassword(const Options& options, Console& console) {
 }
 
 void remove(const Options& options, Console& console) {
-  const std::unique_ptr<Connection> connection = openDataFile(options.file.source(console));
+  const std::unique_ptr<Connection> connection = options.file.open(console);
   const ClsOperator person = existingOperator(*connection, options.number);
   removeOperator(*connection, options.number);
   console.out << "已删除操作员 " << shownName(options, person) << '\n';
+}
+
+/// A right, with or without its limit, or all of them; the option gets the right as it is stored.
+CLI::Validator aRight() {
+  return CLI::Validator(
+      [](std::string& typed) {
+        std::string refusal = refusalOfRight(typed);
+        if (const auto right = parseRight(typed)) typed = rightText(*right);
+        return refusal;
+      },
+      "");
 }
 
 void addNumber(CLI::App& command, Options& options) {
@@ -104,21 +116,20 @@ CLI::App* addAction(CLI::App& parent, Console& console, const char* name, const 
 }  // namespace
 
 void addOperatorCommand(CLI::App& app, Console& console) {
-  CLI::App* parent = app.add_subcommand("operator", "操作员：增加、列出、改密码、删除");
+  CLI::App* parent = app.add_subcommand("operator", "操作员：增加、列出、改密码、员工卡、删除");
   parent->require_subcommand(1);
   const auto options = std::make_shared<Options>();
   CLI::App* adding = addAction(*parent, console, "add", "增加操作员", options, add);
   addNumber(*adding, *options);
   addPassword(*adding, *options);
   adding->add_option("--name", options->name, "姓名")->required();
-  adding
-      ->add_option("--right", options->rights,
-                   "权限：sell（收银），report（看经营报表）；可以写几次")
-      ->check(oneOf(operatorRights()))
+  adding->add_option("--right", options->rights, "权限，可以写几次：" + rightsForPeople())
+      ->check(aRight())
       ->allow_extra_args(false);
   addAction(*parent, console, "list", "列出操作员：用户编号、姓名、权限", options, list);
   CLI::App* changing = addAction(*parent, console, "password", "更改密码", options, changePassword);
   addNumber(*changing, *options);
   addPassword(*changing, *options);
   addNumber(*addAction(*parent, console, "remove", "删除操作员", options, remove), *options);
+  addStaffCardCommand(*parent, console);
 }

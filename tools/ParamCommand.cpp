@@ -19,7 +19,7 @@ struct Options {
 };
 
 void list(const Options& options, Console& console) {
-  const std::unique_ptr<Connection> connection = openDataFile(options.file.source(console));
+  const std::unique_ptr<Connection> connection = options.file.open(console);
   ClsSysParam parameters;
   parameters.Conn(*connection);
   for (const ClsSysParam::Parameter& parameter : parameters.list()) {
@@ -39,7 +39,7 @@ void setOne(ClsSysParam& parameters, const std::string& setting) {
 }
 
 void set(const Options& options, Console& console) {
-  const std::unique_ptr<Connection> connection = openDataFile(options.file.source(console));
+  const std::unique_ptr<Connection> connection = options.file.open(console);
   Transaction transaction(*connection);
   ClsSysParam parameters;
   parameters.Conn(*connection);

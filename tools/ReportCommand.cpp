@@ -7,6 +7,7 @@
 #include <optional>
 #include <string>
 
+#include "saleslib/Journal.h"
 #include "shop/Refusal.h"
 #include "store/Connection.h"
 #include "takings/ReportFile.h"
@@ -87,11 +88,14 @@ void report(const Options& options, Console& console) {
   const ReportTerms terms = termsOf(options, console.clock().date);
   const ReportFormat format = formatOf(options.format);
   const std::string target = targetOf(options, terms, format);
-  const std::unique_ptr<Connection> connection = openDataFile(options.file.source(console));
+  const std::unique_ptr<Connection> connection = options.file.open(console);
   std::error_code ignored;
   if (fs::equivalent(connection->source().path, target, ignored)) {
     throw Refusal("不能把数据文件本身当作报表的文件。");
   }
+  Journal(*connection)
+      .note(EntryKind::kReported, {},
+            {{"from", dateText(terms.from)}, {"to", dateText(terms.to)}, {"file", target}});
   const std::optional<Report> made =
       takingsReport(*connection, terms, console.clock(), progressOn(console));
   if (target == kStandardOutput) return print(made.value(), format, console);

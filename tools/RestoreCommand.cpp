@@ -8,6 +8,8 @@
 #include <string>
 #include <vector>
 
+#include "saleslib/Journal.h"
+#include "store/Connection.h"
 #include "store/DataFileRestore.h"
 #include "tools/BackupChoice.h"
 #include "tools/DataFileOptions.h"
@@ -36,6 +38,8 @@ void restore(Options& options, Console& console) {
                                            : askForBackup(file, options.from, console);
   const std::filesystem::path aside =
       restoreDataFile(backup, file, "old-" + markOf(console.clock()));
+  Journal(*options.file.open(file, console))
+      .note(EntryKind::kRestored, {}, {{"backup", backup.string()}, {"old", aside.string()}});
   console.out << "已用 " << backup.string() << " 恢复 " << options.file.path << "。\n";
   if (!aside.empty()) console.out << "原来的文件留在 " << aside.string() << "。\n";
 }

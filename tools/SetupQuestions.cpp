@@ -92,7 +92,7 @@ void askOperator(Questions& questions, NewShop& shop, const std::string& who, co
       who + "的姓名，用户编号（登录时输入）是 " + std::to_string(person.number), "", name);
   if (person.name.empty()) return;
   person.password = askNewPassword(questions.console());
-  person.rights = {kRightSell};
+  person.rights = shop.operators.empty() ? allRights() : std::vector<std::string>{kRightSell};
   shop.operators.push_back(person);
 }
 

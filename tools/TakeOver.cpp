@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "saleslib/Journal.h"
 #include "shop/Refusal.h"
 #include "store/Connection.h"
 #include "store/FragmentIndex.h"
@@ -57,6 +58,7 @@ TakenOver TakeOver::run() {
     if (!note.empty()) done_.notes.push_back(note);
   }
   updateFragmentIndex(connection_);
+  if (const Journal journal(connection_); journal.isOn()) journal.begin();
   all.commit();
   return std::move(done_);
 }

@@ -16,6 +16,7 @@
 #include "tools/ExportCommand.h"
 #include "tools/ImportAccessCommand.h"
 #include "tools/ImportCommand.h"
+#include "tools/JournalCommand.h"
 #include "tools/OperatorCommand.h"
 #include "tools/ParamCommand.h"
 #include "tools/ParserTexts.h"
@@ -69,6 +70,7 @@ int runTool(int count, const char* const* arguments, Console& console) {
   addBillCommand(app, console);
   addAutostartCommand(app, console);
   addReportCommand(app, console);
+  addJournalCommand(app, console);
   groupInChinese(app);
   try {
     app.parse(wordsOf(count, arguments));

@@ -182,6 +182,7 @@ Journal::Step Day::settling(const Ledger::Bill& bill) const {
   return [bill, number = number_](Ledger& ledger) {
     const Currency amount = bill.goodsAmount();
     ledger.put(number, bill);
+    ledger.numbers["entries of bill " + std::to_string(number)] = 1;
     for (const Ledger::Line& line : bill.lines) ledger.addStock(line, -line.quantity);
     if (!bill.card.empty()) ledger.money["card of " + bill.card] -= amount;
     if (bill.member.empty()) return;
@@ -206,10 +207,13 @@ void Day::topUp() {
     ledger.money[name + ", credited"] = credited;
     ledger.money[name + ", balance"] = ledger.money[account] + credited;
     ledger.numbers[name + ", completed"] = 0;
+    ledger.numbers["entries of " + name] = 1;
   };
   const auto both = [=](Ledger& ledger) {
     record(ledger);
-    ledger.numbers["top-up " + std::to_string(ledger.topUps) + ", completed"] = 1;
+    const std::string number = std::to_string(ledger.topUps);
+    ledger.numbers["top-up " + number + ", completed"] = 1;
+    ledger.numbers["entries of loading " + number] = 1;
     ledger.money[account] += credited;
   };
   confirm("top-up of card " + card, "messageBox", both, record);
@@ -237,6 +241,7 @@ void Day::takeBackLineOf(int number, const Ledger::Bill& bill) {
     ledger.money[name + " on bill " + std::to_string(number)] = gone.money();
     ledger.numbers[name + ", pieces of " + gone.item] = gone.quantity;
     ledger.addStock(gone, gone.quantity);
+    ++ledger.numbers["entries of returns on bill " + std::to_string(number)];
     Ledger::Bill left = ledger.bills.at(number);
     double& quantity = left.lines.at(static_cast<std::size_t>(position)).quantity;
     quantity = roundedQuantity(quantity - gone.quantity);

@@ -3,8 +3,7 @@
 #include <QComboBox>
 #include <QRadioButton>
 
-#include "Hands.h"
-#include "ShopFixture.h"
+#include "Approvals.h"
 
 constexpr const char* kWindow = "frmFMember";
 constexpr const char* kFields = "txtBh txtName txtPostcode card cmdOk";
@@ -24,6 +23,7 @@ class frmFMemberTest : public ShopFixture {
 
 TEST_F(frmFMemberTest, ASwipedNewCardBecomesAMemberByKeyboardAlone) {
   setParameter("SilverRate", "0.85");
+  askForApprovals(pos, {"members"}, {"topup"});
   hands.type(kWindow, ";66001234?\n\n\n\n\n\n\n\n")
       .see(kWindow, kFields, "66001234||0|0|确定@cmdOk");
   hands.at(kWindow, [&](QWidget& shown) {
@@ -40,6 +40,9 @@ TEST_F(frmFMemberTest, ASwipedNewCardBecomesAMemberByKeyboardAlone) {
     Hands::pressNow(Qt::Key_Space);
     okNow(shown);
   });
+  hands.type("dlgApproval", kGivesUp)
+      .see(kWindow, kFields, "66001234| 欧阳'; drop table member; --|12|88.5|确定@card");
+  hands.at(kWindow, okNow).type("dlgApproval", kSwipes);  // money on a card is a top-up
   hands.says("messageBox", "会员增加成功!");
   dialog.init();
   EXPECT_EQ(stored("bh||'|'||name||'|'||sex||'|'||age||'|'||phone||'|'||points||'|'||card||'|'||"

@@ -1,14 +1,16 @@
 #include <QTableView>
 #include <QTimer>
 
-#include "Hands.h"
+#include "Approvals.h"
 #include "ReportsFixture.h"
 #include "base/Gbk.h"
 #include "base/Text.h"
 #include "reports/ResultColumns.h"
 #include "reports/frmCount.h"
+#include "reports/frmJournal.h"
 #include "reports/frmReport.h"
 #include "reports/frmSearch.h"
+#include "saleslib/Journal.h"
 
 namespace {
 
@@ -73,6 +75,21 @@ TEST_F(frmCountTest, ShowsTheDayAndPrintsTheSheet) {
             "    销售交班表/今日累计发生 [2] 笔交易/共交易 [3.25] 件商品/交易额 [12.50] "
             "元/其中扫码 [0.50] 元");
   EXPECT_THAT(ports.pageWidthsMm, ElementsAre(58)) << "\"usb\" is no printer";
+}
+
+TEST_F(frmCountTest, TheSheetOfAShiftNeedsItsRight) {
+  askForApprovals(pos, {"sell"}, {"shift"});
+  pos.gPosSet.PPort = "LPT1";
+  Hands hands;
+  for (const char* answer : {kGivesUp, kApproves}) {
+    hands.at("frmCount", [](QWidget& form) { typeAt(form, "print1", " "); });
+    hands.type("dlgApproval", answer);
+  }
+  hands.at("frmCount", [](QWidget&) { Hands::pressNow(Key_Escape); });
+  frmCount(pos).init();
+  const std::string printed = gbk::decode(fileBytes(folder.file("lpt1")));
+  EXPECT_EQ(printed.find("销售交班表"), printed.rfind("销售交班表")) << "once";
+  EXPECT_NE(printed.find("销售交班表"), std::string::npos);
 }
 
 class frmSearchTest : public ReportsFixture {
@@ -153,6 +170,32 @@ TEST_F(frmSearchTest, TheLastBillIsPrintedAgainByOneKeyWithItsAmountsInSight) {
   EXPECT_EQ(form->findChild<QLineEdit*>("numberSerch")->text(), "2");
   const auto* list = form->findChild<QTableView*>("ListView1");
   EXPECT_LE(list->columnViewportPosition(kColumnUnitCost), list->viewport()->width());
+}
+
+TEST_F(frmSearchTest, QueryAndReprintNeedTheirRightsEachOnce) {
+  sell(2, "2026-11-22 09:00:00", "A1", 2);
+  settle(2, "2026-11-22 09:00:00", 2, "5");
+  pos.gPosSet.PPort = "USB";
+  askForApprovals(pos, {"reprint"}, {"query", "reprint"});
+  open();
+  QTest::keyClick(form.get(), Key_L, Qt::AltModifier);
+  EXPECT_EQ(found(), "2 康师傅红烧牛肉面 2 5 |  2 5 |");
+  EXPECT_EQ(ports.pages.size(), 1U) << "that bill is looked for to be printed, not to be queried";
+  pos.gOperator->setRights(ClsRights({"sell"}));
+  hands.type("dlgApproval", kGivesUp);
+  type("zjmtm", "none\n");
+  EXPECT_EQ(found(), "2 康师傅红烧牛肉面 2 5 |  2 5 |");
+  hands.type("dlgApproval", kApproves);
+  Hands::typeNow("\n");
+  EXPECT_EQ(found(), "  0 0 |");
+  type("zjmtm", "K\n");
+  EXPECT_EQ(found(), "2 康师傅红烧牛肉面 2 5 |  2 5 |") << "not asked again in this window";
+  for (const char* answer : {kGivesUp, kSwipes}) {
+    hands.type("dlgApproval", answer);
+    type("Command3", "\n");
+  }
+  EXPECT_EQ(ports.pages.size(), 2U);
+  EXPECT_TRUE(hands.idle());
 }
 
 TEST_F(frmSearchTest, DatesAndTimesAreTakenAsTypedAndImpossibleOnesSaid) {
@@ -250,6 +293,31 @@ TEST_F(frmReportTest, WritesThePeriodsReportToTheFolderUnlessItIsStopped) {
   EXPECT_THAT(fileBytes(file.string()),
               testing::AllOf(testing::HasSubstr("<td>2026-11-01</td>"),
                              testing::Not(testing::HasSubstr("99.00</td>"))));
+}
+
+using frmJournalTest = ReportsFixture;
+
+TEST_F(frmJournalTest, ShowsThePeriodsEntriesByOperatorAndKind) {
+  Hands hands;
+  setParameter("Journal", "1");
+  now.date.day = 23;
+  pos.journal().note(EntryKind::kDrawerOpened);
+  setParameter("PointUnit", "7");
+  pos.gOperator->Init(store, 2);
+  pos.journal().note(EntryKind::kReprinted, "5");
+  hands.at("frmJournal", [&](QWidget& form) {
+    const auto found = [&form](const char* control, const QString& keys) {
+      typeAt(form, control, keys + "\n");
+      return rowsOf(form, "listEntries", {2, 3, 4, 5});
+    };
+    EXPECT_EQ(found("DtBegin", "11-23"),
+              "张三 开钱箱   |张三 设店铺参数 PointUnit 10 改成 7 |李四 补打小票 5  |");
+    EXPECT_EQ(found("cobOperator", "↓↓"), "张三 开钱箱   |张三 设店铺参数 PointUnit 10 改成 7 |");
+    EXPECT_EQ(found("cobOperator", "↓"), "李四 补打小票 5  |");
+    EXPECT_EQ(found("cobKind", "↓"), "");
+    Hands::pressNow(Key_Escape);
+  });
+  frmJournal(pos).exec();
 }
 
 }  // namespace

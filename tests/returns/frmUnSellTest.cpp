@@ -2,7 +2,7 @@
 
 #include <QTableView>
 
-#include "Hands.h"
+#include "Approvals.h"
 #include "ReturnsFixture.h"
 
 /// The window for returns, driven by real key events.
@@ -36,7 +36,7 @@ class frmUnSellTest : public ReturnsFixture {
     EXPECT_TRUE(hands.idle());
   }
 
-  frmUnSell dialog{pos.gKeyBoard, pos.returnBooks()};
+  frmUnSell dialog{pos};
   Hands hands;
 };
 
@@ -86,8 +86,24 @@ TEST_F(frmUnSellTest, WhatIsMissingOrUnknownIsSaidAndReturnsNothing) {
   work();
 }
 
+TEST_F(frmUnSellTest, ARefundAboveTheCashiersLimitNeedsAnApprovalAndGivingUpKeepsTheFields) {
+  askForApprovals(pos, {"return:9"}, {"return:18"});
+  type("1\n6901\n1\n\n");
+  seeBooks("95 / 2x18,1x5 / 3 23 23 32 / 1x9 / 23 6");
+  type("6901\n2\n\n");
+  hands.see("dlgApproval", "Label1 lblSaid",
+            "退货 18.00 元|张三最多只能到 9.00 元。请有权限的人授权，Esc 放弃。@txtNumber");
+  hands.type("dlgApproval", kGivesUp);
+  see("6901 水 10.00 2 0.9 18.00 1|6901|10.00|2|2|18|退货@txtmoney");
+  seeBooks("95 / 2x18,1x5 / 3 23 23 32 / 1x9 / 23 6");
+  type("\n");
+  hands.type("dlgApproval", kApproves);
+  seeBooks("99 / 0x0,1x5 / 1 5 5 32 / 1x9,2x18 / 5 6");
+  work();
+}
+
 TEST_F(frmUnSellTest, TheWindowMayGoWhileAFieldIsBeingTypedIn) {
-  frmUnSell other(pos.gKeyBoard, pos.returnBooks());
+  frmUnSell other(pos);
   other.show();
   auto* quantity = other.findChild<QLineEdit*>("txtAmount");
   quantity->setFocus();

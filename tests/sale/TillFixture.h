@@ -104,5 +104,5 @@ class TillFixture : public ShopFixture {
 
   TillScreen till;
   int searches = 0;
-  SaleSession session{pos, till, {{"search", [this] { ++searches; }}}};
+  SaleSession session{pos, till, {{"search", {[this] { ++searches; }}}}};
 };

@@ -125,8 +125,9 @@ TEST_F(CommandTest, OperatorsComeAndGo) {
   expect(0, "", "operator add @ --number 7 --name 张三 --password 111 --right sell");
   EXPECT_TRUE(canLogIn("7", "111"));
   expect(1, "已经有操作员 7", "operator add @ --number 7 --name 张三 --password 222");
-  expect(2, "参数的值不对：--right: 只能是 sell、report，写的是“fly”",
-         "operator add @ --number 8 --name 张三 --password 1 --right fly");
+  for (const std::string bad : {"fly", "drawer:5", "discount:101"})
+    expect(2, "写的是“" + bad + "”",
+           "operator add @ --number 8 --name 张三 --password 1 --right " + bad);
   expect(2, "--number", "operator add @ --number 32768 --name 张三 --password 1");
   typed = "秘密\r\n";
   expect(0, "不能收银", "operator add @ --number 8 --name 张三");
@@ -137,6 +138,20 @@ TEST_F(CommandTest, OperatorsComeAndGo) {
   EXPECT_TRUE(canLogIn("7", "333") && !canLogIn("7", "111"));
   expect(0, "", "operator list @");
   EXPECT_EQ(out, "7\t张三\tsell\n8\t张三\t-\n");
+  expect(0, "",
+         "operator add @ --number 10 --name 李四 --password 1 --right all --right DISCOUNT:10");
+  expect(0, "10\t李四\tsell,discount:10,price,negative,delete,return,topup,drawer,reprint,query,",
+         "operator list @");
+  expect(0, "账目相符", "check @");
+  for (const char* track : {"12345", ";8899?"}) {
+    typed = track;
+    expect(*track == ';' ? 0 : 1, "卡", "operator card @ --number 10");
+  }
+  expect(1, "别的操作员", "operator card @ --number 7");
+  expect(0, "", "operator remove @ --number 10");
+  expect(0, "可以刷这张卡", "operator card @ --number 7");
+  expect(0, "没有员工卡了", "operator card @ --number 7 --remove");
+  typed = "";
 
   execute("insert into sell (sell_time, operator_id) values ('2026-11-22 09:00:00', 7)");
   expect(1, "没结的单据", "operator remove @ --number 7");

@@ -1,0 +1,87 @@
+#include "saleslib/Journal.h"
+
+#include <nlohmann/json.hpp>
+
+#include "base/DateTime.h"
+#include "saleslib/JournalBase.h"
+#include "saleslib/JournalEntry.h"
+#include "store/Connection.h"
+#include "store/Transaction.h"
+
+namespace {
+
+constexpr int kBodyVersion = 1;
+constexpr std::int64_t kTill = 1;  // each till has a data file of its own; so far there is one
+
+// What no JSON can hold is replaced: a name in the books never keeps an entry from being written.
+std::string textOf(const nlohmann::json& body) {
+  return body.dump(-1, ' ', false, nlohmann::json::error_handler_t::replace);
+}
+
+}  // namespace
+
+std::optional<Journal::Last> Journal::last() const {
+  Rows rows = connection_.query("select seq, time, kind, hash from fact order by seq desc limit 1");
+  if (!rows.next()) return std::nullopt;
+  return Last{rows.whole("seq").value_or(0), rows.text("time"), rows.text("kind"),
+              rows.text("hash")};
+}
+
+bool Journal::isOn() const {
+  const std::optional<Last> before = last();
+  return before && before->kind != entryKind(EntryKind::kJournalEnded).key;
+}
+
+void Journal::note(EntryKind kind, const std::string& touches, const Body& body) const {
+  if (!isOn()) return;
+  Transaction noting(connection_);
+  append(kind, touches, body());
+  noting.commit();
+}
+
+void Journal::note(EntryKind kind, const std::string& touches,
+                   std::initializer_list<std::pair<const char*, std::string>> texts) const {
+  note(kind, touches, [&] {
+    nlohmann::json body = nlohmann::json::object();
+    for (const auto& [name, text] : texts) body[name] = text;
+    return body;
+  });
+}
+
+// The last entry is read under the write lock: another program may have added one meanwhile.
+void Journal::append(EntryKind kind, const std::string& touches, nlohmann::json body) const {
+  const std::optional<Last> before = last();
+  const DateTime now = connection_.user().clock();
+  if (before && kind != EntryKind::kClockSetBack && isSetBack(before->time, storedText(now))) {
+    nlohmann::json from = nlohmann::json::object();
+    from["from"] = before->time;
+    append(EntryKind::kClockSetBack, {}, std::move(from));
+    return append(kind, touches, std::move(body));
+  }
+  body["v"] = kBodyVersion;
+  JournalEntry entry{.seq = before ? before->seq + 1 : 1,
+                     .time = storedText(now),
+                     .till = kTill,
+                     .operatorId = connection_.user().number(),
+                     .approver = connection_.user().approver(),
+                     .kind = entryKind(kind).key,
+                     .touches = touches,
+                     .body = textOf(body),
+                     .hash = {}};
+  entry.hash = entry.sealedBehind(before ? before->hash : std::string());
+  connection_.run(
+      "insert into fact (seq, time, till, operator, approver, kind, touches, body, hash)"
+      " values (?, ?, ?, ?, ?, ?, ?, ?, ?)",
+      entry.seq, entry.time, entry.till, entry.operatorId, entry.approver, entry.kind,
+      entry.touches, entry.body, entry.hash);
+}
+
+void Journal::begin() const {
+  Transaction beginning(connection_);
+  JournalBase(connection_).state();
+  beginning.commit();
+}
+
+void Journal::end() const {
+  note(EntryKind::kJournalEnded);
+}

@@ -1,0 +1,92 @@
+#include "saleslib/JournalRecords.h"
+
+#include <initializer_list>
+#include <nlohmann/json.hpp>
+
+#include "saleslib/JournalEntry.h"
+#include "saleslib/Tenders.h"
+#include "store/Connection.h"
+
+namespace {
+
+using Json = nlohmann::json;
+using Columns = std::initializer_list<const char*>;
+
+// What is empty or nothing is left out: a further column changes no record of a row without it.
+void add(Json& record, const Row& row, const char* column) {
+  std::string text = row.text(column);
+  if (!text.empty() && text != "0") record[column] = std::move(text);
+}
+
+Json recordOf(const Row& row, const Columns& columns) {
+  Json record = Json::object();
+  for (const char* column : columns) add(record, row, column);
+  return record;
+}
+
+void addMark(Json& record, const Row& row) {
+  const std::string secret = row.text("password");
+  if (!secret.empty()) record["password"] = textMark(row.text("id") + ":" + secret);
+}
+
+Json rowOf(Connection& connection, const char* query, std::int64_t id, const Columns& columns) {
+  Rows rows = connection.query(query, id);
+  return rows.next() ? recordOf(rows, columns) : Json();
+}
+
+}  // namespace
+
+nlohmann::json billRecord(Connection& connection, std::int64_t number) {
+  Rows row = connection.query("select * from sell where id = ?", number);
+  if (!row.next()) return {};
+  Json bill = recordOf(row, {"id", "sell_time", "operator_id", "quantity", "goods_amount", "amount",
+                             "card_no", "phone_slip", "salesman", "member_id"});
+  for (const TenderKind& kind : tenderKinds()) add(bill, row, kind.column);
+  Json lines = Json::array();
+  Rows rows = connection.query("select * from sellProducts where sellId = ? order by id", number);
+  while (rows.next()) {
+    lines.push_back(
+        recordOf(rows, {"id", "insert_Date", "bm", "name", "unit", "amount", "price", "discount",
+                        "money", "in_price", "splbmc", "entry_code", "ratio", "origin"}));
+  }
+  return {{"bill", std::move(bill)}, {"lines", std::move(lines)}};
+}
+
+nlohmann::json returnRecord(Connection& connection, std::int64_t id) {
+  return rowOf(connection, "select * from un_sell where id = ?", id,
+               {"id", "un_time", "sell_id", "item_id", "quantity", "money", "cost", "ratio",
+                "discount", "operator_id"});
+}
+
+nlohmann::json topUpRecord(Connection& connection, std::int64_t id) {
+  return rowOf(connection, "select * from cardStored where id = ?", id,
+               {"id", "cardbh", "addmoney", "inMoney", "commerce", "bz", "complete"});
+}
+
+nlohmann::json memberRecord(Connection& connection, std::int64_t id) {
+  Rows row = connection.query("select * from member where id = ?", id);
+  if (!row.next()) return {};
+  Json member = recordOf(
+      row, {"id", "bh", "name", "hyzklb", "sex", "age", "phone", "address", "other", "enabled",
+            "discount", "birthday", "join_date", "card", "total_spent", "points"});
+  addMark(member, row);
+  return member;
+}
+
+nlohmann::json operatorRecord(Connection& connection, std::int64_t id) {
+  Rows row = connection.query("select * from operators where id = ?", id);
+  if (!row.next()) return {};
+  Json person = recordOf(row, {"id", "name", "code"});
+  addMark(person, row);
+  Json rights = Json::array();
+  Rows rows = connection.query(
+      "select right_key from operator_rights where operator_id = ? order by right_key", id);
+  while (rows.next()) rights.push_back(rows.text("right_key"));
+  person["rights"] = std::move(rights);
+  return person;
+}
+
+std::string billMark(Connection& connection, std::int64_t number) {
+  return textMark(billRecord(connection, number)
+                      .dump(-1, ' ', false, nlohmann::json::error_handler_t::replace));
+}

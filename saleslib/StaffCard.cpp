@@ -1,0 +1,71 @@
+#include "saleslib/StaffCard.h"
+
+#include <sodium.h>
+
+#include <array>
+#include <cstdint>
+#include <optional>
+#include <string>
+
+#include "base/Failure.h"
+#include "base/Text.h"
+#include "saleslib/ClsOperator.h"
+#include "saleslib/Sodium.h"
+#include "store/Connection.h"
+#include "store/Transaction.h"
+
+namespace {
+
+std::string track(std::string_view typed) {
+  return trimmed(halfWidth(typed));
+}
+
+/// In hexadecimal digits. A generic hash (BLAKE2b), not a password's slow one: the card itself says
+/// nothing of whose it is, so that it is looked up by its hash.
+std::string hashOf(std::string_view typed) {
+  ensure(isSwipe(typed), "a staff card is swiped");
+  const std::string text = track(typed);
+  startSodium();
+  std::array<unsigned char, crypto_generichash_BYTES> hash{};
+  crypto_generichash(hash.data(), hash.size(), reinterpret_cast<const unsigned char*>(text.data()),
+                     text.size(), nullptr, 0);
+  std::array<char, 2 * crypto_generichash_BYTES + 1> digits{};
+  sodium_bin2hex(digits.data(), digits.size(), hash.data(), hash.size());
+  return digits.data();
+}
+
+std::optional<std::int16_t> holder(Connection& connection, std::string_view typed) {
+  Rows rows =
+      connection.query("select operator_id from operator_cards where track = ?", hashOf(typed));
+  if (!rows.next()) return std::nullopt;
+  return static_cast<std::int16_t>(rows.whole("operator_id").value());
+}
+
+}  // namespace
+
+bool isSwipe(std::string_view typed) {
+  const std::string text = track(typed);
+  return text.size() > 2 && text.front() == ';' && text.back() == '?';
+}
+
+std::shared_ptr<ClsOperator> staffCardHolder(Connection& connection, std::string_view typed) {
+  const std::optional<std::int16_t> id = holder(connection, typed);
+  if (!id) return {};
+  auto person = std::make_shared<ClsOperator>();
+  person->Init(connection, *id);
+  return person->Found() ? person : nullptr;
+}
+
+bool giveStaffCard(Connection& connection, std::int16_t operatorId, std::string_view typed) {
+  Transaction transaction(connection);
+  if (const auto other = holder(connection, typed)) return *other == operatorId;
+  takeStaffCard(connection, operatorId);
+  connection.run("insert into operator_cards (operator_id, track) values (?, ?)", operatorId,
+                 hashOf(typed));
+  transaction.commit();
+  return true;
+}
+
+void takeStaffCard(Connection& connection, std::int16_t operatorId) {
+  connection.run("delete from operator_cards where operator_id = ?", operatorId);
+}

@@ -1,0 +1,6 @@
+#pragma once
+
+/// The longer steps of the data file's tables (store/Schema.h).
+extern const char* const kFirstTables;
+extern const char* const kGoodsTables;
+extern const char* const kJournalTable;
