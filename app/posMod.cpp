@@ -30,6 +30,12 @@ namespace {
 // untranslated: printed
 constexpr const char* kPracticeTitle = "练习，不入账";
 
+/// What may not be looked at is there.
+bool isMissing(const std::filesystem::path& file) {
+  std::error_code fault;
+  return std::filesystem::status(file, fault).type() == std::filesystem::file_type::not_found;
+}
+
 }  // namespace
 
 posMod::posMod(std::filesystem::path shopFolder, Clock presentTime)

@@ -4,6 +4,7 @@
 #include "saleslib/ClsLogin.h"
 #include "saleslib/ClsOperator.h"
 #include "saleslib/ClsSysParam.h"
+#include "saleslib/Journal.h"
 #include "saleslib/LoginBrake.h"
 #include "saleslib/StaffCard.h"
 
@@ -30,7 +31,9 @@ Identification::Answer Identification::byPassword(std::string_view number,
 Identification::Answer Identification::bySwipe(std::string_view typed) {
   return answer([&] {
     Answer found{staffCardHolder(connection_, typed)};
-    if (!found.person) found.refusal = Words::tr("没有这张员工卡！");
+    if (found.person) return found;
+    found.refusal = "没有这张员工卡！";
+    Journal(connection_).note(EntryKind::kLoginRefused);
     return found;
   });
 }

@@ -16,7 +16,18 @@
 #include "saleslib/StaffCard.h"
 #include "shell/FramedFields.h"
 #include "shell/IdentityTexts.h"
+#include "shell/Noted.h"
 #include "shell/ShownText.h"
+
+namespace {
+
+/// What an approval touches, as rights are written: "drawer", "discount:15".
+std::string deedKey(const Deed& deed) {
+  const bool isMeasured = rightKind(deed.right).limit != RightKind::Limit::kNone;
+  return rightText({deed.right, isMeasured ? std::optional(deed.size) : std::nullopt});
+}
+
+}  // namespace
 
 dlgApproval::dlgApproval(posMod& pos, const Deed& deed, QWidget* parent)
     : KeyDrivenDialog(pos.gKeyBoard, EnterKey::kMapped, parent),
@@ -97,7 +108,13 @@ void dlgApproval::say(const QString& text) {
 
 Permit askLeave(posMod& pos, QWidget* parent, const Deed& deed) {
   ensure(pos.gOperator != nullptr, "who asks for leave is logged in");
-  return pos.permission.may(*pos.gOperator, deed, [&](const Deed& wanted) {
+  bool isAsked = false;
+  const Permit permit = pos.permission.may(*pos.gOperator, deed, [&](const Deed& wanted) {
+    isAsked = true;
     return dlgApproval(pos, wanted, parent).ask();
   });
+  if (!isAsked) return permit;
+  // The permit's approver is the entry's.
+  const EntryKind kind = permit ? EntryKind::kApprovalGiven : EntryKind::kApprovalRefused;
+  return noted(pos, parent, kind, qtText(deedKey(deed))) ? permit : nullptr;
 }

@@ -3,11 +3,9 @@
 #include <exception>
 #include <filesystem>
 #include <iostream>
+#include <memory>
 
-#include "app/Language.h"
-#include "base/ShopFolder.h"
-#include "base/Words.h"
-#include "platform/IniFile.h"
+#include "setup/TerminalTill.h"
 #include "tools/Tool.h"
 
 namespace {
@@ -24,7 +22,9 @@ int main(int count, char** arguments) {
     std::ios::sync_with_stdio(false);
     speak(chosenLanguage(IniFile(shopFolder("", programFolder()) / "Config.ini")));
     Console console{std::cin, std::cout, std::cerr, localTime, isatty(STDIN_FILENO) == 1};
-    return runTool(count, arguments, console);
+    return runTool(count, arguments, console, [&console](const std::filesystem::path& shopFolder) {
+      return std::make_unique<TerminalTill>(shopFolder, console.clock);
+    });
   } catch (const std::exception& failure) {
     std::cerr << Words::tr("程序出错，必须结束：%1", failure.what()) << '\n';
     return 1;
