@@ -29,6 +29,7 @@ namespace {
 /// On papers, which are Chinese whatever the screens speak.
 constexpr const char* kPracticeTitle = "练习，不入账";
 
+/// What may not be looked at is there.
 bool isMissing(const std::filesystem::path& file) {
   std::error_code fault;
   return std::filesystem::status(file, fault).type() == std::filesystem::file_type::not_found;

@@ -12,7 +12,8 @@ endif()
 pkg_check_modules(sqlcipher REQUIRED IMPORTED_TARGET sqlcipher)
 pkg_check_modules(sodium REQUIRED IMPORTED_TARGET libsodium)
 pkg_check_modules(xlsxwriter REQUIRED IMPORTED_TARGET xlsxwriter)
-pkg_check_modules(orcus REQUIRED IMPORTED_TARGET liborcus-0.17)
+pkg_check_modules(expat REQUIRED IMPORTED_TARGET expat)
+pkg_check_modules(libzip REQUIRED IMPORTED_TARGET libzip)
 pkg_check_modules(libmdb REQUIRED IMPORTED_TARGET libmdb)
 
 # What every target of ours is compiled with.

@@ -16,8 +16,8 @@ enum FurtherMenu {
   kUnSell,
   kAddMen,
   kKeySet,
-  kPractice,
   kJournal,
+  kPractice,
   kExit,
   kHelp,
   kFurtherEntries

@@ -278,7 +278,8 @@ void frmSearch::exportList() {
   const QString name = qtText(kExportTitle) + ' ' + qtText(dateText(pos_.clock().date));
   ExportDialog dialog(pos_.gKeyBoard, exportFolder(pos_.configIni, pos_.folder), name, this);
   if (dialog.exec() != QDialog::Accepted) return;
-  if (noted(pos_, this, EntryKind::kExported, dialog.name())) exportTo(dialog.file());
+  const QString file = qtText(dialog.file().filename().string());
+  if (noted(pos_, this, EntryKind::kExported, file)) exportTo(dialog.file());
 }
 
 void frmSearch::exportTo(const std::filesystem::path& file) {

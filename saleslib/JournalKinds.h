@@ -43,7 +43,7 @@ enum class EntryKind {
   kStockCounted,
   kRestored,
   kClockSetBack,
-  kApproved,
+  kApprovalGiven,
   kApprovalRefused,
 };
 

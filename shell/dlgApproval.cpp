@@ -115,6 +115,6 @@ Permit askLeave(posMod& pos, QWidget* parent, const Deed& deed) {
   });
   if (!isAsked) return permit;
   // The permit's approver is the entry's.
-  const EntryKind kind = permit ? EntryKind::kApproved : EntryKind::kApprovalRefused;
+  const EntryKind kind = permit ? EntryKind::kApprovalGiven : EntryKind::kApprovalRefused;
   return noted(pos, parent, kind, qtText(deedKey(deed))) ? permit : nullptr;
 }

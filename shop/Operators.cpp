@@ -100,6 +100,22 @@ ClsOperator existingOperator(Connection& connection, std::int16_t number) {
   return person;
 }
 
+void changeRights(Connection& connection, std::int16_t number,
+                  const std::vector<std::string>& given, const std::vector<std::string>& taken) {
+  Transaction transaction(connection);
+  ClsOperator person = existingOperator(connection, number);
+  std::vector<std::string> named = shownRights(person.Rights());
+  named.insert(named.end(), given.begin(), given.end());
+  std::set<Right> lost;
+  for (const std::string& text : rightsMeant(taken)) lost.insert(parseRight(text)->right);
+  std::set<std::string> held;
+  for (const std::string& text : rightsMeant(named))
+    if (!lost.contains(parseRight(text)->right)) held.insert(text);
+  person.setRights(ClsRights(held));
+  person.Save();
+  transaction.commit();
+}
+
 void removeOperator(Connection& connection, std::int16_t number) {
   Transaction transaction(connection);
   if (connection.query("select id from sell where operator_id = ? and state = 0", number).next()) {

@@ -90,6 +90,7 @@ void JournalState::takeBill(const JournalEntry& entry, const Json& body) {
   if (isKind(entry, EntryKind::kBillCancelled)) open.erase(std::stoll(entry.touches));
   if (!body.contains("bill")) return;
   const std::int64_t bill = numberOf(body.at("bill"), "id");
+  if (isKind(entry, EntryKind::kBillRedated) && open.contains(bill)) return;
   if (body.contains("before") && !bills.contains(bill)) before.emplace(bill, body.at("before"));
   bills[bill] = entry.seq;
   open.erase(bill);

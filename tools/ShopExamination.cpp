@@ -151,6 +151,20 @@ void examineGaps(const Examination& books, const std::string& table, const char*
               " 条，是在本程序以外删掉的");
 }
 
+// What counts comes in by itself; what does not has written nothing.
+void examineGoodsImport(const Examination& books) {
+  Rows sheet =
+      books.connection.query("select whole, staged, staged - written as waiting from goods_in");
+  if (!sheet.next()) return;
+  if (sheet.whole("whole").value_or(0) != 0) {
+    books.remark("有一次商品导入还没有写完，等着写入 " + sheet.text("waiting") +
+                 " 行：收银程序下次打开时，或者下次导入商品时，会接着写完");
+  } else {
+    books.remark("有一次商品导入没有读完就结束了，或者正在读，读了 " + sheet.text("staged") +
+                 " 行，什么也没有写入：再导入一次这张商品表就行");
+  }
+}
+
 }  // namespace
 
 void examineGoods(const Examination& books) {
@@ -158,6 +172,7 @@ void examineGoods(const Examination& books) {
   nameGoods(books, kMaster, "商品");
   examineOwners(books);
   examineStock(books);
+  examineGoodsImport(books);
 }
 
 void examineShop(const Examination& books) {

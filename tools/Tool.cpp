@@ -49,7 +49,8 @@ std::vector<std::string> wordsOf(int count, const char* const* arguments) {
 
 }  // namespace
 
-int runTool(int count, const char* const* arguments, Console& console) {
+int runTool(int count, const char* const* arguments, Console& console,
+            const TillSetupOf& tillSetup) {
   CLI::App app(
       "店主的工具：建立数据文件，管理操作员和店铺参数，导入导出商品，检查账目，做经营报表。",
       "tilladmin");
@@ -57,7 +58,7 @@ int runTool(int count, const char* const* arguments, Console& console) {
   app.set_version_flag("--version", std::string(tillVersion()), "显示版本");
   app.require_subcommand(1);
   int exitCode = kDone;
-  addSetupCommand(app, console);
+  addSetupCommand(app, console, tillSetup);
   addCreateCommand(app, console);
   addOperatorCommand(app, console);
   addParamCommand(app, console);

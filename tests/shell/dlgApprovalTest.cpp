@@ -30,6 +30,7 @@ class dlgApprovalTest : public LoginFixture {
 };
 
 TEST_F(dlgApprovalTest, OnlyWhoHasTheRightApprovesAndForOneTime) {
+  setParameter("Journal", "1");
   see("张三没有这个权限。请有权限的人授权，Esc 放弃。||@txtNumber");
   type("1\n111\n");
   see("张三也不能授权：设置和导入商品。|1|@txtNumber");
@@ -51,7 +52,7 @@ TEST_F(dlgApprovalTest, OnlyWhoHasTheRightApprovesAndForOneTime) {
   EXPECT_EQ(pos.gOperator->Id(), 1) << "it goes on in the cashier's name";
   EXPECT_EQ(stored("group_concat(kind || coalesce(approver, '-')) as v from fact where touches ="
                    " 'settings'"),
-            "approved2,approved2,approval_refused-,approval_refused-");
+            "approval_given2,approval_given2,approval_refused-,approval_refused-");
   setParameter("Approval", "0");
   openSettings();
   EXPECT_EQ(opened, 3);
