@@ -126,7 +126,7 @@ void addRights(CLI::App& command, const char* name, std::vector<std::string>& ri
       ->allow_extra_args(false);
 }
 
-CLI::App* addAction(CLI::App& parent, Console& console, const char* name, const char* help,
+CLI::App* addAction(CLI::App& parent, Console& console, const char* name, const std::string& help,
                     const Shared& options, void (*action)(const Options&, Console&)) {
   CLI::App* command = parent.add_subcommand(name, help);
   options->file.addTo(*command);
