@@ -1711,7 +1711,7 @@ Last goods: %3</translation>
     </message>
     <message>
         <source> 储值卡消费成功！余额：%1 </source>
-        <translation> Paid with the stored-value card. Balance: %1 </translation>
+        <translation>Paid with the stored-value card. Balance: %1</translation>
     </message>
     <message>
         <source>储值卡没有扣款：%1</source>
