@@ -1,6 +1,7 @@
 # The libraries the till stands on, all of them Debian packages (see scripts/setup).
 find_package(PkgConfig REQUIRED)
-find_package(Qt6 6.4 REQUIRED COMPONENTS Core Gui Widgets PrintSupport SerialPort Network Test)
+find_package(Qt6 6.4 REQUIRED COMPONENTS Core Gui Widgets PrintSupport SerialPort Network Test
+             LinguistTools)
 find_package(CLI11 REQUIRED)
 find_package(nlohmann_json REQUIRED)
 if(TILL_TESTS)

@@ -1,5 +1,6 @@
 #include "saleslib/Identification.h"
 
+#include "base/Words.h"
 #include "saleslib/ClsLogin.h"
 #include "saleslib/ClsOperator.h"
 #include "saleslib/ClsSysParam.h"

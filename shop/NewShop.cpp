@@ -73,7 +73,7 @@ void restore(const NewShop& shop, const DataSource& target,
              const std::function<void()>& storeSettings) {
   std::error_code unreadable;
   if (fs::exists(target.path, unreadable))
-    throw StoreError("已经有这个文件，不会覆盖：" + target.path.string());
+    throw StoreError(Words::tr("已经有这个文件，不会覆盖：%1", target.path.string()));
   requireSoundDataFile({shop.backup, target.password}, Soundness::kEveryPage);
   storeSettings();
   static_cast<void>(restoreDataFile(shop.backup, target, "old"));

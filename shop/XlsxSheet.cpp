@@ -11,6 +11,7 @@
 
 #include "base/DateTime.h"
 #include "base/NumberText.h"
+#include "base/Words.h"
 #include "shop/Refusal.h"
 #include "shop/SheetReader.h"
 #include "shop/XlsxFormats.h"

@@ -1,6 +1,7 @@
 #include "tools/GoodsImportCommand.h"
 
 #include "base/Text.h"
+#include "base/Words.h"
 #include "shop/GoodsImport.h"
 #include "shop/Refusal.h"
 #include "tools/GoodsSheetTexts.h"
@@ -17,23 +18,24 @@ GoodsMapping mappingOf(Connection& connection, const GoodsImportOptions& options
 }
 
 bool saysYes(Console& console) {
-  console.err << "要写入吗？（是/否）" << std::flush;
+  console.err << Words::tr("要写入吗？（是/否）") << std::flush;
   std::string answer;
   std::getline(console.in, answer);
   answer = asciiLower(trimmed(answer));
+  // untranslated: what may be typed in either language
   return answer == "是" || answer == "y" || answer == "yes";
 }
 
 /// Whether the sheet is to be written; says why when it is not.
 bool isWanted(const GoodsPreview& preview, Console& console) {
   if (!preview.mayBeWritten()) {
-    console.err << "什么也没有写入：请先改正不能导入的行。\n";
+    console.err << Words::tr("什么也没有写入：请先改正不能导入的行。") << '\n';
   } else if (!console.isTerminal) {
-    console.err << "什么也没有写入：看过以后要写入，加上 --yes。\n";
+    console.err << Words::tr("什么也没有写入：看过以后要写入，加上 --yes。") << '\n';
   } else if (saysYes(console)) {
     return true;
   } else {
-    console.err << "什么也没有写入。\n";
+    console.err << Words::tr("什么也没有写入。") << '\n';
   }
   return false;
 }
@@ -59,10 +61,11 @@ int importGoodsSheet(Connection& connection, const GoodsImportOptions& options, 
           .value();
   if (options.isConfirmed || !written.mayBeWritten()) print(written, console.out);
   if (!written.mayBeWritten()) {
-    console.err << "什么也没有写入：请先改正不能导入的行。\n";
+    console.err << Words::tr("什么也没有写入：请先改正不能导入的行。") << '\n';
     return kNothingWritten;
   }
-  console.out << "已导入商品：新增 " << written.addedCount << " 行，改动 " << written.changedCount
-              << " 行，不变 " << written.unchangedCount << " 行\n";
+  console.out << Words::tr("已导入商品：新增 %1 行，改动 %2 行，不变 %3 行", written.addedCount,
+                           written.changedCount, written.unchangedCount)
+              << '\n';
   return 0;
 }

@@ -58,7 +58,7 @@ void askForOperator(Questions& questions, NewShop& shop, const std::string& who,
   NewOperator person;
   person.number = static_cast<std::int16_t>(shop.operators.size() + 1);
   person.name = questions.ask(
-      who + "的姓名，用户编号（登录时输入）是 " + std::to_string(person.number), "", name);
+      Words::tr("%1的姓名，用户编号（登录时输入）是 %2", who, person.number), "", name);
   if (person.name.empty()) return;
   person.password = askNewPassword(questions.console());
   person.rights = std::move(rights);
