@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <sstream>
 
+#include "base/Words.h"
 #include "saleslib/ClsSysParam.h"
 #include "saleslib/Journal.h"
 #include "shop/DemoShop.h"
