@@ -5,6 +5,7 @@
 
 #include "base/Failure.h"
 #include "base/NumberText.h"
+#include "base/Words.h"
 #include "saleslib/Fields.h"
 #include "store/Connection.h"
 #include "store/StoreError.h"
@@ -164,7 +165,7 @@ void ClsSell::store() {
   for (const Currency figure : tendered_) values.push_back(toValue(figure));
   values.push_back(toValue(billNo_));
   if (connection_->runBound(statement.c_str(), std::move(values)) == 0) {
-    throw StoreError("单据 " + std::to_string(billNo_) + " 已不在数据文件中！");
+    throw StoreError(Words::tr("单据 %1 已不在数据文件中！", billNo_));
   }
 }
 
@@ -187,8 +188,8 @@ void ClsSell::LoadLines() {
   if (state_ == kOpen && !Paid()) {
     Recalculate();
   } else if (!AddsUp()) {
-    throw StoreError("单据 " + std::to_string(billNo_) +
-                     " 的商品明细与合计不符，数据文件可能已损坏，请与管理员联系！");
+    throw StoreError(
+        Words::tr("单据 %1 的商品明细与合计不符，数据文件可能已损坏，请与管理员联系！", billNo_));
   }
 }
 

@@ -1,5 +1,6 @@
 #include "saleslib/Identification.h"
 
+#include "base/Words.h"
 #include "saleslib/ClsLogin.h"
 #include "saleslib/ClsOperator.h"
 #include "saleslib/ClsSysParam.h"
@@ -30,10 +31,9 @@ Identification::Answer Identification::byPassword(std::string_view number,
 Identification::Answer Identification::bySwipe(std::string_view typed) {
   return answer([&] {
     Answer found{staffCardHolder(connection_, typed)};
-    if (!found.person) {
-      found.refusal = "没有这张员工卡！";
-      Journal(connection_).note(EntryKind::kLoginRefused);
-    }
+    if (found.person) return found;
+    found.refusal = "没有这张员工卡！";
+    Journal(connection_).note(EntryKind::kLoginRefused);
     return found;
   });
 }

@@ -4,6 +4,7 @@
 #include <cstddef>
 
 #include "base/Failure.h"
+#include "base/Words.h"
 
 const std::vector<EntryKindName>& entryKinds() {
   using enum EntryKind;

@@ -10,16 +10,24 @@
 #include "app/RightTexts.h"
 #include "app/posMod.h"
 #include "base/Failure.h"
-#include "base/NumberText.h"
 #include "platform/KeyName.h"
 #include "platform/QtText.h"
 #include "saleslib/Identification.h"
-#include "saleslib/Journal.h"
 #include "saleslib/StaffCard.h"
 #include "shell/FramedFields.h"
 #include "shell/IdentityTexts.h"
-#include "shell/Modal.h"
+#include "shell/Noted.h"
 #include "shell/ShownText.h"
+
+namespace {
+
+/// What an approval touches, as rights are written: "drawer", "discount:15".
+std::string deedKey(const Deed& deed) {
+  const bool isMeasured = rightKind(deed.right).limit != RightKind::Limit::kNone;
+  return rightText({deed.right, isMeasured ? std::optional(deed.size) : std::nullopt});
+}
+
+}  // namespace
 
 dlgApproval::dlgApproval(posMod& pos, const Deed& deed, QWidget* parent)
     : KeyDrivenDialog(pos.gKeyBoard, EnterKey::kMapped, parent),
@@ -98,31 +106,15 @@ void dlgApproval::say(const QString& text) {
   style()->polish(lblSaid_);
 }
 
-namespace {
-
-/// Notes what came of a question in the journal. False, and a message said why, when that failed.
-bool noteAnswer(const posMod& pos, QWidget* parent, const Deed& deed, const ClsOperator* approver) {
-  const RightKind& right = rightKind(deed.right);
-  try {
-    pos.journal().note(approver ? EntryKind::kApprovalGiven : EntryKind::kApprovalRefused,
-                       right.key,
-                       {{"right", right.word},
-                        {"size", deed.size.isZero() ? "" : generalNumber(deed.size)},
-                        {"approver", approver ? std::to_string(approver->Id()) : ""}});
-    return true;
-  } catch (const Failure& failure) {
-    messageBox(parent, qtText(failure.what()));
-    return false;
-  }
-}
-
-}  // namespace
-
 Permit askLeave(posMod& pos, QWidget* parent, const Deed& deed) {
   ensure(pos.gOperator != nullptr, "who asks for leave is logged in");
-  return pos.permission.may(*pos.gOperator, deed, [&](const Deed& wanted) {
-    std::shared_ptr<const ClsOperator> approver = dlgApproval(pos, wanted, parent).ask();
-    if (!noteAnswer(pos, parent, wanted, approver.get())) approver.reset();
-    return approver;
+  bool isAsked = false;
+  const Permit permit = pos.permission.may(*pos.gOperator, deed, [&](const Deed& wanted) {
+    isAsked = true;
+    return dlgApproval(pos, wanted, parent).ask();
   });
+  if (!isAsked) return permit;
+  // The permit's approver is the entry's.
+  const EntryKind kind = permit ? EntryKind::kApprovalGiven : EntryKind::kApprovalRefused;
+  return noted(pos, parent, kind, qtText(deedKey(deed))) ? permit : nullptr;
 }

@@ -5,6 +5,7 @@
 #include "base/Failure.h"
 #include "base/NumberText.h"
 #include "base/Text.h"
+#include "base/Words.h"
 #include "saleslib/JournalEntry.h"
 #include "saleslib/JournalKinds.h"
 #include "shop/Refusal.h"
@@ -21,7 +22,7 @@ std::string textOf(const nlohmann::json& record, const char* name) {
 
 template <class Value>
 Value required(const std::optional<Value>& value, const std::string& text) {
-  if (!value) throw Refusal("不是数字：" + text);
+  if (!value) throw Refusal(Words::tr("不是数字：%1", text));
   return *value;
 }
 
