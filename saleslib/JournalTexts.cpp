@@ -93,9 +93,12 @@ void addCounts(Listed& list, const Json& body) {
 
 void addTexts(Listed& list, const Json& body) {
   constexpr std::pair<const char*, const char*> kTexts[] = {
-      {"from", "从"},         {"to", "到"},     {"sum", "合计"},    {"added", "新增"},
-      {"updated", "更新"},    {"rows", "行数"}, {"right", "权限"},  {"size", "多少"},
-      {"approver", "批准人"}, {"file", "文件"}, {"backup", "备份"}, {"old", "原文件"}};
+      {"from", Words::mark("从")},         {"to", Words::mark("到")},
+      {"sum", Words::mark("合计")},        {"added", Words::mark("新增")},
+      {"updated", Words::mark("更新")},    {"rows", Words::mark("行数")},
+      {"right", Words::mark("权限")},      {"size", Words::mark("多少")},
+      {"approver", Words::mark("批准人")}, {"file", Words::mark("文件")},
+      {"backup", Words::mark("备份")},     {"old", Words::mark("原文件")}};
   if (body.contains("line")) list.add(shownLine(body.at("line")));
   if (body.contains("parameters") && body.contains("before")) {
     for (const auto& [name, value] : body.at("parameters").items())
