@@ -63,7 +63,7 @@ void askForOperator(Questions& questions, NewShop& shop, const std::string& who,
   person.name = questions.ask(
       Words::tr("%1的姓名，用户编号（登录时输入）是 %2", who, person.number), "", name);
   if (person.name.empty()) return;
-  person.password = askNewPassword(questions.console());
+  person.password = askNewPassword(questions.console(), Words::tr("密码："));
   person.rights = std::move(rights);
   shop.operators.push_back(person);
 }
