@@ -5707,7 +5707,7 @@ Member since: %3</translation>
     </message>
     <message>
         <source>共 %L1 条</source>
-        <translation>%L1 entries</translation>
+        <translation>%L1 entries in all</translation>
     </message>
     <message>
         <source>只列出前 %L1 条，后面的没有再看</source>
