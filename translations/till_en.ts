@@ -528,7 +528,7 @@ Take the payment like this?</translation>
     </message>
     <message>
         <source># 收银员按键卡 {.card}</source>
-        <translation># The cashier&apos;s keys {.card}</translation>
+        <translation># Keys for the cashier {.card}</translation>
     </message>
     <message>
         <source>一笔销售：扫描商品；都扫完了，在空行按 `%1`；输入收到的现金，再按 `%1`。</source>
@@ -540,7 +540,7 @@ Take the payment like this?</translation>
     </message>
     <message>
         <source>店里改过按键的，以程序里的“帮助”为准：它在主菜单的更多功能和销售界面的功能菜单里，总是最后一项。</source>
-        <translation>Where the shop has changed its keys, &quot;Help&quot; in the program is right: the last entry of the main menu&apos;s further functions and of the sale screen&apos;s function menu.</translation>
+        <translation>Where the shop has changed its keys, the program itself knows best: Help is the last entry of the further functions on the main menu and of the function menu on the sale screen.</translation>
     </message>
 </context>
 <context>
@@ -747,7 +747,7 @@ Take the payment like this?</translation>
     </message>
     <message>
         <source>菜单键</source>
-        <translation>Menu key</translation>
+        <translation>Menu</translation>
     </message>
     <message>
         <source>小键盘 %1</source>
