@@ -556,7 +556,7 @@ Take the payment like this?</translation>
     </message>
     <message>
         <source>录入、空行结账</source>
-        <translation>Ring up; settle on an empty line</translation>
+        <translation>Ring up, settle</translation>
     </message>
     <message>
         <source>取消</source>
@@ -775,11 +775,11 @@ Take the payment like this?</translation>
     </message>
     <message>
         <source>在现金栏：收款，打小票</source>
-        <translation>In the cash field: take the payment, print the receipt</translation>
+        <translation>Cash field: take payment, print</translation>
     </message>
     <message>
         <source>在现金栏：不收款，返回单据</source>
-        <translation>In the cash field: no payment, back to the bill</translation>
+        <translation>Cash field: back to the bill</translation>
     </message>
     <message>
         <source>转到下一栏</source>
@@ -807,11 +807,11 @@ Take the payment like this?</translation>
     </message>
     <message>
         <source>更多功能、功能菜单</source>
-        <translation>Further functions, function menu</translation>
+        <translation>Further functions</translation>
     </message>
     <message>
         <source>主菜单的更多功能</source>
-        <translation>Further functions of the main menu</translation>
+        <translation>The same on the main menu</translation>
     </message>
     <message>
         <source>商品快捷键</source>
@@ -1778,33 +1778,6 @@ Last goods: %3</translation>
     <message>
         <source>怎样开店</source>
         <translation>How to begin</translation>
-    </message>
-</context>
-<context>
-    <name>Tender</name>
-    <message>
-        <source>现金</source>
-        <translation>Cash</translation>
-    </message>
-    <message>
-        <source>银行卡</source>
-        <translation>Bank card</translation>
-    </message>
-    <message>
-        <source>扫码</source>
-        <translation>Phone</translation>
-    </message>
-    <message>
-        <source>付款码</source>
-        <translation>Pay code</translation>
-    </message>
-    <message>
-        <source>储值卡</source>
-        <translation>Stored value</translation>
-    </message>
-    <message>
-        <source>优惠</source>
-        <translation>Discount</translation>
     </message>
 </context>
 <context>
@@ -5114,6 +5087,30 @@ The questions were not all answered. Nothing was made.</translation>
     <message>
         <source>有一次商品导入没有读完就结束了，或者正在读，读了 %1 行，什么也没有写入：再导入一次这张商品表就行</source>
         <translation>an import of goods ended while the sheet was read, or is being read, after %1 lines; nothing was written: just import the sheet again</translation>
+    </message>
+    <message>
+        <source>现金</source>
+        <translation>Cash</translation>
+    </message>
+    <message>
+        <source>银行卡</source>
+        <translation>Bank card</translation>
+    </message>
+    <message>
+        <source>扫码</source>
+        <translation>Phone</translation>
+    </message>
+    <message>
+        <source>付款码</source>
+        <translation>Pay code</translation>
+    </message>
+    <message>
+        <source>储值卡</source>
+        <translation>Stored value</translation>
+    </message>
+    <message>
+        <source>优惠</source>
+        <translation>Discount</translation>
     </message>
 </context>
 <context>
