@@ -4338,7 +4338,7 @@ The questions were not all answered. Nothing was made.</translation>
     </message>
     <message>
         <source>起点账面</source>
-        <translation>Books at the beginning</translation>
+        <translation>First books</translation>
     </message>
     <message>
         <source>日志停用</source>
@@ -4366,11 +4366,11 @@ The questions were not all answered. Nothing was made.</translation>
     </message>
     <message>
         <source>减少数量</source>
-        <translation>Quantity lowered</translation>
+        <translation>Less quantity</translation>
     </message>
     <message>
         <source>改折扣</source>
-        <translation>Discount changed</translation>
+        <translation>New discount</translation>
     </message>
     <message>
         <source>删除商品行</source>
@@ -4398,7 +4398,7 @@ The questions were not all answered. Nothing was made.</translation>
     </message>
     <message>
         <source>补存结账</source>
-        <translation>Paid bill completed</translation>
+        <translation>Completed</translation>
     </message>
     <message>
         <source>改单据时间</source>
@@ -4406,7 +4406,7 @@ The questions were not all answered. Nothing was made.</translation>
     </message>
     <message>
         <source>退货</source>
-        <translation>Goods returned</translation>
+        <translation>Return</translation>
     </message>
     <message>
         <source>充值收款</source>
@@ -4414,7 +4414,7 @@ The questions were not all answered. Nothing was made.</translation>
     </message>
     <message>
         <source>充值到账</source>
-        <translation>Top-up credited</translation>
+        <translation>Credited</translation>
     </message>
     <message>
         <source>增加会员</source>
@@ -4422,7 +4422,7 @@ The questions were not all answered. Nothing was made.</translation>
     </message>
     <message>
         <source>修改会员</source>
-        <translation>Member changed</translation>
+        <translation>Member edited</translation>
     </message>
     <message>
         <source>开钱箱</source>
@@ -4430,7 +4430,7 @@ The questions were not all answered. Nothing was made.</translation>
     </message>
     <message>
         <source>补打小票</source>
-        <translation>Receipt reprinted</translation>
+        <translation>Reprint</translation>
     </message>
     <message>
         <source>导出</source>
@@ -4438,15 +4438,15 @@ The questions were not all answered. Nothing was made.</translation>
     </message>
     <message>
         <source>经营报表</source>
-        <translation>Owner&apos;s report</translation>
+        <translation>Report</translation>
     </message>
     <message>
         <source>改本机设置</source>
-        <translation>Settings changed</translation>
+        <translation>Settings</translation>
     </message>
     <message>
         <source>设店铺参数</source>
-        <translation>Shop parameter set</translation>
+        <translation>Parameter</translation>
     </message>
     <message>
         <source>修改操作员</source>
@@ -4462,7 +4462,7 @@ The questions were not all answered. Nothing was made.</translation>
     </message>
     <message>
         <source>恢复备份</source>
-        <translation>Backup restored</translation>
+        <translation>Restored</translation>
     </message>
     <message>
         <source>时钟倒退</source>
@@ -4854,11 +4854,11 @@ The questions were not all answered. Nothing was made.</translation>
     </message>
     <message>
         <source>授权</source>
-        <translation>Approval given</translation>
+        <translation>Approved</translation>
     </message>
     <message>
         <source>没有授权</source>
-        <translation>Approval refused</translation>
+        <translation>Not approved</translation>
     </message>
     <message>
         <source>多少</source>
