@@ -71,7 +71,7 @@
     </message>
     <message>
         <source>折扣</source>
-        <translation>Discount</translation>
+        <translation>Disc.</translation>
     </message>
     <message>
         <source>金额</source>
@@ -1160,7 +1160,7 @@ Take the payment like this?</translation>
     <name>QuickKeyModel</name>
     <message>
         <source>键值</source>
-        <translation>Key code</translation>
+        <translation>Code</translation>
     </message>
     <message>
         <source>商品编码</source>
@@ -1369,63 +1369,63 @@ Take the payment like this?</translation>
     <name>Right</name>
     <message>
         <source>收银</source>
-        <translation>sell</translation>
+        <translation>Sell</translation>
     </message>
     <message>
         <source>打折和优惠</source>
-        <translation>give discounts</translation>
+        <translation>Discount</translation>
     </message>
     <message>
         <source>手工定价</source>
-        <translation>type prices</translation>
+        <translation>Typed price</translation>
     </message>
     <message>
         <source>负数量</source>
-        <translation>negative quantities</translation>
+        <translation>Negative quantity</translation>
     </message>
     <message>
         <source>删行和撤单</source>
-        <translation>delete lines and void bills</translation>
+        <translation>Delete or void</translation>
     </message>
     <message>
         <source>退货</source>
-        <translation>return goods</translation>
+        <translation>Return</translation>
     </message>
     <message>
         <source>会员充值</source>
-        <translation>top up cards</translation>
+        <translation>Top up</translation>
     </message>
     <message>
         <source>开钱箱</source>
-        <translation>open the drawer</translation>
+        <translation>Open the drawer</translation>
     </message>
     <message>
         <source>补打小票</source>
-        <translation>reprint receipts</translation>
+        <translation>Reprint</translation>
     </message>
     <message>
         <source>销售查询和导出</source>
-        <translation>query and export sales</translation>
+        <translation>Query and export</translation>
     </message>
     <message>
         <source>会员资料</source>
-        <translation>members</translation>
+        <translation>Members</translation>
     </message>
     <message>
         <source>设置和导入商品</source>
-        <translation>settings and goods import</translation>
+        <translation>Settings, goods import</translation>
     </message>
     <message>
         <source>交班</source>
-        <translation>hand-over</translation>
+        <translation>Hand-over</translation>
     </message>
     <message>
         <source>经营报表</source>
-        <translation>the owner&apos;s report</translation>
+        <translation>Owner&apos;s report</translation>
     </message>
     <message>
         <source>操作日志</source>
-        <translation>the journal</translation>
+        <translation>Journal</translation>
     </message>
     <message>
         <source>%1 %2</source>
@@ -1691,7 +1691,7 @@ Last goods: %3</translation>
     </message>
     <message>
         <source>上一单：金额 %1实收%2找零%3  优惠%4</source>
-        <translation>Last bill: amount %1 received %2 change %3  discount %4</translation>
+        <translation>Last: %1 received %2change %3  disc. %4</translation>
     </message>
     <message>
         <source>储值卡号错误,请重输</source>
@@ -1800,7 +1800,7 @@ Last goods: %3</translation>
     </message>
     <message>
         <source>储值卡</source>
-        <translation>Stored-value card</translation>
+        <translation>Stored value</translation>
     </message>
     <message>
         <source>优惠</source>
@@ -5193,7 +5193,7 @@ The questions were not all answered. Nothing was made.</translation>
     <name>dlgApproval</name>
     <message>
         <source>授权</source>
-        <translation>Approval</translation>
+        <translation>Approve</translation>
     </message>
     <message>
         <source>放弃</source>
@@ -5361,7 +5361,7 @@ The questions were not all answered. Nothing was made.</translation>
     </message>
     <message>
         <source>%1今日销售统计表</source>
-        <translation>%1Sales of today</translation>
+        <translation>%1, sales of today</translation>
     </message>
     <message>
         <source>，其中%1 [%2] 元</source>
@@ -5993,7 +5993,7 @@ Member since: %3</translation>
     </message>
     <message>
         <source>折扣</source>
-        <translation>Discount</translation>
+        <translation>Disc.</translation>
     </message>
     <message>
         <source>调入挂单</source>
