@@ -36,7 +36,9 @@ void ClsLogin::Conn(Connection& connection) {
 // A refusal stays one when it cannot be noted; then it says why not.
 void ClsLogin::note(const std::string& number) {
   try {
-    Journal(*connection_).note(EntryKind::kLoginRefused, number);
+    const Journal journal(*connection_);
+    if (!approving_) return journal.note(EntryKind::kLoginRefused, number);
+    journal.note(EntryKind::kApprovalRefused, rightKind(*approving_).key, {{"number", number}});
   } catch (const StoreError& error) {
     errText_ = error.what();
   }

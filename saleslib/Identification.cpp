@@ -17,10 +17,12 @@ Identification::Answer Identification::answer(const Find& find) {
 }
 
 Identification::Answer Identification::byPassword(std::string_view number,
-                                                  std::string_view password) {
+                                                  std::string_view password,
+                                                  std::optional<Right> approving) {
   return answer([&] {
     ClsLogin login;
     login.Conn(connection_);
+    if (approving) login.Approving(*approving);
     const bool matches = login.Check(number, password);
     return Answer{matches ? login.Operator() : nullptr, login.ErrText()};
   });

@@ -44,6 +44,8 @@ const std::vector<EntryKindName>& entryKinds() {
       {kStockCounted, "stock_counted", "设库存"},
       {kRestored, "restored", "恢复备份"},
       {kClockSetBack, "clock_set_back", "时钟倒退"},
+      {kApprovalGiven, "approval_given", "授权"},
+      {kApprovalRefused, "approval_refused", "授权被拒"},
   };
   return kinds;
 }

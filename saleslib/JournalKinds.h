@@ -43,6 +43,8 @@ enum class EntryKind {
   kStockCounted,
   kRestored,
   kClockSetBack,
+  kApprovalGiven,
+  kApprovalRefused,
 };
 
 /// A kind as entries have it, and as people call it.

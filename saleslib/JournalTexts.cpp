@@ -78,9 +78,9 @@ void addCounts(Listed& list, const Json& body) {
 
 void addTexts(Listed& list, const Json& body) {
   constexpr std::pair<const char*, const char*> kTexts[] = {
-      {"from", "从"},    {"to", "到"},        {"sum", "合计"},
-      {"added", "新增"}, {"updated", "更新"}, {"rows", "行数"},
-      {"file", "文件"},  {"backup", "备份"},  {"old", "原文件"}};
+      {"from", "从"},      {"to", "到"},       {"sum", "合计"},  {"added", "新增"},
+      {"updated", "更新"}, {"rows", "行数"},   {"file", "文件"}, {"backup", "备份"},
+      {"old", "原文件"},   {"number", "编号"}, {"name", "姓名"}};
   if (body.contains("line")) list.add(shownLine(body.at("line")));
   if (body.contains("parameters") && body.contains("before")) {
     for (const auto& [name, value] : body.at("parameters").items())

@@ -4,12 +4,15 @@
 
 #include <array>
 #include <cstdint>
+#include <nlohmann/json.hpp>
 #include <optional>
 #include <string>
 
 #include "base/Failure.h"
 #include "base/Text.h"
 #include "saleslib/ClsOperator.h"
+#include "saleslib/Journal.h"
+#include "saleslib/JournalRecords.h"
 #include "saleslib/Sodium.h"
 #include "store/Connection.h"
 #include "store/Transaction.h"
@@ -41,6 +44,14 @@ std::optional<std::int16_t> holder(Connection& connection, std::string_view type
   return static_cast<std::int16_t>(rows.whole("operator_id").value());
 }
 
+void noteChange(Connection& connection, std::int16_t operatorId) {
+  const nlohmann::json record = operatorRecord(connection, operatorId);
+  if (record.is_null()) return;
+  Journal(connection).note(EntryKind::kOperatorChanged, operatorId, [&record] {
+    return nlohmann::json{{"operator", record}};
+  });
+}
+
 }  // namespace
 
 bool isSwipe(std::string_view typed) {
@@ -59,13 +70,17 @@ std::shared_ptr<ClsOperator> staffCardHolder(Connection& connection, std::string
 bool giveStaffCard(Connection& connection, std::int16_t operatorId, std::string_view typed) {
   Transaction transaction(connection);
   if (const auto other = holder(connection, typed)) return *other == operatorId;
-  takeStaffCard(connection, operatorId);
+  connection.run("delete from operator_cards where operator_id = ?", operatorId);
   connection.run("insert into operator_cards (operator_id, track) values (?, ?)", operatorId,
                  hashOf(typed));
+  noteChange(connection, operatorId);
   transaction.commit();
   return true;
 }
 
 void takeStaffCard(Connection& connection, std::int16_t operatorId) {
-  connection.run("delete from operator_cards where operator_id = ?", operatorId);
+  Transaction transaction(connection);
+  if (connection.run("delete from operator_cards where operator_id = ?", operatorId) > 0)
+    noteChange(connection, operatorId);
+  transaction.commit();
 }

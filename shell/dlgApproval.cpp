@@ -12,7 +12,7 @@
 #include "base/Failure.h"
 #include "platform/KeyName.h"
 #include "platform/QtText.h"
-#include "saleslib/Identification.h"
+#include "saleslib/Journal.h"
 #include "saleslib/StaffCard.h"
 #include "shell/FramedFields.h"
 #include "shell/IdentityTexts.h"
@@ -67,9 +67,10 @@ void dlgApproval::check() {
   const std::string number = txtNumber_->text().toStdString();
   Identification::Answer answer;
   try {
-    answer = isSwipe(number)
-                 ? pos_.identification().bySwipe(number)
-                 : pos_.identification().byPassword(number, txtPassword_->text().toStdString());
+    answer = isSwipe(number) ? pos_.identification().bySwipe(number)
+                             : pos_.identification().byPassword(
+                                   number, txtPassword_->text().toStdString(), deed_.right);
+    noteRefusal(answer);
   } catch (const Failure& failure) {
     return say(qtText(failure.what()));
   }
@@ -88,6 +89,15 @@ void dlgApproval::check() {
   accept();
 }
 
+// A wrong password was noted by who looked at it.
+void dlgApproval::noteRefusal(const Identification::Answer& answer) const {
+  const bool isSwiped = isSwipe(txtNumber_->text().toStdString());
+  if (answer.person ? answer.person->Rights().Allow(deed_) : !isSwiped || answer.wait.count() > 0)
+    return;
+  pos_.journal().note(EntryKind::kApprovalRefused, rightKind(deed_.right).key,
+                      {{"number", answer.person ? std::to_string(answer.person->Id()) : ""}});
+}
+
 void dlgApproval::say(const QString& text) {
   lblSaid_->setText(shownText(text));
   lblSaid_->setProperty("refusal", true);
@@ -97,7 +107,15 @@ void dlgApproval::say(const QString& text) {
 
 Permit askLeave(posMod& pos, QWidget* parent, const Deed& deed) {
   ensure(pos.gOperator != nullptr, "who asks for leave is logged in");
-  return pos.permission.may(*pos.gOperator, deed, [&](const Deed& wanted) {
+  bool wasAsked = false;
+  Permit leave = pos.permission.may(*pos.gOperator, deed, [&](const Deed& wanted) {
+    wasAsked = true;
     return dlgApproval(pos, wanted, parent).ask();
   });
+  if (wasAsked && leave) {
+    pos.journal().note(
+        EntryKind::kApprovalGiven, rightKind(deed.right).key,
+        {{"number", std::to_string(leave->approver->Id())}, {"name", leave->approver->Name()}});
+  }
+  return leave;
 }

@@ -50,6 +50,23 @@ TEST_F(dlgApprovalTest, OnlyWhoHasTheRightApprovesAndForOneTime) {
   EXPECT_EQ(opened, 3);
 }
 
+TEST_F(dlgApprovalTest, WhoWasAskedAndWhatWasAnsweredIsNoted) {
+  setParameter("Journal", "1");
+  type("1\n111\n").see("张三也不能授权：设置和导入商品。|1|@txtNumber");
+  type("2\nx\n").see("用户编号或密码不正确！|2|@txtPassword");
+  type("⎋");
+  openSettings();
+  type(";9003?\n").see("没有这张员工卡！||@txtNumber");
+  type(kApproves);
+  openSettings();
+  EXPECT_EQ(stored("group_concat(kind || ' ' || touches || ' ' || coalesce(approver, '-') || body,"
+                   " '|') as v from fact where kind like 'approval%'"),
+            R"(approval_refused settings -{"number":"1","v":1}|)"
+            R"(approval_refused settings -{"number":"2","v":1}|)"
+            R"(approval_refused settings -{"number":"","v":1}|)"
+            R"(approval_given settings 2{"name":"李四","number":"2","v":1})");
+}
+
 TEST_F(dlgApprovalTest, WrongPasswordsSlowApprovalAndLoginDownAlike) {
   for (int i = 0; i < 2; ++i) type("2\nx\n").see("用户编号或密码不正确！|2|@txtPassword");
   type("x\n").see("密码连续错了几次，请等 5 秒再试。|2|@txtPassword");
