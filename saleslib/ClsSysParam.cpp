@@ -90,6 +90,8 @@ constexpr std::array kDefinitions = {
                "收银程序的更多功能里有经营报表（要有 report 权限）：0 否，1 是"},
     Definition{"Practice", &kSwitch, "0", "收银程序的更多功能里有练习，练习不入账：0 否，1 是"},
     Definition{"Approval", &kSwitch, "0", "操作员没有权限的操作要有人授权：0 否，1 是"},
+    Definition{"Shifts", &kSwitch, "0",
+               "按班次收银：先开班再收款，结班时清点钱箱，出班次表：0 否，1 是"},
     Definition{
         "Journal", &kSwitch, "0",
         "记日志：每笔业务一条，只增不改，check 拿账目和它核对；打开时收银程序先退出：0 否，1 "
@@ -247,6 +249,9 @@ bool ClsSysParam::Approval() const {
 }
 bool ClsSysParam::OwnerReport() const {
   return isOn("OwnerReport");
+}
+bool ClsSysParam::Shifts() const {
+  return isOn("Shifts");
 }
 bool ClsSysParam::KeepsJournal() const {
   return isOn("Journal");

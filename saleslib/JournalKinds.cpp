@@ -46,6 +46,10 @@ const std::vector<EntryKindName>& entryKinds() {
       {kClockSetBack, "clock_set_back", "时钟倒退"},
       {kApprovalGiven, "approval_given", "授权"},
       {kApprovalRefused, "approval_refused", "授权被拒"},
+      {kShiftOpened, "shift_opened", "开班"},
+      {kCashMoved, "cash_moved", "钱箱存取"},
+      {kShiftCounted, "shift_counted", "清点钱箱"},
+      {kShiftClosed, "shift_closed", "结班"},
   };
   return kinds;
 }

@@ -54,6 +54,7 @@ void addRecords(Listed& list, const Json& body) {
       {"top_up", {{{"cardbh", "卡号"}, {"inMoney", "付款"}, {"addmoney", "充值"}}}},
       {"member", {{{"bh", "卡号"}, {"name", "姓名"}, {"phone", "电话"}}}},
       {"operator", {{{"id", "编号"}, {"name", "姓名"}, {"rights", "权限"}}}},
+      {"shift", {{{"cash_float", "备用金"}, {"opened", "开班"}, {"opened_name", "开班人"}}}},
       {"card", {{{"number", "卡号"}, {"by", "余额变动"}, {"", ""}}}},
   };
   for (const auto& [name, columns] : kRecords) {
@@ -64,9 +65,13 @@ void addRecords(Listed& list, const Json& body) {
 
 // What is many rows is counted.
 void addCounts(Listed& list, const Json& body) {
-  constexpr std::pair<const char*, const char*> kMany[] = {
-      {"stock", " 种商品的库存"}, {"members", " 位会员"}, {"operators", " 位操作员"},
-      {"returns", " 笔退货"},     {"top_ups", " 笔充值"}, {"left", " 行"}};
+  constexpr std::pair<const char*, const char*> kMany[] = {{"stock", " 种商品的库存"},
+                                                           {"members", " 位会员"},
+                                                           {"operators", " 位操作员"},
+                                                           {"returns", " 笔退货"},
+                                                           {"shifts", " 个班次"},
+                                                           {"top_ups", " 笔充值"},
+                                                           {"left", " 行"}};
   for (const auto& [name, unit] : kMany) {
     if (body.contains(name)) list.add(std::to_string(body.at(name).size()) + unit);
   }
@@ -78,9 +83,10 @@ void addCounts(Listed& list, const Json& body) {
 
 void addTexts(Listed& list, const Json& body) {
   constexpr std::pair<const char*, const char*> kTexts[] = {
-      {"from", "从"},      {"to", "到"},       {"sum", "合计"},  {"added", "新增"},
-      {"updated", "更新"}, {"rows", "行数"},   {"file", "文件"}, {"backup", "备份"},
-      {"old", "原文件"},   {"number", "编号"}, {"name", "姓名"}};
+      {"from", "从"},      {"to", "到"},       {"sum", "合计"},    {"added", "新增"},
+      {"updated", "更新"}, {"rows", "行数"},   {"file", "文件"},   {"backup", "备份"},
+      {"old", "原文件"},   {"amount", "金额"}, {"reason", "原因"}, {"expected", "应有"},
+      {"counted", "清点"}, {"over", "长短款"}, {"number", "编号"}, {"name", "姓名"}};
   if (body.contains("line")) list.add(shownLine(body.at("line")));
   if (body.contains("parameters") && body.contains("before")) {
     for (const auto& [name, value] : body.at("parameters").items())

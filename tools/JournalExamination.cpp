@@ -82,6 +82,7 @@ void JournalExamination::run() {
   examineRows(state_.operators, "select id from operators order by id", operatorRecord, "操作员");
   examineRows(state_.returns, "select id from un_sell order by id", returnRecord, "退货");
   examineRows(state_.topUps, "select id from cardStored order by id", topUpRecord, "充值");
+  examineRows(state_.shifts, "select id from shift order by id", shiftRecord, "班次");
 }
 
 void JournalExamination::take(const JournalEntry& entry) {
