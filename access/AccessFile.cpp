@@ -6,10 +6,11 @@
 #include "access/ReadingProcess.h"
 #include "access/Wire.h"
 #include "base/Failure.h"
+#include "base/Words.h"
 
 AccessFile::AccessFile(std::filesystem::path path) : path_(std::move(path)) {
   if (!std::filesystem::is_regular_file(path_)) {
-    throw Failure("没有这个文件，或者不是普通文件：" + path_.string());
+    throw Failure(Words::tr("没有这个文件，或者不是普通文件：%1", path_.string()));
   }
   readInChild(
       [this](const Outbox& outbox) {
@@ -38,7 +39,8 @@ void AccessFile::read(const AccessTable& table,
         WireReader reader(message);
         AccessRow row;
         while (!reader.atEnd()) row.push_back(reader.value());
-        if (row.size() != columns) throw Failure("Access 文件在读的时候被别的程序改了。");
+        if (row.size() != columns)
+          throw Failure(Words::tr("Access 文件在读的时候被别的程序改了。"));
         take(row);
       });
 }

@@ -10,6 +10,7 @@
 
 #include "access/JetValues.h"
 #include "base/Failure.h"
+#include "base/Words.h"
 
 namespace {
 
@@ -22,8 +23,9 @@ struct HandleCloser {
 using TablePointer = std::unique_ptr<MdbTableDef, TableCloser>;
 
 [[noreturn]] void refuse(const std::string& what) {
-  throw Failure("Access 文件" + what +
-                "，文件不完整或者已损坏。请先用 Access 打开它，压缩和修复，去掉密码后另存一份。");
+  throw Failure(Words::tr(
+      "Access 文件%1，文件不完整或者已损坏。请先用 Access 打开它，压缩和修复，去掉密码后另存一份。",
+      what));
 }
 
 struct Type {
@@ -32,25 +34,25 @@ struct Type {
   bool isReadable;
 };
 constexpr Type kTypes[] = {
-    {"是/否", MDB_BOOL, true},         {"字节", MDB_BYTE, true},
-    {"整型", MDB_INT, true},           {"长整型", MDB_LONGINT, true},
-    {"货币", MDB_MONEY, true},         {"单精度", MDB_FLOAT, true},
-    {"双精度", MDB_DOUBLE, true},      {"日期/时间", MDB_DATETIME, true},
-    {"文本", MDB_TEXT, true},          {"备注", MDB_MEMO, true},
-    {"小数", MDB_NUMERIC, true},       {"OLE 对象", MDB_OLE, false},
-    {"同步复制 ID", MDB_REPID, false}, {"二进制", MDB_BINARY, false},
+    {Words::mark("是/否"), MDB_BOOL, true},         {Words::mark("字节"), MDB_BYTE, true},
+    {Words::mark("整型"), MDB_INT, true},           {Words::mark("长整型"), MDB_LONGINT, true},
+    {Words::mark("货币"), MDB_MONEY, true},         {Words::mark("单精度"), MDB_FLOAT, true},
+    {Words::mark("双精度"), MDB_DOUBLE, true},      {Words::mark("日期/时间"), MDB_DATETIME, true},
+    {Words::mark("文本"), MDB_TEXT, true},          {Words::mark("备注"), MDB_MEMO, true},
+    {Words::mark("小数"), MDB_NUMERIC, true},       {Words::mark("OLE 对象"), MDB_OLE, false},
+    {Words::mark("同步复制 ID"), MDB_REPID, false}, {Words::mark("二进制"), MDB_BINARY, false},
 };
 
 Type typeOf(const MdbColumn& column) {
   for (const Type& type : kTypes) {
     if (type.code == column.col_type) return type;
   }
-  return {"别的类型", column.col_type, false};
+  return {Words::mark("别的类型"), column.col_type, false};
 }
 
 template <class T>
 T fixedValue(std::string_view bytes) {
-  if (bytes.size() < sizeof(T)) refuse("里有一个数字短了");
+  if (bytes.size() < sizeof(T)) refuse(Words::tr("里有一个数字短了"));
   T value;
   std::memcpy(&value, bytes.data(), sizeof value);
   return value;
@@ -76,7 +78,7 @@ class Reading {
   const MdbColumn& column(std::size_t index) const {
     return *static_cast<const MdbColumn*>(g_ptr_array_index(table_->columns, index));
   }
-  std::string name() const { return "的表 " + std::string(table_->name) + " "; }
+  std::string name() const { return Words::tr("的表 %1 ", table_->name); }
 
   MdbHandle* handle_;
   TablePointer table_;
@@ -87,7 +89,7 @@ Reading::Reading(MdbHandle* handle, MdbCatalogEntry* entry)
     : handle_(handle), table_(mdb_read_table(entry)) {
   if (!table_ || mdb_read_columns(table_.get()) == nullptr ||
       table_->columns->len < table_->num_cols) {
-    refuse("的表 " + std::string(entry->object_name) + " 读不出来");
+    refuse(Words::tr("的表 %1 读不出来", entry->object_name));
   }
   fields_.resize(table_->num_cols);
   mdb_rewind_table(table_.get());
@@ -97,7 +99,7 @@ std::vector<AccessColumn> Reading::columns() const {
   std::vector<AccessColumn> columns;
   for (std::size_t index = 0; index < table_->num_cols; ++index) {
     const Type type = typeOf(column(index));
-    columns.push_back({column(index).name, type.name, type.isReadable});
+    columns.push_back({column(index).name, Words::tr(type.name), type.isReadable});
   }
   return columns;
 }
@@ -109,7 +111,7 @@ AccessRow Reading::row() {
   constexpr int kPlaceBits = 0x1FFF;
   if (mdb_find_row(handle_, static_cast<int>(table_->cur_row) - 1, &start, &length) != 0 ||
       mdb_crack_row(table_.get(), start & kPlaceBits, length, fields_.data()) < 0) {
-    refuse(name() + "有一行读不出来");
+    refuse(Words::tr("%1有一行读不出来", name()));
   }
   AccessRow values;
   for (const MdbField& field : fields_) {
@@ -120,8 +122,7 @@ AccessRow Reading::row() {
 
 void Reading::requireAll(std::int64_t rows) const {
   if (rows >= static_cast<std::int64_t>(table_->num_rows)) return;
-  refuse(name() + "应有 " + std::to_string(table_->num_rows) + " 行，只读出 " +
-         std::to_string(rows) + " 行");
+  refuse(Words::tr("%1应有 %2 行，只读出 %3 行", name(), table_->num_rows, rows));
 }
 
 AccessValue Reading::valueOf(const MdbColumn& column, const MdbField& field) {
@@ -129,7 +130,7 @@ AccessValue Reading::valueOf(const MdbColumn& column, const MdbField& field) {
   if (field.is_null != 0 || !typeOf(column).isReadable) return std::monostate{};
   const auto page = static_cast<int>(handle_->fmt->pg_size);
   if (field.start < 0 || field.siz < 0 || field.start > page || field.siz > page - field.start) {
-    refuse(name() + "有一行不完整");
+    refuse(Words::tr("%1有一行不完整", name()));
   }
   const std::string_view bytes(reinterpret_cast<const char*>(handle_->pg_buf) + field.start,
                                static_cast<std::size_t>(field.siz));
@@ -160,7 +161,7 @@ AccessValue Reading::numberOf(int type, std::string_view bytes) const {
 
 std::string Reading::decimalOf(const MdbColumn& column, int start, std::string_view bytes) {
   constexpr std::size_t kDecimalBytes = 17;
-  if (bytes.size() < kDecimalBytes) refuse("里有一个数字短了");
+  if (bytes.size() < kDecimalBytes) refuse(Words::tr("里有一个数字短了"));
   char* digits = mdb_numeric_to_string(handle_, start, column.col_scale, column.col_prec);
   std::string text(digits);
   g_free(digits);
@@ -181,7 +182,7 @@ std::string Reading::textOf(std::string_view bytes) {
 std::string Reading::memoOf(std::string_view bytes) {
   constexpr std::uint32_t kInline = 0x80000000, kInOnePiece = 0x40000000, kLength = 0x3FFFFFFF;
   const auto flags = fixedValue<std::uint32_t>(bytes);
-  if (bytes.size() < MDB_MEMO_OVERHEAD) refuse(name() + "有一处备注不完整");
+  if (bytes.size() < MDB_MEMO_OVERHEAD) refuse(Words::tr("%1有一处备注不完整", name()));
   if ((flags & kInline) != 0) return textOf(bytes.substr(MDB_MEMO_OVERHEAD));
   const std::size_t length = flags & kLength;
   auto place = fixedValue<std::int32_t>(bytes.substr(4));
@@ -192,7 +193,7 @@ std::string Reading::memoOf(std::string_view bytes) {
     std::size_t size = 0;
     const std::size_t head = (flags & kInOnePiece) != 0 ? 0 : sizeof place;
     if (place == 0 || mdb_find_pg_row(handle_, place, &page, &start, &size) != 0 || size <= head) {
-      refuse(name() + "有一处备注不完整");
+      refuse(Words::tr("%1有一处备注不完整", name()));
     }
     const std::string_view piece(static_cast<const char*>(page) + start, size);
     place = head == 0 ? 0 : fixedValue<std::int32_t>(piece);
@@ -207,14 +208,14 @@ class JetReader::Handle {
  public:
   explicit Handle(const std::string& path) : handle_(mdb_open(path.c_str(), MDB_NOFLAGS)) {
     if (!handle_) {
-      throw Failure("这不是 Access 的数据文件，或者没有读它的权限：" + path);
+      throw Failure(Words::tr("这不是 Access 的数据文件，或者没有读它的权限：%1", path));
     }
     // The library fills up a page that is cut off with zeros.
     if (std::filesystem::file_size(path) % static_cast<std::size_t>(handle_->fmt->pg_size) != 0) {
-      refuse("的最后一页不完整");
+      refuse(Words::tr("的最后一页不完整"));
     }
     requireWholeCatalog();
-    if (mdb_read_catalog(handle_.get(), MDB_ANY) == nullptr) refuse("的目录读不出来");
+    if (mdb_read_catalog(handle_.get(), MDB_ANY) == nullptr) refuse(Words::tr("的目录读不出来"));
   }
   MdbHandle* get() const { return handle_.get(); }
   std::vector<MdbCatalogEntry*> entries() const {
@@ -274,5 +275,5 @@ void JetReader::rows(const std::string& table, const std::function<void(const Ac
     for (; reading.next(); ++rows) take(reading.row());
     return reading.requireAll(rows);
   }
-  refuse("里没有表 " + table);
+  refuse(Words::tr("里没有表 %1", table));
 }

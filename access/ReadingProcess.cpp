@@ -15,14 +15,15 @@
 #include "base/Failure.h"
 #include "base/SystemFault.h"
 #include "base/Text.h"
+#include "base/Words.h"
 
 namespace {
 
 constexpr int kLongestSilenceMs = 60'000;
 constexpr std::uint32_t kLongestMessage = 1U << 28;
-constexpr const char* kDamaged =
+constexpr const char* kDamaged = Words::mark(
     "Access 文件已损坏，或者加了密，读不下去了。请先用 Access "
-    "打开它，压缩和修复，去掉密码后另存一份。";
+    "打开它，压缩和修复，去掉密码后另存一份。");
 
 enum class Kind : char { kMessage, kFailure, kEnd };
 
@@ -66,7 +67,7 @@ void keepOnly(int pipe) {
   } catch (const Failure& failure) {
     writeMessage(pipe, Kind::kFailure, failure.what());
   } catch (const std::exception&) {
-    writeMessage(pipe, Kind::kFailure, kDamaged);
+    writeMessage(pipe, Kind::kFailure, Words::tr(kDamaged));
   }
   _exit(0);
 }
@@ -87,7 +88,7 @@ class Child {
   Head head() {
     Head head{};
     fill(reinterpret_cast<char*>(&head), sizeof head);
-    if (head.length > kLongestMessage) throw Failure(kDamaged);
+    if (head.length > kLongestMessage) throw Failure(Words::tr(kDamaged));
     return head;
   }
   void fill(char* bytes, std::size_t count);
@@ -104,7 +105,7 @@ void Child::fill(char* bytes, std::size_t count) {
     if (ready < 0 && errno == EINTR) continue;
     const ssize_t got = ready > 0 ? read(pipe_, bytes, count) : 0;
     if (got < 0 && errno == EINTR) continue;
-    if (got <= 0) throw Failure(kDamaged);
+    if (got <= 0) throw Failure(Words::tr(kDamaged));
     bytes += got;
     count -= static_cast<std::size_t>(got);
   }
@@ -113,7 +114,7 @@ void Child::fill(char* bytes, std::size_t count) {
 }  // namespace
 
 void Outbox::send(std::string_view message) const {
-  if (message.size() > kLongestMessage) throw Failure(kDamaged);
+  if (message.size() > kLongestMessage) throw Failure(Words::tr(kDamaged));
   writeMessage(pipe_, Kind::kMessage, message);
 }
 
@@ -126,7 +127,7 @@ void readInChild(const std::function<void(const Outbox&)>& work,
   close(ends[1]);
   if (process < 0) {
     close(ends[0]);
-    throw Failure("内存不足，打不开 Access 文件。");
+    throw Failure(Words::tr("内存不足，打不开 Access 文件。"));
   }
   Child child(process, ends[0]);
   std::string message;
@@ -135,7 +136,7 @@ void readInChild(const std::function<void(const Outbox&)>& work,
     child.fill(message.data(), message.size());
     // Its texts name what is in the file, and must not command the owner's terminal.
     if (head.kind == Kind::kFailure)
-      throw Failure(hasControlCharacter(message) ? kDamaged : message);
+      throw Failure(hasControlCharacter(message) ? Words::tr(kDamaged) : message);
     if (!message.empty()) take(message);
   }
 }

@@ -3,6 +3,7 @@
 #include <cstring>
 
 #include "base/Failure.h"
+#include "base/Words.h"
 
 namespace {
 
@@ -67,7 +68,7 @@ void WireWriter::table(const AccessTable& table) {
 }
 
 std::string_view WireReader::take(std::size_t count) {
-  if (count > rest_.size()) throw Failure("Access 文件已损坏，读不下去了。");
+  if (count > rest_.size()) throw Failure(Words::tr("Access 文件已损坏，读不下去了。"));
   const std::string_view taken = rest_.substr(0, count);
   rest_.remove_prefix(count);
   return taken;

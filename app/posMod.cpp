@@ -28,6 +28,7 @@
 namespace {
 
 /// On papers, which are Chinese whatever the screens speak.
+// untranslated: printed
 constexpr const char* kPracticeTitle = "练习，不入账";
 
 /// What may not be looked at is there.

@@ -33,7 +33,7 @@ class posMod {
   Q_DECLARE_TR_FUNCTIONS(posMod)
 
  public:
-  /// `shopFolder` holds Config.ini and data/ (app/ShopFolder.h): the program's folder or another.
+  /// `shopFolder` holds Config.ini and data/ (base/ShopFolder.h): the program's folder or another.
   explicit posMod(std::filesystem::path shopFolder, Clock presentTime = localTime);
   ~posMod();
   posMod(const posMod&) = delete;

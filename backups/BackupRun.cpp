@@ -10,6 +10,7 @@
 #include "backups/MediumCopy.h"
 #include "base/PrivateFile.h"
 #include "base/SystemFault.h"
+#include "base/Words.h"
 #include "store/SteppedCopy.h"
 #include "store/StoreError.h"
 
@@ -24,7 +25,8 @@ void makeFolder(const fs::path& folder) {
   std::error_code fault;
   if (fs::create_directory(folder, fault)) static_cast<void>(makePrivate(folder));
   if (fault)
-    throw StoreError("不能新建备份文件夹 " + folder.string() + "：" + fileFault(fault.value()));
+    throw StoreError(
+        Words::tr("不能新建备份文件夹 %1：%2", folder.string(), fileFault(fault.value())));
 }
 
 void requireRoom(const fs::path& dataFile) {
@@ -36,16 +38,16 @@ void requireRoom(const fs::path& dataFile) {
   }
   const fs::space_info disk = fs::space(dataFile.parent_path(), fault);
   if (!fault && disk.available < needed)
-    throw StoreError("磁盘剩余空间不够再放一份账目，没有备份。请清理磁盘。");
+    throw StoreError(Words::tr("磁盘剩余空间不够再放一份账目，没有备份。请清理磁盘。"));
 }
 
 void requireMedium(const fs::path& medium, const fs::path& dataFile) {
   struct stat there {
   }, here{};
   if (stat(medium.c_str(), &there) != 0 || !S_ISDIR(there.st_mode))
-    throw StoreError("备份盘没有接上，找不到文件夹 " + medium.string() + "。");
+    throw StoreError(Words::tr("备份盘没有接上，找不到文件夹 %1。", medium.string()));
   if (stat(dataFile.c_str(), &here) != 0 || there.st_dev == here.st_dev)
-    throw StoreError("备份盘没有接上：" + medium.string() + " 和数据文件在同一个磁盘上。");
+    throw StoreError(Words::tr("备份盘没有接上：%1 和数据文件在同一个磁盘上。", medium.string()));
 }
 
 bool contains(const std::vector<Date>& dates, const Date& date) {
@@ -59,8 +61,8 @@ bool keepToday(const BackupFolder& folder, const BackupOrder& order, bool anew, 
   const std::vector<Date> dates = folder.dates();
   if (contains(dates, order.today) && !anew) return false;
   if (!mayMakeGeneration(dates, order.today))
-    throw StoreError("已经有日期更晚的备份 " + folder.file(dates.front()).string() +
-                     "，请检查电脑的日期；日期没错时请把它移走。");
+    throw StoreError(Words::tr("已经有日期更晚的备份 %1，请检查电脑的日期；日期没错时请把它移走。",
+                               folder.file(dates.front()).string()));
   if (!make(folder.file(order.today))) return false;
   folder.prune(order.today);
   return true;

@@ -5,6 +5,7 @@
 #include <string_view>
 
 #include "base/WholeFile.h"
+#include "base/Words.h"
 
 namespace {
 
@@ -44,7 +45,7 @@ bool copyToMedium(const std::filesystem::path& from, const std::filesystem::path
   const bool same = isEqual(std::ifstream(from, std::ios::binary),
                             std::ifstream(copy.path(), std::ios::binary), stop);
   if (stop()) return false;
-  if (!same) copy.fail("写进去的和读出来的不一样。");
+  if (!same) copy.fail(Words::tr("写进去的和读出来的不一样。"));
   copy.finish();
   return true;
 }

@@ -6,6 +6,7 @@
 #include "base/CsvRow.h"
 #include "base/Gbk.h"
 #include "base/Utf8.h"
+#include "base/Words.h"
 
 namespace {
 
@@ -77,7 +78,7 @@ void CsvReader::recognise(Accepts accepts) {
   in_.read(mark.data(), static_cast<std::streamsize>(mark.size()));
   const bool isLittle = mark.starts_with("\xFF\xFE"), isBig = mark.starts_with("\xFE\xFF");
   if ((isLittle || isBig) && accepts == Accepts::kCommas) {
-    refuse("是 UTF-16 文字，请另存为 UTF-8 或 GBK 的 CSV 文件");
+    refuse(Words::tr("是 UTF-16 文字，请另存为 UTF-8 或 GBK 的 CSV 文件"));
   }
   if (isLittle) order_ = Utf16Decoder::Order::kLittleEndian;
   if (isBig) order_ = Utf16Decoder::Order::kBigEndian;
@@ -154,7 +155,7 @@ void CsvReader::fill() {
     position_ = 0;
     buffer_.resize(static_cast<std::size_t>(in_.gcount()));
     read_ += in_.gcount();
-    if (in_.bad()) refuse("读不出来，磁盘可能有问题");
+    if (in_.bad()) refuse(Words::tr("读不出来，磁盘可能有问题"));
     if (utf16_) buffer_ = utf16_->decode(buffer_);
   } while (buffer_.empty() && in_.gcount() > 0);
 }
@@ -168,7 +169,7 @@ CsvReader::Ended CsvReader::readField(std::string& field) {
   }
   while (true) {
     const int character = get();
-    if (character == '"') refuse("引号只能把整个字段括起来，字段里的引号要写两个");
+    if (character == '"') refuse(Words::tr("引号只能把整个字段括起来，字段里的引号要写两个"));
     if (character == delimiter_ || character == '\n' || character == '\r' || character == kEnd) {
       return endAfter(character);
     }
@@ -179,7 +180,7 @@ CsvReader::Ended CsvReader::readField(std::string& field) {
 void CsvReader::readQuoted(std::string& field) {
   while (true) {
     const int character = get();
-    if (character == kEnd) refuse("引号没有结束");
+    if (character == kEnd) refuse(Words::tr("引号没有结束"));
     if (character == '"') {
       if (peek() != '"') return;
       get();
@@ -192,12 +193,12 @@ CsvReader::Ended CsvReader::endAfter(int character) {
   if (character == '\r' && peek() == '\n') get();
   if (character == '\n' || character == '\r' || character == kEnd) return Ended::kRow;
   if (character == delimiter_) return Ended::kField;
-  refuse("引号后面还有文字");
+  refuse(Words::tr("引号后面还有文字"));
 }
 
 void CsvReader::append(std::string& field, int character) {
-  if (++rowBytes_ > kLongestRow) refuse("太长，可能少了一个引号");
-  if (character == '\0') refuse("含有不是文字的内容");
+  if (++rowBytes_ > kLongestRow) refuse(Words::tr("太长，可能少了一个引号"));
+  if (character == '\0') refuse(Words::tr("含有不是文字的内容"));
   field.push_back(static_cast<char>(character));
 }
 
@@ -206,9 +207,9 @@ void CsvReader::toUtf8(std::string& field) const {
   if (!isUtf8_) field = gbk::decode(field);
   const bool sound = soundUtf8(field) == field.size() &&
                      (isUtf8_ || field.find(kReplacement) == std::string::npos);
-  if (!sound) refuse("含有既不是 UTF-8 也不是 GBK 的文字");
+  if (!sound) refuse(Words::tr("含有既不是 UTF-8 也不是 GBK 的文字"));
 }
 
-void CsvReader::refuse(const char* reason) const {
-  throw CsvError("第 " + std::to_string(rowLine_) + " 行" + reason);
+void CsvReader::refuse(const std::string& reason) const {
+  throw CsvError(Words::tr("第 %1 行%2", rowLine_, reason));
 }

@@ -55,7 +55,7 @@ class CsvReader {
   Ended endAfter(int character);
   void append(std::string& field, int character);
   void toUtf8(std::string& field) const;
-  [[noreturn]] void refuse(const char* reason) const;
+  [[noreturn]] void refuse(const std::string& reason) const;
 
   std::istream& in_;
   bool isUtf8_ = true;

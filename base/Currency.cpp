@@ -3,6 +3,7 @@
 #include "base/Decimal.h"
 #include "base/Failure.h"
 #include "base/Rounding.h"
+#include "base/Words.h"
 
 namespace {
 
@@ -10,7 +11,7 @@ constexpr int kDecimals = 4;
 constexpr std::int64_t kScaledPerFen = Currency::kScale / 100;
 
 [[noreturn]] void overflow() {
-  throw Overflow("金额太大，超出了可以计算的范围。");
+  throw Overflow(Words::tr("金额太大，超出了可以计算的范围。"));
 }
 
 Currency checked(Wide scaled) {

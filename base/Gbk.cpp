@@ -8,6 +8,7 @@
 #include "base/Failure.h"
 #include "base/Text.h"
 #include "base/Utf8.h"
+#include "base/Words.h"
 
 namespace gbk {
 namespace {
@@ -28,7 +29,7 @@ class Converter {
  public:
   Converter(const char* to, const char* from) : descriptor_(iconv_open(to, from)) {
     if (reinterpret_cast<std::intptr_t>(descriptor_) == -1) {
-      throw Failure("这台电脑缺少中文字符集（GBK）的支持，请安装后再启动。");
+      throw Failure(Words::tr("这台电脑缺少中文字符集（GBK）的支持，请安装后再启动。"));
     }
   }
   ~Converter() { iconv_close(descriptor_); }

@@ -8,6 +8,7 @@
 #include "base/Failure.h"
 #include "base/Rounding.h"
 #include "base/SignificantDigits.h"
+#include "base/Words.h"
 
 namespace {
 
@@ -51,7 +52,7 @@ std::optional<Whole> parseWhole(std::string_view text) {
 }  // namespace
 
 std::string generalNumber(double value) {
-  if (!std::isfinite(value)) throw Overflow("数值超出了可以计算的范围。");
+  if (!std::isfinite(value)) throw Overflow(Words::tr("数值超出了可以计算的范围。"));
   const SignificantDigits shown(value);
   const std::string text = std::abs(shown.exponent()) <= kLargestPlainExponent
                                ? plain(shown.digits(), shown.exponent())
@@ -113,6 +114,7 @@ double roundedQuantity(double quantity) {
 
 std::int64_t wholeHalfEven(double value) {
   constexpr double kLimit = 9223372036854775808.0;  // 2^63
-  if (!(value >= -kLimit && value < kLimit)) throw Overflow("数值超出了可以计算的范围。");
+  if (!(value >= -kLimit && value < kLimit))
+    throw Overflow(Words::tr("数值超出了可以计算的范围。"));
   return static_cast<std::int64_t>(std::nearbyint(value));
 }

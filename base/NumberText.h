@@ -18,7 +18,8 @@ std::string generalNumber(Discount value);
 
 /// Pattern "0.00": two decimals, halves away from zero; what rounds to zero has no sign.
 std::string twoDecimals(Currency value);
-/// In place of a figure that does not fit.
+/// In place of a figure that does not fit, on papers and in files.
+// untranslated: printed and exported
 inline constexpr const char* kDoesNotFit = "超出范围";
 /// As twoDecimals, or that the sum does not fit.
 std::string sumText(const std::optional<Currency>& sum);

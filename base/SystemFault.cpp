@@ -4,6 +4,8 @@
 
 #include <cerrno>
 
+#include "base/Words.h"
+
 namespace {
 
 bool isFifo(const std::string& path) {
@@ -17,27 +19,27 @@ std::string fileFault(int errorNumber) {
   switch (errorNumber) {
     case ENOENT:
     case ENOTDIR:
-      return "文件夹不存在。";
+      return Words::tr("文件夹不存在。");
     case EISDIR:
-      return "已经有一个同名的文件夹。";
+      return Words::tr("已经有一个同名的文件夹。");
     case EEXIST:
-      return "已经有这个文件。";
+      return Words::tr("已经有这个文件。");
     case EACCES:
     case EPERM:
-      return "没有写入这个文件夹的权限。";
+      return Words::tr("没有写入这个文件夹的权限。");
     case EROFS:
-      return "磁盘是只读的。";
+      return Words::tr("磁盘是只读的。");
     case ENOSPC:
     case EDQUOT:
-      return "磁盘已满。";
+      return Words::tr("磁盘已满。");
     case EFBIG:
-      return "文件太大，这个磁盘放不下。";
+      return Words::tr("文件太大，这个磁盘放不下。");
     case EIO:
-      return "读写磁盘时出错，请检查磁盘。";
+      return Words::tr("读写磁盘时出错，请检查磁盘。");
     case ENAMETOOLONG:
-      return "文件名太长。";
+      return Words::tr("文件名太长。");
     default:
-      return "系统错误 " + std::to_string(errorNumber) + "。";
+      return Words::tr("系统错误 %1。", errorNumber);
   }
 }
 
@@ -46,26 +48,26 @@ std::string deviceFault(int errorNumber, const std::string& path) {
     case ENOENT:
     case ENOTDIR:
     case ENODEV:
-      return "没有这个设备（" + path + "）";
+      return Words::tr("没有这个设备（%1）", path);
     case ENXIO:
-      return isFifo(path) ? "没有程序在接收" : "设备没有接好";
+      return isFifo(path) ? Words::tr("没有程序在接收") : Words::tr("设备没有接好");
     case EACCES:
     case EPERM:
     case EROFS:
-      return "没有使用权限（" + path + "）";
+      return Words::tr("没有使用权限（%1）", path);
     case EBUSY:
-      return "正被别的程序占用";
+      return Words::tr("正被别的程序占用");
     case EISDIR:
-      return path + " 是文件夹";
+      return Words::tr("%1 是文件夹", path);
     case ENOSPC:
-      return "缺纸或空间已满";
+      return Words::tr("缺纸或空间已满");
     case EPIPE:
-      return "接收的程序已退出";
+      return Words::tr("接收的程序已退出");
     case EIO:
-      return "设备已断开";
+      return Words::tr("设备已断开");
     case ETIMEDOUT:
-      return "设备太久没有接收，请检查是否开机、缺纸";
+      return Words::tr("设备太久没有接收，请检查是否开机、缺纸");
     default:
-      return "系统错误 " + std::to_string(errorNumber);
+      return Words::tr("系统错误 %1", errorNumber);
   }
 }

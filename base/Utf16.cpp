@@ -8,6 +8,7 @@
 #include <cstdint>
 
 #include "base/Failure.h"
+#include "base/Words.h"
 
 namespace {
 
@@ -18,7 +19,7 @@ constexpr std::size_t kGrowth = 2;  // two bytes are at most three, and one for 
 Utf16Decoder::Utf16Decoder(Order order)
     : descriptor_(iconv_open("UTF-8", order == Order::kBigEndian ? "UTF-16BE" : "UTF-16LE")) {
   if (reinterpret_cast<std::intptr_t>(descriptor_) == -1) {
-    throw Failure("这台电脑缺少 UTF-16 字符集的支持。");
+    throw Failure(Words::tr("这台电脑缺少 UTF-16 字符集的支持。"));
   }
 }
 

@@ -11,6 +11,7 @@
 
 #include "base/PrivateFile.h"
 #include "base/SystemFault.h"
+#include "base/Words.h"
 
 namespace {
 
@@ -44,7 +45,7 @@ WholeFile::WholeFile(std::filesystem::path target)
   const std::filesystem::file_type there = std::filesystem::status(target_, unknown).type();
   // Its name would be taken from a device, which others need.
   if (there != std::filesystem::file_type::regular && std::filesystem::exists(target_, unknown))
-    fail("那里不是普通文件。");
+    fail(Words::tr("那里不是普通文件。"));
   file_ = open(folder_.c_str(), O_TMPFILE | O_RDWR | O_CLOEXEC, 0600);
   const bool isUnknownHere = errno == EOPNOTSUPP || errno == EISDIR || errno == EINVAL;
   if (file_ < 0 && !isUnknownHere) failWith(errno);
@@ -139,5 +140,5 @@ void WholeFile::failWith(int error) const {
 }
 
 void WholeFile::fail(const std::string& why) const {
-  throw FileError("不能写入 " + target_.string() + "：" + why);
+  throw FileError(Words::tr("不能写入 %1：%2", target_.string(), why));
 }

@@ -70,6 +70,9 @@ class Settlement {
 
   /// Payment has been confirmed and is durable.
   bool settled() const { return settled_; }
+  /// Leave for what the shop gave up, to be kept until the bill is stored; none when it was
+  /// nothing.
+  const Permit& favour() const { return favour_; }
 
  private:
   void say(const QString& text);
@@ -84,7 +87,7 @@ class Settlement {
   CustomerDisplay& display_;
   Messages& screen_;
   std::function<void()> paid_;
-  Permit favour_;         ///< leave for the discount that the bill was confirmed with
+  Permit favour_;
   Currency cardBalance_;  ///< left on the card after payByCard
   bool settled_ = false;
 };

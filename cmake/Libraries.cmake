@@ -1,6 +1,7 @@
 # The libraries the till stands on, all of them Debian packages (see scripts/setup).
 find_package(PkgConfig REQUIRED)
-find_package(Qt6 6.4 REQUIRED COMPONENTS Core Gui Widgets PrintSupport SerialPort Network Test)
+find_package(Qt6 6.4 REQUIRED COMPONENTS Core Gui Widgets PrintSupport SerialPort Network Test
+             LinguistTools)
 find_package(CLI11 REQUIRED)
 find_package(nlohmann_json REQUIRED)
 if(TILL_TESTS)
@@ -12,7 +13,8 @@ endif()
 pkg_check_modules(sqlcipher REQUIRED IMPORTED_TARGET sqlcipher)
 pkg_check_modules(sodium REQUIRED IMPORTED_TARGET libsodium)
 pkg_check_modules(xlsxwriter REQUIRED IMPORTED_TARGET xlsxwriter)
-pkg_check_modules(orcus REQUIRED IMPORTED_TARGET liborcus-0.17)
+pkg_check_modules(expat REQUIRED IMPORTED_TARGET expat)
+pkg_check_modules(libzip REQUIRED IMPORTED_TARGET libzip)
 pkg_check_modules(libmdb REQUIRED IMPORTED_TARGET libmdb)
 
 # What every target of ours is compiled with.

@@ -10,7 +10,8 @@
 
 namespace fs = std::filesystem;
 
-DemoDay::DemoDay(const fs::path& program, const fs::path& out) : out_(out), shop_(out / "shop") {
+DemoDay::DemoDay(const fs::path& program, const fs::path& out, const std::string& language)
+    : out_(out), shop_(out / "shop"), language_(language) {
   fs::remove_all(out_);
   fs::create_directories(out_ / "receipts");
   fs::copy(program, shop_, fs::copy_options::recursive);
@@ -26,6 +27,7 @@ void DemoDay::setUpDevices(const char* receiptPort) {
       {"USB", (out_ / "receipts").string()}};
   for (const auto& [name, path] : ports) settings.write("Ports", name, path);
   settings.write("Till", "ExportFolder", out_.string());
+  settings.write("Till", "Language", language_);
   settings.write("POS", "PPort", receiptPort);
   settings.write("POS", "PModel", "1");
   settings.write("POS", "printAmount", "直接打印1联");

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <filesystem>
+#include <string>
 
 #include "demo/DemoGoods.h"
 #include "demo/DisplayTube.h"
@@ -13,8 +14,10 @@ class TillDriver;
 class DemoDay {
  public:
   /// `program` is an installed program folder with a demo shop's data file; a copy of it in `out`
-  /// is worked on, so that every day starts alike.
-  DemoDay(const std::filesystem::path& program, const std::filesystem::path& out);
+  /// is worked on, so that every day starts alike. The screens speak `language`, as the settings
+  /// have it.
+  DemoDay(const std::filesystem::path& program, const std::filesystem::path& out,
+          const std::string& language);
 
   void morning();
   void afternoon();
@@ -26,6 +29,7 @@ class DemoDay {
   int settledBills() const { return settledBills_; }
 
  private:
+  bool isEnglish() const { return language_ == "en"; }
   void setUpDevices(const char* receiptPort);
   void logIn(TillDriver& till, const char* number, const char* password);
   void basketOfEveryKind(TillDriver& till);
@@ -44,6 +48,7 @@ class DemoDay {
 
   std::filesystem::path out_;
   std::filesystem::path shop_;
+  std::string language_;
   DemoGoods goods_;
   DisplayTube display_;
   int shots_ = 0;

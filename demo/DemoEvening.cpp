@@ -82,7 +82,8 @@ void DemoDay::evening() {
   screen(kPosSet);
   till.waitFor("frmPosSet");
   shot(till, "terminal-settings");
-  till.key("Esc");
+  till.tabTo("cmdOk");
+  till.key("Space");
   screen(kEditPwd);
   till.waitFor("frmEditPwd");
   shot(till, "password-change");
@@ -220,7 +221,7 @@ void DemoDay::query(TillDriver& till) {
   const auto run = [&](const char* name) {
     till.tabTo("cmdSearch");
     till.key("Space");
-    till.waitForText("lblState", "行");
+    till.waitForText("lblState", isEnglish() ? "lines." : "行");
     shot(till, name);
   };
   run("query-of-the-day");
@@ -262,5 +263,5 @@ void DemoDay::exportList(TillDriver& till, const char* file) {
   shot(till, "export");
   till.key("Return");
   till.waitFor("frmSearch");
-  till.waitForText("lblState", "已导出");
+  till.waitForText("lblState", isEnglish() ? "Exported" : "已导出");
 }

@@ -1,4 +1,4 @@
-// Plays the demo day: demo_day <installed program folder> <out folder>
+// Plays the demo day: demo_day <installed program folder> <out folder> [language of the screens]
 #include <cstdio>
 #include <exception>
 #include <filesystem>
@@ -7,13 +7,13 @@
 #include "demo/DemoDay.h"
 
 int main(int argc, char** argv) {
-  if (argc != 3) {
-    std::fprintf(stderr, "usage: demo_day <installed program folder> <out folder>\n");
+  if (argc != 3 && argc != 4) {
+    std::fprintf(stderr, "usage: demo_day <installed program folder> <out folder> [language]\n");
     return 2;
   }
   try {
     const std::filesystem::path out = std::filesystem::absolute(argv[2]);
-    DemoDay day(argv[1], out);
+    DemoDay day(argv[1], out, argc == 4 ? argv[3] : "");
     const DaySummary summary(day.dataFile());
     day.morning();
     day.afternoon();

@@ -31,17 +31,6 @@ std::string menuLine(const char* menu, const Entries& entries) {
   return line.append("\n\n");
 }
 
-std::string keyTable(const KeyGroup& group) {
-  std::string text = "| 按键 | " + group.title.toStdString() + " |\n|---|---|\n";
-  for (const auto& [key, does] : group.rows)
-    text.append("| `")
-        .append(key.toStdString())
-        .append("` | ")
-        .append(does.toStdString())
-        .append(" |\n");
-  return text.append("\n");
-}
-
 std::string helpOf(std::vector<std::string> words) {
   words.insert(words.begin(), "tilladmin");
   words.emplace_back("--help");
@@ -76,23 +65,6 @@ std::vector<std::string> commandIn(const std::vector<std::string>& words) {
 }
 
 }  // namespace
-
-std::string keyCard() {
-  std::string text = "# 收银员按键卡 {.card}\n\n";
-  text.append("一笔销售：扫描商品；都扫完了，在空行按 `").append(keyFor("录入、空行结账"));
-  text.append("`；输入收到的现金，再按 `").append(keyFor("录入、空行结账")).append("`。\n\n");
-  text.append("打错了：`").append(keyFor("删除最后一行")).append("` 删除最后一行，`");
-  text.append(keyFor("整单撤消")).append("` 撤消整单。\n\n::: columns\n\n").append(keyTables());
-  return text.append(
-      ":::\n\n店里改过按键的，以程序里的“帮助”为准：它在主菜单的更多功能和"
-      "销售界面的功能菜单里，总是最后一项。\n");
-}
-
-std::string keyTables() {
-  std::string text;
-  for (const KeyGroup& group : ::keyTable(KeyBoard())) text.append(keyTable(group));
-  return text;
-}
 
 std::string parameterTable() {
   std::string text = "| 参数 | 意思 | 不设置时 |\n|---|---|---|\n";

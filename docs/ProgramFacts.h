@@ -7,7 +7,8 @@
 /// shop, menus, shop parameters and the commands of tilladmin. Texts are Markdown in UTF-8.
 namespace program_facts {
 
-/// The card for the cashier: one page with what each key does.
+/// The card for the cashier, in the language that the program speaks: one page with what each key
+/// does.
 std::string keyCard();
 /// The keys as tables, one for each place where they are pressed.
 std::string keyTables();

@@ -1,8 +1,10 @@
 // What the handbook takes from the program, as Markdown on the standard output.
+#include <QCoreApplication>
 #include <exception>
 #include <iostream>
 #include <string>
 
+#include "app/Language.h"
 #include "docs/Chapter.h"
 #include "docs/ProgramFacts.h"
 
@@ -10,6 +12,7 @@ namespace {
 
 constexpr const char* kUsage =
     "usage: handbook_facts key-card                       the card for the cashier\n"
+    "       handbook_facts key-card.en                    the same in English\n"
     "       handbook_facts facts                          what the handbook's prose rests on\n"
     "       handbook_facts fill PICTURES CHAPTER...       the handbook; PICTURES: the demo day's "
     "folder\n";
@@ -17,9 +20,13 @@ constexpr const char* kUsage =
 }  // namespace
 
 int main(int count, char** arguments) {
+  const QCoreApplication application(count, arguments);
   const std::string what = count > 1 ? arguments[1] : "";
   try {
     if (what == "key-card" && count == 2) {
+      std::cout << program_facts::keyCard();
+    } else if (what == "key-card.en" && count == 2) {
+      speak(Language::kEnglish);
       std::cout << program_facts::keyCard();
     } else if (what == "facts" && count == 2) {
       std::cout << program_facts::all();

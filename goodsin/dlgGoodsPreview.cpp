@@ -1,59 +1,47 @@
 #include "goodsin/dlgGoodsPreview.h"
 
 #include <QCloseEvent>
-#include <QLabel>
-#include <QProgressBar>
 #include <QPushButton>
-#include <QScreen>
 #include <QTimer>
 #include <QVBoxLayout>
 #include <utility>
 
 #include "base/Failure.h"
 #include "goodsin/PreviewTable.h"
+#include "goodsin/WorkProgress.h"
 #include "platform/QtText.h"
 #include "shell/Modal.h"
-#include "shop/TimeLeft.h"
 
 namespace {
 
 constexpr int kWidth = 960, kHeight = 640;  // pixels
-constexpr int kWhole = 1000;                // steps of the progress bar
 
 }  // namespace
 
-dlgGoodsPreview::dlgGoodsPreview(const KeyBoard& keys, const Connection& shop,
-                                 std::filesystem::path file, GoodsMapping mapping, QWidget* parent)
+dlgGoodsPreview::dlgGoodsPreview(const KeyBoard& keys, GoodsTarget target, GoodsSheet sheet,
+                                 QWidget* parent)
     : KeyDrivenDialog(keys, EnterKey::kMapped, parent),
-      run_(shop.source(),
-           {.number = [who = shop.user().number()] { return who; }, .clock = shop.user().clock}),
-      file_(std::move(file)),
-      mapping_(std::move(mapping)),
-      lblState_(label("lblState", {})),
-      barDone_(new QProgressBar(this)),
+      target_(std::move(target)),
+      sheet_(std::move(sheet)),
+      progress_(new WorkProgress(this)),
       tblPreview_(made("tblPreview", new PreviewTable(this))),
-      cmdOk_(button("cmdOk", tr("导入(&S)"))),
+      cmdOk_(button("cmdOk", target_.import ? tr("导入(&S)") : tr("用这张表(&S)"))),
       cmdCancel_(button("cmdCancel", tr("取消(&C)"))) {
   setObjectName("dlgGoodsPreview");
   setWindowTitle(tr("导入商品"));
   arrange();
   cmdOk_->setEnabled(false);
-  connect(cmdOk_, &QPushButton::clicked, this, &dlgGoodsPreview::write);
+  connect(cmdOk_, &QPushButton::clicked, this, &dlgGoodsPreview::take);
   connect(cmdCancel_, &QPushButton::clicked, this, &dlgGoodsPreview::cancel);
   // The list has nothing to be chosen: Enter there is the button's.
   onEnter(tblPreview_, [this] { cmdOk_->click(); });
 }
 
 void dlgGoodsPreview::arrange() {
-  lblState_->setWordWrap(true);
-  lblState_->setTextFormat(Qt::PlainText);
-  barDone_->setRange(0, kWhole);
-  barDone_->setTextVisible(false);
   auto* layout = new QVBoxLayout(this);
   layout->setContentsMargins(24, 16, 24, 16);
   layout->setSpacing(12);
-  layout->addWidget(lblState_);
-  layout->addWidget(barDone_);
+  layout->addWidget(progress_);
   layout->addWidget(tblPreview_, 1);
   layout->addLayout(buttonRow({cmdOk_, cmdCancel_}));
   walkThrough({tblPreview_, cmdOk_, cmdCancel_});
@@ -66,64 +54,62 @@ void dlgGoodsPreview::showEvent(QShowEvent* event) {
 }
 
 void dlgGoodsPreview::closeEvent(QCloseEvent* event) {
-  if (run_.isRunning()) event->ignore();
+  if (work_.isRunning()) event->ignore();
   cancel();
 }
 
 void dlgGoodsPreview::cancel() {
-  if (!run_.isRunning()) return reject();
-  run_.stop();
-  lblState_->setText(tr("正在停止；已经开始写入的话，会写完。"));
+  if (!work_.isRunning()) return reject();
+  work_.stop();
+  progress_->say(tr("正在停止；已经开始写入的话，会写完。"));
 }
 
-std::optional<GoodsPreview> dlgGoodsPreview::go(Run work, const QString& doing) {
-  using std::chrono::steady_clock;
-  const TimeLeft left(steady_clock::now());
+std::optional<GoodsPreview> dlgGoodsPreview::go(const GoodsTarget::Work& work,
+                                                const QString& doing) {
   cmdOk_->setEnabled(false);
-  barDone_->show();
-  barDone_->setValue(0);
-  lblState_->setText(doing);
-  return (run_.*work)(file_, mapping_, [&](double part) {
-    barDone_->setValue(static_cast<int>(part * kWhole));
-    lblState_->setText(
-        tr("%1　已完成 %2").arg(doing, qtText(left.text(part, steady_clock::now()))));
-  });
-}
-
-void dlgGoodsPreview::showEnd(const QString& text) {
-  barDone_->hide();
-  lblState_->setText(text);
+  progress_->begin(doing);
+  std::optional<GoodsPreview> result;
+  work_.run([&](const GoOn& goOn) { result = work(sheet_, goOn); },
+            [this](double part) { progress_->show(part); });
+  return result;
 }
 
 void dlgGoodsPreview::read() {
   try {
-    const auto preview = go(&GoodsRun::preview, tr("正在读取……"));
-    if (!preview) return reject();
-    tblPreview_->show(*preview);
-    const bool mayWrite = preview->mayBeWritten() && !preview->changesNothing();
-    cmdOk_->setEnabled(mayWrite);
-    if (!preview->mayBeWritten()) {
-      showEnd(tr("%1。请先改正不能导入的行，现在什么也不会写入。").arg(summaryOf(*preview)));
-    } else if (preview->changesNothing()) {
-      showEnd(tr("表里的 %1 种商品和店里的一样，没有要导入的。").arg(preview->unchangedCount));
-    } else {
-      showEnd(tr("%1。按回车键导入。").arg(summaryOf(*preview)));
-    }
-    mayWrite ? cmdOk_->setFocus() : tblPreview_->setFocus();
+    taken_ = go(target_.preview, tr("正在读取……"));
+    if (!taken_) return reject();
+    showPreview(*taken_);
   } catch (const Failure& failure) {
     messageBox(this, qtText(failure.what()), windowTitle(), BoxIcon::kExclamation);
     reject();
   }
 }
 
-void dlgGoodsPreview::write() {
-  if (run_.isRunning()) return;
+void dlgGoodsPreview::showPreview(const GoodsPreview& preview) {
+  tblPreview_->show(preview);
+  const bool mayTake = preview.mayBeWritten() && !preview.changesNothing();
+  cmdOk_->setEnabled(mayTake);
+  if (!preview.mayBeWritten()) {
+    progress_->end(tr("%1。请先改正不能导入的行，现在什么也不会写入。").arg(summaryOf(preview)));
+  } else if (preview.changesNothing()) {
+    progress_->end(tr("表里的 %1 种商品和店里的一样，没有要导入的。").arg(preview.unchangedCount));
+  } else if (target_.import) {
+    progress_->end(tr("%1。按回车键导入。").arg(summaryOf(preview)));
+  } else {
+    progress_->end(tr("%1。按回车键选定，开店时导入。").arg(summaryOf(preview)));
+  }
+  mayTake ? cmdOk_->setFocus() : tblPreview_->setFocus();
+}
+
+void dlgGoodsPreview::take() {
+  if (work_.isRunning()) return;
+  if (!target_.import) return accept();
   try {
-    written_ = go(&GoodsRun::import, tr("正在导入……"));
-    if (!written_) return reject();
-    if (written_->mayBeWritten()) return accept();
-    tblPreview_->show(*written_);
-    showEnd(tr("%1。什么也没有写入。").arg(summaryOf(*written_)));
+    taken_ = go(target_.import, tr("正在导入……"));
+    if (!taken_) return reject();
+    if (taken_->mayBeWritten()) return accept();
+    tblPreview_->show(*taken_);
+    progress_->end(tr("%1。什么也没有写入。").arg(summaryOf(*taken_)));
   } catch (const Failure& failure) {
     messageBox(this, qtText(failure.what()), windowTitle(), BoxIcon::kExclamation);
     reject();

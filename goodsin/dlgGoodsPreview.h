@@ -1,26 +1,25 @@
 #pragma once
 
-#include <filesystem>
 #include <optional>
 
-#include "goodsin/GoodsRun.h"
+#include "goodsin/GoodsTarget.h"
+#include "goodsin/LongWork.h"
 #include "shell/KeyDrivenDialog.h"
 
 class PreviewTable;
-class QProgressBar;
+class WorkProgress;
 
 /// Reads a goods sheet when it is shown, says what it would do, and brings it in when that is
-/// confirmed; then it is accepted. Esc stops the reading, or leaves; once the rows count, it waits
-/// for the end. A refused row keeps the whole sheet out.
+/// confirmed, unless it comes in later; then it is accepted. Esc stops the reading, or leaves; once
+/// the rows count, it waits for the end. A refused row keeps the whole sheet out.
 class dlgGoodsPreview : public KeyDrivenDialog {
   Q_OBJECT
 
  public:
-  dlgGoodsPreview(const KeyBoard& keys, const Connection& shop, std::filesystem::path file,
-                  GoodsMapping mapping, QWidget* parent);
+  dlgGoodsPreview(const KeyBoard& keys, GoodsTarget target, GoodsSheet sheet, QWidget* parent);
 
-  /// What was brought in; made for an accepted dialog.
-  const GoodsPreview& written() const { return *written_; }
+  /// What was brought in, or will be; made for an accepted dialog.
+  const GoodsPreview& taken() const { return *taken_; }
 
  protected:
   void showEvent(QShowEvent* event) override;
@@ -28,20 +27,17 @@ class dlgGoodsPreview : public KeyDrivenDialog {
   void cancel() override;
 
  private:
-  using Run = std::optional<GoodsPreview> (GoodsRun::*)(const std::filesystem::path&,
-                                                        const GoodsMapping&, const GoodsRun::Show&);
   void arrange();
   void read();
-  void write();
-  std::optional<GoodsPreview> go(Run work, const QString& doing);
-  void showEnd(const QString& text);
+  void showPreview(const GoodsPreview& preview);
+  void take();
+  std::optional<GoodsPreview> go(const GoodsTarget::Work& work, const QString& doing);
 
-  GoodsRun run_;
-  std::filesystem::path file_;
-  GoodsMapping mapping_;
-  std::optional<GoodsPreview> written_;
-  QLabel* lblState_;
-  QProgressBar* barDone_;
+  GoodsTarget target_;
+  GoodsSheet sheet_;
+  LongWork work_;
+  std::optional<GoodsPreview> taken_;
+  WorkProgress* progress_;
   PreviewTable* tblPreview_;
   QPushButton* cmdOk_;
   QPushButton* cmdCancel_;

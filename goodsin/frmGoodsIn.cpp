@@ -32,8 +32,11 @@ std::filesystem::path pathOf(const QLineEdit& field) {
 }  // namespace
 
 frmGoodsIn::frmGoodsIn(posMod& pos, QWidget* parent)
-    : KeyDrivenDialog(pos.gKeyBoard, EnterKey::kMapped, parent),
-      pos_(pos),
+    : frmGoodsIn(pos.gKeyBoard, openShop(*pos.gConn), parent) {}
+
+frmGoodsIn::frmGoodsIn(const KeyBoard& keys, GoodsTarget target, QWidget* parent)
+    : KeyDrivenDialog(keys, EnterKey::kMapped, parent),
+      target_(std::move(target)),
       txtFile_(field("txtFile")),
       tblMapping_(made("tblMapping", new QTableWidget(0, 2, this))),
       txtName_(field("txtName")),
@@ -54,7 +57,7 @@ frmGoodsIn::frmGoodsIn(posMod& pos, QWidget* parent)
   connect(cmdOk_, &QPushButton::clicked, this, &frmGoodsIn::preview);
   connect(cmdCancel_, &QPushButton::clicked, this, &QDialog::reject);
   connect(txtFile_, &QLineEdit::textEdited, this, [this] {
-    mapping_ = {};
+    sheet_.mapping = {};
     showMapping();
   });
   showMapping();
@@ -107,9 +110,9 @@ void frmGoodsIn::openFile() {
   }
   try {
     const OpenedSheet sheet = openGoodsSheet(pathOf(*txtFile_));
-    mapping_ = mappingFor(*pos_.gConn, sheet.headings);
+    sheet_.mapping = target_.mappingFor(sheet.headings);
     showMapping();
-    if (!mapping_.isGuessed && mapping_.fault().empty()) return preview();
+    if (!sheet_.mapping.isGuessed && sheet_.mapping.fault().empty()) return preview();
     tblMapping_->setCurrentCell(0, 1);
     tblMapping_->setFocus();
   } catch (const Failure& failure) {
@@ -119,15 +122,15 @@ void frmGoodsIn::openFile() {
 }
 
 void frmGoodsIn::showMapping() {
-  tblMapping_->setRowCount(static_cast<int>(mapping_.columns.size()));
+  tblMapping_->setRowCount(static_cast<int>(sheet_.mapping.columns.size()));
   for (int row = 0; row < tblMapping_->rowCount(); ++row) {
-    const GoodsMapping::Column& column = mapping_.columns[static_cast<std::size_t>(row)];
+    const GoodsMapping::Column& column = sheet_.mapping.columns[static_cast<std::size_t>(row)];
     tblMapping_->setItem(row, 0, new QTableWidgetItem(shownText(qtText(column.heading))));
     tblMapping_->setItem(
         row, 1,
         new QTableWidgetItem(column.field ? qtText(headingOf(*column.field)) : tr("（不读）")));
   }
-  const bool isOpen = !mapping_.columns.empty();
+  const bool isOpen = !sheet_.mapping.columns.empty();
   for (QWidget* control : std::initializer_list<QWidget*>{tblMapping_, txtName_, cmdOk_})
     control->setEnabled(isOpen);
   lblHint_->setText(isOpen ? tr("请看看每一列猜得对不对，不对的按回车键改；都对了选“预览”。")
@@ -136,7 +139,7 @@ void frmGoodsIn::showMapping() {
 
 void frmGoodsIn::chooseField(int row) {
   if (row < 0) return;
-  frmMenu menu(pos_.gKeyBoard, this);
+  frmMenu menu(keys(), this);
   menu.setWindowTitle(tr("这一列是什么"));
   menu.AddMenu(tr("（不读）"), "none");
   for (std::size_t field = 0; field < kGoodsFields; ++field) {
@@ -145,32 +148,37 @@ void frmGoodsIn::chooseField(int row) {
   const QString chosen = menu.ShowMenu(0);
   if (chosen.isEmpty()) return;
   const bool isNone = chosen == "none";
-  mapping_.choose(static_cast<std::size_t>(row),
-                  isNone ? std::nullopt : std::optional(static_cast<GoodsField>(chosen.toUInt())));
+  sheet_.mapping.choose(
+      static_cast<std::size_t>(row),
+      isNone ? std::nullopt : std::optional(static_cast<GoodsField>(chosen.toUInt())));
   showMapping();
   tblMapping_->setCurrentCell(row, 1);
   tblMapping_->setFocus();
 }
 
 void frmGoodsIn::preview() {
-  if (mapping_.columns.empty()) return openFile();
+  if (sheet_.mapping.columns.empty()) return openFile();
   try {
-    if (const std::string fault = mapping_.fault(); !fault.empty()) {
+    if (const std::string fault = sheet_.mapping.fault(); !fault.empty()) {
       messageBox(this, qtText(fault), windowTitle(), BoxIcon::kInformation);
       return tblMapping_->setFocus();
     }
-    const std::string name = txtName_->text().toStdString();
-    if (!name.empty()) saveMapping(*pos_.gConn, name, mapping_);
+    sheet_.mappingName = txtName_->text().trimmed().toStdString();
+    if (!sheet_.mappingName.empty()) target_.keepMapping(sheet_.mappingName, sheet_.mapping);
   } catch (const Failure& failure) {
     messageBox(this, qtText(failure.what()), windowTitle(), BoxIcon::kExclamation);
     return focusWhole(txtName_);
   }
-  dlgGoodsPreview shown(pos_.gKeyBoard, *pos_.gConn, pathOf(*txtFile_), mapping_, this);
+  sheet_.file = pathOf(*txtFile_);
+  dlgGoodsPreview shown(keys(), target_, sheet_, this);
   if (shown.exec() != QDialog::Accepted) return focusWhole(txtFile_);
-  messageBox(this,
-             tr("已导入商品：新增 %1 行，改动 %2 行。")
-                 .arg(shown.written().addedCount)
-                 .arg(shown.written().changedCount),
-             windowTitle(), BoxIcon::kInformation);
+  taken_ = shown.taken();
+  if (target_.import) {
+    messageBox(this,
+               tr("已导入商品：新增 %1 行，改动 %2 行。")
+                   .arg(taken_->addedCount)
+                   .arg(taken_->changedCount),
+               windowTitle(), BoxIcon::kInformation);
+  }
   accept();
 }

@@ -173,6 +173,7 @@ void frmFMember::showMember() {
   txtBh_->setText(qtText(member_->Bh()));
   txtName_->setText(qtText(member_->Name()));
   txtOld_->setText(QString::number(member_->Age()));
+  // untranslated: as it is stored
   (member_->Sex() == "男" ? OptBoy_ : OptGirl_)->setChecked(true);
   txtAddress_->setText(qtText(member_->Address()));
   txtPostcode_->setText(QString::number(member_->Points()));
@@ -228,6 +229,7 @@ void frmFMember::store() {
   if (const auto rate = classRate()) member_->setDiscount(*rate);
   member_->setEnabled(true);
   member_->setPassword(textOf(password_));
+  // untranslated: as it is stored
   member_->setSex(OptBoy_->isChecked() ? "男" : "女");
   if (!member_->Save()) {
     messageBox(this, qtText(member_->ErrText()), tr("出错"));

@@ -55,6 +55,7 @@ QFont fixedPitchFont(const Job& job, double lineTwips) {
   font.setPixelSize(1000);
   const QFontMetricsF metrics(font);
   const double column =
+      // untranslated: a character to measure by
       std::max(metrics.horizontalAdvance("0"), metrics.horizontalAdvance("中") / 2) / 1000;
   const double fitting = lineTwips / (job.roll.columns * column);
   font.setPixelSize(

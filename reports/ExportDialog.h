@@ -18,11 +18,12 @@ class ExportDialog : public KeyDrivenDialog {
 
   /// The file, whose name ends in ".xlsx" or ".csv". Made for an accepted dialog.
   std::filesystem::path file() const;
+  /// Its name in that folder, or what is typed of it so far.
+  QString name() const;
 
  private:
   void arrange();
   void confirm();
-  QString name() const;
   QString faultOfName() const;
   bool mayWrite();
 

@@ -8,7 +8,9 @@
 #include "saleslib/ClsDayStat.h"
 
 std::string TenderSum::printed() const {
+  // untranslated: printed and exported
   std::string text = "其中";
+  // untranslated: printed and exported
   return text.append(kind->name).append(" [").append(sumText(sum)).append("] 元");
 }
 

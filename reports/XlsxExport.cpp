@@ -53,6 +53,7 @@ class Sheet {
     book_.reset(workbook_new_opt(file.path().c_str(), &options));
     if (!book_) fail(tr("内存不足。"));
     // Files are Chinese whatever the screens speak.
+    // untranslated: exported
     sheet_ = workbook_add_worksheet(book_.get(), "商品查询");
     if (!sheet_) fail(tr("内存不足。"));
     makeFormats();

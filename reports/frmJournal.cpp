@@ -13,6 +13,7 @@
 
 #include "app/posMod.h"
 #include "base/Failure.h"
+#include "base/Words.h"
 #include "platform/KeyName.h"
 #include "platform/QtText.h"
 #include "reports/TableLook.h"
@@ -60,8 +61,9 @@ void frmJournal::fill() {
   DtBegin_->setDate(today);
   Dtfinish_->setDate(today);
   cobKind_->addItem(tr("全部种类"), QString());
-  for (const EntryKindName& kind : entryKinds()) cobKind_->addItem(kind.name, QString(kind.key));
-  names_[0] = "店主工具";
+  for (const EntryKindName& kind : entryKinds())
+    cobKind_->addItem(qtText(Words::tr(kind.name)), QString(kind.key));
+  names_[0] = Words::tr("店主工具");
   cobOperator_->addItem(tr("全部操作员"), -1);
   Rows rows = pos_.gConn->query("select id, name from operators order by id");
   while (rows.next()) names_[rows.whole("id").value_or(0)] = rows.text("name");

@@ -41,6 +41,7 @@ constexpr int kAround = 24;    // pixels left free around the form, which else f
 constexpr int kBlankKey = 32;  // virtual-key code
 
 /// Of the file and in it, whatever the screens speak.
+// untranslated: the name of exported files
 constexpr const char* kExportTitle = "商品查询";
 
 }  // namespace
@@ -278,7 +279,8 @@ void frmSearch::exportList() {
   const QString name = qtText(kExportTitle) + ' ' + qtText(dateText(pos_.clock().date));
   ExportDialog dialog(pos_.gKeyBoard, exportFolder(pos_.configIni, pos_.folder), name, this);
   if (dialog.exec() != QDialog::Accepted) return;
-  if (noted(pos_, this, EntryKind::kExported, dialog.name())) exportTo(dialog.file());
+  const QString file = qtText(dialog.file().filename().string());
+  if (noted(pos_, this, EntryKind::kExported, file)) exportTo(dialog.file());
 }
 
 void frmSearch::exportTo(const std::filesystem::path& file) {

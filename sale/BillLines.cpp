@@ -79,6 +79,7 @@ void BillLines::enterGoods(const QString& typed) {
   const QString code = codeOf(typed);
   auto line = isBarcode(typed) ? lookup_.LookupBarcode(code) : lookup_.LookupSpec(code);
   if (!line && !lookup_.givenUp() && !isBarcode(typed)) line = lookup_.LookupItemNo(code);
+  const Permit price = lookup_.takePriceLeave();
   if (lookup_.givenUp()) return sale_.setInput(typed);
   if (!line) return notFound(typed);
   line->setQuantity(1);

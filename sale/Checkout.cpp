@@ -33,7 +33,8 @@ void Checkout::SettleBill() {
   if (!canStore()) return screen_.endProgram();
   if (sale_.line() != nullptr) commitLine();
   screen_.show(sale_.picture());
-  if (!takePayment()) return;
+  Permit favour;
+  if (!takePayment(favour)) return;
   if (books_.settle(*sale_.bill())) {
     sale_.settle(statusText(*sale_.bill(), books_.rules()));
     screen_.show(sale_.picture());
@@ -62,7 +63,7 @@ bool Checkout::canStore() {
   }
 }
 
-bool Checkout::takePayment() {
+bool Checkout::takePayment(Permit& favour) {
   ClsSell& bill = *sale_.bill();
   const auto due = amountDue(bill, books_.rules());
   if (!due) {
@@ -74,6 +75,7 @@ bool Checkout::takePayment() {
     devices_.receipt.PrintFoot(bill, facts(sale_.sharedMember()));
   });
   const bool isPaid = screen_.settle(settlement);
+  favour = settlement.favour();
   ensure(isPaid == bill.Paid(), "what the cashier confirmed is in the books, and nothing else");
   return isPaid;
 }

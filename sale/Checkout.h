@@ -40,7 +40,7 @@ class Checkout : private SalePart {
 
  private:
   bool canStore();
-  bool takePayment();
+  bool takePayment(Permit& favour);
   void dropUnstored();
   void withdrawDropped();
   std::shared_ptr<ClsSell> openNextBill();

@@ -61,8 +61,8 @@ int ItemLookup::choose(const FoundGoods& found) {
 // A negative price would pay the customer for taking the goods, so it counts as no answer.
 std::optional<Currency> ItemLookup::askPrice() {
   screen_.show(sale_.picture());
-  const Permit allowed = screen_.leave({Right::kPrice});
-  if (!allowed) return std::nullopt;
+  priceLeave_ = screen_.leave({Right::kPrice});
+  if (!priceLeave_) return std::nullopt;
   while (true) {
     const QString typed = screen_.prompt({}, {});
     const auto price = Currency::parse(typed.toStdString());

@@ -5,8 +5,10 @@
 #include <functional>
 #include <memory>
 #include <optional>
+#include <utility>
 
 #include "saleslib/GoodsLookup.h"
+#include "saleslib/Permission.h"
 
 class BillBooks;
 class Sale;
@@ -30,6 +32,8 @@ class ItemLookup {
   [[nodiscard]] Line LookupItemNo(const QString& code);
   /// The last look-up found goods whose price nobody may type.
   bool givenUp() const { return givenUp_; }
+  /// Leave for the price that was typed in the last look-up, to be kept until the line is rung.
+  Permit takePriceLeave() { return std::exchange(priceLeave_, {}); }
 
  private:
   Line lookUp(const std::function<FoundGoods()>& find);
@@ -41,4 +45,5 @@ class ItemLookup {
   GoodsLookup goods_;
   SaleScreen& screen_;
   bool givenUp_ = false;
+  Permit priceLeave_;
 };

@@ -4,6 +4,7 @@
 
 #include "base/Failure.h"
 #include "base/NumberText.h"
+#include "base/Words.h"
 #include "saleslib/BillNotes.h"
 #include "saleslib/CardNumber.h"
 #include "saleslib/ClsDayStat.h"
@@ -18,7 +19,7 @@ namespace {
 
 constexpr std::int16_t kMayGoNegative = 0;
 constexpr std::int16_t kOpen = 0, kSettled = 1;
-constexpr const char* kNoShift = "还没有开班，不能收款。请回到主菜单，先开班。";
+constexpr const char* kNoShift = Words::mark("还没有开班，不能收款。请回到主菜单，先开班。");
 
 void save(ClsSell& bill) {
   if (!bill.Save()) throw StoreError(bill.ErrText());
@@ -183,7 +184,7 @@ bool BillBooks::hasShift() const {
 
 std::string BillBooks::markPaid(ClsSell& bill) {
   ensure(bill.CardPay().isZero(), "a card is charged together with the mark");
-  if (!hasShift()) return kNoShift;
+  if (!hasShift()) return Words::tr(kNoShift);
   if (!bill.SavePaid()) return bill.ErrText();
   ensure(bill.Paid() && !connection_.inTransaction(), "a payment is durable before it is shown");
   return {};
@@ -192,7 +193,7 @@ std::string BillBooks::markPaid(ClsSell& bill) {
 CardResult BillBooks::payByCard(ClsSell& bill, const std::string& password) {
   ensure(bill.CardPay() == roundedToFen(bill.Amount()), "a card pays all that is due");
   ensure(!bill.Paid(), "a bill is paid once");
-  if (!hasShift()) throw StoreError(kNoShift);
+  if (!hasShift()) throw StoreError(Words::tr(kNoShift));
   Transaction paying(connection_);
   CardResult result = chargeCard(connection_, bill.CardNo(), password, bill.CardPay());
   if (result.outcome != CardOutcome::kDone) return result;

@@ -5,6 +5,7 @@
 #include <optional>
 
 #include "base/Failure.h"
+#include "base/Words.h"
 #include "saleslib/ClsOperator.h"
 #include "saleslib/Journal.h"
 #include "saleslib/PasswordHash.h"
@@ -36,9 +37,7 @@ void ClsLogin::Conn(Connection& connection) {
 // A refusal stays one when it cannot be noted; then it says why not.
 void ClsLogin::note(const std::string& number) {
   try {
-    const Journal journal(*connection_);
-    if (!approving_) return journal.note(EntryKind::kLoginRefused, number);
-    journal.note(EntryKind::kApprovalRefused, rightKind(*approving_).key, {{"number", number}});
+    Journal(*connection_).note(EntryKind::kLoginRefused, number);
   } catch (const StoreError& error) {
     errText_ = error.what();
   }
@@ -52,7 +51,7 @@ bool ClsLogin::Check(std::string_view number, std::string_view password) {
   const std::optional<std::string> hash = id ? storedHash(*connection_, *id) : std::nullopt;
   const bool matches = passwordMatches(hash.value_or(nobodysHash()), password);
   if (!hash || !matches) {
-    errText_ = "用户编号或密码不正确！";
+    errText_ = Words::tr("用户编号或密码不正确！");
     note(id ? std::to_string(*id) : std::string());
     return false;
   }

@@ -1,12 +1,10 @@
 #pragma once
 
 #include <memory>
-#include <optional>
 #include <string>
 #include <string_view>
 
 #include "saleslib/Export.h"
-#include "saleslib/Right.h"
 
 class ClsOperator;
 class Connection;
@@ -16,8 +14,6 @@ class Connection;
 class TESSALY_API ClsLogin {
  public:
   void Conn(Connection& connection);
-  /// A refusal is from now on one of an approval of that right, not of a log-in.
-  void Approving(Right right) { approving_ = right; }
   /// Both exactly as typed; a refusal is noted in the journal. True when they belong to an
   /// operator, who is then in Operator().
   [[nodiscard]] bool Check(std::string_view number, std::string_view password);
@@ -30,7 +26,6 @@ class TESSALY_API ClsLogin {
   void note(const std::string& number);
 
   Connection* connection_ = nullptr;
-  std::optional<Right> approving_;
   std::shared_ptr<ClsOperator> operator_;
   std::string errText_;
 };

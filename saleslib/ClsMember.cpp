@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "base/Failure.h"
+#include "base/Words.h"
 #include "saleslib/Fields.h"
 #include "saleslib/Journal.h"
 #include "saleslib/JournalRecords.h"
@@ -81,29 +82,32 @@ bool ClsMember::Update() {
 
 std::string ClsMember::refusal() const {
   if (Id() != 0 && !edited_) return {};
-  if (bh_.empty()) return "请输入会员编号！";
-  if (name_.empty()) return "请输入会员姓名！";
+  if (bh_.empty()) return Words::tr("请输入会员编号！");
+  if (name_.empty()) return Words::tr("请输入会员姓名！");
   if (std::string text = refusedText(); !text.empty()) return text;
-  if (age_ < 0) return "年龄不能是负数！";
-  if (discount_ && !(*discount_ >= 0 && std::isfinite(*discount_))) return "折扣不能是负数！";
-  if (balance_.value && *balance_.value < Currency()) return "储值卡余额不能是负数！";
+  if (age_ < 0) return Words::tr("年龄不能是负数！");
+  if (discount_ && !(*discount_ >= 0 && std::isfinite(*discount_)))
+    return Words::tr("折扣不能是负数！");
+  if (balance_.value && *balance_.value < Currency()) return Words::tr("储值卡余额不能是负数！");
   Rows rows = connection_->query("select id from member where bh = ?", bh_);
-  if (rows.next() && whole32(rows, "id") != Id()) return "会员编号 " + bh_ + " 已经存在！";
+  if (rows.next() && whole32(rows, "id") != Id()) return Words::tr("会员编号 %1 已经存在！", bh_);
   return {};
 }
 
 std::string ClsMember::refusedText() const {
   const std::pair<const char*, const std::string*> texts[] = {
-      {"会员编号", &bh_}, {"会员姓名", &name_},    {"性别", &sex_},
-      {"电话", &phone_},  {"联系地址", &address_}, {"备注", &other_},
+      {Words::mark("会员编号"), &bh_},      {Words::mark("会员姓名"), &name_},
+      {Words::mark("性别"), &sex_},         {Words::mark("电话"), &phone_},
+      {Words::mark("联系地址"), &address_}, {Words::mark("备注"), &other_},
   };
   for (const auto& [title, text] : texts) {
-    if (characters(*text) > kLongestText) return std::string(title) + "不能超过100个字符！";
-    if (hasControlCharacter(*text)) return std::string(title) + "含有无法保存的字符！";
+    if (characters(*text) > kLongestText)
+      return Words::tr("%1不能超过100个字符！", Words::tr(title));
+    if (hasControlCharacter(*text)) return Words::tr("%1含有无法保存的字符！", Words::tr(title));
   }
   const std::string& password = password_.value.value_or(std::string());
-  if (characters(password) > kLongestText) return "储值卡密码不能超过100个字符！";
-  if (hasControlCharacter(password)) return "储值卡密码含有无法保存的字符！";
+  if (characters(password) > kLongestText) return Words::tr("储值卡密码不能超过100个字符！");
+  if (hasControlCharacter(password)) return Words::tr("储值卡密码含有无法保存的字符！");
   return {};
 }
 
@@ -129,7 +133,7 @@ void ClsMember::update() {
       bh_, name_, sex_, age_, phone_, address_, other_, enabled_, newTotal_.unwritten(*connection_),
       newPoints_.unwritten(*connection_), discount_, birthday_.unwritten(*connection_),
       balance_.unwritten(*connection_), password_.unwritten(*connection_), id_);
-  if (changed == 0) throw StoreError("会员 " + bh_ + " 已被删除，没有保存！");
+  if (changed == 0) throw StoreError(Words::tr("会员 %1 已被删除，没有保存！", bh_));
 }
 
 template <class T>

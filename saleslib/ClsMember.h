@@ -102,6 +102,7 @@ class TESSALY_API ClsMember {
   std::int32_t id_ = 0;
   WriteMark inserted_ = kNotWritten;
   bool edited_ = false;
+  // untranslated: as it is stored
   std::string bh_, name_, sex_ = "男", phone_, other_, address_, errText_;
   std::int16_t age_ = 0, points_ = 0;
   DateTime joined_;

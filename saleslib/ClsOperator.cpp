@@ -3,6 +3,7 @@
 #include <nlohmann/json.hpp>
 
 #include "base/Failure.h"
+#include "base/Words.h"
 #include "saleslib/Journal.h"
 #include "saleslib/JournalRecords.h"
 #include "saleslib/PasswordHash.h"
@@ -65,7 +66,7 @@ void ClsOperator::update() {
       "update operators set name = ?, code = ?, online = ?, password = coalesce(?, password)"
       " where id = ?",
       name_, code_, online_, newPasswordHash_, id_);
-  if (changed == 0) throw StoreError("操作员 " + std::to_string(id_) + " 已被删除，没有保存！");
+  if (changed == 0) throw StoreError(Words::tr("操作员 %1 已被删除，没有保存！", id_));
 }
 
 void ClsOperator::storeRights() {

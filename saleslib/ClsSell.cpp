@@ -5,6 +5,7 @@
 
 #include "base/Failure.h"
 #include "base/NumberText.h"
+#include "base/Words.h"
 #include "saleslib/Fields.h"
 #include "store/Connection.h"
 #include "store/StoreError.h"
@@ -172,7 +173,7 @@ void ClsSell::store() {
   if (Paid()) values.push_back(toValue(Cash() - Change()));
   values.push_back(toValue(billNo_));
   if (connection_->runBound((Paid() ? kPayment : kUpdate).c_str(), std::move(values)) == 0) {
-    throw StoreError("单据 " + std::to_string(billNo_) + " 已不在数据文件中！");
+    throw StoreError(Words::tr("单据 %1 已不在数据文件中！", billNo_));
   }
 }
 
@@ -195,8 +196,8 @@ void ClsSell::LoadLines() {
   if (state_ == kOpen && !Paid()) {
     Recalculate();
   } else if (!AddsUp()) {
-    throw StoreError("单据 " + std::to_string(billNo_) +
-                     " 的商品明细与合计不符，数据文件可能已损坏，请与管理员联系！");
+    throw StoreError(
+        Words::tr("单据 %1 的商品明细与合计不符，数据文件可能已损坏，请与管理员联系！", billNo_));
   }
 }
 

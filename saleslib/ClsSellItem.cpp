@@ -4,6 +4,7 @@
 
 #include "base/Failure.h"
 #include "base/NumberText.h"
+#include "base/Words.h"
 #include "saleslib/Fields.h"
 #include "store/Connection.h"
 #include "store/StoreError.h"
@@ -65,8 +66,7 @@ void ClsSellItem::update() {
       spCode_, spName_, unit_, quantity_, price_, discount_, Money(), cost_, category_, entryCode_,
       ratio_, origin_, id_);
   if (changed == 0) {
-    throw StoreError("单据 " + std::to_string(billNo_) + " 的商品“" + spName_ +
-                     "”已不在数据文件中！");
+    throw StoreError(Words::tr("单据 %1 的商品“%2”已不在数据文件中！", billNo_, spName_));
   }
 }
 

@@ -5,6 +5,7 @@
 
 #include "base/Failure.h"
 #include "base/NumberText.h"
+#include "base/Words.h"
 #include "store/Connection.h"
 #include "store/Transaction.h"
 
@@ -17,8 +18,8 @@ constexpr std::int16_t kMayGoNegative = 0;
 
 std::string StockOutcome::refusal() const {
   ensure(!done(), "what was done has no refusal");
-  if (kind == kOutOfRange) return "数量超出范围：" + goods;
-  return "库存不足：" + goods + "现有库存 " + generalNumber(left);
+  if (kind == kOutOfRange) return Words::tr("数量超出范围：%1", goods);
+  return Words::tr("库存不足：%1现有库存 %2", goods, generalNumber(left));
 }
 
 void ClsStock::Init(Connection& connection, std::string itemCode) {
@@ -65,7 +66,7 @@ StockOutcome ClsStock::Move(double quantity, std::int16_t stockRule) {
 }
 
 StockOutcome ClsStock::refused(StockOutcome::Kind kind, double left) const {
-  return {kind, left, goodsName() + "（" + itemCode_ + "）"};
+  return {kind, left, Words::tr("%1（%2）", goodsName(), itemCode_)};
 }
 
 void ClsStock::add(double quantity) {

@@ -7,6 +7,7 @@
 #include "base/Failure.h"
 #include "base/NumberText.h"
 #include "base/Text.h"
+#include "base/Words.h"
 #include "saleslib/Journal.h"
 #include "saleslib/Tenders.h"
 #include "store/Connection.h"
@@ -37,7 +38,9 @@ std::optional<std::string> readText(std::string_view text) {
 
 std::optional<std::string> readSwitch(std::string_view text) {
   const std::string word = asciiLower(halfWidth(trimmed(text)));
+  // untranslated: what may be typed in either language
   if (word == "1" || word == "true" || word == "是") return "1";
+  // untranslated: what may be typed in either language
   if (word == "0" || word == "false" || word == "否") return "0";
   return std::nullopt;
 }
@@ -60,42 +63,47 @@ std::optional<std::string> readRate(std::string_view text) {
   return generalNumber(*rate);
 }
 
-constexpr Kind kText = {readText, "不能超过200个字符，也不能换行"};
-constexpr Kind kSwitch = {readSwitch, "只能是 0 或 1（否或是）"};
-constexpr Kind kWhole = {readWhole, "只能是 0 到 32767 的整数"};
-constexpr Kind kStockRule = {readStockRule, "只能是 0（可以负库存）或 1（不可以负库存）"};
-constexpr Kind kRate = {readRate, "只能是大于 0、不超过 1 的数（九折写 0.9）"};
+constexpr Kind kText = {readText, Words::mark("不能超过200个字符，也不能换行")};
+constexpr Kind kSwitch = {readSwitch, Words::mark("只能是 0 或 1（否或是）")};
+constexpr Kind kWhole = {readWhole, Words::mark("只能是 0 到 32767 的整数")};
+constexpr Kind kStockRule = {readStockRule,
+                             Words::mark("只能是 0（可以负库存）或 1（不可以负库存）")};
+constexpr Kind kRate = {readRate, Words::mark("只能是大于 0、不超过 1 的数（九折写 0.9）")};
 
 constexpr std::array kDefinitions = {
-    Definition{"ShopName", &kText, "", "店名，小票的第一行"},
-    Definition{"ReceiptText1", &kText, "", "小票文字一"},
-    Definition{"ReceiptText2", &kText, "", "小票文字二"},
-    Definition{"ReceiptText3", &kText, "", "小票文字三"},
-    Definition{"ReceiptText4", &kText, "", "小票文字四"},
-    Definition{"ReceiptText5", &kText, "", "小票文字五"},
-    Definition{"ReceiptText6", &kText, "", "小票文字六"},
-    Definition{"StockRule", &kStockRule, "0", "库存不够时：0 照卖，1 不卖"},
-    Definition{"RoundJiao", &kSwitch, "0", "应收舍入到角：0 否，1 是"},
-    Definition{"RoundYuan", &kSwitch, "0", "应收舍入到元：0 否，1 是"},
-    Definition{"PointUnit", &kWhole, "10", "消费多少元积 1 分，0 不积分"},
-    Definition{"GeneralRate", &kRate, "1", "没有自己折扣的商品打几折（九折写 0.9）"},
-    Definition{"VipRate", &kRate, "1", "贵宾卡打几折（九折写 0.9）"},
-    Definition{"SilverRate", &kRate, "1", "银卡打几折（九折写 0.9）"},
-    Definition{"GoldRate", &kRate, "1", "金卡打几折（九折写 0.9）"},
-    Definition{"BackupOnExit", &kSwitch, "0", "退出程序时备份数据文件：0 否，1 是"},
-    Definition{"CheckPayment", &kSwitch, "0", "收款、价格、折扣像打错时先问一声：0 否，1 是"},
-    Definition{"GoodsImport", &kSwitch, "0", "收银台上可以导入商品：0 否，1 是"},
-    Definition{"PhonePay", &kSwitch, "0", "收手机扫码付款：0 否，1 是"},
+    Definition{"ShopName", &kText, "", Words::mark("店名，小票的第一行")},
+    Definition{"ReceiptText1", &kText, "", Words::mark("小票文字一")},
+    Definition{"ReceiptText2", &kText, "", Words::mark("小票文字二")},
+    Definition{"ReceiptText3", &kText, "", Words::mark("小票文字三")},
+    Definition{"ReceiptText4", &kText, "", Words::mark("小票文字四")},
+    Definition{"ReceiptText5", &kText, "", Words::mark("小票文字五")},
+    Definition{"ReceiptText6", &kText, "", Words::mark("小票文字六")},
+    Definition{"StockRule", &kStockRule, "0", Words::mark("库存不够时：0 照卖，1 不卖")},
+    Definition{"RoundJiao", &kSwitch, "0", Words::mark("应收舍入到角：0 否，1 是")},
+    Definition{"RoundYuan", &kSwitch, "0", Words::mark("应收舍入到元：0 否，1 是")},
+    Definition{"PointUnit", &kWhole, "10", Words::mark("消费多少元积 1 分，0 不积分")},
+    Definition{"GeneralRate", &kRate, "1", Words::mark("没有自己折扣的商品打几折（九折写 0.9）")},
+    Definition{"VipRate", &kRate, "1", Words::mark("贵宾卡打几折（九折写 0.9）")},
+    Definition{"SilverRate", &kRate, "1", Words::mark("银卡打几折（九折写 0.9）")},
+    Definition{"GoldRate", &kRate, "1", Words::mark("金卡打几折（九折写 0.9）")},
+    Definition{"BackupOnExit", &kSwitch, "0", Words::mark("退出程序时备份数据文件：0 否，1 是")},
+    Definition{"CheckPayment", &kSwitch, "0",
+               Words::mark("收款、价格、折扣像打错时先问一声：0 否，1 是")},
+    Definition{"GoodsImport", &kSwitch, "0", Words::mark("收银台上可以导入商品：0 否，1 是")},
+    Definition{"PhonePay", &kSwitch, "0", Words::mark("收手机扫码付款：0 否，1 是")},
     Definition{"OwnerReport", &kSwitch, "0",
-               "收银程序的更多功能里有经营报表（要有 report 权限）：0 否，1 是"},
-    Definition{"Practice", &kSwitch, "0", "收银程序的更多功能里有练习，练习不入账：0 否，1 是"},
-    Definition{"Approval", &kSwitch, "0", "操作员没有权限的操作要有人授权：0 否，1 是"},
+               Words::mark("收银程序的更多功能里有经营报表（要有 report 权限）：0 否，1 是")},
+    Definition{"Practice", &kSwitch, "0",
+               Words::mark("收银程序的更多功能里有练习，练习不入账：0 否，1 是")},
+    Definition{"Approval", &kSwitch, "0",
+               Words::mark("操作员没有权限的操作要有人授权：0 否，1 是")},
     Definition{"Shifts", &kSwitch, "0",
-               "按班次收银：先开班再收款，结班时清点钱箱，出班次表：0 否，1 是"},
+               Words::mark("按班次收银：先开班再收款，结班时清点钱箱，出班次表：0 否，1 是")},
     Definition{
         "Journal", &kSwitch, "0",
-        "记日志：每笔业务一条，只增不改，check 拿账目和它核对；打开时收银程序先退出：0 否，1 "
-        "是"},
+        Words::mark(
+            "记日志：每笔业务一条，只增不改，check 拿账目和它核对；打开时收银程序先退出：0 否，1 "
+            "是")},
 };
 
 const Definition* find(std::string_view name) {
@@ -125,7 +133,7 @@ std::vector<ClsSysParam::Parameter> ClsSysParam::list() const {
   parameters.reserve(kDefinitions.size());
   for (const Definition& definition : kDefinitions) {
     parameters.push_back({definition.name, value(definition.name),
-                          values_.contains(definition.name), definition.meaning});
+                          values_.contains(definition.name), Words::tr(definition.meaning)});
   }
   return parameters;
 }
@@ -162,9 +170,9 @@ void ClsSysParam::note(const std::string& name, const std::string& before,
 
 std::string ClsSysParam::refusal(std::string_view name, std::string_view value) {
   const Definition* definition = find(name);
-  if (definition == nullptr) return "没有这个参数：" + std::string(name);
+  if (definition == nullptr) return Words::tr("没有这个参数：%1", name);
   if (definition->kind->read(value)) return {};
-  return std::string(definition->name) + " " + definition->kind->refusal + "！";
+  return Words::tr("%1 %2！", definition->name, Words::tr(definition->kind->refusal));
 }
 
 std::string ClsSysParam::value(std::string_view name) const {

@@ -3,6 +3,7 @@
 #include <limits>
 #include <string>
 
+#include "base/Words.h"
 #include "store/Row.h"
 #include "store/StoreError.h"
 
@@ -11,8 +12,7 @@ namespace {
 template <class Whole>
 Whole fitted(std::int64_t number, std::string_view column) {
   if (number < std::numeric_limits<Whole>::min() || number > std::numeric_limits<Whole>::max()) {
-    throw StoreError("数据文件中 " + std::string(column) + " 的值超出范围：" +
-                     std::to_string(number));
+    throw StoreError(Words::tr("数据文件中 %1 的值超出范围：%2", column, number));
   }
   return static_cast<Whole>(number);
 }

@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "base/Failure.h"
+#include "base/Words.h"
 #include "saleslib/ClsMember.h"
 #include "saleslib/ClsSell.h"
 #include "saleslib/ClsStock.h"
@@ -19,7 +20,7 @@ std::int16_t ratioOf(const Row& row) {
   const std::int64_t ratio = row.whole("dwbl").value_or(1);
   if (ratio < std::numeric_limits<std::int16_t>::min() ||
       ratio > std::numeric_limits<std::int16_t>::max()) {
-    throw Overflow("商品“" + row.text("spmc") + "”的单位比率太大：" + std::to_string(ratio));
+    throw Overflow(Words::tr("商品“%1”的单位比率太大：%2", row.text("spmc"), ratio));
   }
   return static_cast<std::int16_t>(ratio);
 }

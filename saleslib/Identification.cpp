@@ -1,8 +1,10 @@
 #include "saleslib/Identification.h"
 
+#include "base/Words.h"
 #include "saleslib/ClsLogin.h"
 #include "saleslib/ClsOperator.h"
 #include "saleslib/ClsSysParam.h"
+#include "saleslib/Journal.h"
 #include "saleslib/LoginBrake.h"
 #include "saleslib/StaffCard.h"
 
@@ -17,12 +19,10 @@ Identification::Answer Identification::answer(const Find& find) {
 }
 
 Identification::Answer Identification::byPassword(std::string_view number,
-                                                  std::string_view password,
-                                                  std::optional<Right> approving) {
+                                                  std::string_view password) {
   return answer([&] {
     ClsLogin login;
     login.Conn(connection_);
-    if (approving) login.Approving(*approving);
     const bool matches = login.Check(number, password);
     return Answer{matches ? login.Operator() : nullptr, login.ErrText()};
   });
@@ -31,7 +31,9 @@ Identification::Answer Identification::byPassword(std::string_view number,
 Identification::Answer Identification::bySwipe(std::string_view typed) {
   return answer([&] {
     Answer found{staffCardHolder(connection_, typed)};
-    if (!found.person) found.refusal = "没有这张员工卡！";
+    if (found.person) return found;
+    found.refusal = "没有这张员工卡！";
+    Journal(connection_).note(EntryKind::kLoginRefused);
     return found;
   });
 }

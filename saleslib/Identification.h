@@ -3,12 +3,10 @@
 #include <chrono>
 #include <cstdint>
 #include <memory>
-#include <optional>
 #include <string>
 #include <string_view>
 
 #include "saleslib/Export.h"
-#include "saleslib/Right.h"
 
 class ClsOperator;
 class ClsSysParam;
@@ -28,10 +26,8 @@ class TESSALY_API Identification {
     std::string refusal = {};                  ///< worded for the cashier, unless there is a wait
     std::chrono::seconds wait{0};              ///< how long nothing is looked at
   };
-  /// Both exactly as typed. A refusal is noted as one of a log-in, or of an approval of that right.
-  /// Throws StoreError.
-  [[nodiscard]] Answer byPassword(std::string_view number, std::string_view password,
-                                  std::optional<Right> approving = {});
+  /// Both exactly as typed. Throws StoreError.
+  [[nodiscard]] Answer byPassword(std::string_view number, std::string_view password);
   /// A text that isSwipe. Throws StoreError.
   [[nodiscard]] Answer bySwipe(std::string_view typed);
 

@@ -50,17 +50,22 @@ void Journal::note(EntryKind kind, const std::string& touches,
 
 // The last entry is read under the write lock: another program may have added one meanwhile.
 void Journal::append(EntryKind kind, const std::string& touches, nlohmann::json body) const {
-  const std::optional<Last> before = last();
-  const DateTime now = connection_.user().clock();
-  if (before && kind != EntryKind::kClockSetBack && isSetBack(before->time, storedText(now))) {
+  std::optional<Last> before = last();
+  const std::string now = storedText(connection_.user().clock());
+  if (before && isSetBack(before->time, now)) {
     nlohmann::json from = nlohmann::json::object();
     from["from"] = before->time;
-    append(EntryKind::kClockSetBack, {}, std::move(from));
-    return append(kind, touches, std::move(body));
+    write(before, EntryKind::kClockSetBack, now, {}, std::move(from));
+    before = last();
   }
+  write(before, kind, now, touches, std::move(body));
+}
+
+void Journal::write(const std::optional<Last>& before, EntryKind kind, const std::string& time,
+                    const std::string& touches, nlohmann::json body) const {
   body["v"] = kBodyVersion;
   JournalEntry entry{.seq = before ? before->seq + 1 : 1,
-                     .time = storedText(now),
+                     .time = time,
                      .till = kTill,
                      .operatorId = connection_.user().number(),
                      .approver = connection_.user().approver(),

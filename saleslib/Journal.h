@@ -53,6 +53,8 @@ class TESSALY_API Journal {
   };
   std::optional<Last> last() const;
   void append(EntryKind kind, const std::string& touches, nlohmann::json body) const;
+  void write(const std::optional<Last>& before, EntryKind kind, const std::string& time,
+             const std::string& touches, nlohmann::json body) const;
 
   Connection& connection_;
 };

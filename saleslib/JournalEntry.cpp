@@ -5,13 +5,14 @@
 #include <array>
 
 #include "base/DateTime.h"
+#include "saleslib/Sodium.h"
 #include "store/Row.h"
 
 namespace {
 
 template <std::size_t Bytes>
 std::string hashOf(const std::string& text) {
-  [[maybe_unused]] static const int started = sodium_init();
+  startSodium();
   std::array<unsigned char, Bytes> hash{};
   crypto_generichash(hash.data(), hash.size(), reinterpret_cast<const unsigned char*>(text.data()),
                      text.size(), nullptr, 0);

@@ -4,6 +4,7 @@
 #include <cstddef>
 
 #include "base/Failure.h"
+#include "base/Words.h"
 
 const std::vector<EntryKindName>& entryKinds() {
   using enum EntryKind;
@@ -45,7 +46,7 @@ const std::vector<EntryKindName>& entryKinds() {
       {kRestored, "restored", "恢复备份"},
       {kClockSetBack, "clock_set_back", "时钟倒退"},
       {kApprovalGiven, "approval_given", "授权"},
-      {kApprovalRefused, "approval_refused", "授权被拒"},
+      {kApprovalRefused, "approval_refused", "没有授权"},
       {kShiftOpened, "shift_opened", "开班"},
       {kCashMoved, "cash_moved", "钱箱存取"},
       {kShiftCounted, "shift_counted", "清点钱箱"},

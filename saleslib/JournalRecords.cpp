@@ -79,6 +79,8 @@ nlohmann::json operatorRecord(Connection& connection, std::int64_t id) {
   if (!row.next()) return {};
   Json person = recordOf(row, {"id", "name", "code"});
   addMark(person, row);
+  Rows card = connection.query("select track from operator_cards where operator_id = ?", id);
+  if (card.next()) person["card"] = textMark(card.text("track"));
   Json rights = Json::array();
   Rows rows = connection.query(
       "select right_key from operator_rights where operator_id = ? order by right_key", id);

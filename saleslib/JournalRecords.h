@@ -19,7 +19,7 @@ TESSALY_API nlohmann::json returnRecord(Connection& connection, std::int64_t id)
 TESSALY_API nlohmann::json topUpRecord(Connection& connection, std::int64_t id);
 /// With balance (card), purchases (total_spent) and points, as they are at that moment.
 TESSALY_API nlohmann::json memberRecord(Connection& connection, std::int64_t id);
-/// With the list of rights, and the mark of a staff card.
+/// With the list of rights and the mark of a staff card.
 TESSALY_API nlohmann::json operatorRecord(Connection& connection, std::int64_t id);
 /// With what it moved, counted and was closed with.
 TESSALY_API nlohmann::json shiftRecord(Connection& connection, std::int64_t id);

@@ -4,6 +4,7 @@
 #include <nlohmann/json.hpp>
 #include <utility>
 
+#include "base/Words.h"
 #include "saleslib/JournalEntry.h"
 #include "saleslib/JournalKinds.h"
 #include "saleslib/Tenders.h"
@@ -16,11 +17,12 @@ using Json = nlohmann::json;
 class Listed {
  public:
   void add(const std::string& text) {
-    if (!text.empty()) text_ += (text_.empty() ? "" : "，") + text;
+    if (!text.empty()) text_ += (text_.empty() ? "" : Words::tr("，")) + text;
   }
   /// The text of that name, if the object has one, behind its caption.
-  void add(const Json& object, const char* name, const std::string& caption) {
-    if (const std::string text = textIn(object, name); !text.empty()) add(caption + " " + text);
+  void add(const Json& object, const char* name, const char* caption) {
+    if (const std::string text = textIn(object, name); !text.empty())
+      add(Words::tr("%1 %2", Words::tr(caption), text));
   }
   static std::string textIn(const Json& object, const char* name) {
     const auto found = object.find(name);
@@ -41,21 +43,36 @@ std::string shownLine(const Json& line) {
 void addBill(Listed& list, const Json& body) {
   if (!body.contains("bill")) return;
   const Json& bill = body.at("bill");
-  list.add(std::to_string(body.at("lines").size()) + " 行");
-  list.add(bill, "amount", "应收");
+  list.add(Words::tr("%1 行", body.at("lines").size()));
+  list.add(bill, "amount", Words::mark("应收"));
   for (const TenderKind& kind : tenderKinds()) list.add(bill, kind.column, kind.name);
-  list.add(bill, "member_id", "会员内部号");
+  list.add(bill, "member_id", Words::mark("会员内部号"));
 }
 
 void addRecords(Listed& list, const Json& body) {
   using Columns = std::array<std::pair<const char*, const char*>, 3>;
   static const std::pair<const char*, Columns> kRecords[] = {
-      {"return", {{{"item_id", "商品行"}, {"quantity", "数量"}, {"money", "退款"}}}},
-      {"top_up", {{{"cardbh", "卡号"}, {"inMoney", "付款"}, {"addmoney", "充值"}}}},
-      {"member", {{{"bh", "卡号"}, {"name", "姓名"}, {"phone", "电话"}}}},
-      {"operator", {{{"id", "编号"}, {"name", "姓名"}, {"rights", "权限"}}}},
-      {"shift", {{{"cash_float", "备用金"}, {"opened", "开班"}, {"opened_name", "开班人"}}}},
-      {"card", {{{"number", "卡号"}, {"by", "余额变动"}, {"", ""}}}},
+      {"return",
+       {{{"item_id", Words::mark("商品行")},
+         {"quantity", Words::mark("数量")},
+         {"money", Words::mark("退款")}}}},
+      {"top_up",
+       {{{"cardbh", Words::mark("卡号")},
+         {"inMoney", Words::mark("付款")},
+         {"addmoney", Words::mark("充值")}}}},
+      {"member",
+       {{{"bh", Words::mark("卡号")},
+         {"name", Words::mark("姓名")},
+         {"phone", Words::mark("电话")}}}},
+      {"operator",
+       {{{"id", Words::mark("编号")},
+         {"name", Words::mark("姓名")},
+         {"rights", Words::mark("权限")}}}},
+      {"shift",
+       {{{"opened", Words::mark("开班")},
+         {"opened_name", Words::mark("开班人")},
+         {"cash_float", Words::mark("备用金")}}}},
+      {"card", {{{"number", Words::mark("卡号")}, {"by", Words::mark("余额变动")}, {"", ""}}}},
   };
   for (const auto& [name, columns] : kRecords) {
     if (!body.contains(name)) continue;
@@ -65,32 +82,34 @@ void addRecords(Listed& list, const Json& body) {
 
 // What is many rows is counted.
 void addCounts(Listed& list, const Json& body) {
-  constexpr std::pair<const char*, const char*> kMany[] = {{"stock", " 种商品的库存"},
-                                                           {"members", " 位会员"},
-                                                           {"operators", " 位操作员"},
-                                                           {"returns", " 笔退货"},
-                                                           {"shifts", " 个班次"},
-                                                           {"top_ups", " 笔充值"},
-                                                           {"left", " 行"}};
+  constexpr std::pair<const char*, const char*> kMany[] = {
+      {"stock", Words::mark("%1 种商品的库存")},
+      {"members", Words::mark("%1 位会员")},
+      {"operators", Words::mark("%1 位操作员")},
+      {"returns", Words::mark("%1 笔退货")},
+      {"top_ups", Words::mark("%1 笔充值")},
+      {"shifts", Words::mark("%1 个班次")},
+      {"left", Words::mark("%1 行")}};
   for (const auto& [name, unit] : kMany) {
-    if (body.contains(name)) list.add(std::to_string(body.at(name).size()) + unit);
+    if (body.contains(name)) list.add(Words::tr(unit, body.at(name).size()));
   }
   if (body.contains("bills")) {
     const Json& some = body.at("bills");
-    list.add("单据 " + some.at("first").dump() + " 到 " + some.at("last").dump());
+    list.add(Words::tr("单据 %1 到 %2", some.at("first").dump(), some.at("last").dump()));
   }
 }
 
 void addTexts(Listed& list, const Json& body) {
   constexpr std::pair<const char*, const char*> kTexts[] = {
-      {"from", "从"},      {"to", "到"},       {"sum", "合计"},    {"added", "新增"},
-      {"updated", "更新"}, {"rows", "行数"},   {"file", "文件"},   {"backup", "备份"},
-      {"old", "原文件"},   {"amount", "金额"}, {"reason", "原因"}, {"expected", "应有"},
-      {"counted", "清点"}, {"over", "长短款"}, {"number", "编号"}, {"name", "姓名"}};
+      {"from", "从"},         {"to", "到"},       {"sum", "合计"},      {"added", "新增"},
+      {"updated", "更新"},    {"rows", "行数"},   {"right", "权限"},    {"size", "多少"},
+      {"approver", "批准人"}, {"file", "文件"},   {"backup", "备份"},   {"old", "原文件"},
+      {"amount", "金额"},     {"reason", "原因"}, {"expected", "应有"}, {"counted", "清点"},
+      {"over", "长短款"}};
   if (body.contains("line")) list.add(shownLine(body.at("line")));
   if (body.contains("parameters") && body.contains("before")) {
     for (const auto& [name, value] : body.at("parameters").items())
-      list.add(Listed::textIn(body, "before") + " 改成 " + value.get<std::string>());
+      list.add(Words::tr("%1 改成 %2", Listed::textIn(body, "before"), value.get<std::string>()));
   }
   for (const auto& [name, caption] : kTexts) list.add(body, name, caption);
 }
@@ -99,7 +118,7 @@ void addTexts(Listed& list, const Json& body) {
 
 std::string entryName(const JournalEntry& entry) {
   const EntryKindName* kind = entryKindOf(entry.kind);
-  return kind == nullptr ? entry.kind : kind->name;
+  return kind == nullptr ? entry.kind : Words::tr(kind->name);
 }
 
 std::string entryDetails(const JournalEntry& entry) {
@@ -112,6 +131,6 @@ std::string entryDetails(const JournalEntry& entry) {
     addTexts(list, body);
     return list.text();
   } catch (const Json::exception&) {
-    return "内容读不出来";
+    return Words::tr("内容读不出来");
   }
 }

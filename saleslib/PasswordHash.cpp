@@ -4,6 +4,7 @@
 
 #include <array>
 
+#include "base/Words.h"
 #include "saleslib/Sodium.h"
 #include "store/StoreError.h"
 
@@ -13,7 +14,7 @@ std::string passwordHash(std::string_view password) {
   if (crypto_pwhash_str(hash.data(), password.data(), password.size(),
                         crypto_pwhash_OPSLIMIT_INTERACTIVE,
                         crypto_pwhash_MEMLIMIT_INTERACTIVE) != 0) {
-    throw StoreError("内存不足，密码没有保存！");
+    throw StoreError(Words::tr("内存不足，密码没有保存！"));
   }
   return hash.data();
 }

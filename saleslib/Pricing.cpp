@@ -33,6 +33,7 @@ Price priceOfBarcodeRow(const Row& row, const ClsMember* member, const Date& tod
     price.discount = Discount(member->Discount());
   } else if (onPromotion(row, today)) {
     price.price = row.currency("cxj").value_or(Currency());
+    // untranslated: stored with the line and printed
     price.name = "(特)" + price.name;
   } else {
     price.price = row.currency("xsdj").value_or(Currency());

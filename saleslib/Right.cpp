@@ -6,6 +6,7 @@
 #include "base/Failure.h"
 #include "base/NumberText.h"
 #include "base/Text.h"
+#include "base/Words.h"
 
 namespace {
 
@@ -21,21 +22,21 @@ bool fits(const RightKind& kind, Currency limit) {
 const std::array<RightKind, kRights>& rightKinds() {
   using enum RightKind::Limit;
   static constexpr std::array<RightKind, kRights> kKinds = {{
-      {Right::kSell, "sell", "收银"},
-      {Right::kDiscount, "discount", "打折和优惠", kPercent},
-      {Right::kPrice, "price", "手工定价"},
-      {Right::kNegative, "negative", "负数量"},
-      {Right::kDelete, "delete", "删行和撤单"},
-      {Right::kReturn, "return", "退货", kYuan},
-      {Right::kTopUp, "topup", "会员充值"},
-      {Right::kDrawer, "drawer", "开钱箱"},
-      {Right::kReprint, "reprint", "补打小票"},
-      {Right::kQuery, "query", "销售查询和导出"},
-      {Right::kMembers, "members", "会员资料"},
-      {Right::kSettings, "settings", "设置和导入商品"},
-      {Right::kShift, "shift", "交班"},
-      {Right::kReport, "report", "经营报表"},
-      {Right::kJournal, "journal", "操作日志"},
+      {Right::kSell, "sell", Words::mark("收银")},
+      {Right::kDiscount, "discount", Words::mark("打折和优惠"), kPercent},
+      {Right::kPrice, "price", Words::mark("手工定价")},
+      {Right::kNegative, "negative", Words::mark("负数量")},
+      {Right::kDelete, "delete", Words::mark("删行和撤单")},
+      {Right::kReturn, "return", Words::mark("退货"), kYuan},
+      {Right::kTopUp, "topup", Words::mark("会员充值")},
+      {Right::kDrawer, "drawer", Words::mark("开钱箱")},
+      {Right::kReprint, "reprint", Words::mark("补打小票")},
+      {Right::kQuery, "query", Words::mark("销售查询和导出")},
+      {Right::kMembers, "members", Words::mark("会员资料")},
+      {Right::kSettings, "settings", Words::mark("设置和导入商品")},
+      {Right::kShift, "shift", Words::mark("交班")},
+      {Right::kReport, "report", Words::mark("经营报表")},
+      {Right::kJournal, "journal", Words::mark("操作日志")},
   }};
   return kKinds;
 }

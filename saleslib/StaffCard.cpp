@@ -44,7 +44,8 @@ std::optional<std::int16_t> holder(Connection& connection, std::string_view type
   return static_cast<std::int16_t>(rows.whole("operator_id").value());
 }
 
-void noteChange(Connection& connection, std::int16_t operatorId) {
+// Leftovers of an operator who is gone are nobody's change.
+void note(Connection& connection, std::int16_t operatorId) {
   const nlohmann::json record = operatorRecord(connection, operatorId);
   if (record.is_null()) return;
   Journal(connection).note(EntryKind::kOperatorChanged, operatorId, [&record] {
@@ -73,14 +74,15 @@ bool giveStaffCard(Connection& connection, std::int16_t operatorId, std::string_
   connection.run("delete from operator_cards where operator_id = ?", operatorId);
   connection.run("insert into operator_cards (operator_id, track) values (?, ?)", operatorId,
                  hashOf(typed));
-  noteChange(connection, operatorId);
+  note(connection, operatorId);
   transaction.commit();
   return true;
 }
 
 void takeStaffCard(Connection& connection, std::int16_t operatorId) {
   Transaction transaction(connection);
-  if (connection.run("delete from operator_cards where operator_id = ?", operatorId) > 0)
-    noteChange(connection, operatorId);
+  const std::int64_t taken =
+      connection.run("delete from operator_cards where operator_id = ?", operatorId);
+  if (taken > 0) note(connection, operatorId);
   transaction.commit();
 }

@@ -11,7 +11,7 @@ class Connection;
 
 /// Staff cards. Whoever swipes one is its holder, without a password; so a card is known only by
 /// its whole track as the reader types it, between ";" and "?", and the data file has nothing but a
-/// hash of that. Giving and taking one is noted in the journal as a change of the operator.
+/// hash of that.
 
 /// Whether a text is a swiped track: from ";" to "?", with something between; full-width characters
 /// count as half-width ones.

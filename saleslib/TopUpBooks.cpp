@@ -4,6 +4,7 @@
 
 #include "base/Failure.h"
 #include "base/NumberText.h"
+#include "base/Words.h"
 #include "saleslib/CardNumber.h"
 #include "saleslib/Fields.h"
 #include "saleslib/Journal.h"
@@ -50,7 +51,7 @@ void TopUpBooks::load(const TopUp& topUp, std::int64_t record) {
       connection_.run("update member set card = round(card + ?, 4) where bh = ?",
                       topUp.balance - topUp.before, topUp.cardNumber);
   if (cards == 0) {
-    throw StoreError("会员卡 " + topUp.cardNumber + " 已不在数据文件中，余额没有保存！");
+    throw StoreError(Words::tr("会员卡 %1 已不在数据文件中，余额没有保存！", topUp.cardNumber));
   }
   ensure(cards == 1, "a card's number is one member's");
   connection_.run(

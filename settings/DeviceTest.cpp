@@ -48,9 +48,11 @@ DeviceTest::Result DeviceTest::result(const QString& device, const std::string& 
 QString DeviceTest::tryPrinter() {
   const auto printer = ReceiptPrinter::ofSettings(settings_, ports_);
   const auto columns = static_cast<std::size_t>(printer->paper().line);
+  // untranslated: printed
   const std::string line = gbk::centred("打印测试 " + generalText(clock_()), columns, '-');
   const bool isPage = printer->kind() == ReceiptPrinter::Kind::kPage;
   Outage(report_).tried([&] {
+    // untranslated: printed
     if (isPage) return printer->print(LineDocument{"打印测试", {line}});
     // Four empty lines move the test line out from under the cover.
     printer->printLines({line, "", "", "", ""});

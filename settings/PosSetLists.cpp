@@ -4,7 +4,7 @@
 #include <QGridLayout>
 #include <QLabel>
 #include <QStringList>
-#include <variant>
+#include <algorithm>
 
 #include "app/Ports.h"
 #include "platform/QtText.h"
@@ -13,15 +13,6 @@
 
 using Text = std::string ClsPosSet::*;
 using Number = int ClsPosSet::*;
-
-struct PosSetLists::Choice {
-  const char* caption;
-  const char* list;
-  std::vector<const char*> entries;  ///< as they are stored; shown in the screen's language
-  const char* hint;
-  std::variant<Text, Number> setting;  ///< the entry's text, or its position
-  int firstPosition = 0;               ///< what the first entry's position is stored as
-};
 
 namespace {
 
@@ -34,12 +25,31 @@ void showText(QComboBox& list, const std::string& setting) {
   list.setCurrentIndex(text.isEmpty() ? 0 : list.findData(text));
 }
 
-std::string chosenText(const QComboBox& list) {
-  const QString entry = list.currentData().toString();
+/// What an entry is stored as.
+std::string storedText(const QString& entry) {
   return entry == kNone ? std::string() : entry.toStdString();
 }
 
 }  // namespace
+
+int PosSetLists::Choice::entryOf(const ClsPosSet& settings) const {
+  if (const Number* number = std::get_if<Number>(&setting)) {
+    const int position = settings.**number - firstPosition;
+    return position < static_cast<int>(entries.size()) ? position : -1;
+  }
+  const auto found = std::ranges::find_if(entries, [&](const char* entry) {
+    return storedText(entry) == settings.*std::get<Text>(setting);
+  });
+  return found == entries.end() ? -1 : static_cast<int>(found - entries.begin());
+}
+
+void PosSetLists::Choice::choose(ClsPosSet& settings, int entry) const {
+  if (const Number* number = std::get_if<Number>(&setting)) {
+    settings.** number = entry + firstPosition;
+  } else {
+    settings.*std::get<Text>(setting) = storedText(entries[static_cast<std::size_t>(entry)]);
+  }
+}
 
 const std::vector<PosSetLists::Choice>& PosSetLists::choices() {
   static const std::vector<Choice> all = {
@@ -108,8 +118,7 @@ void PosSetLists::addRow(QGridLayout& grid, const Choice& choice) {
   if (const Text* text = std::get_if<Text>(&choice.setting)) {
     showText(*list, settings_.**text);
   } else {
-    const int position = settings_.*std::get<Number>(choice.setting) - choice.firstPosition;
-    list->setCurrentIndex(position < list->count() ? position : -1);
+    list->setCurrentIndex(choice.entryOf(settings_));
   }
   const int row = static_cast<int>(lists_.size());
   grid.addWidget(new QLabel(tr(choice.caption)), row, 0, Qt::AlignRight | Qt::AlignVCenter);
@@ -124,9 +133,9 @@ ClsPosSet PosSetLists::chosen() const {
     const QComboBox& list = *lists_[i];
     const Choice& choice = choices()[i];
     if (const Text* text = std::get_if<Text>(&choice.setting)) {
-      settings.** text = chosenText(list);
+      settings.** text = storedText(list.currentData().toString());
     } else if (list.currentIndex() >= 0) {
-      settings.*std::get<Number>(choice.setting) = list.currentIndex() + choice.firstPosition;
+      choice.choose(settings, list.currentIndex());
     }
   }
   return settings;

@@ -1,6 +1,8 @@
 #pragma once
 
 #include <QWidget>
+#include <string>
+#include <variant>
 #include <vector>
 
 #include "app/ClsPosSet.h"
@@ -16,6 +18,22 @@ class PosSetLists : public QWidget {
   Q_OBJECT
 
  public:
+  /// A list and the setting behind it.
+  struct Choice {
+    const char* caption;
+    const char* list;
+    std::vector<const char*> entries;  ///< as they are stored; shown in the screen's language
+    const char* hint;
+    std::variant<std::string ClsPosSet::*, int ClsPosSet::*> setting;  ///< the entry's text, or its
+                                                                       ///< position
+    int firstPosition = 0;  ///< what the first entry's position is stored as
+
+    /// The entry that the settings have; -1 for what is none.
+    int entryOf(const ClsPosSet& settings) const;
+    void choose(ClsPosSet& settings, int entry) const;
+  };
+  static const std::vector<Choice>& choices();
+
   explicit PosSetLists(const ClsPosSet& settings, QWidget* parent = nullptr);
 
   const std::vector<QComboBox*>& lists() const { return lists_; }
@@ -25,9 +43,6 @@ class PosSetLists : public QWidget {
   void test(const Ports& ports, const Clock& clock);
 
  private:
-  /// One list and the setting behind it.
-  struct Choice;
-  static const std::vector<Choice>& choices();
   void addRow(QGridLayout& grid, const Choice& choice);
 
   ClsPosSet settings_;

@@ -32,6 +32,12 @@ const std::array<Palette, 3>& palettes() {
   return all;
 }
 
+void Palette::paint(ClsPosSet& till) const {
+  int ClsPosSet::*const fields[] = {&ClsPosSet::C1, &ClsPosSet::C2, &ClsPosSet::C3,
+                                    &ClsPosSet::C4, &ClsPosSet::C5, &ClsPosSet::C6};
+  for (std::size_t i = 0; i < colours.size(); ++i) till.*fields[i] = colours[i];
+}
+
 ColoursPage::ColoursPage(SetupAnswers& answers) : SetupPage(answers) {
   QStringList names;
   for (const Palette& palette : palettes()) names += tr(palette.name);
@@ -66,10 +72,6 @@ void ColoursPage::show() {
 }
 
 QString ColoursPage::take() {
-  const auto& colours = palettes()[static_cast<std::size_t>(cobPalette_->currentIndex())].colours;
-  ClsPosSet& till = answers_.till;
-  int ClsPosSet::*const fields[] = {&ClsPosSet::C1, &ClsPosSet::C2, &ClsPosSet::C3,
-                                    &ClsPosSet::C4, &ClsPosSet::C5, &ClsPosSet::C6};
-  for (std::size_t i = 0; i < colours.size(); ++i) till.*fields[i] = colours[i];
+  palettes()[static_cast<std::size_t>(cobPalette_->currentIndex())].paint(answers_.till);
   return {};
 }

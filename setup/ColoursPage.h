@@ -10,6 +10,8 @@ class QFrame;
 struct Palette {
   const char* name;
   std::array<int, 6> colours;  ///< C1 ... C6, 0x00BBGGRR
+
+  void paint(ClsPosSet& till) const;
 };
 const std::array<Palette, 3>& palettes();
 

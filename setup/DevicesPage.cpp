@@ -15,7 +15,9 @@ DevicesPage::DevicesPage(SetupAnswers& answers, const posMod& pos)
   connect(cmdTest, &QPushButton::clicked, this,
           [this, &pos] { lists_->test(*pos.ports, pos.clock); });
   grid().addWidget(cmdTest, 1, 0, 1, 2, Qt::AlignLeft);
-  note(tr("以后可以在主菜单的收银设置里更改。"));
+  note(tr(
+      "插在 USB 口或并口上、不用装驱动的小票打印机选 LPT1，第二台选 LPT2；在系统里装好了驱动的选 "
+      "USB。以后可以在主菜单的收银设置里更改。"));
 }
 
 // The colours are another page's.

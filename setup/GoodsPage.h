@@ -3,34 +3,43 @@
 #include <QString>
 #include <array>
 
-#include "base/DateTime.h"
 #include "setup/SetupPage.h"
 
-class FileField;
+class KeyBoard;
+class QPushButton;
+class QTableWidget;
 
-/// Goods from files, typed, or none yet. What is answered is tried before the page is left, and can
-/// be looked at before.
+/// Goods from a sheet, typed one after the other, or none yet. A sheet is previewed as it is at the
+/// till (goodsin/frmGoodsIn.h) and comes in with the shop; typed goods are tried one by one.
 class GoodsPage : public SetupPage {
   Q_OBJECT
 
  public:
-  GoodsPage(SetupAnswers& answers, Clock clock);
+  GoodsPage(SetupAnswers& answers, const KeyBoard& keys);
   QString title() const override { return tr("商品"); }
   QString take() override;
 
  private:
-  struct Row {
-    QLineEdit *barcode, *name, *price;
-  };
-  FileField* file(const char* name, const QString& caption);
-  QWidget* typedRows();
-  /// Takes what was typed; else why not.
-  QString takeRows();
-  QString takeFile(const char* table, FileField& file);
-  void look();
+  static constexpr std::size_t kFields = 5;
 
-  Clock clock_;
-  FileField *master_, *barcodes_;
-  std::array<Row, 4> rows_;
-  QLabel* preview_;
+  void addSheetRow();
+  void addTypedRow();
+  void addTable();
+  void chooseSheet();
+  void dropSheet();
+  TypedGoods typed() const;
+  void show(const TypedGoods& goods);
+  /// Adds what is in the fields; else why not.
+  QString add();
+  void addAndGoOn();
+  void showList();
+  void correct(int row);
+  void remove(int row);
+
+  const KeyBoard& keys_;
+  QLabel* lblSheet_;
+  QPushButton* cmdNoSheet_;
+  std::array<QLineEdit*, kFields> fields_;  ///< in the order of TypedGoods
+  QLabel* lblTyped_;
+  QTableWidget* tblTyped_;
 };

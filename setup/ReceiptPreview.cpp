@@ -26,8 +26,10 @@ struct SampleLine {
 };
 
 // Their sum is rounded by every rule.
+// untranslated: a receipt is Chinese
 constexpr SampleLine kLines[] = {{"鲜牛奶", 468, 2}, {"散装大米", 599, 1.25}};
 constexpr int kPaidYuan = 20;
+// untranslated: a setting as it is stored
 constexpr const char* kUsualLayout = "打印商品前7个字简称";
 
 ClsSell sampleSale(Connection& scratch, const ClsSysParam& shop, const Clock& clock) {

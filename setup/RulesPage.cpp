@@ -1,37 +1,47 @@
 #include "setup/RulesPage.h"
 
 #include <QComboBox>
-#include <string>
+#include <QLineEdit>
+
+#include "platform/QtText.h"
 
 namespace {
 
-struct Question {
-  const char* parameter;
-  const char* caption;
-};
-
-constexpr Question kQuestions[] = {
-    {"PhonePay", QT_TRANSLATE_NOOP("RulesPage", "收手机扫码付款：")},
-    {"CheckPayment", QT_TRANSLATE_NOOP("RulesPage", "收款、价格、折扣像打错时先问一声：")},
-    {"BackupOnExit", QT_TRANSLATE_NOOP("RulesPage", "退出程序时备份数据文件：")},
-    {"StockRule", QT_TRANSLATE_NOOP("RulesPage", "库存不够就不卖：")},
-};
+/// The questions' texts are those of a room that knows no Qt.
+QString shown(const char* text) {
+  return QCoreApplication::translate("SetupQuestion", text);
+}
 
 }  // namespace
 
 RulesPage::RulesPage(SetupAnswers& answers) : SetupPage(answers) {
-  for (const Question& question : kQuestions) {
-    auto* list = choice(question.parameter, tr(question.caption), {tr("否"), tr("是")});
-    list->setCurrentIndex(answers.shop.parameters[question.parameter] == "1" ? 1 : 0);
-    switches_.push_back(list);
+  for (const SetupQuestion& question : setupQuestions()) {
+    const QString caption = tr("%1：").arg(shown(question.text));
+    const QString value = qtText(answers.shop.answerTo(question));
+    if (question.answers.empty()) {
+      QLineEdit* line = field(question.key, caption);
+      line->setText(value);
+      fields_.push_back(line);
+      continue;
+    }
+    QComboBox* list = choice(question.key, caption, {});
+    for (const SetupQuestion::Answer& answer : question.answers)
+      list->addItem(shown(answer.text), QString(answer.value));
+    list->setCurrentIndex(std::max(0, list->findData(value)));
+    fields_.push_back(list);
   }
-  note(tr("以后店主可以用 tilladmin param 更改。"));
+  note(tr("以后店主可以更改：店铺的用 tilladmin param，备份的在 Config.ini 里。"));
 }
 
 QString RulesPage::take() {
-  for (const QComboBox* list : switches_) {
-    answers_.shop.parameters[list->objectName().toStdString()] =
-        std::to_string(list->currentIndex());
+  for (std::size_t i = 0; i < fields_.size(); ++i) {
+    const SetupQuestion& question = setupQuestions()[i];
+    const auto* line = qobject_cast<const QLineEdit*>(fields_[i]);
+    const QString value = line ? line->text().trimmed()
+                               : qobject_cast<QComboBox*>(fields_[i])->currentData().toString();
+    const std::string refused = question.refusal ? question.refusal(value.toStdString()) : "";
+    if (!refused.empty()) return refuse(fields_[i], qtText(refused));
+    answers_.shop.answer(question, value.toStdString());
   }
   return {};
 }

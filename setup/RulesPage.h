@@ -2,7 +2,7 @@
 
 #include "setup/SetupPage.h"
 
-/// What the shop has on or off.
+/// The questions of shop/SetupQuestion.h.
 class RulesPage : public SetupPage {
   Q_OBJECT
 
@@ -12,5 +12,5 @@ class RulesPage : public SetupPage {
   QString take() override;
 
  private:
-  std::vector<QComboBox*> switches_;  ///< in the order of the questions
+  std::vector<QWidget*> fields_;  ///< lists and lines, in the order of the questions
 };

@@ -2,6 +2,8 @@
 
 #include <QString>
 #include <QWidget>
+#include <functional>
+#include <map>
 #include <vector>
 
 #include "app/ClsPosSet.h"
@@ -26,6 +28,9 @@ class SetupPage : public QWidget {
   virtual QString title() const = 0;
   /// What asks, in the order of the eye.
   const std::vector<QWidget*>& controls() const { return controls_; }
+  /// What Enter does in those where it does not just go on.
+  using EnterActions = std::map<const QWidget*, std::function<void()>>;
+  const EnterActions& enterActions() const { return enterActions_; }
   /// The page comes to the front.
   virtual void enter() {}
   /// Takes what was answered. An empty text, or why the page cannot be left, a sentence; `wrong` is
@@ -49,6 +54,9 @@ class SetupPage : public QWidget {
     controls_.push_back(control);
     return control;
   }
+  void onEnter(const QWidget* control, std::function<void()> action) {
+    enterActions_[control] = std::move(action);
+  }
   QString refuse(QWidget* control, const QString& why);
   QGridLayout& grid() { return *grid_; }
 
@@ -58,4 +66,5 @@ class SetupPage : public QWidget {
   QGridLayout* grid_;
   QWidget* wrong_ = nullptr;
   std::vector<QWidget*> controls_;
+  EnterActions enterActions_;
 };

@@ -1,6 +1,5 @@
 #include "setup/frmSetup.h"
 
-#include <QApplication>
 #include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QLabel>
@@ -10,8 +9,6 @@
 #include <algorithm>
 
 #include "app/posMod.h"
-#include "base/Failure.h"
-#include "platform/QtText.h"
 #include "platform/VirtualKey.h"
 #include "setup/ColoursPage.h"
 #include "setup/DevicesPage.h"
@@ -19,9 +16,10 @@
 #include "setup/PeoplePage.h"
 #include "setup/ReceiptPage.h"
 #include "setup/RulesPage.h"
+#include "setup/SettingsFile.h"
 #include "setup/StartPage.h"
+#include "setup/dlgMaking.h"
 #include "shell/Modal.h"
-#include "shop/Refusal.h"
 #include "store/DataSource.h"
 
 namespace {
@@ -34,7 +32,7 @@ frmSetup::frmSetup(posMod& pos, const KeyBoard& keys, QWidget* parent)
     : KeyDrivenDialog(keys, EnterKey::kMapped, parent), pos_(pos), stack_(new QStackedWidget) {
   setObjectName("frmSetup");
   setWindowTitle(tr("开店"));
-  answers_.till.LoadSet(pos.configIni);
+  readSettings(pos.configIni, answers_.till, answers_.shop);
   addPages();
   lblStep_ = label("Label1", {});
   cmdBack_ = button("cmdBack", tr("上一步"));
@@ -52,11 +50,12 @@ void frmSetup::addPages() {
             new DevicesPage(answers_, pos_),
             new ReceiptPage(answers_, pos_.clock),
             new PeoplePage(answers_),
-            new GoodsPage(answers_, pos_.clock),
+            new GoodsPage(answers_, keys()),
             new RulesPage(answers_),
             new ColoursPage(answers_)};
   for (SetupPage* page : pages_) {
     page->keepAtTop();
+    for (const auto& [control, action] : page->enterActions()) onEnter(control, action);
     stack_->addWidget(page);
   }
 }
@@ -122,23 +121,16 @@ void frmSetup::back() {
 }
 
 void frmSetup::make() {
-  QApplication::setOverrideCursor(Qt::WaitCursor);
-  std::string refusal;
-  try {
-    makeShop(answers_.shop, pos_.dataSource(), pos_.clock, [this] { storeSettings(); });
-  } catch (const Failure& failure) {
-    refusal = failure.what();
-  }
-  QApplication::restoreOverrideCursor();
-  if (refusal.empty()) return accept();
-  messageBox(this, tr("店铺没有建立：%1").arg(qtText(refusal)), {}, BoxIcon::kExclamation);
-}
-
-void frmSetup::storeSettings() {
-  answers_.till.SaveSet(pos_.configIni);
-  ClsPosSet stored;
-  stored.LoadSet(pos_.configIni);
-  if (stored != answers_.till) throw Refusal(tr("设置写不进 Config.ini。").toStdString());
+  const auto store = [this] { storeSettings(pos_.configIni, answers_.till, answers_.shop); };
+  dlgMaking making(
+      keys(),
+      [&](const GoOn& goOn) {
+        return makeShop(answers_.shop, pos_.dataSource(), pos_.clock, store, goOn);
+      },
+      this);
+  if (making.exec() == QDialog::Accepted) return accept();
+  if (making.refusal().isEmpty()) return;
+  messageBox(this, tr("店铺没有建立：%1").arg(making.refusal()), {}, BoxIcon::kExclamation);
 }
 
 void frmSetup::cancel() {

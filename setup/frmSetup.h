@@ -31,7 +31,6 @@ class frmSetup : public KeyDrivenDialog {
   void next();
   void back();
   void make();
-  void storeSettings();
 
   posMod& pos_;
   SetupAnswers answers_;

@@ -136,8 +136,12 @@ bool KeyDrivenDialog::walk(const QObject* watched, int key) {
 
 void KeyDrivenDialog::focusFrom(const QObject* control, int by) {
   const auto count = std::ssize(walk_);
-  const auto at = std::ranges::find(walk_, control) - walk_.begin();
-  walk_[static_cast<std::size_t>((at + by + count) % count)]->setFocus(Qt::TabFocusReason);
+  auto at = std::ranges::find(walk_, control) - walk_.begin();
+  do {
+    at = (at + by + count) % count;
+  } while (!walk_[static_cast<std::size_t>(at)]->isEnabled() &&
+           walk_[static_cast<std::size_t>(at)] != control);
+  walk_[static_cast<std::size_t>(at)]->setFocus(Qt::TabFocusReason);
 }
 
 bool KeyDrivenDialog::eventFilter(QObject* watched, QEvent* event) {

@@ -12,11 +12,22 @@
 #include "base/Failure.h"
 #include "platform/KeyName.h"
 #include "platform/QtText.h"
-#include "saleslib/Journal.h"
+#include "saleslib/Identification.h"
 #include "saleslib/StaffCard.h"
 #include "shell/FramedFields.h"
 #include "shell/IdentityTexts.h"
+#include "shell/Noted.h"
 #include "shell/ShownText.h"
+
+namespace {
+
+/// What an approval touches, as rights are written: "drawer", "discount:15".
+std::string deedKey(const Deed& deed) {
+  const bool isMeasured = rightKind(deed.right).limit != RightKind::Limit::kNone;
+  return rightText({deed.right, isMeasured ? std::optional(deed.size) : std::nullopt});
+}
+
+}  // namespace
 
 dlgApproval::dlgApproval(posMod& pos, const Deed& deed, QWidget* parent)
     : KeyDrivenDialog(pos.gKeyBoard, EnterKey::kMapped, parent),
@@ -67,10 +78,9 @@ void dlgApproval::check() {
   const std::string number = txtNumber_->text().toStdString();
   Identification::Answer answer;
   try {
-    answer = isSwipe(number) ? pos_.identification().bySwipe(number)
-                             : pos_.identification().byPassword(
-                                   number, txtPassword_->text().toStdString(), deed_.right);
-    noteRefusal(answer);
+    answer = isSwipe(number)
+                 ? pos_.identification().bySwipe(number)
+                 : pos_.identification().byPassword(number, txtPassword_->text().toStdString());
   } catch (const Failure& failure) {
     return say(qtText(failure.what()));
   }
@@ -89,15 +99,6 @@ void dlgApproval::check() {
   accept();
 }
 
-// A wrong password was noted by who looked at it.
-void dlgApproval::noteRefusal(const Identification::Answer& answer) const {
-  const bool isSwiped = isSwipe(txtNumber_->text().toStdString());
-  if (answer.person ? answer.person->Rights().Allow(deed_) : !isSwiped || answer.wait.count() > 0)
-    return;
-  pos_.journal().note(EntryKind::kApprovalRefused, rightKind(deed_.right).key,
-                      {{"number", answer.person ? std::to_string(answer.person->Id()) : ""}});
-}
-
 void dlgApproval::say(const QString& text) {
   lblSaid_->setText(shownText(text));
   lblSaid_->setProperty("refusal", true);
@@ -107,15 +108,13 @@ void dlgApproval::say(const QString& text) {
 
 Permit askLeave(posMod& pos, QWidget* parent, const Deed& deed) {
   ensure(pos.gOperator != nullptr, "who asks for leave is logged in");
-  bool wasAsked = false;
-  Permit leave = pos.permission.may(*pos.gOperator, deed, [&](const Deed& wanted) {
-    wasAsked = true;
+  bool isAsked = false;
+  const Permit permit = pos.permission.may(*pos.gOperator, deed, [&](const Deed& wanted) {
+    isAsked = true;
     return dlgApproval(pos, wanted, parent).ask();
   });
-  if (wasAsked && leave) {
-    pos.journal().note(
-        EntryKind::kApprovalGiven, rightKind(deed.right).key,
-        {{"number", std::to_string(leave->approver->Id())}, {"name", leave->approver->Name()}});
-  }
-  return leave;
+  if (!isAsked) return permit;
+  // The permit's approver is the entry's.
+  const EntryKind kind = permit ? EntryKind::kApprovalGiven : EntryKind::kApprovalRefused;
+  return noted(pos, parent, kind, qtText(deedKey(deed))) ? permit : nullptr;
 }

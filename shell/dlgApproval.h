@@ -2,7 +2,6 @@
 
 #include <memory>
 
-#include "saleslib/Identification.h"
 #include "saleslib/Permission.h"
 #include "shell/KeyDrivenDialog.h"
 
@@ -23,7 +22,6 @@ class dlgApproval : public KeyDrivenDialog {
   QString question() const;
   void numberEntered();
   void check();
-  void noteRefusal(const Identification::Answer& answer) const;
   void say(const QString& text);
 
   posMod& pos_;
@@ -35,6 +33,5 @@ class dlgApproval : public KeyDrivenDialog {
 };
 
 /// Whether the operator at the till may do that now, asking for an approval where he may not (see
-/// Permission); what was answered is noted in the journal. There is an operator (ensure). Throws
-/// StoreError.
+/// Permission). There is an operator (ensure). Throws StoreError.
 [[nodiscard]] Permit askLeave(posMod& pos, QWidget* parent, const Deed& deed);

@@ -8,6 +8,7 @@
 #include "base/DateTime.h"
 #include "base/NumberText.h"
 #include "base/Text.h"
+#include "base/Words.h"
 
 namespace {
 
@@ -100,32 +101,33 @@ std::optional<Value> Column::valueOf(const std::string& field) const {
   return std::nullopt;
 }
 
-std::string_view Column::expectation() const {
+std::string Column::expectation() const {
   switch (kind) {
     case Kind::kCode:
-      return "应是编码，不能空着，不超过 255 个字，不能有换行等控制字符，也不能是科学计数法";
+      return Words::tr(
+          "应是编码，不能空着，不超过 255 个字，不能有换行等控制字符，也不能是科学计数法");
     case Kind::kName:
-      return "应是文字，不能空着，不超过 255 个字，也不能有换行等控制字符";
+      return Words::tr("应是文字，不能空着，不超过 255 个字，也不能有换行等控制字符");
     case Kind::kText:
-      return "应是文字，不超过 255 个字，也不能有换行等控制字符";
+      return Words::tr("应是文字，不超过 255 个字，也不能有换行等控制字符");
     case Kind::kPrice:
-      return "应是不小于 0 的金额";
+      return Words::tr("应是不小于 0 的金额");
     case Kind::kMoney:
-      return "应是金额";
+      return Words::tr("应是金额");
     case Kind::kFactor:
-      return "应是大于 0、不超过 1 的折扣系数（九折写 0.9）";
+      return Words::tr("应是大于 0、不超过 1 的折扣系数（九折写 0.9）");
     case Kind::kQuantity:
-      return "应是数量";
+      return Words::tr("应是数量");
     case Kind::kRatio:
-      return "应是 1 到 32767 的整数";
+      return Words::tr("应是 1 到 32767 的整数");
     case Kind::kCount:
-      return "应是 -32768 到 32767 的整数";
+      return Words::tr("应是 -32768 到 32767 的整数");
     case Kind::kKey:
-      return "应是大于 0 的整数";
+      return Words::tr("应是大于 0 的整数");
     case Kind::kFlag:
-      return "应是 0 或 1";
+      return Words::tr("应是 0 或 1");
     case Kind::kDate:
-      return "应是日期，例如 2026-11-22 或 2026-11-22 09:05:03";
+      return Words::tr("应是日期，例如 2026-11-22 或 2026-11-22 09:05:03");
   }
   return "";
 }

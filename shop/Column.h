@@ -37,5 +37,5 @@ struct Column {
   /// characters, as everywhere in the data file, and has no control character.
   std::optional<Value> valueOf(const std::string& field) const;
   /// What the column wants, for the one who has to correct the file.
-  std::string_view expectation() const;
+  std::string expectation() const;
 };

@@ -7,6 +7,7 @@
 #include "base/Currency.h"
 #include "base/NumberText.h"
 #include "base/Text.h"
+#include "base/Words.h"
 #include "shop/RowDoubts.h"
 #include "store/Connection.h"
 
@@ -146,7 +147,7 @@ std::string GoodsComparison::resolve(const GoodsRow& row) {
   barcode_ = row.text(GoodsField::kBarcode);
   itemCode_ = row.text(GoodsField::kItemCode);
   if (itemCode_.empty()) {
-    if (barcode_.empty()) return "商品编码和条码都空着";
+    if (barcode_.empty()) return Words::tr("商品编码和条码都空着");
     if (std::string refusal = resolveItem(); !refusal.empty()) return refusal;
   }
   if (!row.gives(GoodsField::kBarcode)) {
@@ -155,14 +156,14 @@ std::string GoodsComparison::resolve(const GoodsRow& row) {
         itemCode_);
     if (own.next()) barcode_ = own.text("sptm");
   }
-  if (!isFirst(barcodeKey(barcode_))) return "与前面的一行是同一种商品、同一个条码";
+  if (!isFirst(barcodeKey(barcode_))) return Words::tr("与前面的一行是同一种商品、同一个条码");
   return {};
 }
 
 std::string GoodsComparison::resolveItem() {
   Rows items = connection_.query("select spbm from tmda where sptm = ?", barcode_);
   itemCode_ = items.next() ? items.text("spbm") : barcode_;
-  if (items.next()) return "条码 " + barcode_ + " 属于几种商品，要写明商品编码";
+  if (items.next()) return Words::tr("条码 %1 属于几种商品，要写明商品编码", barcode_);
   return {};
 }
 
@@ -200,7 +201,7 @@ void GoodsComparison::merge(const KnownTable& table, const Fields& given,
     if (!value && field) value = knownValue(*field);
     if (!value) value = column.fallback;
     if (!value) {
-      outcome.refusal = "是新的，但表里没有“" + std::string(headingOf(*field)) + "”这一列";
+      outcome.refusal = Words::tr("是新的，但表里没有“%1”这一列", headingOf(*field));
       return;
     }
     if (before && index >= table.keyColumns && textOf(*value) != textOf((*before)[index])) {
@@ -281,6 +282,7 @@ void GoodsComparison::compareCase(const GoodsRow& row, Outcome& outcome) {
     set("zhjj", toValue(lineAmount(*cost, count, Discount())), GoodsField::kCost);
   }
   if (!before) {
+    // untranslated: stored with the goods
     set("spmc", known(GoodsField::kName) + " 整箱", GoodsField::kName);
     set("ggxh", "1x" + textOf(ratio), GoodsField::kSpecification);
     outcome.changes(headingOf(GoodsField::kCaseBarcode));

@@ -2,6 +2,7 @@
 
 #include <utility>
 
+#include "base/Words.h"
 #include "shop/GoodsComparison.h"
 #include "shop/GoodsRow.h"
 #include "shop/GoodsStage.h"
@@ -16,7 +17,7 @@ constexpr double kReadingShare = 0.4;  // of an import's time
 
 OpenedSheet withHeadings(std::unique_ptr<SheetReader> reader) {
   OpenedSheet sheet{std::move(reader), {}};
-  if (!sheet.reader->next(sheet.headings)) throw Refusal("表是空的，第一行应是列名。");
+  if (!sheet.reader->next(sheet.headings)) throw Refusal(Words::tr("表是空的，第一行应是列名。"));
   return sheet;
 }
 

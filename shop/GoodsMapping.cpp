@@ -4,6 +4,7 @@
 #include <map>
 
 #include "base/Text.h"
+#include "base/Words.h"
 #include "shop/Refusal.h"
 #include "store/Connection.h"
 #include "store/Transaction.h"
@@ -58,7 +59,7 @@ void GoodsMapping::choose(std::size_t place, std::optional<GoodsField> field) {
 
 std::string GoodsMapping::fault() const {
   if (placeOf(GoodsField::kItemCode) || placeOf(GoodsField::kBarcode)) return {};
-  return "表里没有“商品编码”，也没有“条码”，不知道是哪种商品。";
+  return Words::tr("表里没有“商品编码”，也没有“条码”，不知道是哪种商品。");
 }
 
 GoodsMapping guessMapping(const std::vector<std::string>& headings) {
@@ -76,7 +77,7 @@ GoodsMapping guessMapping(const std::vector<std::string>& headings) {
 void saveMapping(Connection& connection, const std::string& name, const GoodsMapping& mapping) {
   const std::string kept = trimmed(name);
   if (kept.empty() || characters(kept) > kLongestName || hasControlCharacter(kept)) {
-    throw Refusal("列名对应的名字不能空着，不能超过 255 个字，也不能有控制字符。");
+    throw Refusal(Words::tr("列名对应的名字不能空着，不能超过 255 个字，也不能有控制字符。"));
   }
   Transaction transaction(connection);
   connection.run("delete from goods_mapping where name = ?", kept);
@@ -101,10 +102,10 @@ std::vector<std::string> mappingNames(Connection& connection) {
 GoodsMapping namedMapping(Connection& connection, const std::string& name,
                           const std::vector<std::string>& headings) {
   const Kept kept = keptMapping(connection, trimmed(name));
-  if (kept.empty()) throw Refusal("没有叫“" + name + "”的列名对应。");
+  if (kept.empty()) throw Refusal(Words::tr("没有叫“%1”的列名对应。", name));
   GoodsMapping mapping = applied(kept, headings);
   if (!mapping.fault().empty()) {
-    throw Refusal("列名对应“" + name + "”不是这张表的：" + mapping.fault());
+    throw Refusal(Words::tr("列名对应“%1”不是这张表的：%2", name, mapping.fault()));
   }
   return mapping;
 }

@@ -2,15 +2,14 @@
 
 #include "base/NumberText.h"
 #include "base/Text.h"
+#include "base/Words.h"
 #include "shop/GoodsMapping.h"
 #include "shop/ShownField.h"
 
 namespace {
 
 std::string countText(std::size_t fields, std::size_t headings) {
-  std::string text = "有 ";
-  text.append(std::to_string(fields)).append(" 列，标题行有 ");
-  return text.append(std::to_string(headings)).append(" 列");
+  return Words::tr("有 %1 列，标题行有 %2 列", fields, headings);
 }
 
 }  // namespace
@@ -45,8 +44,9 @@ std::string GoodsRow::text(GoodsField field) const {
 
 std::string GoodsRow::caseFault() const {
   if (!hasCase()) return {};
-  if (text(GoodsField::kCaseRatio).empty()) return "有箱条码，却没有“每箱”的数量";
-  if (text(GoodsField::kCasePrice).empty()) return "有箱条码，却没有“箱价”";
-  if (text(GoodsField::kCaseBarcode) == text(GoodsField::kBarcode)) return "箱条码和条码相同";
+  if (text(GoodsField::kCaseRatio).empty()) return Words::tr("有箱条码，却没有“每箱”的数量");
+  if (text(GoodsField::kCasePrice).empty()) return Words::tr("有箱条码，却没有“箱价”");
+  if (text(GoodsField::kCaseBarcode) == text(GoodsField::kBarcode))
+    return Words::tr("箱条码和条码相同");
   return {};
 }

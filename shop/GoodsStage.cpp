@@ -5,6 +5,7 @@
 #include <random>
 #include <utility>
 
+#include "base/Words.h"
 #include "saleslib/Journal.h"
 #include "shop/Refusal.h"
 #include "store/Connection.h"
@@ -55,7 +56,7 @@ GoodsStage::GoodsStage(Connection& connection, WriteSlices::Company company)
       tables_(stagedTables(connection)),
       token_(newToken()) {
   Transaction beginning(connection_);
-  if (goodsWaiting(connection_) > 0) throw Refusal("上一次导入还没有写完，请稍后再试。");
+  if (goodsWaiting(connection_) > 0) throw Refusal(Words::tr("上一次导入还没有写完，请稍后再试。"));
   connection_.run("delete from goods_in");
   connection_.run("insert into goods_in (id, token) values (1, ?)", token_);
   beginning.commit();
@@ -129,7 +130,7 @@ void GoodsStage::seal() {
 void GoodsStage::requireOwn(std::int64_t staged) {
   const std::int64_t known = connection_.run(
       "update goods_in set staged = staged + ? where token = ? and whole = 0", staged, token_);
-  if (known == 0) throw Refusal("有另一个导入开始了，这一个什么也没有写入。");
+  if (known == 0) throw Refusal(Words::tr("有另一个导入开始了，这一个什么也没有写入。"));
 }
 
 std::int64_t goodsWaiting(Connection& connection) {

@@ -7,6 +7,7 @@
 
 #include "base/CsvReader.h"
 #include "base/Text.h"
+#include "base/Words.h"
 #include "saleslib/Journal.h"
 #include "saleslib/JournalBase.h"
 #include "shop/Refusal.h"
@@ -24,20 +25,26 @@ constexpr std::int64_t kRowsPerProgress = 50000;
 constexpr int kMostBadRows = 20;  // as many as fit on one screen
 
 std::string lineText(const CsvReader& reader) {
-  return "第 " + std::to_string(reader.line()) + " 行";
+  return Words::tr("第 %1 行", reader.line());
 }
 
 std::string columnNames(const Table& table) {
   std::string names;
   for (const Column& column : table.columns)
-    names += (names.empty() ? "" : "、") + std::string(column.name);
+    names += (names.empty() ? "" : Words::tr("、")) + std::string(column.name);
   return names;
 }
 
 /// What a whole header without any comma is separated by; empty when it is one name.
 const char* otherSeparator(const std::string& header) {
   constexpr std::pair<const char*, const char*> kSeparators[] = {
-      {";", "分号"}, {"\t", "制表符"}, {"，", "中文逗号"}, {"|", "竖线"}, {"；", "中文分号"}};
+      {";", Words::mark("分号")},
+      {"\t", Words::mark("制表符")},
+      // untranslated: what separates the columns of a file
+      {"，", Words::mark("中文逗号")},
+      {"|", Words::mark("竖线")},
+      // untranslated: what separates the columns of a file
+      {"；", Words::mark("中文分号")}};
   for (const auto& [separator, name] : kSeparators) {
     if (header.find(separator) != std::string::npos) return name;
   }
@@ -66,8 +73,8 @@ Imported Importer::run(std::istream& text) {
     if (!holdsNothing(fields_)) readRow(reader);
     if (++rows % kRowsPerProgress == 0) progress_(rows, reader.progress());
   }
-  if (badRowCount_ == kMostBadRows) badRows_ += "\n……后面的行没有再看。";
-  if (badRowCount_ > 0) throw Refusal("什么也没有导入：\n" + badRows_);
+  if (badRowCount_ == kMostBadRows) badRows_ += Words::tr("\n……后面的行没有再看。");
+  if (badRowCount_ > 0) throw Refusal(Words::tr("什么也没有导入：\n%1", badRows_));
   updateFragmentIndex(connection_);
   noteImport();
   transaction.commit();
@@ -85,16 +92,17 @@ void Importer::noteImport() {
 }
 
 void Importer::readHeader(CsvReader& reader) {
-  if (!reader.next(fields_)) throw Refusal("文件是空的，第一行应是列名。");
+  if (!reader.next(fields_)) throw Refusal(Words::tr("文件是空的，第一行应是列名。"));
   for (const std::string& field : fields_) {
     const std::size_t index = columnNamed(trimmed(field));
-    if (isInFile_[index]) throw Refusal("列“" + trimmed(field) + "”写了两次，什么也没有导入。");
+    if (isInFile_[index])
+      throw Refusal(Words::tr("列“%1”写了两次，什么也没有导入。", trimmed(field)));
     isInFile_[index] = true;
     present_.push_back(index);
   }
   for (std::size_t key = 0; key < table_.keyColumns; ++key) {
     if (isInFile_[key]) continue;
-    throw Refusal("缺少“" + std::string(table_.columns[key].name) + "”这一列，什么也没有导入。");
+    throw Refusal(Words::tr("缺少“%1”这一列，什么也没有导入。", table_.columns[key].name));
   }
 }
 
@@ -102,12 +110,13 @@ std::size_t Importer::columnNamed(const std::string& heading) const {
   if (const auto index = table_.indexOf(heading)) return *index;
   const std::string separator = fields_.size() == 1 ? otherSeparator(heading) : "";
   if (!separator.empty()) {
-    throw Refusal("各列之间要用英文逗号分开，这个文件用的是" + separator +
-                  "，什么也没有导入。请另存为逗号分隔的 CSV 文件。");
+    throw Refusal(Words::tr(
+        "各列之间要用英文逗号分开，这个文件用的是%1，什么也没有导入。请另存为逗号分隔的 CSV 文件。",
+        separator));
   }
-  throw Refusal("表 " + std::string(table_.name) + " 没有“" +
-                (hasControlCharacter(heading) ? shownField(heading) : heading) +
-                "”这一列，什么也没有导入。可以有的列：" + columnNames(table_) + "。");
+  throw Refusal(Words::tr("表 %1 没有“%2”这一列，什么也没有导入。可以有的列：%3。", table_.name,
+                          (hasControlCharacter(heading) ? shownField(heading) : heading),
+                          columnNames(table_)));
 }
 
 // An update leaves the key's columns alone, unless it has nothing else to write.
@@ -144,8 +153,7 @@ void Importer::prepareWriting() {
 
 void Importer::readRow(const CsvReader& reader) {
   if (fields_.size() != present_.size()) {
-    refuseRow(reader, "有 " + std::to_string(fields_.size()) + " 列，标题行有 " +
-                          std::to_string(present_.size()) + " 列");
+    refuseRow(reader, Words::tr("有 %1 列，标题行有 %2 列", fields_.size(), present_.size()));
     return;
   }
   if (!readValues(reader)) return;
@@ -174,16 +182,16 @@ void Importer::writeRow(const CsvReader& reader) {
     if (!isAmongGoods()) {
       const std::string& item = std::get<std::string>(values_[*table_.indexOf("spbm")]);
       if (equalIgnoringCase(table_.name, "tmda")) {
-        refuseRow(reader,
-                  "商品资料 spda 里没有编码 " + item +
-                      "，这样的条码卖了也查不到；请先导入 spda，或者在同一个命令里一起导入");
+        refuseRow(reader, Words::tr("商品资料 spda 里没有编码 %1，这样的条码卖了也查不到；请先导入 "
+                                    "spda，或者在同一个命令里一起导入",
+                                    item));
         return;
       }
-      doubtRow(reader, "商品资料 spda 里没有编码 " + item);
+      doubtRow(reader, Words::tr("商品资料 spda 里没有编码 %1", item));
     }
     if (write(reader)) requireFirst(reader);
   } catch (const StoreError& error) {
-    throw Refusal(lineText(reader) + "存不进去，什么也没有导入：" + error.what());
+    throw Refusal(Words::tr("%1存不进去，什么也没有导入：%2", lineText(reader), error.what()));
   }
 }
 
@@ -198,7 +206,7 @@ bool Importer::write(const CsvReader& reader) {
   if (writer_->update(std::move(bound))) {
     ++imported_.updated;
   } else if (!lacking_.empty()) {
-    refuseRow(reader, "是新的，但文件缺少“" + lacking_ + "”这一列");
+    refuseRow(reader, Words::tr("是新的，但文件缺少“%1”这一列", lacking_));
     return false;
   } else {
     writer_->insert(values_);
@@ -214,6 +222,7 @@ void Importer::recordBalance() {
   if (!card || !isInFile_[*card] || accounts_ == Accounts::kKeep) return;
   connection_.runBound(
       "insert into cardStored (cardbh, addmoney, inMoney, commerce, bz, complete)"
+      // untranslated: stored with the top-up
       " select bh, round(?1 - card, 4), 0, ?1, '导入会员时改成的余额', 1 from member"
       " where bh = ?2 and card <> ?1",
       {values_[*card], values_[0]});
@@ -225,7 +234,7 @@ void Importer::requireFirst(const CsvReader& reader) {
   const bool isFirst = row.next()
                            ? seen_.insert(row.whole("id").value())
                            : seenOthers_.insert(asciiLower(std::get<std::string>(names[0]))).second;
-  if (!isFirst) refuseRow(reader, "与前面的一行主键相同，同一个文件里只能有一行");
+  if (!isFirst) refuseRow(reader, Words::tr("与前面的一行主键相同，同一个文件里只能有一行"));
 }
 
 bool Importer::isAmongGoods() const {
@@ -240,11 +249,11 @@ std::vector<Value> Importer::key() const {
 
 void Importer::refuseRow(const CsvReader& reader, const std::string& reason) {
   if (badRowCount_++ > 0) badRows_ += '\n';
-  badRows_ += lineText(reader) + "：" + reason;
+  badRows_ += Words::tr("%1：%2", lineText(reader), reason);
 }
 
 void Importer::doubtRow(const CsvReader& reader, const std::string& reason) {
   if (imported_.doubtCount++ < kMostBadRows) {
-    imported_.doubts.push_back(lineText(reader) + "：" + reason);
+    imported_.doubts.push_back(Words::tr("%1：%2", lineText(reader), reason));
   }
 }

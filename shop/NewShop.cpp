@@ -1,15 +1,12 @@
 #include "shop/NewShop.h"
 
-#include <fstream>
+#include <algorithm>
 #include <sstream>
-#include <tuple>
 
-#include "base/CsvRow.h"
-#include "base/NumberText.h"
-#include "base/Text.h"
 #include "saleslib/ClsSysParam.h"
+#include "saleslib/Journal.h"
 #include "shop/DemoShop.h"
-#include "shop/Importer.h"
+#include "shop/NewFolder.h"
 #include "shop/Refusal.h"
 #include "store/Connection.h"
 #include "store/DataFile.h"
@@ -21,7 +18,8 @@ namespace fs = std::filesystem;
 
 namespace {
 
-constexpr int kShownGoods = 6;
+/// Thrown out of the midst of it all, which takes everything back; no failure that anybody hears.
+struct Ended {};
 
 void setParameters(Connection& connection, const NewShop& shop) {
   ClsSysParam parameters;
@@ -32,73 +30,41 @@ void setParameters(Connection& connection, const NewShop& shop) {
   }
 }
 
-Imported import(Connection& connection, const std::string& table, std::istream& text,
-                const Clock& clock) {
-  return Importer(connection, tableNamed(table, clock()), [](std::int64_t, double) {}).run(text);
+void import(Connection& connection, SheetReader& sheet, const GoodsMapping& mapping,
+            const std::string& name, const GoOn& goOn) {
+  const auto orEnd = [&goOn](double part) {
+    if (!goOn(part)) throw Ended();
+    return true;
+  };
+  const GoodsPreview written =
+      importGoods(connection, sheet, mapping, WriteSlices::Company::kAlone, orEnd).value();
+  if (written.mayBeWritten()) return;
+  const GoodsPreview::Complaint& first = written.refused.front();
+  throw Refusal(name + " 第 " + std::to_string(first.line) + " 行：" + first.reason + "。");
 }
 
-std::vector<std::string> importFiles(Connection& connection, const NewShop& shop,
-                                     const Clock& clock) {
-  std::vector<std::string> doubts;
-  for (const std::string& table : tableNames()) {
-    const auto file = shop.files.find(table);
-    if (file == shop.files.end()) continue;
-    const std::string name = file->second.string();
-    std::ifstream text(name, std::ios::binary);
-    if (!fs::is_regular_file(file->second) || !text) throw Refusal("文件读不出来：" + name);
-    try {
-      for (const std::string& doubt : import(connection, table, text, clock).doubts)
-        doubts.push_back(file->second.filename().string() + " " + doubt);
-    } catch (const Refusal& refusal) {
-      throw Refusal(name + "：" + refusal.what());
-    }
+// What is typed is later than the sheet, and right where the two differ.
+void addGoods(Connection& connection, const NewShop& shop, const GoOn& goOn) {
+  if (shop.sheet) {
+    const OpenedSheet opened = openGoodsSheet(shop.sheet->file);
+    import(connection, *opened.reader, shop.sheet->mapping, shop.sheet->file.string(), goOn);
+    if (!shop.sheet->mappingName.empty())
+      saveMapping(connection, shop.sheet->mappingName, shop.sheet->mapping);
   }
-  return doubts;
-}
-
-/// The typed goods as a list for a table.
-std::istringstream listOf(const std::vector<TypedGoods>& goods,
-                          std::initializer_list<const char*> columns,
-                          std::initializer_list<std::string TypedGoods::*> fields) {
-  CsvRow rows;
-  for (const char* column : columns) rows.add(column);
-  rows.end();
-  for (const TypedGoods& each : goods) {
-    for (const auto field : fields) rows.add(trimmed(each.*field));
-    rows.end();
-  }
-  return std::istringstream(rows.text());
-}
-
-void addTypedGoods(Connection& connection, const NewShop& shop, const Clock& clock) {
   if (shop.goods.empty()) return;
-  constexpr auto kBarcode = &TypedGoods::barcode;
-  constexpr auto kName = &TypedGoods::name;
-  constexpr auto kPrice = &TypedGoods::price;
-  std::istringstream master = listOf(shop.goods, {"f_spbm", "f_sptm", "f_spmc", "f_xsdj"},
-                                     {kBarcode, kBarcode, kName, kPrice});
-  std::istringstream prices =
-      listOf(shop.goods, {"sptm", "spbm", "spmc", "xsdj"}, {kBarcode, kBarcode, kName, kPrice});
-  try {
-    import(connection, "spda", master, clock);
-    import(connection, "tmda", prices, clock);
-  } catch (const Refusal& refusal) {
-    throw Refusal(std::string("录入的商品（第一种是第 2 行）：") + refusal.what());
-  }
-}
+  std::istringstream text(sheetOf(shop.goods));
+  const OpenedSheet opened = readGoodsSheet(text);
+  import(connection, *opened.reader, guessMapping(opened.headings), "录入的商品（第一种是第 2 行）",
+         [](double) { return true;
+});
+}  // namespace
 
-std::vector<std::string> addGoods(Connection& connection, const NewShop& shop, const Clock& clock) {
-  std::vector<std::string> doubts = importFiles(connection, shop, clock);
-  addTypedGoods(connection, shop, clock);
-  return doubts;
-}
-
-void fillShop(Connection& connection, const NewShop& shop, const Clock& clock) {
+void fillShop(Connection& connection, const NewShop& shop, const Clock& clock, const GoOn& goOn) {
   if (shop.from == NewShop::From::kDemo) return fillDemoShop(connection, clock);
   Transaction all(connection);
   setParameters(connection, shop);
   for (const NewOperator& person : shop.operators) addOperator(connection, person);
-  addGoods(connection, shop, clock);
+  addGoods(connection, shop, goOn);
   all.commit();
 }
 
@@ -107,20 +73,49 @@ void restore(const NewShop& shop, const DataSource& target,
              const std::function<void()>& storeSettings) {
   std::error_code unreadable;
   if (fs::exists(target.path, unreadable))
-    throw StoreError("已经有这个文件，不会覆盖：" + target.path.string());
+    throw StoreError(Words::tr("已经有这个文件，不会覆盖：%1", target.path.string()));
   requireSoundDataFile({shop.backup, target.password}, Soundness::kEveryPage);
   storeSettings();
   static_cast<void>(restoreDataFile(shop.backup, target, "old"));
-}
-
-std::string fieldRefusal(const Table& table, const char* column, const std::string& field,
-                         const char* name) {
-  const Column& wanted = table.columns[table.indexOf(column).value()];
-  if (wanted.valueOf(field)) return {};
-  return std::string(name).append(wanted.expectation());
+  Journal(*openDataFile(target)).note(EntryKind::kRestored, {}, {{"backup", shop.backup.string()}});
 }
 
 }  // namespace
+
+NewShop::NewShop() {
+  for (const SetupQuestion& question : setupQuestions()) answer(question, question.sensible);
+}
+
+const std::string& NewShop::answerTo(const SetupQuestion& question) const {
+  static const std::string kNone;
+  if (question.isOfShop()) {
+    const auto found = parameters.find(question.key);
+    return found == parameters.end() ? kNone : found->second;
+  }
+  const auto found = settings.find({question.section, question.key});
+  return found == settings.end() ? kNone : found->second;
+}
+
+void NewShop::answer(const SetupQuestion& question, std::string value) {
+  if (question.isOfShop()) {
+    parameters[question.key] = std::move(value);
+  } else if (value.empty()) {
+    settings.erase({question.section, question.key});
+  } else {
+    settings[{question.section, question.key}] = std::move(value);
+  }
+}
+
+std::size_t NewShop::add(const TypedGoods& typed) {
+  const auto before = std::ranges::find(goods, typed.code, &TypedGoods::code);
+  const auto place = static_cast<std::size_t>(before - goods.begin());
+  if (before == goods.end()) {
+    goods.push_back(typed);
+  } else {
+    *before = typed;
+  }
+  return place;
+}
 
 void NewShop::setRounding(Rounding rounding) {
   parameters["RoundJiao"] = rounding == Rounding::kJiao ? "1" : "0";
@@ -134,45 +129,26 @@ const std::vector<std::string>& shopTexts() {
   return names;
 }
 
-const std::vector<std::string>& shopSwitches() {
-  static const std::vector<std::string> names = {"CheckPayment", "PhonePay", "BackupOnExit"};
-  return names;
+std::optional<GoodsPreview> previewForNewShop(const GoodsSheet& sheet, const GoOn& goOn) {
+  const auto scratch = scratchDataFile(fs::temp_directory_path());
+  const OpenedSheet opened = openGoodsSheet(sheet.file);
+  return previewGoods(*scratch, *opened.reader, sheet.mapping, goOn);
 }
 
-std::string refusalOf(const TypedGoods& goods) {
-  const Table table = tableNamed("tmda", {});
-  for (const auto& [column, field, name] : {std::tuple("sptm", trimmed(goods.barcode), "条码"),
-                                            std::tuple("spmc", trimmed(goods.name), "商品名称"),
-                                            std::tuple("xsdj", trimmed(goods.price), "零售价")}) {
-    const std::string refusal = fieldRefusal(table, column, field, name);
-    if (!refusal.empty()) return refusal + "。";
+bool makeShop(const NewShop& shop, const DataSource& target, const Clock& clock,
+              const std::function<void()>& storeSettings, const GoOn& goOn) {
+  const NewFolder folder(target.path.parent_path());
+  if (shop.from == NewShop::From::kBackup) {
+    restore(shop, target, storeSettings);
+    return true;
   }
-  return {};
-}
-
-GoodsTrial tryGoods(const NewShop& shop, const Clock& clock) {
-  const std::unique_ptr<Connection> scratch = scratchDataFile(fs::temp_directory_path());
-  GoodsTrial trial;
   try {
-    trial.doubts = addGoods(*scratch, shop, clock);
-  } catch (const Refusal& refusal) {
-    trial.refusal = refusal.what();
-    return trial;
+    createDataFile(target, [&](Connection& made) {
+      fillShop(made, shop, clock, goOn);
+      storeSettings();
+    });
+    return true;
+  } catch (const Ended&) {
+    return false;
   }
-  Rows rows = scratch->query("select sptm, spmc, xsdj from tmda order by id");
-  while (rows.next()) {
-    if (trial.count++ >= kShownGoods) continue;
-    const Currency price = rows.currency("xsdj").value_or(Currency());
-    trial.first.push_back({rows.text("sptm"), rows.text("spmc"), twoDecimals(price)});
-  }
-  return trial;
-}
-
-void makeShop(const NewShop& shop, const DataSource& target, const Clock& clock,
-              const std::function<void()>& storeSettings) {
-  if (shop.from == NewShop::From::kBackup) return restore(shop, target, storeSettings);
-  createDataFile(target, [&](Connection& made) {
-    fillShop(made, shop, clock);
-    storeSettings();
-  });
 }

@@ -1,20 +1,25 @@
 #pragma once
 
-#include <cstdint>
 #include <filesystem>
 #include <functional>
 #include <map>
 #include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "base/DateTime.h"
+#include "shop/GoodsImport.h"
 #include "shop/Operators.h"
+#include "shop/SetupQuestion.h"
+#include "shop/TypedGoods.h"
 #include "store/DataSource.h"
 
-/// Goods as the owner types them at the first start; the barcode is their item code too.
-struct TypedGoods {
-  std::string barcode, name, price;
+/// A goods sheet as it is to be brought in.
+struct GoodsSheet {
+  std::filesystem::path file;
+  GoodsMapping mapping;
+  std::string mappingName;  ///< to keep the mapping by; empty: it is not kept
 };
 
 /// What the owner answers at the first start; as it stands, with sensible answers.
@@ -23,17 +28,23 @@ struct NewShop {
   From from = From::kAnswers;
   std::filesystem::path backup;  ///< for kBackup
 
+  NewShop();
+  /// What was answered to a question, and another answer to it.
+  const std::string& answerTo(const SetupQuestion& question) const;
+  void answer(const SetupQuestion& question, std::string value);
+
   // The rest is for kAnswers.
+  /// Of the till on this machine, by section and key of its settings file; without those that are
+  /// empty, which are not to be set.
+  std::map<std::pair<std::string, std::string>, std::string> settings;
   /// By the names of ClsSysParam.
   std::map<std::string, std::string, std::less<>> parameters = {
-      {"ReceiptText1", "欢迎光临"}, {"ReceiptText3", "谢谢惠顾，欢迎再来！"},
-      {"RoundJiao", "1"},           {"BackupOnExit", "1"},
-      {"CheckPayment", "1"},        {"PhonePay", "1"},
-  };
+      {"ReceiptText1", "欢迎光临"}, {"ReceiptText3", "谢谢惠顾，欢迎再来！"}, {"RoundJiao", "1"}};
   std::vector<NewOperator> operators;
-  /// Files of comma-separated values by the table they go into (shop/Table.h).
-  std::map<std::string, std::filesystem::path, std::less<>> files;
-  std::vector<TypedGoods> goods;
+  std::optional<GoodsSheet> sheet;
+  std::vector<TypedGoods> goods;  ///< come after the sheet's
+  /// In the place of those of the same code; gives the place.
+  std::size_t add(const TypedGoods& typed);
 
   /// RoundJiao and RoundYuan as one choice.
   enum class Rounding { kNone, kJiao, kYuan };
@@ -41,28 +52,21 @@ struct NewShop {
 };
 
 /// The parameters that are asked for one by one, in the order of the questions: the shop's name and
-/// the receipt's texts, and what is on or off.
+/// the receipt's texts.
 const std::vector<std::string>& shopTexts();
-const std::vector<std::string>& shopSwitches();
 
-/// An empty text, or why goods cannot be so, a sentence for the owner.
-[[nodiscard]] std::string refusalOf(const TypedGoods& goods);
+/// What a goods sheet would do to a shop without goods. Nothing when it was ended. Throws Failure.
+std::optional<GoodsPreview> previewForNewShop(const GoodsSheet& sheet, const GoOn& goOn);
 
-/// What the goods of the answers come to.
-struct GoodsTrial {
-  std::string refusal;  ///< why they cannot be brought in; empty when they can
-  std::int64_t count = 0;
-  std::vector<TypedGoods> first;    ///< the first ones, prices with two decimals
-  std::vector<std::string> doubts;  ///< what is likely wrong with some of them
-};
-/// Brings the goods into a data file that nobody keeps. Throws StoreError when there is no room.
-[[nodiscard]] GoodsTrial tryGoods(const NewShop& shop, const Clock& clock);
-
-/// Makes the shop's data file from the answers, never over another file. It has its name only when
-/// everything is in it, so that nothing half made is left, whatever ends the program; for a backup
-/// the same holds (store/DataFileRestore.h). `storeSettings` stores what belongs to the shop
-/// outside the data file, just before the data file gets its name; what it throws ends it all.
-/// Throws Failure with a text for the owner: Refusal for an answer, else StoreError.
-void makeShop(
+/// Makes the shop's data file from the answers, never over another file, and its folder where that
+/// is missing. All or nothing: the goods come into the data file while it has no name yet, and it
+/// gets it when everything is in it, so that nothing half made is left, whatever ends the program;
+/// for a backup the same holds (store/DataFileRestore.h). `storeSettings` stores what belongs to
+/// the shop outside the data file, just before the data file gets its name; what it throws ends it
+/// all. `goOn` hears the part of the goods that is done; false ends it all too, and this gives
+/// false then.
+/// Throws Failure with a text for the owner: Refusal for an answer, else StoreError or FileError.
+[[nodiscard]] bool makeShop(
     const NewShop& shop, const DataSource& target, const Clock& clock,
-    const std::function<void()>& storeSettings = [] {});
+    const std::function<void()>& storeSettings = [] {},
+    const GoOn& goOn = [](double) { return true; });

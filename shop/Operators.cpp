@@ -6,6 +6,7 @@
 
 #include "base/Failure.h"
 #include "base/Text.h"
+#include "base/Words.h"
 #include "saleslib/ClsRights.h"
 #include "saleslib/Journal.h"
 #include "saleslib/Right.h"
@@ -19,7 +20,7 @@ namespace {
 constexpr std::size_t kLongestName = 255;
 
 std::string labelled(std::int16_t number) {
-  return "操作员 " + std::to_string(number);
+  return Words::tr("操作员 %1", number);
 }
 
 }  // namespace
@@ -27,22 +28,25 @@ std::string labelled(std::int16_t number) {
 std::string refusalOfRight(const std::string& text) {
   if (parseRight(text) || equalIgnoringCase(text, kEveryRight)) return {};
   std::string keys;
-  for (const std::string& key : allRights()) keys.append(keys.empty() ? "" : "、").append(key);
-  return "只能是 " + keys + "、" + kEveryRight +
-         "（全部）；discount、return 后面可以写上限（discount:10）。写的是“" + text + "”";
+  for (const std::string& key : allRights())
+    keys.append(keys.empty() ? "" : Words::tr("、")).append(key);
+  return Words::tr(
+      "只能是 %1、%2（全部）；discount、return 后面可以写上限（discount:10）。写的是“%3”", keys,
+      kEveryRight, text);
 }
 
 std::string rightsForPeople() {
   std::string all;
   for (const RightKind& kind : rightKinds()) {
-    all.append(all.empty() ? "" : "、").append(kind.key).append("（").append(kind.word);
-    if (kind.limit == RightKind::Limit::kPercent)
-      all.append("，可以写最多百分之几：").append(kind.key).append(":10");
-    if (kind.limit == RightKind::Limit::kYuan)
-      all.append("，可以写最多多少元：").append(kind.key).append(":200");
-    all.append("）");
+    const char* text = kind.limit == RightKind::Limit::kPercent
+                           ? Words::mark("%1（%2，可以写最多百分之几：%1:10）")
+                       : kind.limit == RightKind::Limit::kYuan
+                           ? Words::mark("%1（%2，可以写最多多少元：%1:200）")
+                           : Words::mark("%1（%2）");
+    all.append(all.empty() ? "" : Words::tr("、"))
+        .append(Words::tr(text, kind.key, Words::tr(kind.word)));
   }
-  return all.append("，或者 ").append(kEveryRight).append("（全部）");
+  return Words::tr("%1，或者 %2（全部）", all, kEveryRight);
 }
 
 std::vector<std::string> rightsMeant(const std::vector<std::string>& named) {
@@ -72,7 +76,7 @@ std::vector<std::string> shownRights(const ClsRights& rights) {
 std::string refusalOfName(const std::string& name) {
   const std::string shown = trimmed(name);
   if (!shown.empty() && characters(shown) <= kLongestName) return {};
-  return "操作员的姓名不能空着，也不能超过 255 个字。";
+  return Words::tr("操作员的姓名不能空着，也不能超过 255 个字。");
 }
 
 void addOperator(Connection& connection, const NewOperator& wanted) {
@@ -82,7 +86,8 @@ void addOperator(Connection& connection, const NewOperator& wanted) {
   Transaction transaction(connection);
   ClsOperator person;
   person.Init(connection, wanted.number);
-  if (person.Found()) throw Refusal("已经有" + labelled(wanted.number) + "：" + person.Name());
+  if (person.Found())
+    throw Refusal(Words::tr("已经有%1：%2", labelled(wanted.number), person.Name()));
   person.setName(name);
   person.setCode(std::to_string(wanted.number));
   person.setPassword(wanted.password);
@@ -96,14 +101,31 @@ void addOperator(Connection& connection, const NewOperator& wanted) {
 ClsOperator existingOperator(Connection& connection, std::int16_t number) {
   ClsOperator person;
   person.Init(connection, number);
-  if (!person.Found()) throw Refusal("没有" + labelled(number) + "。");
+  if (!person.Found()) throw Refusal(Words::tr("没有%1。", labelled(number)));
   return person;
+}
+
+void changeRights(Connection& connection, std::int16_t number,
+                  const std::vector<std::string>& given, const std::vector<std::string>& taken) {
+  Transaction transaction(connection);
+  ClsOperator person = existingOperator(connection, number);
+  std::vector<std::string> named = shownRights(person.Rights());
+  named.insert(named.end(), given.begin(), given.end());
+  std::set<Right> lost;
+  for (const std::string& text : rightsMeant(taken)) lost.insert(parseRight(text)->right);
+  std::set<std::string> held;
+  for (const std::string& text : rightsMeant(named))
+    if (!lost.contains(parseRight(text)->right)) held.insert(text);
+  person.setRights(ClsRights(held));
+  person.Save();
+  transaction.commit();
 }
 
 void removeOperator(Connection& connection, std::int16_t number) {
   Transaction transaction(connection);
   if (connection.query("select id from sell where operator_id = ? and state = 0", number).next()) {
-    throw Refusal(labelled(number) + "还有没结的单据，先让本人在收银台处理完，再删除。");
+    throw Refusal(
+        Words::tr("%1还有没结的单据，先让本人在收银台处理完，再删除。", labelled(number)));
   }
   connection.run("delete from operator_rights where operator_id = ?", number);
   takeStaffCard(connection, number);

@@ -36,5 +36,10 @@ std::vector<std::string> shownRights(const ClsRights& rights);
 void addOperator(Connection& connection, const NewOperator& wanted);
 /// Throws Refusal when there is none of that number.
 ClsOperator existingOperator(Connection& connection, std::int16_t number);
+/// Gives rights and takes others away, as rightsMeant reads them, in one transaction; a
+/// right that was there gets the limit that is given. Throws Refusal
+/// when there is nobody of that number.
+void changeRights(Connection& connection, std::int16_t number,
+                  const std::vector<std::string>& given, const std::vector<std::string>& taken);
 /// Throws Refusal while the operator has an open bill: nobody else could settle or void it.
 void removeOperator(Connection& connection, std::int16_t number);

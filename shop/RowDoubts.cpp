@@ -4,6 +4,7 @@
 #include <optional>
 #include <variant>
 
+#include "base/Words.h"
 #include "shop/Table.h"
 
 namespace {
@@ -32,16 +33,16 @@ bool isNothing(const Value& price) {
 std::string barcodeDoubt(const Row& row) {
   const Value* barcode = row.given("sptm");
   if (barcode == nullptr || !hasWrongCheckDigit(std::get<std::string>(*barcode))) return {};
-  return "条码 " + std::get<std::string>(*barcode) + " 的校验位不对，可能抄错了";
+  return Words::tr("条码 %1 的校验位不对，可能抄错了", std::get<std::string>(*barcode));
 }
 
 // Dates are texts whose order is the order in time.
 std::string promotionDoubt(const Row& row) {
   const Value *first = row.given("kssj"), *last = row.given("jssj"), *price = row.given("cxj");
   if (first == nullptr || last == nullptr || isEmpty(*first) || isEmpty(*last)) return {};
-  if (*last < *first) return "促销的结束日期 jssj 早于开始日期 kssj，永远不会生效";
+  if (*last < *first) return Words::tr("促销的结束日期 jssj 早于开始日期 kssj，永远不会生效");
   if (price == nullptr || !isNothing(*price)) return {};
-  return "有促销日期，促销价 cxj 却空着或者是 0，促销期间会要求收银员输入价格";
+  return Words::tr("有促销日期，促销价 cxj 却空着或者是 0，促销期间会要求收银员输入价格");
 }
 
 }  // namespace
@@ -64,7 +65,7 @@ std::string doubtsOf(const Table& table, const std::vector<Value>& values,
   const Row row{table, values, isInFile};
   std::string doubts = barcodeDoubt(row);
   if (const std::string promotion = promotionDoubt(row); !promotion.empty()) {
-    doubts += (doubts.empty() ? "" : "；") + promotion;
+    doubts += (doubts.empty() ? "" : Words::tr("；")) + promotion;
   }
   return doubts;
 }

@@ -6,6 +6,7 @@
 
 #include "base/CsvReader.h"
 #include "base/Text.h"
+#include "base/Words.h"
 #include "shop/Refusal.h"
 #include "shop/XlsxSheet.h"
 
@@ -43,15 +44,16 @@ bool holdsNothing(const std::vector<std::string>& fields) {
 
 std::unique_ptr<SheetReader> openSheet(const std::filesystem::path& file) {
   if (std::error_code unreadable; !std::filesystem::is_regular_file(file, unreadable)) {
-    throw Refusal("没有这个文件，或者不是普通文件：" + file.string());
+    throw Refusal(Words::tr("没有这个文件，或者不是普通文件：%1", file.string()));
   }
   auto text = std::make_unique<std::ifstream>(file, std::ios::binary);
-  if (!*text) throw Refusal("文件读不出来：" + file.string());
+  if (!*text) throw Refusal(Words::tr("文件读不出来：%1", file.string()));
   std::string beginning(kZip.size(), '\0');
   text->read(beginning.data(), static_cast<std::streamsize>(beginning.size()));
   if (beginning == kZip) return openWorkbook(file);
   if (beginning == kCompound) {
-    throw Refusal("这是旧格式的工作簿（.xls）或者加了密码，请另存为不加密码的 .xlsx 文件。");
+    throw Refusal(
+        Words::tr("这是旧格式的工作簿（.xls）或者加了密码，请另存为不加密码的 .xlsx 文件。"));
   }
   text->clear();
   text->seekg(0);

@@ -3,16 +3,16 @@
 #include <algorithm>
 #include <cmath>
 
+#include "base/Words.h"
+
 std::string TimeLeft::text(double part, Moment now) const {
   using Seconds = std::chrono::duration<double>;
   constexpr double kFirstPart = 0.02;
   constexpr long kMinute = 60;
-  std::string text = std::to_string(static_cast<int>(part * 100)) + "%";
-  if (part < kFirstPart) return text;
+  const int percentage = static_cast<int>(part * 100);
+  if (part < kFirstPart) return std::to_string(percentage) + "%";
   const double exactly = Seconds(now - begin_).count() * (1 - part) / part;
   const long left = std::max(1L, std::lround(exactly));
-  if (left < kMinute) return text.append("，还要约 ").append(std::to_string(left)).append(" 秒");
-  return text.append("，还要约 ")
-      .append(std::to_string((left + kMinute - 1) / kMinute))
-      .append(" 分钟");
+  if (left < kMinute) return Words::tr("%1%，还要约 %2 秒", percentage, left);
+  return Words::tr("%1%，还要约 %2 分钟", percentage, (left + kMinute - 1) / kMinute);
 }

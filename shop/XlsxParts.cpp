@@ -1,39 +1,24 @@
 #include "shop/XlsxParts.h"
 
-#include <orcus/sax_parser.hpp>
-#include <orcus/zip_archive.hpp>
-#include <orcus/zip_archive_stream.hpp>
+#include <expat.h>
+#include <zip.h>
+
+#include <algorithm>
+#include <array>
+#include <stdexcept>
 #include <utility>
-#include <vector>
 
 namespace {
 
-/// What the XML library tells, handed on: attributes come before their element's start.
-class Handler : public orcus::sax_handler {
- public:
-  explicit Handler(const XlsxParts::Walk& walk) : walk_(walk) {}
+constexpr std::size_t kPiece = std::size_t{64} << 10;
+constexpr std::size_t kLongestText = std::size_t{1} << 20;  // a cell holds 32 Ki characters at most
 
-  void attribute(const orcus::sax::parser_attribute& attribute) {
-    attributes_[std::string(attribute.name)] = attribute.value;
-  }
-  void start_element(const orcus::sax::parser_element& element) {
-    text_.clear();
-    if (walk_.start) walk_.start(element.name, attributes_);
-    attributes_.clear();
-  }
-  void characters(std::string_view text, bool) { text_ += text; }
-  void end_element(const orcus::sax::parser_element& element) {
-    if (walk_.end) walk_.end(element.name, text_);
-    text_.clear();
-  }
-  // Those of "<?xml ...?>" are no element's.
-  void end_declaration(std::string_view) { attributes_.clear(); }
-
- private:
-  const XlsxParts::Walk& walk_;
-  XlsxParts::Attributes attributes_;
-  std::string text_;
-};
+/// A name without its prefix.
+std::string_view bareName(const char* name) {
+  const std::string_view whole = name;
+  const std::size_t colon = whole.find(':');
+  return colon == std::string_view::npos ? whole : whole.substr(colon + 1);
+}
 
 std::string folderOf(const std::string& part) {
   const std::size_t slash = part.rfind('/');
@@ -51,26 +36,104 @@ std::string partNamed(const std::string& folder, const std::string& reference) {
   return std::filesystem::path(folder + reference).lexically_normal().generic_string();
 }
 
+/// One part on its way through the XML library. Nothing may be thrown through that: what a caller
+/// throws waits until it has returned.
+class PartWalk : public XlsxParts::Steps {
+ public:
+  PartWalk(zip_t& archive, zip_uint64_t index, XlsxParts::Walk walk)
+      : walk_(std::move(walk)),
+        file_(zip_fopen_index(&archive, index, 0), &zip_fclose),
+        parser_(XML_ParserCreate(nullptr), &XML_ParserFree) {
+    zip_stat_t status;
+    if (!file_ || !parser_ || zip_stat_index(&archive, index, 0, &status) != 0)
+      throw std::runtime_error("the part cannot be opened");
+    size_ = static_cast<double>(std::max<zip_uint64_t>(status.size, 1));
+    XML_SetUserData(parser_.get(), this);
+    XML_SetElementHandler(parser_.get(), &PartWalk::start, &PartWalk::end);
+    XML_SetCharacterDataHandler(parser_.get(), &PartWalk::text);
+  }
+
+  bool next() override {
+    const zip_int64_t count = zip_fread(file_.get(), piece_.data(), piece_.size());
+    if (count < 0) throw std::runtime_error("the part is damaged");
+    read_ += static_cast<double>(count);
+    const bool isParsed = XML_Parse(parser_.get(), piece_.data(), static_cast<int>(count),
+                                    count == 0) == XML_STATUS_OK;
+    if (thrown_) std::rethrow_exception(std::exchange(thrown_, nullptr));
+    if (!isParsed) throw std::runtime_error("the part is no XML");
+    return count > 0;
+  }
+  double progress() const override { return std::min(read_ / size_, 1.0); }
+
+ private:
+  static void start(void* self, const char* name, const char** attributes) {
+    static_cast<PartWalk*>(self)->guarded([&](PartWalk& walk) {
+      walk.attributes_.clear();
+      for (const char** each = attributes; *each != nullptr; each += 2)
+        walk.attributes_.emplace(bareName(each[0]), each[1]);
+      walk.text_.clear();
+      if (walk.walk_.start) walk.walk_.start(bareName(name), walk.attributes_);
+    });
+  }
+  static void end(void* self, const char* name) {
+    static_cast<PartWalk*>(self)->guarded([&](PartWalk& walk) {
+      if (walk.walk_.end) walk.walk_.end(bareName(name), walk.text_);
+      walk.text_.clear();
+    });
+  }
+  static void text(void* self, const char* characters, int count) {
+    static_cast<PartWalk*>(self)->guarded([&](PartWalk& walk) {
+      walk.text_.append(characters, static_cast<std::size_t>(count));
+      if (walk.text_.size() > kLongestText) throw std::length_error("a text is too long");
+    });
+  }
+  template <class Action>
+  void guarded(const Action& action) {
+    if (thrown_) return;
+    try {
+      action(*this);
+    } catch (...) {
+      thrown_ = std::current_exception();
+      XML_StopParser(parser_.get(), XML_FALSE);
+    }
+  }
+
+  XlsxParts::Walk walk_;
+  std::unique_ptr<zip_file_t, int (*)(zip_file_t*)> file_;
+  std::unique_ptr<XML_ParserStruct, void (*)(XML_Parser)> parser_;
+  std::array<char, kPiece> piece_;
+  double size_ = 1, read_ = 0;
+  XlsxParts::Attributes attributes_;
+  std::string text_;
+  std::exception_ptr thrown_;
+};
+
 }  // namespace
 
 struct XlsxParts::Archive {
-  explicit Archive(const std::filesystem::path& file) : stream(file.c_str()), zip(&stream) {
-    zip.load();
+  explicit Archive(const std::filesystem::path& file)
+      : zip(zip_open(file.c_str(), ZIP_RDONLY, nullptr), &zip_discard) {
+    if (!zip) throw std::runtime_error("no zip archive");
   }
-  orcus::zip_archive_stream_fd stream;
-  orcus::zip_archive zip;
+  std::unique_ptr<zip_t, void (*)(zip_t*)> zip;
 };
 
 XlsxParts::XlsxParts(const std::filesystem::path& file)
     : archive_(std::make_unique<Archive>(file)) {}
 XlsxParts::~XlsxParts() = default;
 
+std::unique_ptr<XlsxParts::Steps> XlsxParts::steps(const std::string& part, Walk walk) const {
+  zip_t& zip = *archive_->zip;
+  const zip_int64_t index = zip_name_locate(&zip, part.c_str(), 0);
+  if (index < 0) return nullptr;
+  return std::make_unique<PartWalk>(zip, static_cast<zip_uint64_t>(index), std::move(walk));
+}
+
 bool XlsxParts::walk(const std::string& part, const Walk& walk) const {
-  std::vector<unsigned char> bytes;
-  if (!archive_->zip.read_file_entry(part, bytes)) return false;
-  Handler handler(walk);
-  const std::string_view xml(reinterpret_cast<const char*>(bytes.data()), bytes.size());
-  orcus::sax_parser<Handler>(xml.data(), xml.size(), handler).parse();
+  const std::unique_ptr<Steps> all = steps(part, walk);
+  if (!all) return false;
+  while (all->next()) {
+  }
   return true;
 }
 

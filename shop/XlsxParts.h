@@ -24,8 +24,21 @@ class XlsxParts {
     std::function<void(std::string_view element, const std::string& text)> end;
   };
   /// Walks through a part; false when there is none of that name. Throws std::exception when it is
-  /// no XML.
+  /// no XML, or a text in it is longer than any that a sheet holds.
   bool walk(const std::string& part, const Walk& walk) const;
+
+  /// A part that is walked through step by step, some 64 KiB each, so that memory does not grow
+  /// with it. Lives no longer than its archive.
+  class Steps {
+   public:
+    /// False at the end. Throws as walk does.
+    virtual bool next() = 0;
+    /// How much was walked through, 0 ... 1.
+    virtual double progress() const = 0;
+    virtual ~Steps() = default;
+  };
+  /// None when there is no part of that name.
+  std::unique_ptr<Steps> steps(const std::string& part, Walk walk) const;
   /// The parts that a part refers to, by the reference's identifier or, where `byKind`, by the last
   /// word of its kind.
   std::map<std::string, std::string> references(const std::string& part, bool byKind) const;

@@ -4,15 +4,14 @@
 #include <charconv>
 #include <cmath>
 #include <cstdio>
+#include <deque>
 #include <exception>
-#include <sstream>
 #include <stdexcept>
 #include <utility>
 
-#include "base/CsvReader.h"
-#include "base/CsvRow.h"
 #include "base/DateTime.h"
 #include "base/NumberText.h"
+#include "base/Words.h"
 #include "shop/Refusal.h"
 #include "shop/SheetReader.h"
 #include "shop/XlsxFormats.h"
@@ -54,21 +53,58 @@ std::size_t columnOf(std::string_view cellName) {
   return column;
 }
 
-/// A workbook while its first sheet is written down as comma-separated values: each row's line,
-/// then its fields.
+/// The texts that a workbook's cells share, one behind the other.
+class SharedTexts {
+ public:
+  void begin() { begins_.push_back(all_.size()); }
+  void append(const std::string& text) {
+    if (begins_.empty() || all_.size() + text.size() > kMost)
+      throw std::length_error("the texts are too many");
+    all_ += text;
+  }
+  /// Throws std::out_of_range.
+  std::string at(std::size_t number) const {
+    const std::size_t begin = begins_.at(number);
+    const std::size_t end = number + 1 < begins_.size() ? begins_[number + 1] : all_.size();
+    return all_.substr(begin, end - begin);
+  }
+
+ private:
+  static constexpr std::size_t kMost = std::size_t{1} << 30;
+  std::string all_;
+  std::vector<std::size_t> begins_;
+};
+
+/// A workbook's first sheet on its way: rows as they come.
 class Workbook {
  public:
-  explicit Workbook(const std::filesystem::path& file) : parts_(file) { readBook(); }
+  struct Row {
+    std::int64_t line = 0;
+    std::vector<std::string> cells;
+  };
 
   /// Throws std::exception when there is no sheet.
-  std::string written() {
-    const bool isThere = parts_.walk(
+  explicit Workbook(const std::filesystem::path& file) : parts_(file) {
+    readBook();
+    steps_ = parts_.steps(
         sheet_,
-        {[&](std::string_view element, const auto& attributes) { begin(element, attributes); },
-         [&](std::string_view element, const std::string& end) { finish(element, end); }});
-    if (!isThere) throw std::runtime_error("no sheet");
-    return rows_.text();
+        {[this](std::string_view element, const auto& attributes) { begin(element, attributes); },
+         [this](std::string_view element, const std::string& end) { finish(element, end); }});
+    if (!steps_) throw std::runtime_error("no sheet");
   }
+  Workbook(const Workbook&) = delete;
+  Workbook& operator=(const Workbook&) = delete;
+
+  /// False at the end. Throws std::exception.
+  bool next(Row& row) {
+    while (rows_.empty()) {
+      if (!steps_->next()) return false;
+    }
+    row = std::move(rows_.front());
+    rows_.pop_front();
+    return true;
+  }
+  double progress() const { return steps_->progress(); }
 
  private:
   static constexpr std::size_t kMostColumns = 256;
@@ -94,12 +130,12 @@ class Workbook {
   void readTexts(const std::string& part) {
     bool isPronunciation = false;
     parts_.walk(part, {[&](std::string_view element, const auto&) {
-                         if (element == "si") texts_.emplace_back();
+                         if (element == "si") texts_.begin();
                          if (element == "rPh") isPronunciation = true;
                        },
                        [&](std::string_view element, const std::string& text) {
                          if (element == "rPh") isPronunciation = false;
-                         if (element == "t" && !isPronunciation) texts_.back() += text;
+                         if (element == "t" && !isPronunciation) texts_.append(text);
                        }});
   }
 
@@ -131,9 +167,8 @@ class Workbook {
       if (cells_.size() < column_) cells_.resize(column_);
       cells_[column_ - 1] = text_;
     } else if (element == "row" && !cells_.empty()) {
-      rows_.add(std::to_string(line_));
-      for (const std::string& cell : cells_) rows_.add(cell);
-      rows_.end();
+      rows_.push_back({line_, std::move(cells_)});
+      cells_.clear();
     }
   }
 
@@ -152,47 +187,56 @@ class Workbook {
   std::string sheet_;  ///< the first one's part
   Date origin_{1899, 12, 30};
   XlsxFormats formats_;
-  std::vector<std::string> texts_;  ///< that cells share
-  CsvRow rows_;
+  SharedTexts texts_;
+  std::deque<Row> rows_;  ///< of the last step
   std::int32_t line_ = 0;
   std::vector<std::string> cells_;  ///< of the present row
   std::size_t column_ = 0;          ///< of the present cell, from 1
   std::string kind_, text_;
   std::size_t format_ = 0;
+  std::unique_ptr<XlsxParts::Steps> steps_;  ///< tells this object
 };
 
 class WorkbookRows : public SheetReader {
  public:
-  explicit WorkbookRows(std::string rows) : text_(std::move(rows)), reader_(text_) {}
+  explicit WorkbookRows(std::filesystem::path file) : file_(std::move(file)) {
+    told([this] { workbook_ = std::make_unique<Workbook>(file_); });
+  }
 
   bool next(std::vector<std::string>& fields) override {
     do {
-      if (!reader_.next(fields)) return false;
-      line_ = parseWhole32(fields.front()).value();
-      fields.erase(fields.begin());
-    } while (holdsNothing(fields));
+      bool isThere = false;
+      told([&] { isThere = workbook_->next(row_); });
+      if (!isThere) return false;
+    } while (holdsNothing(row_.cells));
+    fields = std::move(row_.cells);
     // A workbook leaves out the empty cells at a row's end.
     if (headings_ == 0) headings_ = fields.size();
     fields.resize(std::max(fields.size(), headings_));
     return true;
   }
-  std::int64_t line() const override { return line_; }
-  double progress() const override { return reader_.progress(); }
+  std::int64_t line() const override { return row_.line; }
+  double progress() const override { return workbook_->progress(); }
 
  private:
-  std::istringstream text_;
-  CsvReader reader_;
-  std::int64_t line_ = 0;
+  template <class Work>
+  void told(const Work& work) const {
+    try {
+      work();
+    } catch (const std::exception&) {
+      throw Refusal("这个工作簿读不出来：" + file_.string() +
+                    "。请用表格软件打开，另存为 .xlsx 文件。");
+    }
+  }
+
+  std::filesystem::path file_;
+  std::unique_ptr<Workbook> workbook_;
+  Workbook::Row row_;
   std::size_t headings_ = 0;
 };
 
 }  // namespace
 
 std::unique_ptr<SheetReader> openWorkbook(const std::filesystem::path& file) {
-  try {
-    return std::make_unique<WorkbookRows>(Workbook(file).written());
-  } catch (const std::exception&) {
-    throw Refusal("这个工作簿读不出来：" + file.string() +
-                  "。请用表格软件打开，另存为 .xlsx 文件。");
-  }
+  return std::make_unique<WorkbookRows>(file);
 }

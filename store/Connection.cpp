@@ -6,6 +6,7 @@
 #include <cstring>
 #include <utility>
 
+#include "base/Words.h"
 #include "store/Dialect.h"
 #include "store/Engine.h"
 #include "store/FragmentPieces.h"
@@ -89,7 +90,7 @@ Connection::Connection(const DataSource& source, Mode mode) : source_(source) {
     openEngine(mode);
   } catch (const StoreError& error) {
     engine_.reset();
-    throw StoreError("数据文件 " + source_.path.string() + " 打不开：" + error.what());
+    throw StoreError(Words::tr("数据文件 %1 打不开：%2", source_.path.string(), error.what()));
   }
   statements_ = std::make_unique<StatementCache>(engine_.get());
 }
@@ -104,7 +105,7 @@ void Connection::openEngine(Mode mode) {
   check(opened, code);
   if (mode == Mode::kNameless) unlink(source_.path.c_str());
   if (!source_.password.empty() && beginsAsPlainFile(opened)) {
-    throw StoreError("这个数据文件没有密码，请在设置中去掉密码部分。");
+    throw StoreError(Words::tr("这个数据文件没有密码，请在设置中去掉密码部分。"));
   }
   sqlite3_extended_result_codes(opened, 1);
   waitForLocks(opened);
@@ -223,7 +224,7 @@ void Connection::stopWhen(std::function<bool()> asked) {
 // inside it must not slip through as single commits.
 void Connection::requireTransaction() const {
   if (transactionDepth_ > 0 && sqlite3_get_autocommit(engine_.get())) {
-    throw StoreError("前面的写入失败，这一步的数据已全部撤销，没有保存。");
+    throw StoreError(Words::tr("前面的写入失败，这一步的数据已全部撤销，没有保存。"));
   }
 }
 

@@ -5,6 +5,7 @@
 #include "base/FileName.h"
 #include "base/PrivateFile.h"
 #include "base/WholeFile.h"
+#include "base/Words.h"
 #include "store/Connection.h"
 #include "store/FileReading.h"
 #include "store/FragmentIndex.h"
@@ -17,7 +18,7 @@ namespace {
 void useWriteAheadLog(Connection& connection) {
   Rows rows = connection.query("pragma journal_mode = wal");
   if (!rows.next() || rows.text("journal_mode") != "wal") {
-    throw StoreError("数据文件所在的磁盘不支持安全写入，请换到本机磁盘上。");
+    throw StoreError(Words::tr("数据文件所在的磁盘不支持安全写入，请换到本机磁盘上。"));
   }
 }
 
@@ -37,7 +38,7 @@ void requireFreePlace(const std::filesystem::path& path) {
     const std::string file = path.string() + part;
     std::error_code unreadable;
     if (std::filesystem::exists(file, unreadable))
-      throw StoreError("已经有这个文件，不会覆盖：" + file);
+      throw StoreError(Words::tr("已经有这个文件，不会覆盖：%1", file));
   }
 }
 
@@ -66,7 +67,8 @@ void requireSoundDataFile(const DataSource& source, Soundness depth) {
   requireShopFile(opened);
   Rows rows = opened.query(depth == Soundness::kEveryPage ? "pragma quick_check(1)"
                                                           : "pragma integrity_check(1)");
-  if (!rows.next() || rows.text("integrity_check") != "ok") throw StoreError("文件已损坏。");
+  if (!rows.next() || rows.text("integrity_check") != "ok")
+    throw StoreError(Words::tr("文件已损坏。"));
 }
 
 std::vector<std::filesystem::path> protectDataFile(const std::filesystem::path& path) {

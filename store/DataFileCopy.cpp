@@ -3,6 +3,7 @@
 #include <system_error>
 
 #include "base/WholeFile.h"
+#include "base/Words.h"
 #include "store/Connection.h"
 #include "store/DataFile.h"
 #include "store/DataFilePath.h"
@@ -15,7 +16,7 @@ namespace {
 void requireOtherFile(const Connection& connection, const std::filesystem::path& target) {
   std::error_code missing;
   if (std::filesystem::equivalent(connection.source().path, target, missing))
-    throw StoreError("不能备份到数据文件自己：" + target.string());
+    throw StoreError(Words::tr("不能备份到数据文件自己：%1", target.string()));
 }
 
 void finishVerified(const Connection& original, WholeFile& copy,
@@ -23,7 +24,7 @@ void finishVerified(const Connection& original, WholeFile& copy,
   try {
     requireSoundDataFile({copy.path(), original.source().password}, Soundness::kEveryPage);
   } catch (const StoreError& error) {
-    throw StoreError("备份文件写出来不对，没有采用：" + std::string(error.what()));
+    throw StoreError(Words::tr("备份文件写出来不对，没有采用：%1", error.what()));
   }
   removeLogs(target);
   copy.finish();

@@ -9,6 +9,7 @@
 #include <string>
 
 #include "base/SystemFault.h"
+#include "base/Words.h"
 #include "store/DataFilePath.h"
 #include "store/StoreError.h"
 
@@ -27,8 +28,9 @@ std::string openingFault(const std::filesystem::path& dataFile, int error) {
   const bool isAnothers = (error == EACCES || error == EPERM) &&
                           stat(dataFile.c_str(), &status) == 0 && status.st_uid != geteuid();
   if (!isAnothers) return fileFault(error);
-  return "它属于用户 " + userName(status.st_uid) + "，用户 " + userName(geteuid()) +
-         " 不能读写。请用那个用户启动，或者请管理员把文件交给现在的用户。";
+  return Words::tr(
+      "它属于用户 %1，用户 %2 不能读写。请用那个用户启动，或者请管理员把文件交给现在的用户。",
+      userName(status.st_uid), userName(geteuid()));
 }
 
 // A lock of this handle, not of the process: the engine opens and closes handles of its own, which
@@ -46,8 +48,8 @@ void take(int file, const std::filesystem::path& dataFile) {
   if (!lockedByNobodyElse(file)) {
     const int cause = errno;
     if (cause == EAGAIN || cause == EACCES)
-      throw StoreError("收款程序已经打开，正在使用这个数据文件，不能同时打开第二个。");
-    throw StoreError("不能锁定数据文件 " + dataFile.string() + "：" + fileFault(cause));
+      throw StoreError(Words::tr("收款程序已经打开，正在使用这个数据文件，不能同时打开第二个。"));
+    throw StoreError(Words::tr("不能锁定数据文件 %1：%2", dataFile.string(), fileFault(cause)));
   }
   struct stat locked {};
   fstat(file, &locked);
@@ -61,7 +63,8 @@ DataFileLock::DataFileLock(const std::filesystem::path& dataFile) {
   const std::filesystem::path found = existingDataFile(dataFile);
   file_ = open(found.c_str(), O_RDWR | O_CLOEXEC);
   if (file_ < 0)
-    throw StoreError("打不开数据文件 " + found.string() + "：" + openingFault(found, errno));
+    throw StoreError(
+        Words::tr("打不开数据文件 %1：%2", found.string(), openingFault(found, errno)));
   try {
     take(file_, found);
   } catch (...) {

@@ -7,6 +7,7 @@
 #include <system_error>
 
 #include "base/FileName.h"
+#include "base/Words.h"
 #include "store/StoreError.h"
 
 namespace fs = std::filesystem;
@@ -15,8 +16,9 @@ namespace {
 
 void requireOneName(const fs::path& dataFile, std::uintmax_t names) {
   if (names <= 1) return;
-  throw StoreError("数据文件 " + dataFile.string() +
-                   " 在磁盘上另有一个名字（硬链接）。两个名字同时使用会丢失数据，请只留一个。");
+  throw StoreError(Words::tr(
+      "数据文件 %1 在磁盘上另有一个名字（硬链接）。两个名字同时使用会丢失数据，请只留一个。",
+      dataFile.string()));
 }
 
 }  // namespace
@@ -30,15 +32,15 @@ fs::path existingDataFile(const fs::path& path) {
     return found;
   }
   if (fs::is_directory(status)) {
-    throw StoreError("数据文件的位置是一个文件夹：" + found.string());
+    throw StoreError(Words::tr("数据文件的位置是一个文件夹：%1", found.string()));
   }
   if (fs::exists(status)) {
-    throw StoreError("数据文件的位置不是普通文件：" + found.string());
+    throw StoreError(Words::tr("数据文件的位置不是普通文件：%1", found.string()));
   }
   if (fault == std::errc::permission_denied) {
-    throw StoreError("没有权限进入数据文件所在的文件夹：" + found.string());
+    throw StoreError(Words::tr("没有权限进入数据文件所在的文件夹：%1", found.string()));
   }
-  throw StoreError("找不到数据文件：" + path.string());
+  throw StoreError(Words::tr("找不到数据文件：%1", path.string()));
 }
 
 void removeLogs(const fs::path& dataFile) {
@@ -51,7 +53,7 @@ void removeLogs(const fs::path& dataFile) {
 FileIdentity FileIdentity::of(const fs::path& dataFile) {
   struct stat status {};
   if (stat(dataFile.c_str(), &status) != 0)
-    throw StoreError("找不到数据文件：" + dataFile.string());
+    throw StoreError(Words::tr("找不到数据文件：%1", dataFile.string()));
   return {status.st_dev, status.st_ino};
 }
 
@@ -59,9 +61,10 @@ void requireSameDataFile(const fs::path& path, const FileIdentity& opened) {
   struct stat now {};
   if (stat(path.c_str(), &now) != 0 || FileIdentity{now.st_dev, now.st_ino} != opened) {
     throw StoreError(
-        "数据文件 " + path.string() +
-        " 在使用中被删除、移走或换成了别的文件，不能再保存。请把原来的文件放回原处。"
-        "放不回时请退出程序，退出时会备份到此为止的账目，可用 tilladmin restore 恢复。");
+        Words::tr("数据文件 %1 "
+                  "在使用中被删除、移走或换成了别的文件，不能再保存。请把原来的文件放回原处。放不回"
+                  "时请退出程序，退出时会备份到此为止的账目，可用 tilladmin restore 恢复。",
+                  path.string()));
   }
   requireOneName(path, now.st_nlink);
 }

@@ -6,6 +6,7 @@
 
 #include "base/DateTime.h"
 #include "base/Text.h"
+#include "base/Words.h"
 #include "store/FragmentCondition.h"
 #include "store/FragmentPieces.h"
 #include "store/StoreError.h"
@@ -41,8 +42,8 @@ class Translator {
 
  private:
   // Shows what was read before the fault; the values stay out of it, one may be a password.
-  [[noreturn]] void refuse(const char* why) const {
-    throw StoreError("数据语句有误：" + std::string(why) + "，在“" + result_.text + "”之后。");
+  [[noreturn]] void refuse(const std::string& why) const {
+    throw StoreError(Words::tr("数据语句有误：%1，在“%2”之后。", why, result_.text));
   }
 
   void takeOne() {
@@ -64,7 +65,7 @@ class Translator {
     std::size_t from = 1;
     while (true) {
       const std::size_t quote = rest_.find('\'', from);
-      if (quote == std::string_view::npos) refuse("引号没有结束");
+      if (quote == std::string_view::npos) refuse(Words::tr("引号没有结束"));
       text.append(rest_, from, quote - from);
       from = quote + 1;
       if (from == rest_.size() || rest_[from] != '\'') break;
@@ -81,18 +82,18 @@ class Translator {
 
   void takeDate() {
     const std::size_t end = rest_.find('#', 1);
-    if (end == std::string_view::npos) refuse("日期没有结束");
+    if (end == std::string_view::npos) refuse(Words::tr("日期没有结束"));
     const std::optional<DateTime> time = parseAccessLiteral(rest_.substr(0, end + 1));
-    if (!time) refuse("没有这个日期");
+    if (!time) refuse(Words::tr("没有这个日期"));
     bind(storedText(*time), end + 1);
   }
 
   void takeName(char closing) {
     const std::size_t end = rest_.find(closing, 1);
-    if (end == std::string_view::npos) refuse("名称没有结束");
+    if (end == std::string_view::npos) refuse(Words::tr("名称没有结束"));
     const std::string_view name = rest_.substr(1, end - 1);
     if (name.find_first_of(std::string_view("\"\0", 2)) != std::string_view::npos) {
-      refuse("没有这个名称");
+      refuse(Words::tr("没有这个名称"));
     }
     result_.text.append("\"").append(name).append("\"");
     rest_.remove_prefix(end + 1);
@@ -103,7 +104,7 @@ class Translator {
   void takeNumber() {
     const std::string_view number = rest_.substr(0, numberLength());
     const char after = number.size() < rest_.size() ? rest_[number.size()] : ' ';
-    if (isLetter(after) || isDigit(after) || after == '.') refuse("数字写法不对");
+    if (isLetter(after) || isDigit(after) || after == '.') refuse(Words::tr("数字写法不对"));
     fragments_.valueOrQuotedName();
     if (atListStart_) return copyWord(number.size());  // "order by 1" names the first column
     bind(numberValue(number), number.size());
@@ -133,7 +134,7 @@ class Translator {
     if (wholeEnd == end && wholeFault == std::errc{}) return whole;
     double value = 0;
     if (std::from_chars(number.data(), end, value).ec != std::errc{}) {
-      refuse("数字太大");
+      refuse(Words::tr("数字太大"));
     }
     return value;
   }
@@ -163,8 +164,8 @@ class Translator {
   }
 
   void takeOperator(char sign) {
-    if (!isOperator(sign)) refuse("有不认识的字符");
-    if (rest_.starts_with("--") || rest_.starts_with("/*")) refuse("不能有注释");
+    if (!isOperator(sign)) refuse(Words::tr("有不认识的字符"));
+    if (rest_.starts_with("--") || rest_.starts_with("/*")) refuse(Words::tr("不能有注释"));
     fragments_.sign(sign);
     if (sign == '(') ++depth_;
     if (sign == ')' && --depth_ < listDepth_) listDepth_ = kNoList;
@@ -175,7 +176,7 @@ class Translator {
   void takeEnd() {
     rest_.remove_prefix(1);
     for (const char sign : rest_) {
-      if (!isBlank(sign)) refuse("只能有一条语句");
+      if (!isBlank(sign)) refuse(Words::tr("只能有一条语句"));
     }
     rest_ = {};
   }

@@ -6,6 +6,7 @@
 #include <string_view>
 
 #include "base/WholeFile.h"
+#include "base/Words.h"
 #include "store/Connection.h"
 #include "store/Engine.h"
 #include "store/StoreError.h"
@@ -42,7 +43,7 @@ FileReading::FileReading(Connection& connection) : connection_(connection) {
     if (logIsEmpty(engine)) return;
     execute(engine, "rollback");
   }
-  throw StoreError("另一个程序一直在写数据文件，没有备份。");
+  throw StoreError(Words::tr("另一个程序一直在写数据文件，没有备份。"));
 }
 
 FileReading::~FileReading() {

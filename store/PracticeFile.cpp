@@ -20,7 +20,7 @@ drop table SP_LB;
 )";
 
 constexpr const char* kBeginning = R"(
-insert into main.sys_param select * from shop.sys_param;
+insert into main.sys_param select * from shop.sys_param where name <> 'Journal';
 insert into main.operators select * from shop.operators;
 insert into main.operator_rights select * from shop.operator_rights;
 insert into main.operator_cards select * from shop.operator_cards;

@@ -3,6 +3,7 @@
 #include <utility>
 
 #include "base/Text.h"
+#include "base/Words.h"
 #include "store/StoreError.h"
 
 Recordset::Record::Record(const Columns& columns, std::vector<Value> values)
@@ -12,7 +13,7 @@ Value Recordset::Record::field(std::string_view column) const {
   for (std::size_t index = 0; index < columns_->size(); ++index) {
     if (equalIgnoringCase((*columns_)[index], column)) return values_[index];
   }
-  throw StoreError("查询结果里没有“" + std::string(column) + "”这一列。");
+  throw StoreError(Words::tr("查询结果里没有“%1”这一列。", column));
 }
 
 Recordset::Recordset(std::shared_ptr<const Columns> columns, std::vector<std::vector<Value>> rows)

@@ -4,12 +4,13 @@
 #include <limits>
 
 #include "base/NumberText.h"
+#include "base/Words.h"
 #include "store/StoreError.h"
 
 namespace {
 
-[[noreturn]] void refuse(std::string_view column, const char* wanted) {
-  throw StoreError("数据文件里“" + std::string(column) + "”的内容不是" + wanted + "。");
+[[noreturn]] void refuse(std::string_view column, const std::string& wanted) {
+  throw StoreError(Words::tr("数据文件里“%1”的内容不是%2。", column, wanted));
 }
 
 bool isWhole(double number) {
@@ -48,7 +49,7 @@ std::optional<Currency> Row::currency(std::string_view column) const {
   if (const auto* whole = std::get_if<std::int64_t>(&value)) money = currencyOf(*whole);
   if (const auto* number = std::get_if<double>(&value)) money = currencyOf(*number);
   if (const auto* text = std::get_if<std::string>(&value)) money = Currency::parse(*text);
-  if (!money) refuse(column, "金额");
+  if (!money) refuse(column, Words::tr("金额"));
   return money;
 }
 
@@ -58,7 +59,7 @@ std::optional<double> Row::number(std::string_view column) const {
   if (const auto* whole = std::get_if<std::int64_t>(&value)) return static_cast<double>(*whole);
   if (const auto* number = std::get_if<double>(&value)) return *number;
   const std::optional<double> read = parseNumber(std::get<std::string>(value));
-  if (!read) refuse(column, "数字");
+  if (!read) refuse(column, Words::tr("数字"));
   return read;
 }
 
@@ -67,7 +68,7 @@ std::optional<std::int64_t> Row::whole(std::string_view column) const {
   if (const auto* whole = std::get_if<std::int64_t>(&value)) return *whole;
   const std::optional<double> read = number(column);
   if (!read) return std::nullopt;
-  if (!isWhole(*read)) refuse(column, "整数");
+  if (!isWhole(*read)) refuse(column, Words::tr("整数"));
   return static_cast<std::int64_t>(*read);
 }
 
@@ -76,7 +77,7 @@ std::optional<DateTime> Row::dateTime(std::string_view column) const {
   if (std::holds_alternative<std::monostate>(value)) return std::nullopt;
   const auto* text = std::get_if<std::string>(&value);
   const std::optional<DateTime> read = text ? parseDateTime(*text) : std::nullopt;
-  if (!read) refuse(column, "日期");
+  if (!read) refuse(column, Words::tr("日期"));
   return read;
 }
 

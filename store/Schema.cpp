@@ -2,6 +2,7 @@
 
 #include <cstddef>
 
+#include "base/Words.h"
 #include "store/Connection.h"
 #include "store/StoreError.h"
 #include "store/Transaction.h"
@@ -24,9 +25,9 @@ void setPragma(Connection& connection, const std::string& name, std::int64_t val
 /// Number of steps that the file has seen.
 std::size_t stepsDone(Connection& connection) {
   const std::int64_t version = pragma(connection, "user_version");
-  if (version < 0) throw StoreError("数据文件已损坏：版本号不对。");
+  if (version < 0) throw StoreError(Words::tr("数据文件已损坏：版本号不对。"));
   if (version > static_cast<std::int64_t>(schemaSteps().size())) {
-    throw StoreError("数据文件是更新版本的程序建立的，请先升级本程序。");
+    throw StoreError(Words::tr("数据文件是更新版本的程序建立的，请先升级本程序。"));
   }
   return static_cast<std::size_t>(version);
 }
@@ -35,7 +36,7 @@ std::size_t stepsDone(Connection& connection) {
 
 void requireShopFile(Connection& connection) {
   if (pragma(connection, "application_id") != kApplicationMark)
-    throw StoreError("这不是本系统的数据文件：" + connection.source().path.string());
+    throw StoreError(Words::tr("这不是本系统的数据文件：%1", connection.source().path.string()));
   static_cast<void>(stepsDone(connection));
 }
 

@@ -3,6 +3,7 @@
 #include <utility>
 
 #include "base/Text.h"
+#include "base/Words.h"
 #include "store/StoreError.h"
 
 namespace {
@@ -30,7 +31,7 @@ Statement::Statement(sqlite3* engine, std::string_view text) : engine_(engine), 
   const bool single = prepared_ != nullptr && rest == text_.c_str() + text_.size();
   if (single) return;
   sqlite3_finalize(prepared_);
-  throw StoreError("数据语句有误：不是一条语句：" + text_);
+  throw StoreError(Words::tr("数据语句有误：不是一条语句：%1", text_));
 }
 
 Statement::~Statement() {
@@ -124,5 +125,5 @@ int Statement::indexOf(std::string_view name) const {
     nextIndex_ = index + 1;
     return index;
   }
-  throw StoreError("查询结果里没有“" + std::string(name) + "”这一列。");
+  throw StoreError(Words::tr("查询结果里没有“%1”这一列。", name));
 }

@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "base/WholeFile.h"
+#include "base/Words.h"
 #include "store/Connection.h"
 #include "store/Engine.h"
 #include "store/Schema.h"
@@ -84,7 +85,8 @@ void SteppedCopy::requireSame(Connection& copied, const Count& original) {
   requireShopFile(copied);
   Rows rows = copied.query("pragma integrity_check(1)");
   if (!rows.next() || rows.text("integrity_check") != "ok")
-    throw StoreError("备份出来的账目有损坏，没有采用。请用 tilladmin check 检查数据文件。");
+    throw StoreError(
+        Words::tr("备份出来的账目有损坏，没有采用。请用 tilladmin check 检查数据文件。"));
   if (countOf(copied) != original)
-    throw StoreError("备份出来的单据数和数据文件的不一样，没有采用。");
+    throw StoreError(Words::tr("备份出来的单据数和数据文件的不一样，没有采用。"));
 }

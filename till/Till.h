@@ -21,7 +21,7 @@ class Till {
   Q_DECLARE_TR_FUNCTIONS(Till)
 
  public:
-  /// `folder` is the shop's (app/ShopFolder.h).
+  /// `folder` is the shop's (base/ShopFolder.h).
   explicit Till(std::filesystem::path folder);
   ~Till();
 

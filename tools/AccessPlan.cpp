@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "base/Text.h"
+#include "base/Words.h"
 #include "shop/Refusal.h"
 
 namespace {
@@ -17,7 +18,7 @@ struct Mapping {
 Mapping mappingOf(const std::string& text) {
   const std::size_t equals = text.rfind('=');
   if (equals == std::string::npos || equals == 0 || equals + 1 == text.size()) {
-    throw Refusal("--map 要写成 旧表=新表，或者 旧表.旧列=新列：" + text);
+    throw Refusal(Words::tr("--map 要写成 旧表=新表，或者 旧表.旧列=新列：%1", text));
   }
   Mapping mapping{text, text.substr(0, equals), "", text.substr(equals + 1)};
   if (const std::size_t dot = mapping.table.find('.'); dot != std::string::npos) {
@@ -40,8 +41,9 @@ template <class Range>
 std::size_t requiredPlace(const Range& range, const std::string& name, const std::string& what) {
   if (const auto place = placeOf(range, name)) return *place;
   std::string names;
-  for (const auto& each : range) names += (names.empty() ? "" : "、") + std::string(each.name);
-  throw Refusal(what + "没有“" + name + "”。可以写的：" + names + "。");
+  for (const auto& each : range)
+    names += (names.empty() ? "" : Words::tr("、")) + std::string(each.name);
+  throw Refusal(Words::tr("%1没有“%2”。可以写的：%3。", what, name, names));
 }
 
 class Planner {
@@ -66,8 +68,9 @@ class Planner {
 Planner::Planner(const AccessFile& file, const AccessChoices& choices, const DateTime& now)
     : sources_(file.tables()), targets_(targetTables(now)), skips_(choices.skips) {
   std::ranges::transform(choices.maps, std::back_inserter(maps_), mappingOf);
-  for (const Mapping& map : maps_) requiredPlace(sources_, map.table, "Access 文件里的表");
-  for (const std::string& skip : skips_) requiredPlace(targets_, skip, "可以带来的表");
+  for (const Mapping& map : maps_)
+    requiredPlace(sources_, map.table, Words::tr("Access 文件里的表"));
+  for (const std::string& skip : skips_) requiredPlace(targets_, skip, Words::tr("可以带来的表"));
 }
 
 Planner::Pairs Planner::pairs() const {
@@ -75,9 +78,10 @@ Planner::Pairs Planner::pairs() const {
   std::vector<bool> isMapped(sources_.size());
   for (const Mapping& map : maps_) {
     if (!map.column.empty()) continue;
-    const std::size_t source = requiredPlace(sources_, map.table, "Access 文件里的表");
-    auto& pair = pairs[requiredPlace(targets_, map.target, "可以带来的表")];
-    if (pair || isMapped[source]) throw Refusal("--map " + map.text + " 与前面的 --map 冲突。");
+    const std::size_t source = requiredPlace(sources_, map.table, Words::tr("Access 文件里的表"));
+    auto& pair = pairs[requiredPlace(targets_, map.target, Words::tr("可以带来的表"))];
+    if (pair || isMapped[source])
+      throw Refusal(Words::tr("--map %1 与前面的 --map 冲突。", map.text));
     pair = source;
     isMapped[source] = true;
   }
@@ -103,8 +107,8 @@ AccessPlan Planner::plan() {
     if (map.column.empty() || plan.source(sources_[*placeOf(sources_, map.table)]) != nullptr) {
       continue;
     }
-    throw Refusal("--map " + map.text + "：表 " + map.table + " 不带来，先用 --map " + map.table +
-                  "=新表 指出它是哪张表。");
+    throw Refusal(Words::tr("--map %1：表 %2 不带来，先用 --map %3=新表 指出它是哪张表。", map.text,
+                            map.table, map.table));
   }
   return plan;
 }
@@ -116,12 +120,13 @@ PlannedTable Planner::together(const AccessTable& source, const TargetTable& tar
   for (const Mapping& map : maps_) {
     if (map.column.empty() || !equalIgnoringCase(map.table, source.name)) continue;
     const std::size_t column =
-        requiredPlace(source.columns, map.column, "表 " + source.name + " 里的列");
+        requiredPlace(source.columns, map.column, Words::tr("表 %1 里的列", source.name));
     auto& from = table.from[requiredPlace(target.columns, map.target,
-                                          "表 " + std::string(target.name) + " 里的列")];
-    if (from || isMapped[column]) throw Refusal("--map " + map.text + " 与前面的 --map 冲突。");
+                                          Words::tr("表 %1 里的列", target.name))];
+    if (from || isMapped[column])
+      throw Refusal(Words::tr("--map %1 与前面的 --map 冲突。", map.text));
     if (!source.columns[column].isReadable) {
-      throw Refusal("--map " + map.text + "：" + source.columns[column].type + "的列带不过来。");
+      throw Refusal(Words::tr("--map %1：%2的列带不过来。", map.text, source.columns[column].type));
     }
     from = column;
     isMapped[column] = true;
@@ -179,15 +184,16 @@ AccessPlan planned(const AccessFile& file, const AccessChoices& choices, const D
 
 void requireComplete(const AccessPlan& plan) {
   if (plan.tables.empty()) {
-    throw Refusal(
-        "Access 文件里没有可以带来的表。用 --list 看它有哪些表，用 --map 旧表=新表 指出。");
+    throw Refusal(Words::tr(
+        "Access 文件里没有可以带来的表。用 --list 看它有哪些表，用 --map 旧表=新表 指出。"));
   }
   for (const PlannedTable& table : plan.tables) {
     const std::vector<std::string> lacking = table.lacking();
     if (lacking.empty()) continue;
     const std::string& old = table.source->name;
-    throw Refusal("什么也没有带来：表 " + old + " 里没有 " + lacking.front() +
-                  " 这一列。用 --list 看它有哪些列，用 --map " + old + ".旧列=" + lacking.front() +
-                  " 指出；不要这张表就加上 --skip " + table.target.name + "。");
+    throw Refusal(
+        Words::tr("什么也没有带来：表 %1 里没有 %2 这一列。用 --list 看它有哪些列，用 --map "
+                  "%3.旧列=%4 指出；不要这张表就加上 --skip %5。",
+                  old, lacking.front(), old, lacking.front(), table.target.name));
   }
 }

@@ -7,6 +7,7 @@
 #include "base/NumberText.h"
 #include "base/Text.h"
 #include "base/Utf8.h"
+#include "base/Words.h"
 
 namespace {
 
@@ -40,12 +41,12 @@ TakenValue textOf(std::string text) {
   std::string change;
   if (hasControlCharacter(text)) {
     text = withoutControls(text);
-    change = "里的换行等控制字符改成了空格";
+    change = Words::tr("里的换行等控制字符改成了空格");
   }
   if (const std::size_t length = characters(text); length > kLongestText) {
     text = firstCharacters(text, kLongestText);
-    change += (change.empty() ? "" : "，") + std::string("有 ") + std::to_string(length) +
-              " 个字，只带来前 255 个";
+    const std::string cut = Words::tr("有 %1 个字，只带来前 255 个", length);
+    change = change.empty() ? cut : Words::tr("%1，%2", change, cut);
   }
   return {std::move(text), std::move(change)};
 }
@@ -101,25 +102,25 @@ std::optional<TakenValue> takenValue(const AccessValue& value, Kind kind) {
 
 std::string shownValue(const AccessValue& value) {
   constexpr std::size_t kLongestShown = 40;
-  const std::string text = withoutControls(written(value).value_or("不是数字"));
-  if (text.empty()) return "空着";
+  const std::string text = withoutControls(written(value).value_or(Words::tr("不是数字")));
+  if (text.empty()) return Words::tr("空着");
   return "“" + firstCharacters(text, kLongestShown) +
          (characters(text) > kLongestShown ? "……”" : "”");
 }
 
-const char* kindName(Kind kind) {
+std::string kindName(Kind kind) {
   switch (kind) {
     case Kind::kText:
-      return "文字";
+      return Words::tr("文字");
     case Kind::kMoney:
-      return "金额";
+      return Words::tr("金额");
     case Kind::kNumber:
-      return "数字";
+      return Words::tr("数字");
     case Kind::kWhole:
     case Kind::kFlag:
-      return "整数";
+      return Words::tr("整数");
     case Kind::kDate:
-      return "日期";
+      return Words::tr("日期");
   }
   return "";
 }

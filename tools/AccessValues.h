@@ -22,4 +22,4 @@ std::optional<TakenValue> takenValue(const AccessValue& value, TargetColumn::Kin
 /// A value for people, shortened.
 std::string shownValue(const AccessValue& value);
 /// What the kind of column holds, for people: "金额".
-const char* kindName(TargetColumn::Kind kind);
+std::string kindName(TargetColumn::Kind kind);

@@ -8,6 +8,7 @@
 #include "base/FileName.h"
 #include "base/NumberText.h"
 #include "base/Text.h"
+#include "base/Words.h"
 #include "shop/Refusal.h"
 #include "store/Connection.h"
 
@@ -22,9 +23,8 @@ std::string contents(const DataSource& backup) {
         opened.query("select count(*) as bills, max(sell_time) as last from sell where state = 1");
     rows.next();
     const std::int64_t bills = rows.whole("bills").value();
-    std::string text = "单据 " + std::to_string(bills) + " 张";
-    if (bills > 0) text.append("，最后一张 ").append(rows.text("last"));
-    return text;
+    return bills > 0 ? Words::tr("单据 %1 张，最后一张 %2", bills, rows.text("last"))
+                     : Words::tr("单据 %1 张", bills);
   } catch (const Failure& failure) {
     return failure.what();
   }
@@ -37,15 +37,15 @@ fs::path askForBackup(const DataSource& file, const std::string& folder, Console
   const BackupFolder backups =
       folder.empty() ? BackupFolder::beside(dataFile) : BackupFolder(folder, dataFile);
   const std::vector<Date> dates = backups.dates();
-  if (dates.empty()) throw Refusal("这里没有每天的备份：" + backups.path().string());
+  if (dates.empty()) throw Refusal(Words::tr("这里没有每天的备份：%1", backups.path().string()));
   for (std::size_t i = 0; i < dates.size(); ++i)
     console.out << i + 1 << "  " << dateText(dates[i]) << "  "
                 << contents({backups.file(dates[i]), file.password}) << '\n';
-  console.out << "用哪一个恢复？请输入编号，直接回车不恢复：" << std::flush;
+  console.out << Words::tr("用哪一个恢复？请输入编号，直接回车不恢复：") << std::flush;
   std::string typed;
   std::getline(console.in, typed);
   const std::optional<double> number = parseNumber(trimmed(typed));
   for (std::size_t i = 0; i < dates.size(); ++i)
     if (number == static_cast<double>(i + 1)) return backups.file(dates[i]);
-  throw Refusal("没有选备份，什么也没有改。");
+  throw Refusal(Words::tr("没有选备份，什么也没有改。"));
 }

@@ -4,6 +4,7 @@
 #include <string>
 #include <vector>
 
+#include "base/Words.h"
 #include "saleslib/Journal.h"
 #include "saleslib/JournalRecords.h"
 #include "shop/Refusal.h"
@@ -44,7 +45,8 @@ bool isWrong(const std::optional<DateTime>& time, const DateTime& right, const D
 DateTime timeOfFirst(const std::vector<Line>& lines, const DateTime& now) {
   if (!lines.empty() && lines.front().time && *lines.front().time <= now)
     return *lines.front().time;
-  throw Refusal("商品行的时间也不对，要用 --to \"年-月-日 时:分:秒\" 写明这张单据的时间。");
+  throw Refusal(
+      Words::tr("商品行的时间也不对，要用 --to \"年-月-日 时:分:秒\" 写明这张单据的时间。"));
 }
 
 std::int64_t redateLines(Connection& connection, const std::vector<Line>& lines, const DateTime& to,
@@ -62,16 +64,16 @@ std::int64_t redateLines(Connection& connection, const std::vector<Line>& lines,
 Redated redateBill(Connection& connection, std::int64_t number, std::optional<DateTime> to,
                    const DateTime& now) {
   Transaction redating(connection);
-  const std::string name = "单据 " + std::to_string(number);
+  const std::string name = Words::tr("单据 %1", number);
   Rows bill = connection.query("select sell_time from sell where id = ?", number);
-  if (!bill.next()) throw Refusal("没有" + name + "。");
+  if (!bill.next()) throw Refusal(Words::tr("没有%1。", name));
   const std::vector<Line> lines = linesOf(connection, number);
   const std::optional<DateTime> time = timeOf(bill, "sell_time");
   const std::optional<DateTime> first = lines.empty() ? time : lines.front().time;
   if (!isWrong(time, first.value_or(now), now)) {
-    throw Refusal(name + " 的时间 " + storedText(*time) + " 没有不对的地方，没有改。");
+    throw Refusal(Words::tr("%1 的时间 %2 没有不对的地方，没有改。", name, storedText(*time)));
   }
-  if (to && *to > now) throw Refusal("--to 的时间还没有到。");
+  if (to && *to > now) throw Refusal(Words::tr("--to 的时间还没有到。"));
   const DateTime right = to ? *to : timeOfFirst(lines, now);
   const std::string before = billMark(connection, number);
   connection.run("update sell set sell_time = ? where id = ?", right, number);

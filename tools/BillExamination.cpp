@@ -5,6 +5,7 @@
 #include "base/Currency.h"
 #include "base/Failure.h"
 #include "base/NumberText.h"
+#include "base/Words.h"
 #include "saleslib/ClsSell.h"
 #include "saleslib/ClsSellItem.h"
 #include "saleslib/ClsSysParam.h"
@@ -84,13 +85,13 @@ BillExamination::BillExamination(const Examination& books)
 void BillExamination::run() {
   for (std::int64_t done = 1; bills_.next(); ++done) {
     const std::int64_t number = bills_.whole("id").value();
-    bill_ = "单据 " + std::to_string(number);
+    bill_ = Words::tr("单据 %1", number);
     isReturned_ = hasReturns(number);
     const LineSums lines = linesOf(number);
     try {
       examine(*ClsSell::fromRow(books_.connection, bills_), lines);
     } catch (const Failure& unreadable) {
-      fault(std::string(" 读不出来，收银窗口会因此打不开：") + unreadable.what());
+      fault(Words::tr(" 读不出来，收银窗口会因此打不开：%1", unreadable.what()));
     }
     if (done % kBillsPerProgress == 0) books_.progress(done);
   }
@@ -112,20 +113,20 @@ void BillExamination::skipOrphans(std::optional<std::int64_t> upTo) {
     const std::optional<std::int64_t> bill = numberOf(lines_, "sellId");
     if (upTo && bill && *bill >= *upTo) return;
     if (upTo && !bill && lines_.text("sellId") >= ":") return;  // texts come behind all numbers
-    books_.fault("商品行 " + lines_.text("id") + "（" + lines_.text("name") + "）的单据 " +
-                 lines_.text("sellId") + " 不存在");
+    books_.fault(Words::tr("商品行 %1（%2）的单据 %3 不存在", lines_.text("id"),
+                           lines_.text("name"), lines_.text("sellId")));
   }
 }
 
 void BillExamination::addLine(LineSums& sums) {
-  const std::string line = " 的商品行 " + lines_.text("id") + "（" + lines_.text("name") + "）";
+  const std::string line = Words::tr(" 的商品行 %1（%2）", lines_.text("id"), lines_.text("name"));
   ++sums.count;
   try {
     const ClsSellItem item = ClsSellItem::fromRow(books_.connection, lines_);
     const Currency money = lines_.currency("money").value_or(Currency());
     if (money != item.Money()) {
-      fault(line + "金额是 " + twoDecimals(money) + "，按单价、数量、折扣应是 " +
-            twoDecimals(item.Money()));
+      fault(Words::tr("%1金额是 %2，按单价、数量、折扣应是 %3", line, twoDecimals(money),
+                      twoDecimals(item.Money())));
     }
     sums.quantity = roundedQuantity(sums.quantity + item.Quantity());
     sums.amount += money;
@@ -133,7 +134,7 @@ void BillExamination::addLine(LineSums& sums) {
     if (rung && (!sums.first || *rung < *sums.first)) sums.first = rung;
   } catch (const Failure& unreadable) {
     sums.isReadable = false;
-    fault(line + "读不出来：" + unreadable.what());
+    fault(Words::tr("%1读不出来：%2", line, unreadable.what()));
   }
 }
 
@@ -145,33 +146,33 @@ bool BillExamination::hasReturns(std::int64_t number) {
 }
 
 void BillExamination::examine(const ClsSell& bill, const LineSums& lines) {
-  if (bill.BillNo() <= 0) fault(" 的号码不是流水号");
+  if (bill.BillNo() <= 0) fault(Words::tr(" 的号码不是流水号"));
   if (bill.State() != 0 && bill.State() != 1) {
-    fault(" 的状态不是未结也不是已结：" + std::to_string(bill.State()));
+    fault(Words::tr(" 的状态不是未结也不是已结：%1", bill.State()));
   }
   const bool isPaid = numberOf(bills_, "paid") != 0;
-  if (bill.State() == 1 && isPaid) fault(" 已结，却还带着收款未存的标记");
+  if (bill.State() == 1 && isPaid) fault(Words::tr(" 已结，却还带着收款未存的标记"));
   if (bill.State() == 1 || isPaid) {
     examineSums(bill, lines);
     examineDue(bill);
     examineTenders(bill);
     examinePayment(bill);
   } else if (!bill.Cash().isZero() || !bill.CardPay().isZero() || !bill.CardNo().empty()) {
-    fault(" 还没结账，却已有付款");
+    fault(Words::tr(" 还没结账，却已有付款"));
   }
   examineTime(bill, lines);
 }
 
 void BillExamination::examineSums(const ClsSell& bill, const LineSums& lines) {
-  if (lines.count == 0) fault(" 没有商品行");
+  if (lines.count == 0) fault(Words::tr(" 没有商品行"));
   if (!lines.isReadable) return;
   if (roundedQuantity(bill.Quantity()) != lines.quantity) {
-    fault(" 的数量是 " + generalNumber(bill.Quantity()) + "，商品行加起来是 " +
-          generalNumber(lines.quantity));
+    fault(Words::tr(" 的数量是 %1，商品行加起来是 %2", generalNumber(bill.Quantity()),
+                    generalNumber(lines.quantity)));
   }
   if (bill.GoodsAmount() != lines.amount) {
-    fault(" 的商品金额是 " + twoDecimals(bill.GoodsAmount()) + "，商品行加起来是 " +
-          twoDecimals(lines.amount));
+    fault(Words::tr(" 的商品金额是 %1，商品行加起来是 %2", twoDecimals(bill.GoodsAmount()),
+                    twoDecimals(lines.amount)));
   }
 }
 
@@ -179,13 +180,13 @@ void BillExamination::examineDue(const ClsSell& bill) {
   const Currency due = bill.Amount(), goods = bill.GoodsAmount();
   if (due == goods) return;
   const std::string figures =
-      " 的应收是 " + twoDecimals(due) + "，商品金额是 " + twoDecimals(goods);
+      Words::tr(" 的应收是 %1，商品金额是 %2", twoDecimals(due), twoDecimals(goods));
   if (!mayRound_) {
-    fault(figures + "，店里却从来没有设过抹零");
+    fault(Words::tr("%1，店里却从来没有设过抹零", figures));
   } else if (due - goods > kLargestRounding || goods - due > kLargestRounding) {
-    fault(figures + "，抹零到不了这么多");
+    fault(Words::tr("%1，抹零到不了这么多", figures));
   } else if (!isReturned_ && due.scaled() % kJiao != 0) {
-    fault(figures + "，抹零之后却不是整角");
+    fault(Words::tr("%1，抹零之后却不是整角", figures));
   }
 }
 
@@ -193,8 +194,8 @@ void BillExamination::examineTenders(const ClsSell& bill) {
   for (const TenderKind& kind : tenderKinds()) {
     const Currency figure = bill.Tendered(kind.tender);
     if (kind.parameter == nullptr || figure.isZero() || !unset_.contains(kind.parameter)) continue;
-    fault(" 有" + std::string(kind.name) + "付款 " + twoDecimals(figure) + "，店里却从来没有设过 " +
-          kind.parameter);
+    fault(Words::tr(" 有%1付款 %2，店里却从来没有设过 %3", kind.name, twoDecimals(figure),
+                    kind.parameter));
   }
 }
 
@@ -202,34 +203,35 @@ void BillExamination::examineTenders(const ClsSell& bill) {
 void BillExamination::examinePayment(const ClsSell& bill) {
   const Currency due = roundedToFen(bill.Amount()), paid = bill.CardPay();
   if (bill.CardNo().empty()) {
-    if (!paid.isZero()) fault(" 用储值卡付款，却没有卡号");
+    if (!paid.isZero()) fault(Words::tr(" 用储值卡付款，却没有卡号"));
     return;
   }
   const std::string figures =
-      " 的储值卡付款是 " + twoDecimals(paid) + "，应收是 " + twoDecimals(due);
+      Words::tr(" 的储值卡付款是 %1，应收是 %2", twoDecimals(paid), twoDecimals(due));
   if (paid < due) {
-    fault(figures + "，不够");
+    fault(Words::tr("%1，不够", figures));
   } else if (!isReturned_ && paid != due) {
-    fault(figures + "，付多了");
+    fault(Words::tr("%1，付多了", figures));
   }
-  if (!bill.Cash().isZero()) fault(" 用储值卡付款，却又有现金 " + twoDecimals(bill.Cash()));
+  if (!bill.Cash().isZero())
+    fault(Words::tr(" 用储值卡付款，却又有现金 %1", twoDecimals(bill.Cash())));
 }
 
 void BillExamination::examineTime(const ClsSell& bill, const LineSums& lines) {
   const DateTime& time = bill.SellTime();
   if (bills_.text("sell_time") != storedText(time)) {
-    fault(" 的时间不是年-月-日 时:分:秒的写法：" + bills_.text("sell_time"));
+    fault(Words::tr(" 的时间不是年-月-日 时:分:秒的写法：%1", bills_.text("sell_time")));
   }
-  const std::string hint = "；用 tilladmin bill redate 改正";
+  const std::string hint = Words::tr("；用 tilladmin bill redate 改正");
   if (time > books_.now) {
-    fault(" 的时间 " + storedText(time) + " 还没有到" +
-          (bill.State() == 1 && time.date > books_.now.date
-               ? "，收银窗口会因此打不开（电脑系统时间错误！）" + hint
-               : ""));
+    fault(bill.State() == 1 && time.date > books_.now.date
+              ? Words::tr(" 的时间 %1 还没有到，收银窗口会因此打不开（电脑系统时间错误！）%2",
+                          storedText(time), hint)
+              : Words::tr(" 的时间 %1 还没有到", storedText(time)));
   }
   if (bill.State() == 1 && lines.first && isFarFrom(time, *lines.first)) {
-    fault(" 的时间是 " + storedText(time) + "，第一行商品却是 " + storedText(*lines.first) +
-          " 录入的" + hint);
+    fault(Words::tr(" 的时间是 %1，第一行商品却是 %2 录入的%3", storedText(time),
+                    storedText(*lines.first), hint));
   }
 }
 
@@ -240,8 +242,8 @@ void examineDoubles(const Examination& books) {
       " group by sell_time having count(*) > 1 and min(amount) = max(amount)"
       " and min(quantity) = max(quantity)");
   while (rows.next()) {
-    books.remark("单据 " + rows.text("id") + " 和 " + rows.text("other") +
-                 " 的时间、数量和金额完全相同");
+    books.remark(
+        Words::tr("单据 %1 和 %2 的时间、数量和金额完全相同", rows.text("id"), rows.text("other")));
   }
 }
 
@@ -251,8 +253,8 @@ void examineSlips(const Examination& books) {
       "select min(id) as id, max(id) as other, phone_slip from sell"
       " where phone_slip is not null group by phone_slip having count(*) > 1");
   while (rows.next()) {
-    books.remark("单据 " + rows.text("id") + " 和 " + rows.text("other") + " 的付款码相同：" +
-                 rows.text("phone_slip"));
+    books.remark(Words::tr("单据 %1 和 %2 的付款码相同：%3", rows.text("id"), rows.text("other"),
+                           rows.text("phone_slip")));
   }
 }
 
@@ -270,7 +272,7 @@ void examineBills(const Examination& books) {
       "select id, operator_id from sell "
       "where state = 0 and operator_id not in (select id from operators)");
   while (unowned.next()) {
-    books.fault("未结的单据 " + unowned.text("id") + " 的操作员 " + unowned.text("operator_id") +
-                " 不存在");
+    books.fault(Words::tr("未结的单据 %1 的操作员 %2 不存在", unowned.text("id"),
+                          unowned.text("operator_id")));
   }
 }

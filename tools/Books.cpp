@@ -2,6 +2,7 @@
 
 #include <utility>
 
+#include "base/Words.h"
 #include "store/Connection.h"
 #include "store/Integrity.h"
 #include "store/Snapshot.h"
@@ -30,10 +31,13 @@ BooksSummary Books::check() {
 }
 
 void Books::checkFile() {
-  for (const std::string& found : fileFaults(connection_)) fault("数据文件损坏：" + found);
+  for (const std::string& found : fileFaults(connection_))
+    fault(Words::tr("数据文件损坏：%1", found));
   const SchemaDifference schema = schemaDifference(connection_);
-  for (const std::string& name : schema.added) fault("数据文件里多了本程序没有的东西：" + name);
-  for (const std::string& name : schema.missing) fault("数据文件里少了本程序要用的东西：" + name);
+  for (const std::string& name : schema.added)
+    fault(Words::tr("数据文件里多了本程序没有的东西：%1", name));
+  for (const std::string& name : schema.missing)
+    fault(Words::tr("数据文件里少了本程序要用的东西：%1", name));
 }
 
 void Books::count() {

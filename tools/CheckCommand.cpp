@@ -4,6 +4,7 @@
 #include <memory>
 
 #include "base/NumberText.h"
+#include "base/Words.h"
 #include "saleslib/TopUpBooks.h"
 #include "store/Connection.h"
 #include "store/FragmentIndex.h"
@@ -22,17 +23,22 @@ struct Options {
 void repairIndex(Connection& connection, Console& console) {
   if (fragmentIndexIsRight(connection)) return;
   rebuildFragmentIndex(connection);
-  console.out << "商品查找索引不对，已重建。\n";
+  console.out << Words::tr("商品查找索引不对，已重建。") << '\n';
 }
 
 // Not a fault: such a record loaded nothing, and the books go without it.
 void nameIncompleteTopUps(Connection& connection, Console& console) {
   for (const IncompleteTopUp& each : TopUpBooks(connection).incomplete()) {
-    console.out << "充值 " << each.id << " 没有完成，卡内余额没有改变：卡号 "
-                << each.topUp.cardNumber << "，付款 " << twoDecimals(each.topUp.paid) << "，充值 "
-                << twoDecimals(each.topUp.credited)
-                << (each.isReported ? "（已提示过收银员）。\n"
-                                    : "；下次打开收银窗口时提示收银员。\n");
+    const char* text = each.isReported
+                           ? Words::mark(
+                                 "充值 %1 没有完成，卡内余额没有改变：卡号 %2，付款 %3，充值 "
+                                 "%4（已提示过收银员）。")
+                           : Words::mark(
+                                 "充值 %1 没有完成，卡内余额没有改变：卡号 %2，付款 %3，充值 "
+                                 "%4；下次打开收银窗口时提示收银员。");
+    console.out << Words::tr(text, each.id, each.topUp.cardNumber, twoDecimals(each.topUp.paid),
+                             twoDecimals(each.topUp.credited))
+                << '\n';
   }
 }
 
@@ -42,37 +48,46 @@ void check(const Options& options, Console& console, int& exitCode) {
   Books books(
       *connection, [&console](const std::string& fault) { console.out << fault << '\n'; },
       console.clock);
-  books.setRemarks(
-      [&console](const std::string& remark) { console.out << "请看一看：" << remark << "。\n"; });
+  books.setRemarks([&console](const std::string& remark) {
+    console.out << Words::tr("请看一看：%1。", remark) << '\n';
+  });
   books.setProgress([&console](double part) {
-    console.err << "已检查 " << static_cast<int>(part * 100) << "%" << std::endl;
+    console.err << Words::tr("已检查 %1%", static_cast<int>(part * 100)) << std::endl;
   });
   const BooksSummary found = books.check();
   if (found.paidBills > 0) {
-    console.out << "有 " << found.paidBills
-                << " 张单据已收款、还没存完：正在结账，或者下次打开收银窗口时补存。\n";
+    console.out << Words::tr("有 %1 张单据已收款、还没存完：正在结账，或者下次打开收银窗口时补存。",
+                             found.paidBills)
+                << '\n';
   }
   nameIncompleteTopUps(*connection, console);
   if (found.faults > 0) {
-    console.out << "发现 " << found.faults << " 处问题。\n";
+    console.out << Words::tr("发现 %1 处问题。", found.faults) << '\n';
     exitCode = kFaultsFound;
     return;
   }
-  console.out << "账目正确：单据 " << found.bills << " 张（其中未结 " << found.openBills
-              << " 张），商品行 " << found.lines << " 行，退货 " << found.returns << " 笔，库存 "
-              << found.stockRows << " 条";
-  if (found.entries > 0) console.out << "，日志 " << found.entries << " 条";
-  console.out << "。\n";
+  const char* text =
+      found.entries > 0
+          ? Words::mark(
+                "账目正确：单据 %1 张（其中未结 %2 张），商品行 %3 行，退货 %4 笔，库存 %5 条，"
+                "日志 %6 条。")
+          : Words::mark(
+                "账目正确：单据 %1 张（其中未结 %2 张），商品行 %3 行，退货 %4 笔，库存 %5 "
+                "条。");
+  console.out << Words::tr(text, found.bills, found.openBills, found.lines, found.returns,
+                           found.stockRows, found.entries)
+              << '\n';
 }
 
 }  // namespace
 
 void addCheckCommand(CLI::App& app, Console& console, int& exitCode) {
   CLI::App* command = app.add_subcommand(
-      "check", "检查数据文件是否完好、账目是否相符；有问题时逐条列出，退出码不为 0");
+      "check", Words::tr("检查数据文件是否完好、账目是否相符；有问题时逐条列出，退出码不为 0"));
   const auto options = std::make_shared<Options>();
   options->file.addTo(*command);
-  command->add_flag("--repair", options->repair,
-                    "商品查找索引与商品资料不符时先重建它（账目不会改动；收款程序最好先关掉）");
+  command->add_flag(
+      "--repair", options->repair,
+      Words::tr("商品查找索引与商品资料不符时先重建它（账目不会改动；收款程序最好先关掉）"));
   command->callback([options, &console, &exitCode] { check(*options, console, exitCode); });
 }

@@ -3,6 +3,7 @@
 #include <termios.h>
 #include <unistd.h>
 
+#include "base/Words.h"
 #include "shop/Refusal.h"
 
 namespace {
@@ -29,12 +30,12 @@ class HiddenTyping {
 
 std::string readLine(Console& console) {
   std::string line;
-  if (!std::getline(console.in, line)) throw Refusal("没有给出密码。");
+  if (!std::getline(console.in, line)) throw Refusal(Words::tr("没有给出密码。"));
   if (line.ends_with('\r')) line.pop_back();
   return line;
 }
 
-std::string readUnseen(Console& console, const char* prompt) {
+std::string readUnseen(Console& console, const std::string& prompt) {
   const HiddenTyping hidden;
   console.err << prompt << std::flush;
   std::string line = readLine(console);
@@ -44,13 +45,13 @@ std::string readUnseen(Console& console, const char* prompt) {
 
 }  // namespace
 
-std::string askPassword(Console& console, const char* prompt) {
+std::string askPassword(Console& console, const std::string& prompt) {
   return console.isTerminal ? readUnseen(console, prompt) : readLine(console);
 }
 
-std::string askNewPassword(Console& console, const char* prompt) {
+std::string askNewPassword(Console& console, const std::string& prompt) {
   std::string password = askPassword(console, prompt);
-  if (console.isTerminal && readUnseen(console, "再输一次：") != password)
-    throw Refusal("两次输入的密码不一样。");
+  if (console.isTerminal && readUnseen(console, Words::tr("再输一次：")) != password)
+    throw Refusal(Words::tr("两次输入的密码不一样。"));
   return password;
 }

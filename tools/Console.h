@@ -17,7 +17,7 @@ struct Console {
 
 /// A password as typed unseen at the terminal, or else the next line of `in`. Throws Refusal when
 /// there is none.
-std::string askPassword(Console& console, const char* prompt = "密码：");
+std::string askPassword(Console& console, const std::string& prompt);
 /// The same for a new password: typed twice at the terminal. Throws Refusal too when the two
 /// differ.
-std::string askNewPassword(Console& console, const char* prompt = "密码：");
+std::string askNewPassword(Console& console, const std::string& prompt);

@@ -2,27 +2,30 @@
 
 #include <CLI/CLI.hpp>
 
+#include "base/Words.h"
 #include "store/Connection.h"
 
 void DataFileOptions::addTo(CLI::App& command) {
-  command.add_option("数据文件", path, "店里的数据文件，例如 data/POS.mdb")->required();
+  command.add_option(Words::tr("数据文件"), path, Words::tr("店里的数据文件，例如 data/POS.mdb"))
+      ->required();
   addPasswordTo(command);
 }
 
 void DataFileOptions::addPasswordTo(CLI::App& command) {
-  CLI::Option* given = command.add_option("--file-password", password,
-                                          "数据文件的密码；不写用内置的，空的表示没有密码。供脚本使"
-                                          "用：写在命令行上，同机的人在进程列表里看得到");
-  command.add_flag("--ask-file-password", asks, "从终端或标准输入读数据文件的密码")
+  CLI::Option* given =
+      command.add_option("--file-password", password,
+                         Words::tr("数据文件的密码；不写用内置的，空的表示没有密码。供脚本使用：写"
+                                   "在命令行上，同机的人在进程列表里看得到"));
+  command.add_flag("--ask-file-password", asks, Words::tr("从终端或标准输入读数据文件的密码"))
       ->excludes(given);
 }
 
 DataSource DataFileOptions::source(Console& console) const {
-  return {path, asks ? askPassword(console, "数据文件的密码：") : password};
+  return {path, asks ? askPassword(console, Words::tr("数据文件的密码：")) : password};
 }
 
 DataSource DataFileOptions::newSource(Console& console) const {
-  return {path, asks ? askNewPassword(console, "数据文件的密码：") : password};
+  return {path, asks ? askNewPassword(console, Words::tr("数据文件的密码：")) : password};
 }
 
 std::unique_ptr<Connection> DataFileOptions::open(Console& console) const {

@@ -7,6 +7,7 @@
 #include <string>
 
 #include "base/WholeFile.h"
+#include "base/Words.h"
 #include "saleslib/Journal.h"
 #include "shop/Exporter.h"
 #include "shop/Refusal.h"
@@ -26,7 +27,7 @@ struct Options {
 
 std::int64_t exportToStream(Connection& connection, const Table& table, std::ostream& out) {
   const auto requireTaken = [&out] {
-    if (!out) throw Refusal("写不下去，磁盘可能满了，导出的文件不完整。");
+    if (!out) throw Refusal(Words::tr("写不下去，磁盘可能满了，导出的文件不完整。"));
   };
   const std::int64_t rows = exportTable(connection, table, [&](std::string_view piece) {
     out << piece;
@@ -56,7 +57,7 @@ std::int64_t exportToPath(Connection& connection, const Table& table, const fs::
   if (!fs::exists(status) || fs::is_regular_file(status))
     return exportToFile(connection, table, path);
   std::ofstream out(path, std::ios::binary);
-  if (!out) throw Refusal("不能写文件：" + path.string());
+  if (!out) throw Refusal(Words::tr("不能写文件：%1", path.string()));
   return exportToStream(connection, table, out);
 }
 
@@ -70,22 +71,25 @@ void exportTo(const Options& options, Console& console) {
   }
   std::error_code ignored;
   if (fs::equivalent(connection->source().path, options.csv, ignored)) {
-    throw Refusal("不能把数据文件本身当作导出的文件。");
+    throw Refusal(Words::tr("不能把数据文件本身当作导出的文件。"));
   }
   const std::int64_t count = exportToPath(*connection, table, options.csv);
-  console.out << "已导出 " << table.name << "：" << count << " 行\n";
+  console.out << Words::tr("已导出 %1：%2 行", table.name, count) << '\n';
 }
 
 }  // namespace
 
 void addExportCommand(CLI::App& app, Console& console) {
-  CLI::App* command =
-      app.add_subcommand("export", "把一张表导出为 CSV 文件（UTF-8，第一行是列名），可以再导入");
+  CLI::App* command = app.add_subcommand(
+      "export", Words::tr("把一张表导出为 CSV 文件（UTF-8，第一行是列名），可以再导入"));
   command->footer(tablesExplained());
   const auto options = std::make_shared<Options>();
   options->file.addTo(*command);
-  command->add_option("CSV文件", options->csv, "导出的文件；- 表示标准输出")->required();
-  command->add_option("--table", options->table, "导出哪张表：SP_LB、spda、tmda、member 或 stock")
+  command->add_option(Words::tr("CSV文件"), options->csv, Words::tr("导出的文件；- 表示标准输出"))
+      ->required();
+  command
+      ->add_option("--table", options->table,
+                   Words::tr("导出哪张表：SP_LB、spda、tmda、member 或 stock"))
       ->required()
       ->check(oneOf(tableNames()));
   command->callback([options, &console] { exportTo(*options, console); });

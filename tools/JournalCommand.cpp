@@ -6,6 +6,7 @@
 #include <optional>
 #include <string>
 
+#include "base/Words.h"
 #include "saleslib/JournalKinds.h"
 #include "saleslib/JournalQuery.h"
 #include "saleslib/JournalTexts.h"
@@ -25,7 +26,7 @@ struct Options {
 std::optional<Date> dayOf(const std::string& typed, const Date& today) {
   if (typed.empty()) return std::nullopt;
   const std::optional<Date> day = parseTypedDate(typed, today.year);
-  if (!day) throw Refusal("不是日期：" + typed);
+  if (!day) throw Refusal(Words::tr("不是日期：%1", typed));
   return day;
 }
 
@@ -33,9 +34,9 @@ std::optional<Date> dayOf(const std::string& typed, const Date& today) {
 std::string kindOf(const std::string& typed) {
   if (typed.empty() || entryKindOf(typed) != nullptr) return typed;
   for (const EntryKindName& kind : entryKinds()) {
-    if (typed == kind.name) return kind.key;
+    if (typed == kind.name || typed == Words::tr(kind.name)) return kind.key;
   }
-  throw Refusal("日志里没有这一种：" + typed);
+  throw Refusal(Words::tr("日志里没有这一种：%1", typed));
 }
 
 JournalFilter filterOf(const Options& options, const Date& today) {
@@ -47,7 +48,7 @@ JournalFilter filterOf(const Options& options, const Date& today) {
 }
 
 std::map<std::int64_t, std::string> namesOf(Connection& connection) {
-  std::map<std::int64_t, std::string> names = {{0, "店主工具"}};
+  std::map<std::int64_t, std::string> names = {{0, Words::tr("店主工具")}};
   Rows rows = connection.query("select id, name from operators");
   while (rows.next())
     names[rows.whole("id").value_or(0)] = rows.text("id") + " " + rows.text("name");
@@ -69,13 +70,13 @@ void print(const Options& options, Console& console) {
                 << entryName(entry) << '\t' << entry.touches << '\t' << entryDetails(entry) << '\n';
     return static_cast<bool>(console.out);
   });
-  if (!console.out) throw Refusal("写不下去，磁盘可能满了，日志不完整。");
+  if (!console.out) throw Refusal(Words::tr("写不下去，磁盘可能满了，日志不完整。"));
 }
 
 std::string kindsExplained() {
-  std::string text = "种类：";
+  std::string text = Words::tr("种类：");
   for (const EntryKindName& kind : entryKinds())
-    text.append("\n  ").append(kind.key).append("  ").append(kind.name);
+    text.append("\n  ").append(kind.key).append("  ").append(Words::tr(kind.name));
   return text;
 }
 
@@ -83,15 +84,17 @@ std::string kindsExplained() {
 
 void addJournalCommand(CLI::App& app, Console& console) {
   CLI::App* command = app.add_subcommand(
-      "journal", "列出日志：号码、时间、机号、操作员、批准人、种类、对象、内容，各用制表符分开");
+      "journal",
+      Words::tr("列出日志：号码、时间、机号、操作员、批准人、种类、对象、内容，各用制表符分开"));
   command->footer(kindsExplained());
   const auto options = std::make_shared<Options>();
   options->file.addTo(*command);
-  command->add_option("--from", options->from, "从哪天起");
-  command->add_option("--to", options->to, "到哪天止（含这一天）");
-  command->add_option("--kind", options->kind, "只列这一种，见下");
-  command->add_option("--operator", options->operatorId, "只列这位操作员；0 是店主工具")
+  command->add_option("--from", options->from, Words::tr("从哪天起"));
+  command->add_option("--to", options->to, Words::tr("到哪天止（含这一天）"));
+  command->add_option("--kind", options->kind, Words::tr("只列这一种，见下"));
+  command->add_option("--operator", options->operatorId, Words::tr("只列这位操作员；0 是店主工具"))
       ->check(wholeNumber(0, INT16_MAX));
-  command->add_option("--till", options->till, "只列这台收银机")->check(wholeNumber(1, INT16_MAX));
+  command->add_option("--till", options->till, Words::tr("只列这台收银机"))
+      ->check(wholeNumber(1, INT16_MAX));
   command->callback([options, &console] { print(*options, console); });
 }

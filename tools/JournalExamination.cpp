@@ -4,6 +4,7 @@
 #include "base/Failure.h"
 #include "base/NumberText.h"
 #include "base/Text.h"
+#include "base/Words.h"
 #include "saleslib/JournalEntry.h"
 #include "saleslib/JournalRecords.h"
 #include "store/Connection.h"
@@ -30,10 +31,10 @@ std::string difference(const Json& noted, const Json& found) {
     const std::string path = changes[index].at("path");
     const Json::json_pointer place(path);
     const auto shown = [&place](const Json& record) {
-      return record.contains(place) ? record.at(place).dump() : std::string("没有");
+      return record.contains(place) ? record.at(place).dump() : Words::tr("没有");
     };
-    text += (index == 0 ? "" : "；") + path.substr(1) + " 日志记的是 " + shown(noted) +
-            "，账上是 " + shown(found);
+    if (index > 0) text += Words::tr("；");
+    text += Words::tr("%1 日志记的是 %2，账上是 %3", path.substr(1), shown(noted), shown(found));
   }
   return text;
 }
@@ -79,10 +80,13 @@ void JournalExamination::run() {
   examineNotedStock(books_, state_);
   examineMembers();
   examineParameters();
-  examineRows(state_.operators, "select id from operators order by id", operatorRecord, "操作员");
-  examineRows(state_.returns, "select id from un_sell order by id", returnRecord, "退货");
-  examineRows(state_.topUps, "select id from cardStored order by id", topUpRecord, "充值");
-  examineRows(state_.shifts, "select id from shift order by id", shiftRecord, "班次");
+  examineRows(state_.operators, "select id from operators order by id", operatorRecord,
+              Words::tr("操作员"));
+  examineRows(state_.returns, "select id from un_sell order by id", returnRecord,
+              Words::tr("退货"));
+  examineRows(state_.topUps, "select id from cardStored order by id", topUpRecord,
+              Words::tr("充值"));
+  examineRows(state_.shifts, "select id from shift order by id", shiftRecord, Words::tr("班次"));
 }
 
 void JournalExamination::take(const JournalEntry& entry) {
@@ -92,7 +96,7 @@ void JournalExamination::take(const JournalEntry& entry) {
     examineChange(entry, body);
     state_.take(entry, body);
   } catch (const std::exception& unreadable) {
-    books_.fault("日志第 " + std::to_string(entry.seq) + " 条读不出来：" + unreadable.what());
+    books_.fault(Words::tr("日志第 %1 条读不出来：%2", entry.seq, unreadable.what()));
   }
 }
 
@@ -104,16 +108,17 @@ void JournalExamination::examineChange(const JournalEntry& entry, const Json& bo
   if (known == state_.bills.end()) return;
   const std::string mark = textMark(recordIn(bodyOf(known->second)).dump());
   if (mark == body.at("before").get<std::string>()) return;
-  books_.fault("单据 " + std::to_string(known->first) + " 在日志第 " +
-               std::to_string(known->second) + " 条和第 " + std::to_string(entry.seq) +
-               " 条之间，在本程序以外改过");
+  books_.fault(Words::tr("单据 %1 在日志第 %2 条和第 %3 条之间，在本程序以外改过", known->first,
+                         known->second, entry.seq));
 }
 
 void JournalExamination::examineSwitch() const {
   Rows set = books_.connection.query("select value from sys_param where name = 'Journal'");
   const bool isWanted = set.next() && set.text("value") == "1";
-  if (isWanted && isEmpty_) books_.fault("店铺参数 Journal 是 1，日志却是空的：被删掉了");
-  if (isWanted && !isEmpty_ && !state_.isBegun) books_.fault("店铺参数 Journal 是 1，日志却停用了");
+  if (isWanted && isEmpty_)
+    books_.fault(Words::tr("店铺参数 Journal 是 1，日志却是空的：被删掉了"));
+  if (isWanted && !isEmpty_ && !state_.isBegun)
+    books_.fault(Words::tr("店铺参数 Journal 是 1，日志却停用了"));
 }
 
 Json JournalExamination::bodyOf(std::int64_t seq) const {
@@ -124,8 +129,8 @@ Json JournalExamination::bodyOf(std::int64_t seq) const {
 void JournalExamination::examineBills() const {
   auto noted = state_.bills.begin();
   const auto missing = [&] {
-    books_.fault("单据 " + std::to_string(noted->first) + " 在日志第 " +
-                 std::to_string(noted->second) + " 条结了账，账上却没有这张已结的单据了");
+    books_.fault(Words::tr("单据 %1 在日志第 %2 条结了账，账上却没有这张已结的单据了", noted->first,
+                           noted->second));
     ++noted;
   };
   Rows rows = books_.connection.query("select id from sell where state = 1 order by id");
@@ -136,7 +141,7 @@ void JournalExamination::examineBills() const {
       examineBill(number, noted->second);
       ++noted;
     } else if (!state_.isOlder(number)) {
-      books_.fault("单据 " + std::to_string(number) + " 不在日志里：是在本程序以外加进去的");
+      books_.fault(Words::tr("单据 %1 不在日志里：是在本程序以外加进去的", number));
     }
   }
   while (noted != state_.bills.end()) missing();
@@ -145,8 +150,8 @@ void JournalExamination::examineBills() const {
 void JournalExamination::examineBill(std::int64_t number, std::int64_t seq) const {
   const Json noted = recordIn(bodyOf(seq)), found = billRecord(books_.connection, number);
   if (noted == found || noted == asNoted(found)) return;
-  books_.fault("单据 " + std::to_string(number) + " 与日志第 " + std::to_string(seq) + " 条不符：" +
-               difference(noted, asNoted(found)));
+  books_.fault(
+      Words::tr("单据 %1 与日志第 %2 条不符：%3", number, seq, difference(noted, asNoted(found))));
 }
 
 void JournalExamination::examineOlder() const {
@@ -164,9 +169,9 @@ void JournalExamination::examineOlder() const {
       ++count;
     }
     if (count == some.count && textMark(marks) == some.mark) continue;
-    books_.fault("日志开始以前的单据 " + std::to_string(some.first) + " 到 " +
-                 std::to_string(some.last) + " 里有改过的：那时有 " + std::to_string(some.count) +
-                 " 张已结的，现在有 " + std::to_string(count) + " 张");
+    books_.fault(
+        Words::tr("日志开始以前的单据 %1 到 %2 里有改过的：那时有 %3 张已结的，现在有 %4 张",
+                  some.first, some.last, some.count, count));
   }
 }
 
@@ -176,11 +181,10 @@ void JournalExamination::examineOpen() const {
   while (rows.next()) {
     const std::int64_t number = rows.whole("id").value_or(0);
     if (gone.erase(number) > 0) continue;
-    books_.fault("未结的单据 " + std::to_string(number) + " 没有开单的日志");
+    books_.fault(Words::tr("未结的单据 %1 没有开单的日志", number));
   }
   for (const std::int64_t number : gone) {
-    books_.fault("单据 " + std::to_string(number) +
-                 " 开了单，日志里没有结账也没有撤消，账上却没有了");
+    books_.fault(Words::tr("单据 %1 开了单，日志里没有结账也没有撤消，账上却没有了", number));
   }
 }
 
@@ -190,21 +194,21 @@ void JournalExamination::examineMembers() const {
   while (rows.next()) {
     const std::int64_t id = rows.whole("id").value_or(0);
     Json record = asNoted(memberRecord(books_.connection, id));
-    const std::string name = "会员 " + record.value("bh", std::string());
+    const std::string name = Words::tr("会员 %1", record.value("bh", std::string()));
     const auto known = noted.find(id);
     if (known == noted.end()) {
-      books_.fault(name + " 不在日志里：是在本程序以外加进去的");
+      books_.fault(Words::tr("%1 不在日志里：是在本程序以外加进去的", name));
       continue;
     }
     examineAccount(id, record);
     for (const char* sum : {"card", "total_spent", "points"}) record.erase(sum);
     if (record != known->second) {
-      books_.fault(name + " 的资料与日志不符：" + difference(known->second, record));
+      books_.fault(Words::tr("%1 的资料与日志不符：%2", name, difference(known->second, record)));
     }
     noted.erase(known);
   }
   for (const auto& [id, record] : noted) {
-    books_.fault("会员 " + record.value("bh", std::string()) + " 在日志里，账上却没有了");
+    books_.fault(Words::tr("会员 %1 在日志里，账上却没有了", record.value("bh", std::string())));
   }
 }
 
@@ -213,14 +217,14 @@ void JournalExamination::examineAccount(std::int64_t member, const Json& record)
   const std::string name = record.value("bh", std::string());
   const auto compare = [&](const std::string& what, const std::string& found,
                            const std::string& expected) {
-    if (found != expected) books_.fault(what + "是 " + found + "，按日志应是 " + expected);
+    if (found != expected) books_.fault(Words::tr("%1是 %2，按日志应是 %3", what, found, expected));
   };
   const auto text = [&record](const char* column) {
     return record.value(column, std::string("0"));
   };
-  compare("储值卡 " + name + " 的余额", text("card"), generalNumber(noted.card));
-  compare("会员 " + name + " 的累计消费", text("total_spent"), generalNumber(noted.spent));
-  compare("会员 " + name + " 的积分", text("points"), std::to_string(noted.points));
+  compare(Words::tr("储值卡 %1 的余额", name), text("card"), generalNumber(noted.card));
+  compare(Words::tr("会员 %1 的累计消费", name), text("total_spent"), generalNumber(noted.spent));
+  compare(Words::tr("会员 %1 的积分", name), text("points"), std::to_string(noted.points));
 }
 
 void JournalExamination::examineRows(const std::map<std::int64_t, Json>& noted, const char* query,
@@ -232,17 +236,17 @@ void JournalExamination::examineRows(const std::map<std::int64_t, Json>& noted, 
     const std::string name = what + " " + std::to_string(id);
     const auto known = expected.find(id);
     if (known == expected.end()) {
-      books_.fault(name + " 不在日志里：是在本程序以外加进去的");
+      books_.fault(Words::tr("%1 不在日志里：是在本程序以外加进去的", name));
       continue;
     }
     const Json found = asNoted(record(books_.connection, id));
     if (found != known->second) {
-      books_.fault(name + " 与日志不符：" + difference(known->second, found));
+      books_.fault(Words::tr("%1 与日志不符：%2", name, difference(known->second, found)));
     }
     expected.erase(known);
   }
   for (const auto& [id, gone] : expected) {
-    books_.fault(what + " " + std::to_string(id) + " 在日志里，账上却没有了");
+    books_.fault(Words::tr("%1 %2 在日志里，账上却没有了", what, id));
   }
 }
 
@@ -253,13 +257,15 @@ void JournalExamination::examineParameters() const {
     const std::string name = rows.text("name"), value = rows.text("value");
     const auto known = expected.find(name);
     if (known == expected.end() || known->second != value) {
-      books_.fault("店铺参数 " + name + " 是“" + value + "”，按日志" +
-                   (known == expected.end() ? "没有设过" : "应是“" + known->second + "”"));
+      books_.fault(
+          known == expected.end()
+              ? Words::tr("店铺参数 %1 是“%2”，按日志没有设过", name, value)
+              : Words::tr("店铺参数 %1 是“%2”，按日志应是“%3”", name, value, known->second));
     }
     if (known != expected.end()) expected.erase(known);
   }
   for (const auto& [name, value] : expected) {
-    books_.fault("店铺参数 " + name + " 按日志应是“" + value + "”，现在没有了");
+    books_.fault(Words::tr("店铺参数 %1 按日志应是“%2”，现在没有了", name, value));
   }
 }
 

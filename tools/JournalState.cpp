@@ -5,6 +5,7 @@
 #include "base/Failure.h"
 #include "base/NumberText.h"
 #include "base/Text.h"
+#include "base/Words.h"
 #include "saleslib/JournalEntry.h"
 #include "saleslib/JournalKinds.h"
 #include "shop/Refusal.h"
@@ -21,7 +22,7 @@ std::string textOf(const nlohmann::json& record, const char* name) {
 
 template <class Value>
 Value required(const std::optional<Value>& value, const std::string& text) {
-  if (!value) throw Refusal("不是数字：" + text);
+  if (!value) throw Refusal(Words::tr("不是数字：%1", text));
   return *value;
 }
 
@@ -91,6 +92,7 @@ void JournalState::takeBill(const JournalEntry& entry, const Json& body) {
   if (isKind(entry, EntryKind::kBillCancelled)) open.erase(std::stoll(entry.touches));
   if (!body.contains("bill")) return;
   const std::int64_t bill = numberOf(body.at("bill"), "id");
+  if (isKind(entry, EntryKind::kBillRedated) && open.contains(bill)) return;
   if (body.contains("before") && !bills.contains(bill)) before.emplace(bill, body.at("before"));
   bills[bill] = entry.seq;
   open.erase(bill);

@@ -4,6 +4,7 @@
 #include "base/Currency.h"
 #include "base/Failure.h"
 #include "base/NumberText.h"
+#include "base/Words.h"
 #include "saleslib/ClsMember.h"
 #include "store/Connection.h"
 #include "tools/Examination.h"
@@ -14,17 +15,17 @@ namespace {
 void examineRecords(const Examination& books) {
   Rows rows = books.connection.query("select * from member order by id");
   while (rows.next()) {
-    const std::string name = "会员 " + rows.text("bh");
+    const std::string name = Words::tr("会员 %1", rows.text("bh"));
     try {
       static_cast<void>(ClsMember::fromRow(books.connection, rows));
       if (rows.currency("card").value_or(Currency()) < Currency()) {
-        books.fault("储值卡 " + rows.text("bh") + " 的余额是负的：" + rows.text("card"));
+        books.fault(Words::tr("储值卡 %1 的余额是负的：%2", rows.text("bh"), rows.text("card")));
       }
       if (rows.dateTime("join_date") > books.now) {
-        books.fault(name + " 的加入时间 " + rows.text("join_date") + " 还没有到");
+        books.fault(Words::tr("%1 的加入时间 %2 还没有到", name, rows.text("join_date")));
       }
     } catch (const Failure& unreadable) {
-      books.fault(name + " 读不出来：" + unreadable.what());
+      books.fault(Words::tr("%1 读不出来：%2", name, unreadable.what()));
     }
   }
 }
@@ -34,20 +35,20 @@ void examineNames(const Examination& books) {
       "select id, member_id from sell where member_id <> 0"
       " and not exists (select 1 from member where member.id = member_id) order by id");
   while (members.next()) {
-    books.fault("单据 " + members.text("id") + " 的会员（内部号 " + members.text("member_id") +
-                "）不存在");
+    books.fault(Words::tr("单据 %1 的会员（内部号 %2）不存在", members.text("id"),
+                          members.text("member_id")));
   }
   Rows cards = books.connection.query(
       "select id, card_no from sell where card_no <> ''"
       " and not exists (select 1 from member where bh = card_no) order by id");
   while (cards.next()) {
-    books.fault("单据 " + cards.text("id") + " 的储值卡 " + cards.text("card_no") + " 不存在");
+    books.fault(Words::tr("单据 %1 的储值卡 %2 不存在", cards.text("id"), cards.text("card_no")));
   }
   Rows topUps = books.connection.query(
       "select id, cardbh from cardStored"
       " where not exists (select 1 from member where bh = cardbh) order by id");
   while (topUps.next()) {
-    books.fault("充值 " + topUps.text("id") + " 的储值卡 " + topUps.text("cardbh") + " 不存在");
+    books.fault(Words::tr("充值 %1 的储值卡 %2 不存在", topUps.text("id"), topUps.text("cardbh")));
   }
 }
 
@@ -66,9 +67,9 @@ void examinePurchases(const Examination& books) {
       " where round(b.bought + coalesce(r.back, 0) - m.total_spent, 2) >"
       " 0.6 * coalesce(r.count, 0)");
   while (rows.next()) {
-    books.fault("会员 " + rows.text("bh") + " 的累计消费是 " + rows.text("total") +
-                "，少于已结单据减去退款的合计 " + rows.text("least") +
-                "（导入时没有改小过，就是漏记）");
+    books.fault(Words::tr(
+        "会员 %1 的累计消费是 %2，少于已结单据减去退款的合计 %3（导入时没有改小过，就是漏记）",
+        rows.text("bh"), rows.text("total"), rows.text("least")));
   }
 }
 
@@ -89,20 +90,21 @@ constexpr const char* kTopUps =
 void examineBalances(const Examination& books) {
   Rows rows = books.connection.query(kBalances);
   while (rows.next()) {
-    const std::string card = "储值卡 " + rows.text("bh");
+    const std::string card = Words::tr("储值卡 %1", rows.text("bh"));
     try {
       const Currency balance = rows.currency("balance").value_or(Currency());
       const Currency topped = rows.currency("topped").value_or(Currency());
       const Currency paid = rows.currency("paid").value_or(Currency());
-      const std::string figures =
-          card + " 的余额是 " + twoDecimals(balance) + "，最后一次充值后是 " + twoDecimals(topped);
+      const std::string figures = Words::tr("%1 的余额是 %2，最后一次充值后是 %3", card,
+                                            twoDecimals(balance), twoDecimals(topped));
       if (balance > topped) {
-        books.fault(figures + "：多出来的钱没有充值记录");
+        books.fault(Words::tr("%1：多出来的钱没有充值记录", figures));
       } else if (topped - balance > paid) {
-        books.fault(figures + "，所有单据加起来只付过 " + twoDecimals(paid) + "：少了的钱没有单据");
+        books.fault(
+            Words::tr("%1，所有单据加起来只付过 %2：少了的钱没有单据", figures, twoDecimals(paid)));
       }
     } catch (const Failure& unreadable) {
-      books.fault(card + " 的金额读不出来：" + unreadable.what());
+      books.fault(Words::tr("%1 的金额读不出来：%2", card, unreadable.what()));
     }
   }
 }
@@ -114,23 +116,23 @@ void examineTopUps(const Examination& books) {
   std::string card;
   Currency before;
   while (rows.next()) {
-    const std::string name = "储值卡 " + rows.text("cardbh") + " 的充值 " + rows.text("id");
+    const std::string name = Words::tr("储值卡 %1 的充值 %2", rows.text("cardbh"), rows.text("id"));
     try {
       const Currency credited = rows.currency("addmoney").value_or(Currency());
       const Currency after = rows.currency("commerce").value_or(Currency());
       if (rows.currency("inMoney").value_or(Currency()) < Currency()) {
-        books.fault(name + " 的付款金额是负的：" + rows.text("inMoney"));
+        books.fault(Words::tr("%1 的付款金额是负的：%2", name, rows.text("inMoney")));
       }
       if (rows.text("cardbh") != card) before = after - credited;
       const Currency spent = before + credited - after;  // since the top-up before
       if (before < Currency() || spent < Currency() ||
           spent > rows.currency("paid").value_or(Currency())) {
-        books.remark(name + "：充值 " + twoDecimals(credited) + " 之后的余额是 " +
-                     twoDecimals(after) + "，与前一次充值的对不上");
+        books.remark(Words::tr("%1：充值 %2 之后的余额是 %3，与前一次充值的对不上", name,
+                               twoDecimals(credited), twoDecimals(after)));
       }
       before = after;
     } catch (const Failure& unreadable) {
-      books.fault(name + " 的金额读不出来：" + unreadable.what());
+      books.fault(Words::tr("%1 的金额读不出来：%2", name, unreadable.what()));
     }
     card = rows.text("cardbh");
   }

@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "base/Text.h"
+#include "base/Words.h"
 #include "saleslib/ClsOperator.h"
 #include "saleslib/ClsRights.h"
 #include "saleslib/Right.h"
@@ -26,13 +27,13 @@ struct Options {
   std::int16_t number = 0;
   std::string name;
   std::optional<std::string> password;
-  std::vector<std::string> rights;
+  std::vector<std::string> rights, taken;
 };
 
 using Shared = std::shared_ptr<Options>;
 
 std::string passwordOf(const Options& options, Console& console) {
-  return options.password ? *options.password : askNewPassword(console);
+  return options.password ? *options.password : askNewPassword(console, Words::tr("密码："));
 }
 
 std::string shownName(const Options& options, const ClsOperator& person) {
@@ -50,10 +51,10 @@ void add(const Options& options, Console& console) {
   const std::unique_ptr<Connection> connection = options.file.open(console);
   addOperator(*connection, {options.number, options.name, passwordOf(options, console),
                             rightsMeant(options.rights)});
-  console.out << "已增加操作员 " << options.number << ' ' << trimmed(options.name) << '\n';
+  console.out << Words::tr("已增加操作员 %1 %2", options.number, trimmed(options.name)) << '\n';
   if (options.rights.empty()) {
-    console.out << "没有写 --right sell，这位操作员不能收银；要能收银，先删除，再带上 --right sell "
-                   "增加。\n";
+    console.out << "没有写 --right sell，这位操作员不能收银；要能收银，用 tilladmin operator right "
+                   "--give sell 给。\n";
   }
 }
 
@@ -72,14 +73,24 @@ void changePassword(const Options& options, Console& console) {
   ClsOperator person = existingOperator(*connection, options.number);
   person.setPassword(passwordOf(options, console));
   person.Save();
-  console.out << "已更改操作员 " << shownName(options, person) << " 的密码\n";
+  console.out << Words::tr("已更改操作员 %1 的密码", shownName(options, person)) << '\n';
+}
+
+void changeRights(const Options& options, Console& console) {
+  if (options.rights.empty() && options.taken.empty())
+    throw Refusal("要给什么权限写 --give，要收回什么权限写 --take。");
+  const std::unique_ptr<Connection> connection = options.file.open(console);
+  changeRights(*connection, options.number, options.rights, options.taken);
+  const ClsOperator person = existingOperator(*connection, options.number);
+  console.out << "操作员 " << shownName(options, person) << " 现在的权限：" << rightsOf(person)
+              << "。已经登录的，下次登录时算数。\n";
 }
 
 void remove(const Options& options, Console& console) {
   const std::unique_ptr<Connection> connection = options.file.open(console);
   const ClsOperator person = existingOperator(*connection, options.number);
   removeOperator(*connection, options.number);
-  console.out << "已删除操作员 " << shownName(options, person) << '\n';
+  console.out << Words::tr("已删除操作员 %1", shownName(options, person)) << '\n';
 }
 
 /// A right, with or without its limit, or all of them; the option gets the right as it is stored.
@@ -94,15 +105,22 @@ CLI::Validator aRight() {
 }
 
 void addNumber(CLI::App& command, Options& options) {
-  command.add_option("--number", options.number, "用户编号（登录时输入），1 到 32767")
+  command.add_option("--number", options.number, Words::tr("用户编号（登录时输入），1 到 32767"))
       ->required()
       ->check(wholeNumber(1, INT16_MAX));
 }
 
 void addPassword(CLI::App& command, Options& options) {
-  command.add_option(
-      "--password", options.password,
-      "登录密码；不写就从终端或标准输入读。供脚本使用：写在命令行上，同机的人在进程列表里看得到");
+  command.add_option("--password", options.password,
+                     Words::tr("登录密码；不写就从终端或标准输入读。供脚本使用：写在命令行上，同机"
+                               "的人在进程列表里看得到"));
+}
+
+void addRights(CLI::App& command, const char* name, std::vector<std::string>& rights,
+               const char* what) {
+  command.add_option(name, rights, std::string(what) + "，可以写几次：" + rightsForPeople())
+      ->check(aRight())
+      ->allow_extra_args(false);
 }
 
 CLI::App* addAction(CLI::App& parent, Console& console, const char* name, const char* help,
@@ -116,20 +134,24 @@ CLI::App* addAction(CLI::App& parent, Console& console, const char* name, const 
 }  // namespace
 
 void addOperatorCommand(CLI::App& app, Console& console) {
-  CLI::App* parent = app.add_subcommand("operator", "操作员：增加、列出、改密码、员工卡、删除");
+  CLI::App* parent =
+      app.add_subcommand("operator", "操作员：增加、列出、改密码、改权限、员工卡、删除");
   parent->require_subcommand(1);
   const auto options = std::make_shared<Options>();
-  CLI::App* adding = addAction(*parent, console, "add", "增加操作员", options, add);
+  CLI::App* adding = addAction(*parent, console, "add", Words::tr("增加操作员"), options, add);
   addNumber(*adding, *options);
   addPassword(*adding, *options);
   adding->add_option("--name", options->name, "姓名")->required();
-  adding->add_option("--right", options->rights, "权限，可以写几次：" + rightsForPeople())
-      ->check(aRight())
-      ->allow_extra_args(false);
+  addRights(*adding, "--right", options->rights, "权限");
   addAction(*parent, console, "list", "列出操作员：用户编号、姓名、权限", options, list);
   CLI::App* changing = addAction(*parent, console, "password", "更改密码", options, changePassword);
   addNumber(*changing, *options);
   addPassword(*changing, *options);
+  CLI::App* entitling =
+      addAction(*parent, console, "right", "给权限，收回权限", options, changeRights);
+  addNumber(*entitling, *options);
+  addRights(*entitling, "--give", options->rights, "给的权限");
+  addRights(*entitling, "--take", options->taken, "收回的权限");
   addNumber(*addAction(*parent, console, "remove", "删除操作员", options, remove), *options);
   addStaffCardCommand(*parent, console);
 }

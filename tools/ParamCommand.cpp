@@ -5,6 +5,7 @@
 #include <string>
 #include <vector>
 
+#include "base/Words.h"
 #include "saleslib/ClsSysParam.h"
 #include "shop/Refusal.h"
 #include "store/Connection.h"
@@ -25,17 +26,17 @@ void list(const Options& options, Console& console) {
   for (const ClsSysParam::Parameter& parameter : parameters.list()) {
     console.out << "# " << parameter.meaning << '\n'
                 << parameter.name << '=' << parameter.value
-                << (parameter.isSet ? "" : "\t（没有设置，这是默认值）") << '\n';
+                << (parameter.isSet ? "" : Words::tr("\t（没有设置，这是默认值）")) << '\n';
   }
 }
 
 void setOne(ClsSysParam& parameters, const std::string& setting) {
   const std::size_t equals = setting.find('=');
   if (equals == std::string::npos) {
-    throw Refusal("要写成 名称=值，写的是“" + setting + "”，什么也没有设置。");
+    throw Refusal(Words::tr("要写成 名称=值，写的是“%1”，什么也没有设置。", setting));
   }
   const std::string reason = parameters.set(setting.substr(0, equals), setting.substr(equals + 1));
-  if (!reason.empty()) throw Refusal(setting + "：" + reason);
+  if (!reason.empty()) throw Refusal(Words::tr("%1：%2", setting, reason));
 }
 
 void set(const Options& options, Console& console) {
@@ -45,11 +46,11 @@ void set(const Options& options, Console& console) {
   parameters.Conn(*connection);
   for (const std::string& setting : options.settings) setOne(parameters, setting);
   transaction.commit();
-  console.out << "已设置 " << options.settings.size() << " 个参数\n";
+  console.out << Words::tr("已设置 %1 个参数", options.settings.size()) << '\n';
 }
 
 std::string parametersExplained() {
-  std::string text = "参数：\n";
+  std::string text = Words::tr("参数：\n");
   for (const ClsSysParam::Parameter& parameter : ClsSysParam().list()) {
     text += "  " + parameter.name + std::string(14 - parameter.name.size(), ' ') +
             parameter.meaning + "\n";
@@ -60,15 +61,17 @@ std::string parametersExplained() {
 }  // namespace
 
 void addParamCommand(CLI::App& app, Console& console) {
-  CLI::App* parent = app.add_subcommand("param", "店铺参数：列出、设置");
+  CLI::App* parent = app.add_subcommand("param", Words::tr("店铺参数：列出、设置"));
   parent->require_subcommand(1);
   const auto options = std::make_shared<Options>();
-  CLI::App* listing = parent->add_subcommand("list", "列出全部参数；# 开头的一行说明下一行的参数");
+  CLI::App* listing =
+      parent->add_subcommand("list", Words::tr("列出全部参数；# 开头的一行说明下一行的参数"));
   options->file.addTo(*listing);
   listing->callback([options, &console] { list(*options, console); });
-  CLI::App* setting = parent->add_subcommand("set", "设置参数（全部成功才算数）");
+  CLI::App* setting = parent->add_subcommand("set", Words::tr("设置参数（全部成功才算数）"));
   setting->footer(parametersExplained());
   options->file.addTo(*setting);
-  setting->add_option("参数名=值", options->settings, "可以写几个")->required();
+  setting->add_option(Words::tr("参数名=值"), options->settings, Words::tr("可以写几个"))
+      ->required();
   setting->callback([options, &console] { set(*options, console); });
 }

@@ -8,10 +8,13 @@
 
 #include "base/NumberText.h"
 #include "base/Text.h"
+#include "base/Words.h"
 
 namespace {
 
-constexpr const char* kOptions = "选项";
+std::string optionsTitle() {
+  return Words::tr("选项");
+}
 
 /// The part of the parser's text that names an argument or repeats what was typed.
 std::string upTo(const std::string& text, const char* mark) {
@@ -23,19 +26,19 @@ std::string after(const std::string& text, const char* mark) {
 }
 
 std::string lackingText(const std::string& text) {
-  if (text.starts_with("A subcommand")) return "少了一个命令，或者不认识这个命令";
-  return "命令不完整：没有写 " + upTo(text, " is required");
+  if (text.starts_with("A subcommand")) return Words::tr("少了一个命令，或者不认识这个命令");
+  return Words::tr("命令不完整：没有写 %1", upTo(text, " is required"));
 }
 
 std::string mismatchText(const std::string& text) {
   const std::string name =
       text.find(':') == std::string::npos ? upTo(after(text, " to "), ",") : upTo(text, ":");
-  return name + " 后面的值少了或者多了";
+  return Words::tr("%1 后面的值少了或者多了", name);
 }
 
 std::string listed(const std::vector<std::string>& words) {
   std::string all;
-  for (const std::string& word : words) all += (all.empty() ? "" : "、") + word;
+  for (const std::string& word : words) all += (all.empty() ? "" : Words::tr("、")) + word;
   return all;
 }
 
@@ -44,24 +47,24 @@ std::string listed(const std::vector<std::string>& words) {
 void speakChinese(CLI::App& app) {
   const auto formatter = std::make_shared<CLI::Formatter>();
   formatter->column_width(34);
-  formatter->label("Usage", "用法");
-  formatter->label("OPTIONS", "选项");
-  formatter->label("Positionals", "参数");
-  formatter->label("SUBCOMMANDS", "命令");
-  formatter->label("SUBCOMMAND", "命令");
-  formatter->label("REQUIRED", "（必需）");
-  formatter->label("TEXT", "文字");
-  formatter->label("INT", "整数");
-  formatter->label("Excludes", "不能同时写");
+  formatter->label("Usage", Words::tr("用法"));
+  formatter->label("OPTIONS", Words::tr("选项"));
+  formatter->label("Positionals", Words::tr("参数"));
+  formatter->label("SUBCOMMANDS", Words::tr("命令"));
+  formatter->label("SUBCOMMAND", Words::tr("命令"));
+  formatter->label("REQUIRED", Words::tr("（必需）"));
+  formatter->label("TEXT", Words::tr("文字"));
+  formatter->label("INT", Words::tr("整数"));
+  formatter->label("Excludes", Words::tr("不能同时写"));
   app.formatter(formatter);
-  app.option_defaults()->group(kOptions);
-  app.set_help_flag("-h,--help", "显示用法");
+  app.option_defaults()->group(optionsTitle());
+  app.set_help_flag("-h,--help", Words::tr("显示用法"));
 }
 
 void groupInChinese(CLI::App& app) {
-  app.get_help_ptr()->group(kOptions);
+  app.get_help_ptr()->group(optionsTitle());
   for (CLI::App* command : app.get_subcommands(nullptr)) {
-    command->group("命令");
+    command->group(Words::tr("命令"));
     groupInChinese(*command);
   }
 }
@@ -70,17 +73,17 @@ std::string inChinese(const CLI::ParseError& error) {
   const std::string text = error.what();
   if (dynamic_cast<const CLI::RequiredError*>(&error)) return lackingText(text);
   if (dynamic_cast<const CLI::ExtrasError*>(&error)) {
-    return "有多余或不认识的参数：" + after(text, ": ");
+    return Words::tr("有多余或不认识的参数：%1", after(text, ": "));
   }
   if (dynamic_cast<const CLI::ArgumentMismatch*>(&error)) return mismatchText(text);
   if (dynamic_cast<const CLI::ConversionError*>(&error)) {
-    return "参数的值不对：" + after(text, ": ");
+    return Words::tr("参数的值不对：%1", after(text, ": "));
   }
-  if (dynamic_cast<const CLI::ValidationError*>(&error)) return "参数的值不对：" + text;
+  if (dynamic_cast<const CLI::ValidationError*>(&error)) return Words::tr("参数的值不对：%1", text);
   if (dynamic_cast<const CLI::ExcludesError*>(&error)) {
-    return upTo(text, " excludes ") + " 和 " + after(text, " excludes ") + " 不能同时写";
+    return Words::tr("%1 和 %2 不能同时写", upTo(text, " excludes "), after(text, " excludes "));
   }
-  return "命令写得不对";
+  return Words::tr("命令写得不对");
 }
 
 CLI::Validator oneOf(std::vector<std::string> words) {
@@ -88,7 +91,7 @@ CLI::Validator oneOf(std::vector<std::string> words) {
     const auto word = std::find_if(words.begin(), words.end(), [&](const std::string& each) {
       return equalIgnoringCase(each, typed);
     });
-    if (word == words.end()) return "只能是 " + listed(words) + "，写的是“" + typed + "”";
+    if (word == words.end()) return Words::tr("只能是 %1，写的是“%2”", listed(words), typed);
     typed = *word;
     return std::string();
   };
@@ -102,8 +105,7 @@ CLI::Validator wholeNumber(std::int64_t least, std::int64_t most) {
         const bool isRight =
             number && *number >= static_cast<double>(least) && *number <= static_cast<double>(most);
         return isRight ? std::string()
-                       : "应是 " + std::to_string(least) + " 到 " + std::to_string(most) +
-                             " 的整数，写的是“" + typed + "”";
+                       : Words::tr("应是 %1 到 %2 的整数，写的是“%3”", least, most, typed);
       },
       "");
 }

@@ -7,6 +7,7 @@
 #include <optional>
 #include <string>
 
+#include "base/Words.h"
 #include "saleslib/Journal.h"
 #include "shop/Refusal.h"
 #include "store/Connection.h"
@@ -35,7 +36,7 @@ struct Options {
 Date dateOf(const std::string& typed, const Date& byDefault) {
   if (typed.empty()) return byDefault;
   const std::optional<Date> date = parseTypedDate(typed, byDefault.year);
-  if (!date) throw Refusal("不是日期：" + typed);
+  if (!date) throw Refusal(Words::tr("不是日期：%1", typed));
   return *date;
 }
 
@@ -43,7 +44,7 @@ ReportTerms termsOf(const Options& options, const Date& today) {
   ReportTerms terms;
   terms.from = dateOf(options.from, {today.year, today.month, 1});
   terms.to = dateOf(options.to, today);
-  if (terms.to < terms.from) throw Refusal("--to 的日期比 --from 早。");
+  if (terms.to < terms.from) throw Refusal(Words::tr("--to 的日期比 --from 早。"));
   terms.slowDays = options.slowDays;
   terms.stockBelow = options.stockBelow;
   terms.mostGoods = options.mostGoods;
@@ -66,12 +67,13 @@ std::string targetOf(const Options& options, const ReportTerms& terms, ReportFor
 }
 
 void print(const Report& report, ReportFormat format, Console& console) {
-  if (format == ReportFormat::kXlsx) throw Refusal("xlsx 只能写到文件，请用 --out 写明文件名。");
+  if (format == ReportFormat::kXlsx)
+    throw Refusal(Words::tr("xlsx 只能写到文件，请用 --out 写明文件名。"));
   console.out << (format == ReportFormat::kText  ? textReport(report)
                   : format == ReportFormat::kCsv ? csvReport(report)
                                                  : htmlReport(report))
               << std::flush;
-  if (!console.out) throw Refusal("写不下去，磁盘可能满了，报表不完整。");
+  if (!console.out) throw Refusal(Words::tr("写不下去，磁盘可能满了，报表不完整。"));
 }
 
 /// Tells each tenth once.
@@ -79,7 +81,8 @@ ReportProgress progressOn(Console& console) {
   constexpr int kTenths = 10;
   return [&console, told = 0](double part) mutable {
     const int tenths = static_cast<int>(part * kTenths);
-    if (tenths > told) console.err << "已统计 " << (told = tenths) * kTenths << "%" << std::endl;
+    if (tenths > told)
+      console.err << Words::tr("已统计 %1%", (told = tenths) * kTenths) << std::endl;
     return true;
   };
 }
@@ -91,7 +94,7 @@ void report(const Options& options, Console& console) {
   const std::unique_ptr<Connection> connection = options.file.open(console);
   std::error_code ignored;
   if (fs::equivalent(connection->source().path, target, ignored)) {
-    throw Refusal("不能把数据文件本身当作报表的文件。");
+    throw Refusal(Words::tr("不能把数据文件本身当作报表的文件。"));
   }
   Journal(*connection)
       .note(EntryKind::kReported, {},
@@ -100,31 +103,33 @@ void report(const Options& options, Console& console) {
       takingsReport(*connection, terms, console.clock(), progressOn(console));
   if (target == kStandardOutput) return print(made.value(), format, console);
   writeReport(target, made.value(), format);
-  console.out << "已写到 " << target << '\n';
+  console.out << Words::tr("已写到 %1", target) << '\n';
 }
 
 }  // namespace
 
 void addReportCommand(CLI::App& app, Console& console) {
-  CLI::App* command = app.add_subcommand(
-      "report",
-      "经营报表：按日、时段、操作员、分类和商品的营业额和毛利，付款方式，折扣，退货，没有动"
-      "销和库存不足的商品");
+  CLI::App* command =
+      app.add_subcommand("report", Words::tr("经营报表：按日、时段、操作员、分类和商品的营业额和毛"
+                                             "利，付款方式，折扣，退货，没有动销和库存不足的商品"));
   const auto options = std::make_shared<Options>();
   options->file.addTo(*command);
-  command->add_option("--from", options->from, "从哪天起；不写从本月一日起");
-  command->add_option("--to", options->to, "到哪天止（含这一天）；不写到今天");
-  command->add_option("--format", options->format, "text、csv、xlsx 或 html；不写是 text")
+  command->add_option("--from", options->from, Words::tr("从哪天起；不写从本月一日起"));
+  command->add_option("--to", options->to, Words::tr("到哪天止（含这一天）；不写到今天"));
+  command
+      ->add_option("--format", options->format, Words::tr("text、csv、xlsx 或 html；不写是 text"))
       ->check(oneOf({"text", "csv", "xlsx", "html"}));
   command->add_option("--out", options->out,
-                      "写到哪个文件，- 表示标准输出；不写时 text 和 csv 写到标准输出，xlsx 和 html "
-                      "写到当前文件夹，文件名里有日期");
+                      Words::tr("写到哪个文件，- 表示标准输出；不写时 text 和 csv "
+                                "写到标准输出，xlsx 和 html 写到当前文件夹，文件名里有日期"));
   command
       ->add_option("--slow-days", options->slowDays,
-                   "到最后一天为止多少天没有卖过算没有动销；不写看整个期间")
+                   Words::tr("到最后一天为止多少天没有卖过算没有动销；不写看整个期间"))
       ->check(wholeNumber(1, kMostDays));
-  command->add_option("--stock-below", options->stockBelow, "库存少于多少算不足；不写是 10");
-  command->add_option("--goods", options->mostGoods, "每张商品表最多列多少种；不写是 100")
+  command->add_option("--stock-below", options->stockBelow,
+                      Words::tr("库存少于多少算不足；不写是 10"));
+  command
+      ->add_option("--goods", options->mostGoods, Words::tr("每张商品表最多列多少种；不写是 100"))
       ->check(wholeNumber(1, kMostRows));
   command->callback([options, &console] { report(*options, console); });
 }

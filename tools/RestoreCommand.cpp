@@ -8,6 +8,7 @@
 #include <string>
 #include <vector>
 
+#include "base/Words.h"
 #include "saleslib/Journal.h"
 #include "store/Connection.h"
 #include "store/DataFileRestore.h"
@@ -40,22 +41,23 @@ void restore(Options& options, Console& console) {
       restoreDataFile(backup, file, "old-" + markOf(console.clock()));
   Journal(*options.file.open(file, console))
       .note(EntryKind::kRestored, {}, {{"backup", backup.string()}, {"old", aside.string()}});
-  console.out << "已用 " << backup.string() << " 恢复 " << options.file.path << "。\n";
-  if (!aside.empty()) console.out << "原来的文件留在 " << aside.string() << "。\n";
+  console.out << Words::tr("已用 %1 恢复 %2。", backup.string(), options.file.path) << '\n';
+  if (!aside.empty()) console.out << Words::tr("原来的文件留在 %1。", aside.string()) << '\n';
 }
 
 }  // namespace
 
 void addRestoreCommand(CLI::App& app, Console& console) {
   CLI::App* command = app.add_subcommand(
-      "restore", "检查备份，用它代替数据文件；原来的文件改名留下。收款程序必须先退出");
+      "restore", Words::tr("检查备份，用它代替数据文件；原来的文件改名留下。收款程序必须先退出"));
   const auto options = std::make_shared<Options>();
   command
       ->add_option(
-          "文件", options->files,
-          "备份和数据文件；只写数据文件时，列出它旁边 backups 文件夹里每天的备份，从中选一个")
+          Words::tr("文件"), options->files,
+          Words::tr(
+              "备份和数据文件；只写数据文件时，列出它旁边 backups 文件夹里每天的备份，从中选一个"))
       ->required();
   options->file.addPasswordTo(*command);
-  command->add_option("--from", options->from, "列出这个文件夹里的备份，例如备份盘上的");
+  command->add_option("--from", options->from, Words::tr("列出这个文件夹里的备份，例如备份盘上的"));
   command->callback([options, &console] { restore(*options, console); });
 }

@@ -1,10 +1,10 @@
 #pragma once
 
 #include "shop/NewShop.h"
+#include "shop/TillSetup.h"
 #include "tools/Console.h"
 
-/// Asks at a terminal, line by line, what the first start of the till asks in its windows, except
-/// for what belongs to one till and not to the shop's data file: its devices and colours. An empty
-/// line is the answer in brackets; an answer that cannot be is said, and asked for again. Throws
-/// Refusal when the answers end too early.
-[[nodiscard]] NewShop askForShop(Console& console);
+/// Asks at a terminal, line by line (tools/Questions.h), what the first start of the till asks in
+/// its windows. `till` is the till on this machine; without one, what belongs to it is not asked.
+/// Throws Refusal when the answers end too early.
+[[nodiscard]] NewShop askForShop(Console& console, TillSetup* till);

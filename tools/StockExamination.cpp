@@ -5,6 +5,7 @@
 
 #include "base/NumberText.h"
 #include "base/Text.h"
+#include "base/Words.h"
 #include "store/Connection.h"
 #include "tools/JournalState.h"
 
@@ -36,11 +37,12 @@ void examineNotedStock(const Examination& books, const JournalState& state) {
     const double noted = item == expected.end() ? 0 : item->second;
     if (item != expected.end()) expected.erase(item);
     if (rows.text("quantity") == generalNumber(noted)) continue;
-    books.fault("商品 " + rows.text("spbm") + " 的库存是 " + rows.text("quantity") +
-                "，按日志应是 " + generalNumber(noted));
+    books.fault(Words::tr("商品 %1 的库存是 %2，按日志应是 %3", rows.text("spbm"),
+                          rows.text("quantity"), generalNumber(noted)));
   }
   for (const auto& [item, quantity] : expected) {
     if (quantity == 0) continue;
-    books.fault("商品 " + item + " 按日志有库存 " + generalNumber(quantity) + "，库存里却没有它了");
+    books.fault(
+        Words::tr("商品 %1 按日志有库存 %2，库存里却没有它了", item, generalNumber(quantity)));
   }
 }

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "base/Words.h"
 #include "saleslib/Journal.h"
 #include "shop/Refusal.h"
 #include "store/Connection.h"
@@ -48,8 +49,8 @@ TakenOver TakeOver::run() {
   requireEmpty();
   for (const PlannedTable& table : plan_.tables) takeTable(table);
   if (strangers_ > 0) {
-    done_.notes.push_back(std::to_string(strangers_) +
-                          " 张单据的会员不在带来的会员里，单据上不再有会员。");
+    done_.notes.push_back(
+        Words::tr("%1 张单据的会员不在带来的会员里，单据上不再有会员。", strangers_));
   }
   for (const std::string& note :
        {sumUpBills(connection_, plan_), sumUpPurchases(connection_, plan_),
@@ -67,10 +68,10 @@ void TakeOver::requireEmpty() const {
   for (const PlannedTable& table : plan_.tables) {
     const std::string name = table.target.name;
     if (!connection_.query(("select 1 from " + name + " limit 1").c_str()).next()) continue;
-    throw Refusal("什么也没有带来：数据文件的表 " + name +
-                  " 里已经有数据。请用 tilladmin create 建一个新的数据文件，带到那里；不要这张表就"
-                  "加上 --skip " +
-                  name + "。");
+    throw Refusal(
+        Words::tr("什么也没有带来：数据文件的表 %1 里已经有数据。请用 tilladmin create "
+                  "建一个新的数据文件，带到那里；不要这张表就加上 --skip %2。",
+                  name, name));
   }
 }
 
@@ -79,7 +80,7 @@ void TakeOver::takeTable(const PlannedTable& table) {
   insertText_ = insertTextOf(table.target);
   std::int64_t rows = 0;
   file_.read(*table.source, [&](const AccessRow& row) {
-    row_ = "第 " + std::to_string(++rows) + " 行";
+    row_ = Words::tr("第 %1 行", ++rows);
     if (std::optional<Values> values = valuesOf(table, row)) takeRow(table, *std::move(values));
     if (rows % kRowsPerProgress == 0) progress_(table.source->name, rows);
   });
@@ -94,17 +95,16 @@ std::optional<TakeOver::Values> TakeOver::valuesOf(const PlannedTable& table,
     const AccessValue none;
     const AccessValue& value = table.from[index] ? row[*table.from[index]] : none;
     if (index == 0 && !std::holds_alternative<std::monostate>(value)) {
-      row_ += "（" + shownValue(value) + "）";
+      row_ += Words::tr("（%1）", shownValue(value));
     }
     std::optional<TakenValue> taken = takenValue(value, column.kind);
     if (!taken) {
-      leave(std::string(column.name) + " 是" + shownValue(value) + "，不是" +
-            kindName(column.kind));
+      leave(Words::tr("%1 是%2，不是%3", column.name, shownValue(value), kindName(column.kind)));
       return std::nullopt;
     }
     if (std::holds_alternative<std::monostate>(taken->value)) {
       if (!column.empty) {
-        leave(std::string(column.name) + " 空着");
+        leave(Words::tr("%1 空着", column.name));
         return std::nullopt;
       }
       taken->value = *column.empty;
@@ -130,12 +130,12 @@ std::string TakeOver::refusalOf(const PlannedTable& table, Values& values) {
   const std::string_view target = table.target.name;
   if (table.target.columns.front().kind == TargetColumn::Kind::kWhole &&
       !table.target.isRenumbered && wholeIn(values.front()) <= 0) {
-    return "号码不是大于 0 的整数";
+    return Words::tr("号码不是大于 0 的整数");
   }
   if (target == "sell") return takeBill(table, values);
   if (target == "sellProducts" &&
       !connection_.queryBound("select 1 from sell where id = ?", {values[1]}).next()) {
-    return "单据 " + std::to_string(wholeIn(values[1])) + " 没有带来";
+    return Words::tr("单据 %1 没有带来", wholeIn(values[1]));
   }
   return "";
 }
@@ -143,7 +143,7 @@ std::string TakeOver::refusalOf(const PlannedTable& table, Values& values) {
 // An open bill is what a program that died left behind; here it would be voided at the first start.
 std::string TakeOver::takeBill(const PlannedTable& table, Values& values) {
   const std::int64_t state = wholeIn(values[*table.target.indexOf("state")]);
-  if (state != 1) return "没有结账（state 是 " + std::to_string(state) + "），不带";
+  if (state != 1) return Words::tr("没有结账（state 是 %1），不带", state);
   Value& member = values[*table.target.indexOf("member_id")];
   if (wholeIn(member) == 0) return "";
   const auto known = memberNumbers_.find(wholeIn(member));
@@ -154,7 +154,7 @@ std::string TakeOver::takeBill(const PlannedTable& table, Values& values) {
 
 void TakeOver::insert(Values values) {
   if (connection_.runBound(insertText_.c_str(), std::move(values)) == 0) {
-    leave("主键与前面的一行相同");
+    leave(Words::tr("主键与前面的一行相同"));
     return;
   }
   ++done_.tables.back().taken;
@@ -166,7 +166,7 @@ void TakeOver::insertMembers() {
   std::ranges::stable_sort(members_, {}, [](const Values& member) { return wholeIn(member[0]); });
   for (Values& member : members_) {
     const std::int64_t number = wholeIn(member.front());
-    row_ = "卡号 " + std::get<std::string>(member[1]);
+    row_ = Words::tr("卡号 %1", std::get<std::string>(member[1]));
     member.erase(member.begin());
     const std::int64_t before = done_.tables.back().taken;
     insert(std::move(member));
@@ -180,11 +180,12 @@ void TakeOver::insertMembers() {
 void TakeOver::leave(const std::string& reason) {
   TakenTable& table = done_.tables.back();
   ++table.left;
-  if (table.reasons.size() < kMostReasons) table.reasons.push_back(row_ + "：" + reason);
+  if (table.reasons.size() < kMostReasons)
+    table.reasons.push_back(Words::tr("%1：%2", row_, reason));
 }
 
 void TakeOver::change(const std::string& what) {
   TakenTable& table = done_.tables.back();
   ++table.changed;
-  if (table.changes.size() < kMostReasons) table.changes.push_back(row_ + "：" + what);
+  if (table.changes.size() < kMostReasons) table.changes.push_back(Words::tr("%1：%2", row_, what));
 }

@@ -8,6 +8,7 @@
 
 #include "base/Failure.h"
 #include "base/Version.h"
+#include "base/Words.h"
 #include "tools/AutostartCommand.h"
 #include "tools/BackupCommand.h"
 #include "tools/BillCommand.h"
@@ -49,15 +50,17 @@ std::vector<std::string> wordsOf(int count, const char* const* arguments) {
 
 }  // namespace
 
-int runTool(int count, const char* const* arguments, Console& console) {
+int runTool(int count, const char* const* arguments, Console& console,
+            const TillSetupOf& tillSetup) {
   CLI::App app(
-      "店主的工具：建立数据文件，管理操作员和店铺参数，导入导出商品，检查账目，做经营报表。",
+      Words::tr(
+          "店主的工具：建立数据文件，管理操作员和店铺参数，导入导出商品，检查账目，做经营报表。"),
       "tilladmin");
   speakChinese(app);
-  app.set_version_flag("--version", std::string(tillVersion()), "显示版本");
+  app.set_version_flag("--version", std::string(tillVersion()), Words::tr("显示版本"));
   app.require_subcommand(1);
   int exitCode = kDone;
-  addSetupCommand(app, console);
+  addSetupCommand(app, console, tillSetup);
   addCreateCommand(app, console);
   addOperatorCommand(app, console);
   addParamCommand(app, console);
@@ -78,7 +81,9 @@ int runTool(int count, const char* const* arguments, Console& console) {
   } catch (const CLI::Success& asked) {
     return app.exit(asked, console.out, console.err);
   } catch (const CLI::ParseError& error) {
-    console.err << inChinese(error) << "。用 tilladmin --help 或 tilladmin 命令 --help 看用法。\n";
+    console.err << Words::tr("%1。用 tilladmin --help 或 tilladmin 命令 --help 看用法。",
+                             inChinese(error))
+                << '\n';
     return kNoCommandLine;
   } catch (const Failure& failure) {
     console.err << failure.what() << '\n';

@@ -6,7 +6,7 @@
 #include <fstream>
 
 #include "TemporaryFolder.h"
-#include "app/ShopFolder.h"
+#include "base/ShopFolder.h"
 #include "store/Connection.h"
 #include "store/DataFile.h"
 #include "store/StoreError.h"

@@ -95,6 +95,7 @@ make_clean_debian() {
   cp --archive --reflink=auto "$cache/root" "$root"
   mount -t proc proc "$root/proc"
   mount --bind "$cache/archives" "$root/var/cache/apt/archives"  # fetched once
+  echo force-unsafe-io >"$root/etc/dpkg/dpkg.cfg.d/thrown-away-anyway"
   mkdir "$root/tmp/.X11-unix"
   apt update
 }

@@ -20,6 +20,7 @@ class ApprovalTest : public TillFixture {
 
   ApprovalTest() {
     pos.gPosSet.MBPort = "LPT1";
+    setParameter("Journal", "1");
     askForApprovals(pos, {},
                     {"discount", "price", "negative", "delete", "drawer", "topup", "members"});
   }
@@ -49,6 +50,12 @@ class ApprovalTest : public TillFixture {
     Hands::pressNow(Key_Escape);
   }
   const QAbstractItemModel& rows() { return *window.findChild<QTableView*>("lv")->model(); }
+  /// The kinds of entries that name the approver, but for the approvals themselves.
+  std::string approvedEntries() {
+    return stored(
+        "group_concat(kind, ' ') as v from (select distinct kind from fact where approver = 2 and"
+        " kind <> 'approved' order by kind)");
+  }
   /// All that a deed could change.
   std::string state() {
     QString all = "[" + window.findChild<QLineEdit*>("t")->text() + "]";
@@ -92,6 +99,9 @@ TEST_F(ApprovalTest, ADeedAsksUnlessTheRightIsThereAndGivingUpChangesNothing) {
     EXPECT_FALSE(does(each, each.tooLittle, kGivesUp));
   }
   EXPECT_EQ(opened, "-李四李四-李四李四");
+  EXPECT_EQ(approvedEntries(),
+            "bill_cancelled discount_changed drawer_opened line_deleted price_typed "
+            "quantity_lowered");
 }
 
 TEST_F(ApprovalTest, WhatCostsTheShopNothingAsksNobody) {
@@ -122,4 +132,5 @@ TEST_F(ApprovalTest, WhatIsGivenUpAtTheSettlementIsADiscountAndItsFieldsStay) {
   });
   window.openModal();
   EXPECT_EQ(stored("group_concat(state || ':' || favorable) as v from sell"), "1:0.26,1:0.25");
+  EXPECT_EQ(approvedEntries(), "bill_settled");
 }

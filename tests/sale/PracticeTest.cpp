@@ -17,6 +17,7 @@ TEST_F(TillFixture, WhatIsPractisedIsSoldAtTheShopsPricesAndLeavesItsBooksAlone)
     ASSERT_TRUE(lesson.open());
     const auto press = [&](int code) { static_cast<void>(lesson.key(code, till.text)); };
     const auto enter = [&](const char* typed) {
+      lesson.textComing(till.text);
       till.text = typed;
       press(kEnter);
     };

@@ -1,7 +1,9 @@
 #include <gmock/gmock.h>
 
 #include <QComboBox>
+#include <QPushButton>
 #include <filesystem>
+#include <fstream>
 
 #include "Hands.h"
 #include "InstalledTill.h"
@@ -27,6 +29,7 @@ struct Unopened : InstalledTill {
 
 TEST(frmSetupTest, AShopIsMadeByKeyboardAndSellsWithoutARestart) {
   const Unopened shop;
+  fs::remove(shop.program() / "data");
   TillDriver till(shop.program());
   till.waitFor("messageBox");
   till.waitForText("qt_msgbox_label", "还没有开店的，接下来就可以开店。");
@@ -43,8 +46,8 @@ TEST(frmSetupTest, AShopIsMadeByKeyboardAndSellsWithoutARestart) {
   till.key("Return");
   till.waitForText("Label1", "商品");
   till.key("Down");
-  till.key("Down");
-  for (const char* answer : {"6901234567892", "红糖", "5.5"}) till.enter(answer);
+  for (const char* answer : {"6901234567892", "红糖", "袋", "5.5", "12"}) till.enter(answer);
+  till.waitForText("lblTyped", "已加入 红糖");
   for (int page = 0; page < 2; ++page) till.key("PgDown");
   till.waitForText("Label1", "颜色");
   till.key("PgDown");
@@ -121,8 +124,9 @@ TEST(frmSetupTest, WhatCannotBeIsSaidOnItsPageAndABackupIsTakenOnlyWhenItIsOne) 
   refused("两次输入的密码不一样。");
   set("txtOwnerAgain", "1");
   Hands::pressNow(Qt::Key_PageDown);
-  set("txtName1", "红糖");
-  refused("条码应是编码");
+  set("txtName", "红糖");
+  refused("商品编码和条");
+  set("txtName", "");
   for (int page = 0; page < 4; ++page) Hands::pressNow(Qt::Key_PageUp);
   form.findChild<QComboBox*>("cobFrom")->setCurrentIndex(2);
   refused("没有这个备份文件。");
@@ -136,6 +140,58 @@ TEST(frmSetupTest, WhatCannotBeIsSaidOnItsPageAndABackupIsTakenOnlyWhenItIsOne) 
   EXPECT_EQ(form.result(), QDialog::Accepted);
   ASSERT_EQ(pos.OpenDataStore(), "");
   EXPECT_EQ(pos.missingOperator(), "");
+}
+
+/// The step that looks must end for the reading to go on.
+void enterWhenEnabled(QWidget& window) {
+  QTimer::singleShot(5, &window, [&window] {
+    const bool isRead = window.findChild<QPushButton*>("cmdOk")->isEnabled();
+    isRead ? Hands::pressNow(Qt::Key_Return) : enterWhenEnabled(window);
+  });
+}
+
+TEST(frmSetupTest, ASheetIsSeenBeforeAndComesInWithTheShopOrNotAtAll) {
+  const Unopened shop;
+  const auto write = [&](const char* rows) {
+    std::ofstream(shop.folder() / "goods.csv") << "代号;品名;售价\n" << rows;
+  };
+  write("1001;米;2.5\n");
+  posMod pos(shop.program());
+  frmSetup form(pos, pos.gKeyBoard);
+  form.open();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&form));
+  form.findChild<QLineEdit*>("ShopName")->setText("好邻居");
+  for (const char* name : {"txtOwnerName", "txtOwnerPassword", "txtOwnerAgain"})
+    form.findChild<QLineEdit*>(name)->setText("1");
+  for (int page = 0; page < 4; ++page) Hands::pressNow(Qt::Key_PageDown);
+  Hands hands;
+  hands.at("frmGoodsIn", [&](QWidget& window) {
+    window.findChild<QLineEdit*>("txtFile")->setText(
+        QString::fromStdString(shop.folder() / "goods.csv"));
+    Hands::typeNow("\n\n");  // opens it, and asks what the first column is
+  });
+  hands.type("frmMenu", "↓\n").type("frmGoodsIn", "\tgrossist\n");
+  hands.at("dlgGoodsPreview", [](QWidget& window) { enterWhenEnabled(window); });
+  Hands::pressNow(Qt::Key_Return);
+  EXPECT_EQ(form.findChild<QLabel*>("lblSheet")->text().toStdString(),
+            "goods.csv：1 行，开店时导入");
+  form.findChild<QLineEdit*>("txtCode")->setText("2002");  // not added by Enter
+  form.findChild<QLineEdit*>("txtName")->setText("面");
+  form.findChild<QLineEdit*>("txtPrice")->setText("3");
+  for (int page = 0; page < 2; ++page) Hands::pressNow(Qt::Key_PageDown);
+  hands.press("dlgMaking", {Qt::Key_Escape});
+  Hands::pressNow(Qt::Key_PageDown);
+  write(";米;2.5\n");  // the stick has another sheet now
+  hands.says("messageBox", "店铺没有建立：");
+  Hands::pressNow(Qt::Key_PageDown);
+  EXPECT_TRUE(hands.idle() && form.isVisible() && shop.leftNothing());
+  write("1001;米;2.5\n");
+  Hands::pressNow(Qt::Key_PageDown);
+  EXPECT_EQ(form.result(), QDialog::Accepted);
+  const std::unique_ptr<Connection> made = shop.open();
+  Rows goods = made->query("select group_concat(f_spmc || f_xsdj, ' ') as all_goods from spda");
+  ASSERT_TRUE(goods.next());
+  EXPECT_EQ(goods.text("all_goods"), "米2.5 面3");
 }
 
 /// Of relative luminances (WCAG 2, contrast ratio).

@@ -97,6 +97,34 @@ TEST_F(SheetTest, MeansInAWorkbookWhatTheWorkbookMeans) {
   }
 }
 
+// Read piece by piece, a row may lie across two of them, and the fault in a later one.
+TEST_F(SheetTest, ALargeWorkbookIsReadToItsEndOrRefused) {
+  constexpr int kRows = 20'000;
+  lxw_workbook* book = workbook_new(folder.file("sheet.xlsx").c_str());
+  lxw_worksheet* sheet = workbook_add_worksheet(book, nullptr);
+  for (int row = 0; row < kRows; ++row) {
+    worksheet_write_string(sheet, row, 0, ("商品 " + std::to_string(row)).c_str(), nullptr);
+    worksheet_write_number(sheet, row, 1, row, nullptr);
+  }
+  workbook_close(book);
+  const Rows rows = read("sheet.xlsx");
+  ASSERT_EQ(rows.size(), kRows);
+  for (int row = 0; row < kRows; ++row) {
+    const std::string number = std::to_string(row);
+    ASSERT_EQ(rows[row], (Rows::value_type{std::to_string(row + 1), "商品 " + number, number}));
+  }
+  std::fstream file(folder.file("sheet.xlsx"), std::ios::in | std::ios::out | std::ios::binary);
+  std::string bytes(std::istreambuf_iterator<char>(file), {});
+  const std::size_t part = bytes.find("xl/worksheets/sheet1.xml");
+  file.seekp(static_cast<std::streamoff>(part + 100'000));
+  file << "a scratch on the disk";
+  file.close();
+  const auto opened = openSheet(folder.file("sheet.xlsx"));
+  std::vector<std::string> fields;
+  EXPECT_TRUE(opened->next(fields));
+  EXPECT_THROW(while (opened->next(fields)) {}, Refusal);
+}
+
 TEST(GoodsMappingTest, GuessesWhatOthersCallIt) {
   const GoodsMapping guessed =
       guessMapping({"序号", "国际条码", "品 名", "零售单价（元）", "单价", "进货价", "商品分类"});

@@ -142,7 +142,7 @@ TEST_F(CommandTest, OperatorsComeAndGo) {
          "operator add @ --number 10 --name 李四 --password 1 --right all --right DISCOUNT:10");
   expect(0, "10\t李四\tsell,discount:10,price,negative,delete,return,topup,drawer,reprint,query,",
          "operator list @");
-  expect(0, "账目相符", "check @");
+  expect(0, "账目正确", "check @");
   for (const char* track : {"12345", ";8899?"}) {
     typed = track;
     expect(*track == ';' ? 0 : 1, "卡", "operator card @ --number 10");
@@ -153,6 +153,13 @@ TEST_F(CommandTest, OperatorsComeAndGo) {
   expect(0, "没有员工卡了", "operator card @ --number 7 --remove");
   typed = "";
 
+  expect(1, "没有操作员 9", "operator right @ --number 9 --give report");
+  expect(1, "--give", "operator right @ --number 7");
+  execute("insert into operator_rights (operator_id, right_key) values (8, 'Report')");
+  expect(0, "report", "operator right @ --number 7 --give report --give sell");
+  expect(0, "sell", "operator right @ --number 8 --take report --give sell");
+  expect(0, "7\t张三\tsell,report\n8\t张三\tsell\n", "operator list @");
+  EXPECT_EQ(value("select count(*) as value from operator_rights"), "3");
   execute("insert into sell (sell_time, operator_id) values ('2026-11-22 09:00:00', 7)");
   expect(1, "没结的单据", "operator remove @ --number 7");
   expect(0, "", "operator remove @ --number 8");

@@ -119,16 +119,18 @@ TEST_F(JournalTest, IsKeptOnlyWhereTheOwnerWantsIt) {
 TEST_F(JournalTest, GoesOnWithWhatTheOwnersToolDoes) {
   expect(0, "", "param set @ Journal=1");
   play();
+  execute("update sell set sell_time = '2031-01-01 09:00:00' where id = 4");
+  typed = ";4711?\n";
   write("stock.csv", "spbm,quantity\nB,40\nC,3\n");
   write("member.csv", "bh,name,card\n8001,陈,80\n8009,周,5\n");
   write("goods.csv", "商品编码,条码,名称,零售价,库存\nA,690001,面,4,77\nD,690002,油,30,6\n");
-  typed = ";9004?\n";
   for (const char* command :
-       {"import @ --table stock ./stock.csv", "import @ --table member ./member.csv",
+       {"bill redate @ 4", "import @ --table stock ./stock.csv",
+        "import @ --table member ./member.csv",
         "import @ --table member ./member.csv --replace-accounts", "import @ ./goods.csv --yes",
-        "operator password @ --number 2 --password 9", "operator remove @ --number 2",
+        "operator password @ --number 2 --password 9", "operator card @ --number 2",
+        "operator card @ --number 2 --remove", "operator remove @ --number 2",
         "operator add @ --number 4 --name 新 --password 4 --right journal",
-        "operator card @ --number 4", "operator card @ --number 4 --remove",
         "param set @ ShopName=店", "export @ - --table stock", "report @"}) {
     expect(0, "", command);
     expect(0, "账目正确", "check @");
@@ -233,9 +235,9 @@ TEST_F(JournalTest, NamesWhatWasDoneFromOutside) {
        " cost, ratio, discount, 1 from un_sell"},
       {"操作员 2 与日志不符", "update operators set password = '$argon2id$x' where id = 2"},
       {"操作员 2 与日志不符", "insert into operator_rights values (2, 'sell')"},
-      {"操作员 2 与日志不符", "insert into operator_cards values (2, '00')"},
       {"操作员 1 与日志不符", "delete from operator_rights where operator_id = 1"},
       {"操作员 1 与日志不符", "update operators set name = '李四' where id = 1"},
+      {"操作员 2 与日志不符", "insert into operator_cards values (2, 'x')"},
       {"操作员 7 不在日志里", "insert into operators values (7, '七', '7', '$argon2id$y', 0)"},
       {"操作员 2 在日志里", "delete from operators where id = 2"},
       {"店铺参数 PhonePay 是“0”，按日志应是“1”",

@@ -1,4 +1,4 @@
-#include "app/ShopFolder.h"
+#include "base/ShopFolder.h"
 
 #include <fstream>
 

@@ -1,0 +1,5 @@
+#include "saleslib/SaleWords.h"
+
+void speakInSaleLibrary(Words::Catalogue catalogue) {
+  Words::speak(catalogue);
+}

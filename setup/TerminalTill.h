@@ -1,0 +1,28 @@
+#pragma once
+
+#include <memory>
+
+#include "app/ClsPosSet.h"
+#include "app/Ports.h"
+#include "base/DateTime.h"
+#include "platform/IniFile.h"
+#include "shop/TillSetup.h"
+
+/// The till of a shop's folder for the questions at a terminal: the choices of the setup window's
+/// pages, with the same texts, and the same trial.
+class TerminalTill : public TillSetup {
+ public:
+  TerminalTill(const std::filesystem::path& shopFolder, Clock clock);
+
+  std::vector<Choice> devices() override;
+  Choice colours() override;
+  std::vector<std::string> tryDevices() override;
+  void load(NewShop& answers) override;
+  void store(const NewShop& answers) override;
+
+ private:
+  IniFile configIni_;
+  Ports ports_;
+  Clock clock_;
+  ClsPosSet till_;
+};
