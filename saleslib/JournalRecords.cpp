@@ -86,8 +86,6 @@ nlohmann::json operatorRecord(Connection& connection, std::int64_t id) {
       "select right_key from operator_rights where operator_id = ? order by right_key", id);
   while (rows.next()) rights.push_back(rows.text("right_key"));
   person["rights"] = std::move(rights);
-  Rows card = connection.query("select track from operator_cards where operator_id = ?", id);
-  if (card.next()) person["card"] = textMark(card.text("track"));
   return person;
 }
 

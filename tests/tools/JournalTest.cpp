@@ -229,6 +229,8 @@ TEST_F(JournalTest, NamesWhatWasDoneFromOutside) {
       {"退货 1 在日志里",
        "delete from un_sell; update sqlite_sequence set seq = 0"
        " where name = 'un_sell'"},
+      {"班次 1 不在日志里",
+       "insert into shift values (1, '2026-11-22 09:00:00', 1, '张三', 0, null, null, null)"},
       {"退货 2 不在日志里",
        "insert into un_sell (un_time, sell_id, item_id, quantity, money, cost,"
        " ratio, discount, operator_id) select un_time, sell_id, item_id, 1, 4,"
