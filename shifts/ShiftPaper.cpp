@@ -26,6 +26,15 @@ class Sheet {
   explicit Sheet(const Paper& paper) : columns_(static_cast<std::size_t>(paper.line)) {}
 
   void line(std::string text = {}) { lines_.push_back(std::move(text)); }
+  /// A text of any length, on as many lines as it takes.
+  void wrapped(std::string text) {
+    while (gbk::width(text) > columns_) {
+      const std::string first = gbk::cut(text, columns_);
+      line(first);
+      text = text.substr(first.size());
+    }
+    line(std::move(text));
+  }
   void title(const std::string& text) { line(gbk::centred(text, columns_)); }
   void rule() { line(std::string(columns_, '-')); }
   /// What does not fit is cut on the left side: an amount is always whole.
@@ -134,7 +143,7 @@ LineDocument cashSlip(const CashMove& move, const ClsSysParam& shop, const Paper
   sheet.line("第 " + std::to_string(move.shift) + " 班 " + generalText(move.time));
   sheet.line("收银员 " + move.person);
   sheet.amount("金额", isOut ? -move.amount : move.amount);
-  sheet.line("原因 " + move.reason);
+  sheet.wrapped("原因 " + move.reason);
   sheet.line();
   sheet.line("签名");
   for (int feed = 0; feed < 4; ++feed) sheet.line();

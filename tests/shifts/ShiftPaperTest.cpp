@@ -60,13 +60,13 @@ TEST_F(ShiftPaperTest, AClosedShiftFitsTheNarrowPaperAndAReprintSaysSo) {
 退货退现金      0 笔        0.00
 存入现金        0 笔        0.00
 取出现金        1 笔      120.50
-  09:05 付第四季度水费   -120.50
+  09:05 付第四季度水费和 -120.50
 --------------------------------
 备用金                    200.00
 钱箱应有                  103.30
-  100 元 × 1              100.00
-  1 元 × 3                  3.00
-  0.1 元 × 2                0.20
+  100 元 × 1             100.00
+  1 元 × 3                 3.00
+  0.1 元 × 2               0.20
 清点（第 2 次）           103.20
 短款                       -0.10
 --------------------------------
@@ -83,16 +83,18 @@ TEST_F(ShiftPaperTest, AReadingOnWidePaperShowsNoCountAndSlipsTellTheReason) {
   const std::string reading =
       textOf(shiftPaper(shift, ShiftPaperKind::kReading, now, pos.gSysParam, wide), wide.line);
   EXPECT_THAT(reading, testing::StartsWith(R"(              好邻居便利店
-            班次读数 第 12 班
+           班次读数 第 12 班
               （没有结班）
 )"));
   EXPECT_THAT(reading, Not(testing::HasSubstr("清点")));
+  shift.moves[0].reason += "，明天补票据";
   EXPECT_EQ(textOf(cashSlip(shift.moves[0], pos.gSysParam, {}), 32), R"(          好邻居便利店
             取出现金
 第 12 班 2026-11-22 09:05:00
 收银员 张三
 金额                      120.50
-原因 付第四季度水费和电费
+原因 付第四季度水费和电费，明天
+补票据
 
 签名)");
 }

@@ -41,7 +41,7 @@ TEST_F(frmShiftTest, NothingIsSoldBeforeTheFloatIsNamed) {
 TEST_F(frmShiftTest, IsCountedBlindAndACrashInTheMidstLeavesItOpenAndTheCountKept) {
   hands.type("frmShift", "\n").type("dlgCash", "100\n");
   hands.type("frmShift", "↓\n").type("dlgCash", "30\n").see("txtReason", "@txtReason");
-  hands.type("\n").see("lblSaid", "请写明原因。@txtReason").type("买袋子\n");
+  hands.type("\n").see("lblSaid", "请写明原因。@txtReason").type("bags\n");
   hands.type("frmShift", "↓↓↓\n");
   const char* const kSum = "lblSum pieces0";
   hands.see("dlgCashCount", kSum, "合计：0.00 元|@pieces0");
