@@ -32,7 +32,7 @@ Identification::Answer Identification::bySwipe(std::string_view typed) {
   return answer([&] {
     Answer found{staffCardHolder(connection_, typed)};
     if (found.person) return found;
-    found.refusal = "没有这张员工卡！";
+    found.refusal = Words::tr("没有这张员工卡！");
     Journal(connection_).note(EntryKind::kLoginRefused);
     return found;
   });

@@ -69,7 +69,7 @@ void addRecords(Listed& list, const Json& body) {
          {"name", Words::mark("姓名")},
          {"rights", Words::mark("权限")}}}},
       {"shift",
-       {{{"opened", Words::mark("开班")},
+       {{{"opened", Words::mark("开班时间")},
          {"opened_name", Words::mark("开班人")},
          {"cash_float", Words::mark("备用金")}}}},
       {"card", {{{"number", Words::mark("卡号")}, {"by", Words::mark("余额变动")}, {"", ""}}}},
@@ -101,11 +101,15 @@ void addCounts(Listed& list, const Json& body) {
 
 void addTexts(Listed& list, const Json& body) {
   constexpr std::pair<const char*, const char*> kTexts[] = {
-      {"from", "从"},         {"to", "到"},       {"sum", "合计"},      {"added", "新增"},
-      {"updated", "更新"},    {"rows", "行数"},   {"right", "权限"},    {"size", "多少"},
-      {"approver", "批准人"}, {"file", "文件"},   {"backup", "备份"},   {"old", "原文件"},
-      {"amount", "金额"},     {"reason", "原因"}, {"expected", "应有"}, {"counted", "清点"},
-      {"over", "长短款"}};
+      {"from", Words::mark("从")},         {"to", Words::mark("到")},
+      {"sum", Words::mark("合计")},        {"added", Words::mark("新增")},
+      {"updated", Words::mark("更新")},    {"rows", Words::mark("行数")},
+      {"right", Words::mark("权限")},      {"size", Words::mark("多少")},
+      {"approver", Words::mark("批准人")}, {"file", Words::mark("文件")},
+      {"backup", Words::mark("备份")},     {"old", Words::mark("原文件")},
+      {"amount", Words::mark("金额")},     {"reason", Words::mark("原因")},
+      {"expected", Words::mark("应有")},   {"counted", Words::mark("清点")},
+      {"over", Words::mark("长短款")}};
   if (body.contains("line")) list.add(shownLine(body.at("line")));
   if (body.contains("parameters") && body.contains("before")) {
     for (const auto& [name, value] : body.at("parameters").items())

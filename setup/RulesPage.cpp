@@ -3,13 +3,13 @@
 #include <QComboBox>
 #include <QLineEdit>
 
+#include "base/Words.h"
 #include "platform/QtText.h"
 
 namespace {
 
-/// The questions' texts are those of a room that knows no Qt.
 QString shown(const char* text) {
-  return QCoreApplication::translate("SetupQuestion", text);
+  return qtText(Words::tr(text));
 }
 
 }  // namespace

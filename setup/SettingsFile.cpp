@@ -10,6 +10,7 @@
 
 void readSettings(const IniFile& file, ClsPosSet& till, NewShop& shop) {
   till.LoadSet(file);
+  // untranslated: a setting as it is stored
   if (till.printAmount.empty()) till.printAmount = "直接打印1联";
   for (const SetupQuestion& question : setupQuestions()) {
     if (question.isOfShop()) continue;

@@ -17,14 +17,30 @@ namespace {
 /// A caption of the window, without its colon.
 std::string questionOf(const char* caption) {
   QString text = PosSetLists::tr(caption);
+  // untranslated: either language's colon
   while (text.endsWith("：") || text.endsWith(':')) text.chop(1);
   return text.toStdString();
+}
+
+// The page printer needs a screen to think of, and there may be none.
+std::unique_ptr<QGuiApplication> applicationWithoutScreen() {
+  if (QCoreApplication::instance() != nullptr) return nullptr;
+  static char name[] = "tilladmin";
+  static char* arguments[] = {name, nullptr};
+  static int count = 1;
+  qputenv("QT_QPA_PLATFORM", "offscreen");
+  return std::make_unique<QGuiApplication>(count, arguments);
 }
 
 }  // namespace
 
 TerminalTill::TerminalTill(const std::filesystem::path& shopFolder, Clock clock)
-    : configIni_(shopFolder / "Config.ini"), ports_(configIni_), clock_(std::move(clock)) {}
+    : application_(applicationWithoutScreen()),
+      configIni_(shopFolder / "Config.ini"),
+      ports_(configIni_),
+      clock_(std::move(clock)) {}
+
+TerminalTill::~TerminalTill() = default;
 
 std::vector<TillSetup::Choice> TerminalTill::devices() {
   std::vector<Choice> all;
@@ -49,16 +65,7 @@ TillSetup::Choice TerminalTill::colours() {
   return choice;
 }
 
-// The page printer needs a screen to think of, and there may be none.
 std::vector<std::string> TerminalTill::tryDevices() {
-  std::unique_ptr<QGuiApplication> application;
-  if (QCoreApplication::instance() == nullptr) {
-    static char name[] = "tilladmin";
-    static char* arguments[] = {name, nullptr};
-    static int count = 1;
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    application = std::make_unique<QGuiApplication>(count, arguments);
-  }
   DeviceTest devices(ports_, till_, clock_);
   std::vector<std::string> lines;
   for (const DeviceTest::Result& result : devices.run())

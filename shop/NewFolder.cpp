@@ -8,6 +8,7 @@
 #include "base/FileError.h"
 #include "base/PrivateFile.h"
 #include "base/SystemFault.h"
+#include "base/Words.h"
 
 namespace fs = std::filesystem;
 
@@ -16,8 +17,8 @@ NewFolder::NewFolder(fs::path folder) {
   if (folder.empty() || fs::is_directory(folder, ignored)) return;
   if (mkdir(folder.c_str(), S_IRWXU) != 0) {
     const bool isThere = errno == EEXIST;
-    throw FileError("建不了文件夹 " + folder.string() + "：" +
-                    (isThere ? "那里已经有别的东西。" : fileFault(errno)));
+    throw FileError(Words::tr("建不了文件夹 %1：%2", folder.string(),
+                              isThere ? Words::tr("那里已经有别的东西。") : fileFault(errno)));
   }
   made_ = std::move(folder);
   static_cast<void>(makePrivate(made_));

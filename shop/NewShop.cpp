@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <sstream>
 
+#include "base/Words.h"
 #include "saleslib/ClsSysParam.h"
 #include "saleslib/Journal.h"
 #include "shop/DemoShop.h"
@@ -40,7 +41,7 @@ void import(Connection& connection, SheetReader& sheet, const GoodsMapping& mapp
       importGoods(connection, sheet, mapping, WriteSlices::Company::kAlone, orEnd).value();
   if (written.mayBeWritten()) return;
   const GoodsPreview::Complaint& first = written.refused.front();
-  throw Refusal(name + " 第 " + std::to_string(first.line) + " 行：" + first.reason + "。");
+  throw Refusal(Words::tr("%1 第 %2 行：%3。", name, first.line, first.reason));
 }
 
 // What is typed is later than the sheet, and right where the two differ.
@@ -54,7 +55,7 @@ void addGoods(Connection& connection, const NewShop& shop, const GoOn& goOn) {
   if (shop.goods.empty()) return;
   std::istringstream text(sheetOf(shop.goods));
   const OpenedSheet opened = readGoodsSheet(text);
-  import(connection, *opened.reader, guessMapping(opened.headings), "录入的商品（第一种是第 2 行）",
+  import(connection, *opened.reader, guessMapping(opened.headings), Words::tr("录入的商品（第一种是第 2 行）"),
          [](double) { return true;
 });
 }  // namespace

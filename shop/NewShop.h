@@ -39,7 +39,11 @@ struct NewShop {
   std::map<std::pair<std::string, std::string>, std::string> settings;
   /// By the names of ClsSysParam.
   std::map<std::string, std::string, std::less<>> parameters = {
-      {"ReceiptText1", "欢迎光临"}, {"ReceiptText3", "谢谢惠顾，欢迎再来！"}, {"RoundJiao", "1"}};
+      // untranslated: printed on the receipts
+      {"ReceiptText1", "欢迎光临"},
+      // untranslated: printed on the receipts
+      {"ReceiptText3", "谢谢惠顾，欢迎再来！"},
+      {"RoundJiao", "1"}};
   std::vector<NewOperator> operators;
   std::optional<GoodsSheet> sheet;
   std::vector<TypedGoods> goods;  ///< come after the sheet's

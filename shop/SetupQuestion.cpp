@@ -1,33 +1,39 @@
 #include "shop/SetupQuestion.h"
 
 #include "base/Text.h"
+#include "base/Words.h"
 
 namespace {
 
 using Answers = std::vector<SetupQuestion::Answer>;
 
-const Answers kNoOrYes = {{"0", "否"}, {"1", "是"}};
+const Answers kNoOrYes = {{"0", Words::mark("否")}, {"1", Words::mark("是")}};
 
 // Whether a disk is mounted there is not asked: it may be in the safe.
 std::string refusalOfFolder(const std::string& folder) {
   if (folder.empty() || (folder.starts_with('/') && !hasControlCharacter(folder))) return {};
-  return "请写文件夹的完整名字，从 / 开始，例如 /media/stick/till；没有就空着。";
+  return Words::tr("请写文件夹的完整名字，从 / 开始，例如 /media/stick/till；没有就空着。");
 }
 
 }  // namespace
 
 const std::vector<SetupQuestion>& setupQuestions() {
   static const std::vector<SetupQuestion> all = {
-      {nullptr, "PhonePay", "收手机扫码付款", kNoOrYes, "1"},
-      {nullptr, "CheckPayment", "收款、价格、折扣像打错时先问一声", kNoOrYes, "1"},
-      {nullptr, "StockRule", "库存不够时", {{"0", "照卖"}, {"1", "不卖"}}, "0"},
-      {nullptr, "GoodsImport", "收银台上可以导入商品表（能收银的人都可以）", kNoOrYes, "1"},
-      {nullptr, "OwnerReport", "店主在收银台上看经营报表", kNoOrYes, "1"},
-      {nullptr, "BackupOnExit", "退出程序时备份数据文件", kNoOrYes, "1"},
-      {"Till", "Backups", "每天自动备份一次，留七天和四周", kNoOrYes, "1"},
+      {nullptr, "PhonePay", Words::mark("收手机扫码付款"), kNoOrYes, "1"},
+      {nullptr, "CheckPayment", Words::mark("收款、价格、折扣像打错时先问一声"), kNoOrYes, "1"},
+      {nullptr,
+       "StockRule",
+       Words::mark("库存不够时"),
+       {{"0", Words::mark("照卖")}, {"1", Words::mark("不卖")}},
+       "0"},
+      {nullptr, "GoodsImport", Words::mark("收银台上可以导入商品表（能收银的人都可以）"), kNoOrYes,
+       "1"},
+      {nullptr, "OwnerReport", Words::mark("店主在收银台上看经营报表"), kNoOrYes, "1"},
+      {nullptr, "BackupOnExit", Words::mark("退出程序时备份数据文件"), kNoOrYes, "1"},
+      {"Till", "Backups", Words::mark("每天自动备份一次，留七天和四周"), kNoOrYes, "1"},
       {"Till",
        "BackupTo",
-       "备份再抄到哪个 U 盘或移动硬盘的文件夹（没有就空着）",
+       Words::mark("备份再抄到哪个 U 盘或移动硬盘的文件夹（没有就空着）"),
        {},
        "",
        refusalOfFolder},

@@ -5,6 +5,7 @@
 
 #include "base/CsvRow.h"
 #include "base/Text.h"
+#include "base/Words.h"
 #include "shop/GoodsImport.h"
 #include "store/Connection.h"
 #include "store/DataFile.h"
@@ -40,6 +41,7 @@ GoodsPreview tryGoods(const TypedGoods& goods) {
       previewGoods(*scratch, *sheet.reader, guessMapping(sheet.headings), [](double) {
         return true;
       }).value();
-  if (preview.mayBeWritten() && trimmed(goods.price).empty()) preview.refuse(1, "请写零售价");
+  if (preview.mayBeWritten() && trimmed(goods.price).empty())
+    preview.refuse(1, Words::tr("请写零售价"));
   return preview;
 }

@@ -224,8 +224,8 @@ class WorkbookRows : public SheetReader {
     try {
       work();
     } catch (const std::exception&) {
-      throw Refusal("这个工作簿读不出来：" + file_.string() +
-                    "。请用表格软件打开，另存为 .xlsx 文件。");
+      throw Refusal(Words::tr("这个工作簿读不出来：%1。请用表格软件打开，另存为 .xlsx 文件。",
+                              file_.string()));
     }
   }
 

@@ -4,6 +4,7 @@
 #include <cstddef>
 
 #include "base/Text.h"
+#include "base/Words.h"
 #include "shop/Refusal.h"
 
 using std::chrono::steady_clock;
@@ -15,9 +16,9 @@ constexpr std::size_t kMostShown = 20;  // of each kind, as many as fit on one s
 std::string shownChange(const GoodsPreview::Article& article) {
   std::string text;
   if (!article.oldPrice.empty())
-    text.append("零售价 ").append(article.oldPrice).append(" → ").append(article.newPrice);
+    text = Words::tr("零售价 %1 → %2", article.oldPrice, article.newPrice);
   for (const std::string& field : article.otherFields)
-    text.append(text.empty() ? "" : "、").append(field);
+    text.append(text.empty() ? "" : Words::tr("、")).append(field);
   return text;
 }
 
@@ -25,13 +26,13 @@ template <class Entries, class Shown>
 void print(const std::string& heading, std::int64_t count, const Entries& entries, Shown shown,
            std::ostream& out) {
   if (count == 0) return;
-  out << heading << ' ' << count << " 行：\n";
+  out << Words::tr("%1 %2 行：", heading, count) << '\n';
   const std::size_t most = std::min(entries.size(), kMostShown);
   for (std::size_t place = 0; place < most; ++place) {
-    out << "  第 " << entries[place].line << " 行  " << shown(entries[place]) << '\n';
+    out << Words::tr("  第 %1 行  %2", entries[place].line, shown(entries[place])) << '\n';
   }
   const auto more = count - static_cast<std::int64_t>(most);
-  if (more > 0) out << "  ……还有 " << more << " 行\n";
+  if (more > 0) out << Words::tr("  ……还有 %1 行", more) << '\n';
 }
 
 }  // namespace
@@ -54,21 +55,22 @@ void ProgressBar::show(double part) {
 
 void setColumn(GoodsMapping& mapping, const std::string& wanted) {
   const std::size_t equals = wanted.rfind('=');
-  if (equals == std::string::npos) throw Refusal("要写成 列名=字段，写的是“" + wanted + "”。");
+  if (equals == std::string::npos)
+    throw Refusal(Words::tr("要写成 列名=字段，写的是“%1”。", wanted));
   const std::string heading = trimmed(wanted.substr(0, equals));
   const std::string name = trimmed(wanted.substr(equals + 1));
   const std::optional<GoodsField> field = fieldOfHeading(name);
-  if (!field && !name.empty()) throw Refusal("没有“" + name + "”这个字段。");
+  if (!field && !name.empty()) throw Refusal(Words::tr("没有“%1”这个字段。", name));
   const auto column = std::ranges::find(mapping.columns, heading, &GoodsMapping::Column::heading);
-  if (column == mapping.columns.end()) throw Refusal("表里没有“" + heading + "”这一列。");
+  if (column == mapping.columns.end()) throw Refusal(Words::tr("表里没有“%1”这一列。", heading));
   mapping.choose(static_cast<std::size_t>(column - mapping.columns.begin()), field);
 }
 
 void print(const GoodsMapping& mapping, std::ostream& out) {
-  out << "表里的列：\n";
+  out << Words::tr("表里的列：") << '\n';
   for (const GoodsMapping::Column& column : mapping.columns) {
-    out << "  " << column.heading << " → " << (column.field ? headingOf(*column.field) : "（不读）")
-        << '\n';
+    out << "  " << column.heading << " → "
+        << (column.field ? headingOf(*column.field) : Words::tr("（不读）")) << '\n';
   }
 }
 
@@ -78,12 +80,12 @@ void print(const GoodsPreview& preview, std::ostream& out) {
   };
   const auto complaint = [](const GoodsPreview::Complaint& each) { return each.reason; };
   print(
-      "新增", preview.addedCount, preview.added,
+      Words::tr("新增"), preview.addedCount, preview.added,
       [&](const auto& each) { return article(each) + each.newPrice; }, out);
   print(
-      "改动", preview.changedCount, preview.changed,
+      Words::tr("改动"), preview.changedCount, preview.changed,
       [&](const auto& each) { return article(each) + shownChange(each); }, out);
-  if (preview.unchangedCount > 0) out << "不变 " << preview.unchangedCount << " 行\n";
-  print("可能有错", preview.doubtCount, preview.doubts, complaint, out);
-  print("不能导入", preview.refusedCount, preview.refused, complaint, out);
+  if (preview.unchangedCount > 0) out << Words::tr("不变 %1 行", preview.unchangedCount) << '\n';
+  print(Words::tr("可能有错"), preview.doubtCount, preview.doubts, complaint, out);
+  print(Words::tr("不能导入"), preview.refusedCount, preview.refused, complaint, out);
 }

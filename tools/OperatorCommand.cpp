@@ -53,8 +53,10 @@ void add(const Options& options, Console& console) {
                             rightsMeant(options.rights)});
   console.out << Words::tr("已增加操作员 %1 %2", options.number, trimmed(options.name)) << '\n';
   if (options.rights.empty()) {
-    console.out << "没有写 --right sell，这位操作员不能收银；要能收银，用 tilladmin operator right "
-                   "--give sell 给。\n";
+    console.out << Words::tr(
+                       "没有写 --right sell，这位操作员不能收银；要能收银，用 tilladmin operator "
+                       "right --give sell 给。")
+                << '\n';
   }
 }
 
@@ -78,12 +80,13 @@ void changePassword(const Options& options, Console& console) {
 
 void changeRights(const Options& options, Console& console) {
   if (options.rights.empty() && options.taken.empty())
-    throw Refusal("要给什么权限写 --give，要收回什么权限写 --take。");
+    throw Refusal(Words::tr("要给什么权限写 --give，要收回什么权限写 --take。"));
   const std::unique_ptr<Connection> connection = options.file.open(console);
   changeRights(*connection, options.number, options.rights, options.taken);
   const ClsOperator person = existingOperator(*connection, options.number);
-  console.out << "操作员 " << shownName(options, person) << " 现在的权限：" << rightsOf(person)
-              << "。已经登录的，下次登录时算数。\n";
+  console.out << Words::tr("操作员 %1 现在的权限：%2。已经登录的，下次登录时算数。",
+                           shownName(options, person), rightsOf(person))
+              << '\n';
 }
 
 void remove(const Options& options, Console& console) {
@@ -117,13 +120,13 @@ void addPassword(CLI::App& command, Options& options) {
 }
 
 void addRights(CLI::App& command, const char* name, std::vector<std::string>& rights,
-               const char* what) {
-  command.add_option(name, rights, std::string(what) + "，可以写几次：" + rightsForPeople())
+               const std::string& what) {
+  command.add_option(name, rights, Words::tr("%1，可以写几次：%2", what, rightsForPeople()))
       ->check(aRight())
       ->allow_extra_args(false);
 }
 
-CLI::App* addAction(CLI::App& parent, Console& console, const char* name, const char* help,
+CLI::App* addAction(CLI::App& parent, Console& console, const char* name, const std::string& help,
                     const Shared& options, void (*action)(const Options&, Console&)) {
   CLI::App* command = parent.add_subcommand(name, help);
   options->file.addTo(*command);
@@ -135,23 +138,25 @@ CLI::App* addAction(CLI::App& parent, Console& console, const char* name, const 
 
 void addOperatorCommand(CLI::App& app, Console& console) {
   CLI::App* parent =
-      app.add_subcommand("operator", "操作员：增加、列出、改密码、改权限、员工卡、删除");
+      app.add_subcommand("operator", Words::tr("操作员：增加、列出、改密码、改权限、员工卡、删除"));
   parent->require_subcommand(1);
   const auto options = std::make_shared<Options>();
   CLI::App* adding = addAction(*parent, console, "add", Words::tr("增加操作员"), options, add);
   addNumber(*adding, *options);
   addPassword(*adding, *options);
-  adding->add_option("--name", options->name, "姓名")->required();
-  addRights(*adding, "--right", options->rights, "权限");
-  addAction(*parent, console, "list", "列出操作员：用户编号、姓名、权限", options, list);
-  CLI::App* changing = addAction(*parent, console, "password", "更改密码", options, changePassword);
+  adding->add_option("--name", options->name, Words::tr("姓名"))->required();
+  addRights(*adding, "--right", options->rights, Words::tr("权限"));
+  addAction(*parent, console, "list", Words::tr("列出操作员：用户编号、姓名、权限"), options, list);
+  CLI::App* changing =
+      addAction(*parent, console, "password", Words::tr("更改密码"), options, changePassword);
   addNumber(*changing, *options);
   addPassword(*changing, *options);
   CLI::App* entitling =
-      addAction(*parent, console, "right", "给权限，收回权限", options, changeRights);
+      addAction(*parent, console, "right", Words::tr("给权限，收回权限"), options, changeRights);
   addNumber(*entitling, *options);
-  addRights(*entitling, "--give", options->rights, "给的权限");
-  addRights(*entitling, "--take", options->taken, "收回的权限");
-  addNumber(*addAction(*parent, console, "remove", "删除操作员", options, remove), *options);
+  addRights(*entitling, "--give", options->rights, Words::tr("给的权限"));
+  addRights(*entitling, "--take", options->taken, Words::tr("收回的权限"));
+  addNumber(*addAction(*parent, console, "remove", Words::tr("删除操作员"), options, remove),
+            *options);
   addStaffCardCommand(*parent, console);
 }

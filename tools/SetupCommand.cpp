@@ -7,6 +7,7 @@
 #include "base/Failure.h"
 #include "base/FileName.h"
 #include "base/Text.h"
+#include "base/Words.h"
 #include "shop/NewShop.h"
 #include "shop/Refusal.h"
 #include "tools/DataFileOptions.h"
@@ -29,7 +30,7 @@ fs::path shopFolderOf(const fs::path& dataFile) {
 
 void setUp(const DataFileOptions& file, Console& console, const TillSetupOf& tillSetup) {
   if (fs::exists(findIgnoringCase(file.path)))
-    throw Refusal("已经有这个文件，不会覆盖：" + file.path);
+    throw Refusal(Words::tr("已经有这个文件，不会覆盖：%1", file.path));
   const DataSource target = file.newSource(console);
   const fs::path folder = shopFolderOf(file.path);
   const std::unique_ptr<TillSetup> till =
@@ -40,19 +41,22 @@ void setUp(const DataFileOptions& file, Console& console, const TillSetupOf& til
   };
   ProgressBar bar(console);
   ensure(makeShop(shop, target, console.clock, store, bar.goOn()), "nobody ends it");
-  console.out << "店铺已建好：" << file.path << '\n';
+  console.out << Words::tr("店铺已建好：%1", file.path) << '\n';
   if (till) return;
-  console.out << "打印机、钱箱、客显在收银程序的收银设置里选，颜色在功能菜单的颜色设置里选。\n";
+  console.out << Words::tr(
+                     "打印机、钱箱、客显在收银程序的收银设置里选，颜色在功能菜单的颜色设置里选。")
+              << '\n';
 }
 
 }  // namespace
 
 void addSetupCommand(CLI::App& app, Console& console, const TillSetupOf& tillSetup) {
-  CLI::App* command =
-      app.add_subcommand("setup", "开店：一问一答，建立新的数据文件（不会覆盖已有的文件）");
+  CLI::App* command = app.add_subcommand(
+      "setup", Words::tr("开店：一问一答，建立新的数据文件（不会覆盖已有的文件）"));
   command->footer(
-      "数据文件是店铺文件夹里的 data/POS.mdb 时，也问这台收银机的打印机、钱箱、客显和颜色，存在"
-      "店铺文件夹的 Config.ini 里。data 文件夹没有就建立。");
+      Words::tr("数据文件是店铺文件夹里的 data/POS.mdb "
+                "时，也问这台收银机的打印机、钱箱、客显和颜色，存在店铺文件夹的 Config.ini "
+                "里。data 文件夹没有就建立。"));
   const auto file = std::make_shared<DataFileOptions>();
   file->addTo(*command);
   command->callback([file, &console, tillSetup] { setUp(*file, console, tillSetup); });

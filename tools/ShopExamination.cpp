@@ -158,11 +158,15 @@ void examineGoodsImport(const Examination& books) {
       books.connection.query("select whole, staged, staged - written as waiting from goods_in");
   if (!sheet.next()) return;
   if (sheet.whole("whole").value_or(0) != 0) {
-    books.remark("有一次商品导入还没有写完，等着写入 " + sheet.text("waiting") +
-                 " 行：收银程序下次打开时，或者下次导入商品时，会接着写完");
+    books.remark(
+        Words::tr("有一次商品导入还没有写完，等着写入 %1 "
+                  "行：收银程序下次打开时，或者下次导入商品时，会接着写完",
+                  sheet.text("waiting")));
   } else {
-    books.remark("有一次商品导入没有读完就结束了，或者正在读，读了 " + sheet.text("staged") +
-                 " 行，什么也没有写入：再导入一次这张商品表就行");
+    books.remark(
+        Words::tr("有一次商品导入没有读完就结束了，或者正在读，读了 %1 "
+                  "行，什么也没有写入：再导入一次这张商品表就行",
+                  sheet.text("staged")));
   }
 }
 

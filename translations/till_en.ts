@@ -71,7 +71,7 @@
     </message>
     <message>
         <source>折扣</source>
-        <translation>Discount</translation>
+        <translation>Disc.</translation>
     </message>
     <message>
         <source>金额</source>
@@ -184,6 +184,10 @@ Try again once the cause is removed? &quot;No&quot; ends the program.</translati
         <source>颜色</source>
         <translation>Colours</translation>
     </message>
+    <message>
+        <source>收银画面的颜色</source>
+        <translation>Colours of the sale screen</translation>
+    </message>
 </context>
 <context>
     <name>DateField</name>
@@ -257,6 +261,10 @@ Try again once the cause is removed? &quot;No&quot; ends the program.</translati
         <source>开箱信号已送到 %1</source>
         <translation>The drawer pulse was sent to %1</translation>
     </message>
+    <message>
+        <source>%1：%2</source>
+        <translation>%1: %2</translation>
+    </message>
 </context>
 <context>
     <name>DevicesPage</name>
@@ -265,12 +273,12 @@ Try again once the cause is removed? &quot;No&quot; ends the program.</translati
         <translation>&amp;Test</translation>
     </message>
     <message>
-        <source>以后可以在主菜单的收银设置里更改。</source>
-        <translation>These can be changed later in the main menu under Device settings.</translation>
-    </message>
-    <message>
         <source>打印机、钱箱和客显</source>
         <translation>Printer, drawer and display</translation>
+    </message>
+    <message>
+        <source>插在 USB 口或并口上、不用装驱动的小票打印机选 LPT1，第二台选 LPT2；在系统里装好了驱动的选 USB。以后可以在主菜单的收银设置里更改。</source>
+        <translation>A receipt printer on a USB or parallel port that needs no driver is LPT1, a second one LPT2; one whose driver is installed in the system is USB. These can be changed later in the main menu under Device settings.</translation>
     </message>
 </context>
 <context>
@@ -376,30 +384,6 @@ Take the payment like this?</translation>
 <context>
     <name>GoodsPage</name>
     <message>
-        <source>商品资料（spda）：</source>
-        <translation>Goods (spda):</translation>
-    </message>
-    <message>
-        <source>条码价格（tmda）：</source>
-        <translation>Barcodes, prices (tmda):</translation>
-    </message>
-    <message>
-        <source>或者录入几种：</source>
-        <translation>Or type in a few:</translation>
-    </message>
-    <message>
-        <source>检查(&amp;C)</source>
-        <translation>&amp;Check</translation>
-    </message>
-    <message>
-        <source>两个 CSV 文件的列名见 tilladmin import --help。现在没有商品的话，都空着就行。</source>
-        <translation>For the columns of the two CSV files see tilladmin import --help. If there are no goods yet, leave everything empty.</translation>
-    </message>
-    <message>
-        <source>条码</source>
-        <translation>Barcode</translation>
-    </message>
-    <message>
         <source>名称</source>
         <translation>Name</translation>
     </message>
@@ -408,24 +392,68 @@ Take the payment like this?</translation>
         <translation>Retail price</translation>
     </message>
     <message>
-        <source>没有这个文件。</source>
-        <translation>There is no such file.</translation>
-    </message>
-    <message>
-        <source>有 %1 个条码可以放进店里。</source>
-        <translation>%1 barcodes can be put into the shop.</translation>
-    </message>
-    <message>
-        <source>%1&#x3000;%2&#x3000;%3 元</source>
-        <translation>%1&#x3000;%2&#x3000;%3 yuan</translation>
-    </message>
-    <message>
-        <source>请看一看：%1</source>
-        <translation>Please look at: %1</translation>
-    </message>
-    <message>
         <source>商品</source>
         <translation>Goods</translation>
+    </message>
+    <message>
+        <source>现在没有商品的话，什么也不用填，以后再导入。条码或编码不超过 5 个字的，也作货号，收银时照它输入。</source>
+        <translation>If there are no goods yet, leave everything empty and import them later. A barcode or code of up to 5 characters is the item number too, to be typed at the till.</translation>
+    </message>
+    <message>
+        <source>选表格文件(&amp;F)</source>
+        <translation>Choose a sheet (&amp;F)</translation>
+    </message>
+    <message>
+        <source>不用表格(&amp;X)</source>
+        <translation>No sheet (&amp;X)</translation>
+    </message>
+    <message>
+        <source>商品表：</source>
+        <translation>Goods sheet:</translation>
+    </message>
+    <message>
+        <source>条码或编码</source>
+        <translation>Barcode or code</translation>
+    </message>
+    <message>
+        <source>单位</source>
+        <translation>Unit</translation>
+    </message>
+    <message>
+        <source>库存</source>
+        <translation>stock</translation>
+    </message>
+    <message>
+        <source>加入(&amp;A)</source>
+        <translation>&amp;Add</translation>
+    </message>
+    <message>
+        <source>或者录入：</source>
+        <translation>Or type in:</translation>
+    </message>
+    <message>
+        <source>每种写完按回车键加入下面的表；在表里按回车键改，按 Delete 去掉。</source>
+        <translation>Enter adds what is typed to the list below; in the list Enter changes goods and Delete takes them out.</translation>
+    </message>
+    <message>
+        <source>%1：%2 行，开店时导入</source>
+        <translation>%1: %2 lines, imported when the shop is made</translation>
+    </message>
+    <message>
+        <source>没有选（.xlsx 或 .csv，第一行是列名）</source>
+        <translation>None (.xlsx or .csv, headings in the first line)</translation>
+    </message>
+    <message>
+        <source>%1。</source>
+        <translation>%1.</translation>
+    </message>
+    <message>
+        <source>已加入 %1。</source>
+        <translation>%1 was added.</translation>
+    </message>
+    <message>
+        <source>已加入 %1。请看一看：%2。</source>
+        <translation>%1 was added. Please look at this: %2.</translation>
     </message>
 </context>
 <context>
@@ -1132,7 +1160,7 @@ Take the payment like this?</translation>
     <name>QuickKeyModel</name>
     <message>
         <source>键值</source>
-        <translation>Key code</translation>
+        <translation>Code</translation>
     </message>
     <message>
         <source>商品编码</source>
@@ -1341,63 +1369,63 @@ Take the payment like this?</translation>
     <name>Right</name>
     <message>
         <source>收银</source>
-        <translation>sell</translation>
+        <translation>Sell</translation>
     </message>
     <message>
         <source>打折和优惠</source>
-        <translation>give discounts</translation>
+        <translation>Discount</translation>
     </message>
     <message>
         <source>手工定价</source>
-        <translation>type prices</translation>
+        <translation>Typed price</translation>
     </message>
     <message>
         <source>负数量</source>
-        <translation>negative quantities</translation>
+        <translation>Negative quantity</translation>
     </message>
     <message>
         <source>删行和撤单</source>
-        <translation>delete lines and void bills</translation>
+        <translation>Delete or void</translation>
     </message>
     <message>
         <source>退货</source>
-        <translation>return goods</translation>
+        <translation>Return</translation>
     </message>
     <message>
         <source>会员充值</source>
-        <translation>top up cards</translation>
+        <translation>Top up</translation>
     </message>
     <message>
         <source>开钱箱</source>
-        <translation>open the drawer</translation>
+        <translation>Open the drawer</translation>
     </message>
     <message>
         <source>补打小票</source>
-        <translation>reprint receipts</translation>
+        <translation>Reprint</translation>
     </message>
     <message>
         <source>销售查询和导出</source>
-        <translation>query and export sales</translation>
+        <translation>Query and export</translation>
     </message>
     <message>
         <source>会员资料</source>
-        <translation>members</translation>
+        <translation>Members</translation>
     </message>
     <message>
         <source>设置和导入商品</source>
-        <translation>settings and goods import</translation>
+        <translation>Settings, goods import</translation>
     </message>
     <message>
         <source>交班</source>
-        <translation>hand-over</translation>
+        <translation>Hand-over</translation>
     </message>
     <message>
         <source>经营报表</source>
-        <translation>the owner&apos;s report</translation>
+        <translation>Owner&apos;s report</translation>
     </message>
     <message>
         <source>操作日志</source>
-        <translation>the journal</translation>
+        <translation>Journal</translation>
     </message>
     <message>
         <source>%1 %2</source>
@@ -1417,36 +1445,16 @@ Take the payment like this?</translation>
 <context>
     <name>RulesPage</name>
     <message>
-        <source>收手机扫码付款：</source>
-        <translation>Payment by telephone code:</translation>
-    </message>
-    <message>
-        <source>收款、价格、折扣像打错时先问一声：</source>
-        <translation>Ask when a payment, price or discount looks mistyped:</translation>
-    </message>
-    <message>
-        <source>退出程序时备份数据文件：</source>
-        <translation>Back up the data file when the program ends:</translation>
-    </message>
-    <message>
-        <source>库存不够就不卖：</source>
-        <translation>Don&apos;t sell what is not in stock:</translation>
-    </message>
-    <message>
-        <source>否</source>
-        <translation>No</translation>
-    </message>
-    <message>
-        <source>是</source>
-        <translation>Yes</translation>
-    </message>
-    <message>
-        <source>以后店主可以用 tilladmin param 更改。</source>
-        <translation>The owner can change these later with tilladmin param.</translation>
-    </message>
-    <message>
         <source>收款和备份</source>
         <translation>Payment and backup</translation>
+    </message>
+    <message>
+        <source>%1：</source>
+        <translation>%1:</translation>
+    </message>
+    <message>
+        <source>以后店主可以更改：店铺的用 tilladmin param，备份的在 Config.ini 里。</source>
+        <translation>The owner can change these later: the shop&apos;s with tilladmin param, those of backups in Config.ini.</translation>
     </message>
 </context>
 <context>
@@ -1652,6 +1660,13 @@ Last goods: %3</translation>
     </message>
 </context>
 <context>
+    <name>SettingsFile</name>
+    <message>
+        <source>设置写不进 Config.ini。</source>
+        <translation>The settings can&apos;t be written to Config.ini.</translation>
+    </message>
+</context>
+<context>
     <name>SettlementTexts</name>
     <message>
         <source>%1%2</source>
@@ -1676,7 +1691,7 @@ Last goods: %3</translation>
     </message>
     <message>
         <source>上一单：金额 %1实收%2找零%3  优惠%4</source>
-        <translation>Last bill: amount %1 received %2 change %3  discount %4</translation>
+        <translation>Last: %1 received %2change %3  disc. %4</translation>
     </message>
     <message>
         <source>储值卡号错误,请重输</source>
@@ -1785,7 +1800,7 @@ Last goods: %3</translation>
     </message>
     <message>
         <source>储值卡</source>
-        <translation>Stored-value card</translation>
+        <translation>Stored value</translation>
     </message>
     <message>
         <source>优惠</source>
@@ -2851,10 +2866,6 @@ Last goods: %3</translation>
         <translation>The file can&apos;t be read: %1</translation>
     </message>
     <message>
-        <source>录入的商品（第一种是第 2 行）：%1</source>
-        <translation>The goods typed in (the first is line 2): %1</translation>
-    </message>
-    <message>
         <source>条码</source>
         <translation>barcode</translation>
     </message>
@@ -2865,10 +2876,6 @@ Last goods: %3</translation>
     <message>
         <source>零售价</source>
         <translation>retail price</translation>
-    </message>
-    <message>
-        <source>%1。</source>
-        <translation>%1.</translation>
     </message>
     <message>
         <source>操作员 %1</source>
@@ -3499,10 +3506,6 @@ Last goods: %3</translation>
         <translation>which table: SP_LB, spda, tmda, member or stock</translation>
     </message>
     <message>
-        <source>--column 要写成 列名=字段：%1</source>
-        <translation>--column is written HEADING=FIELD: %1</translation>
-    </message>
-    <message>
         <source>没有“%1”这个字段。</source>
         <translation>There is no field &quot;%1&quot;.</translation>
     </message>
@@ -3897,10 +3900,6 @@ One wrong line, and nothing is imported; it says which line and what is wrong. T
         <translation>Added operator %1 %2</translation>
     </message>
     <message>
-        <source>没有写 --right sell，这位操作员不能收银；要能收银，先删除，再带上 --right sell 增加。</source>
-        <translation>Without --right sell this operator may not sell; to let them, remove the operator and add them with --right sell.</translation>
-    </message>
-    <message>
         <source>已更改操作员 %1 的密码</source>
         <translation>Changed the password of operator %1</translation>
     </message>
@@ -4115,12 +4114,6 @@ One wrong line, and nothing is imported; it says which line and what is wrong. T
         <translation>list the backups in this folder, for instance on the backup disk</translation>
     </message>
     <message>
-        <source>店铺已建好：%1
-打印机、钱箱、客显在收银程序的收银设置里选，颜色在功能菜单的颜色设置里选。</source>
-        <translation>The shop has been made: %1
-Printer, drawer and display are chosen in the till&apos;s Device settings, colours in the function menu.</translation>
-    </message>
-    <message>
         <source>开店：一问一答，建立新的数据文件（不会覆盖已有的文件）</source>
         <translation>set up a shop by questions and answers: make a new data file (one that is there is never replaced)</translation>
     </message>
@@ -4147,24 +4140,8 @@ The questions were not all answered. Nothing was made.</translation>
         <translation>Please write 1 to %1.</translation>
     </message>
     <message>
-        <source>应收：1 不舍入，2 舍入到角，3 舍入到元</source>
-        <translation>Amounts due: 1 not rounded, 2 rounded to 0.1 yuan, 3 rounded to 1 yuan</translation>
-    </message>
-    <message>
         <source>%1的姓名，用户编号（登录时输入）是 %2</source>
         <translation>%1&apos;s name; the user number (for the login) is %2</translation>
-    </message>
-    <message>
-        <source>商品资料的 CSV 文件（不写就没有）</source>
-        <translation>CSV file of goods (empty for none)</translation>
-    </message>
-    <message>
-        <source>条码和价格的 CSV 文件（不写就没有）</source>
-        <translation>CSV file of barcodes and prices (empty for none)</translation>
-    </message>
-    <message>
-        <source>商品条码（不写就不再录入）</source>
-        <translation>Barcode of goods (empty for no more)</translation>
     </message>
     <message>
         <source>  名称</source>
@@ -4173,28 +4150,6 @@ The questions were not all answered. Nothing was made.</translation>
     <message>
         <source>  零售价</source>
         <translation>  Retail price</translation>
-    </message>
-    <message>
-        <source>%1这一种没有录入。</source>
-        <translation>%1 These goods were not taken.</translation>
-    </message>
-    <message>
-        <source>商品：%1 个条码</source>
-        <translation>Goods: %1 barcodes</translation>
-    </message>
-    <message>
-        <source>%1
-请重新写商品。</source>
-        <translation>%1
-Please write the goods anew.</translation>
-    </message>
-    <message>
-        <source>全部答完才建立数据文件。直接回车用方括号里的答案；按 Ctrl+D 放弃。</source>
-        <translation>The data file is made when all is answered. Enter takes the answer in brackets; Ctrl+D gives up.</translation>
-    </message>
-    <message>
-        <source>1 新店铺，2 演示店铺，3 从备份恢复</source>
-        <translation>1 a new shop, 2 the demo shop, 3 from a backup</translation>
     </message>
     <message>
         <source>备份文件</source>
@@ -4383,10 +4338,6 @@ Please write the goods anew.</translation>
     <message>
         <source>的目录读不出来</source>
         <translation>&apos;s catalog can&apos;t be read</translation>
-    </message>
-    <message>
-        <source>%1%2</source>
-        <translation>%1 %2</translation>
     </message>
     <message>
         <source>单据 %1 张，最后一张 %2</source>
@@ -4889,14 +4840,6 @@ Please write the goods anew.</translation>
         <translation>This is no number: %1</translation>
     </message>
     <message>
-        <source>操作员：增加、列出、改密码、员工卡、删除</source>
-        <translation>operators: add, list, change passwords, staff cards, remove</translation>
-    </message>
-    <message>
-        <source>权限，可以写几次：%1</source>
-        <translation>rights, can be given several times: %1</translation>
-    </message>
-    <message>
         <source>操作员 %1 没有员工卡了</source>
         <translation>Operator %1 has no staff card any more</translation>
     </message>
@@ -4935,6 +4878,249 @@ Please write the goods anew.</translation>
     <message>
         <source>商品 %1 按日志有库存 %2，库存里却没有它了</source>
         <translation>goods %1 have a stock of %2 by the journal, but are no longer in stock</translation>
+    </message>
+    <message>
+        <source>授权</source>
+        <translation>Approval given</translation>
+    </message>
+    <message>
+        <source>没有授权</source>
+        <translation>Approval refused</translation>
+    </message>
+    <message>
+        <source>多少</source>
+        <translation>how much</translation>
+    </message>
+    <message>
+        <source>批准人</source>
+        <translation>approved by</translation>
+    </message>
+    <message>
+        <source>建不了文件夹 %1：%2</source>
+        <translation>The folder %1 can&apos;t be made: %2</translation>
+    </message>
+    <message>
+        <source>那里已经有别的东西。</source>
+        <translation>something else is there.</translation>
+    </message>
+    <message>
+        <source>%1 第 %2 行：%3。</source>
+        <translation>%1, line %2: %3.</translation>
+    </message>
+    <message>
+        <source>录入的商品（第一种是第 2 行）</source>
+        <translation>The goods typed in (the first is line 2)</translation>
+    </message>
+    <message>
+        <source>否</source>
+        <translation>No</translation>
+    </message>
+    <message>
+        <source>是</source>
+        <translation>Yes</translation>
+    </message>
+    <message>
+        <source>请写文件夹的完整名字，从 / 开始，例如 /media/stick/till；没有就空着。</source>
+        <translation>Please write the folder&apos;s full name, beginning with /, like /media/stick/till; leave it empty for none.</translation>
+    </message>
+    <message>
+        <source>收手机扫码付款</source>
+        <translation>Payment by telephone code</translation>
+    </message>
+    <message>
+        <source>收款、价格、折扣像打错时先问一声</source>
+        <translation>Ask when a figure looks mistyped</translation>
+    </message>
+    <message>
+        <source>库存不够时</source>
+        <translation>When stock does not suffice</translation>
+    </message>
+    <message>
+        <source>照卖</source>
+        <translation>Sell</translation>
+    </message>
+    <message>
+        <source>不卖</source>
+        <translation>Don&apos;t sell</translation>
+    </message>
+    <message>
+        <source>收银台上可以导入商品表（能收银的人都可以）</source>
+        <translation>Goods sheets can be imported at the till (by all who may sell)</translation>
+    </message>
+    <message>
+        <source>店主在收银台上看经营报表</source>
+        <translation>The owner&apos;s report at the till</translation>
+    </message>
+    <message>
+        <source>退出程序时备份数据文件</source>
+        <translation>Back up the data file at the end</translation>
+    </message>
+    <message>
+        <source>每天自动备份一次，留七天和四周</source>
+        <translation>A backup each day, kept for seven days and four weeks</translation>
+    </message>
+    <message>
+        <source>备份再抄到哪个 U 盘或移动硬盘的文件夹（没有就空着）</source>
+        <translation>Copy backups to a folder on a stick or disk (empty for none)</translation>
+    </message>
+    <message>
+        <source>请写零售价</source>
+        <translation>please write the retail price</translation>
+    </message>
+    <message>
+        <source>都对就直接回车；不对的写 列名=字段，不读的写 列名=</source>
+        <translation>Enter if all is right; HEADING=FIELD for a wrong one, HEADING= for one not to be read</translation>
+    </message>
+    <message>
+        <source>给这种表起个名字，以后照样读（不写就不记）</source>
+        <translation>A name by which sheets like this are read alike later (empty for none)</translation>
+    </message>
+    <message>
+        <source>请先改正不能导入的行。</source>
+        <translation>Please correct the refused lines first.</translation>
+    </message>
+    <message>
+        <source>这张表</source>
+        <translation>This sheet</translation>
+    </message>
+    <message>
+        <source>用</source>
+        <translation>use it</translation>
+    </message>
+    <message>
+        <source>不用</source>
+        <translation>don&apos;t use it</translation>
+    </message>
+    <message>
+        <source>商品表的文件（.xlsx 或 .csv，第一行是列名；不写就没有）</source>
+        <translation>Goods sheet (.xlsx or .csv, headings in the first line; empty for none)</translation>
+    </message>
+    <message>
+        <source>商品条码或编码（不写就不再录入）</source>
+        <translation>Barcode or code of goods (empty for no more)</translation>
+    </message>
+    <message>
+        <source>  单位</source>
+        <translation>  Unit</translation>
+    </message>
+    <message>
+        <source>  库存（不写就不记）</source>
+        <translation>  In stock (empty: not counted)</translation>
+    </message>
+    <message>
+        <source>%1。这一种没有录入。</source>
+        <translation>%1. These goods were not taken.</translation>
+    </message>
+    <message>
+        <source>要写成 列名=字段，写的是“%1”。</source>
+        <translation>It is written HEADING=FIELD, not &quot;%1&quot;.</translation>
+    </message>
+    <message>
+        <source>没有写 --right sell，这位操作员不能收银；要能收银，用 tilladmin operator right --give sell 给。</source>
+        <translation>Without --right sell this operator may not sell; tilladmin operator right --give sell lets them.</translation>
+    </message>
+    <message>
+        <source>要给什么权限写 --give，要收回什么权限写 --take。</source>
+        <translation>Please give a right with --give or take one back with --take.</translation>
+    </message>
+    <message>
+        <source>操作员 %1 现在的权限：%2。已经登录的，下次登录时算数。</source>
+        <translation>Rights of operator %1: %2. They count from the next login.</translation>
+    </message>
+    <message>
+        <source>%1，可以写几次：%2</source>
+        <translation>%1, can be given several times: %2</translation>
+    </message>
+    <message>
+        <source>操作员：增加、列出、改密码、改权限、员工卡、删除</source>
+        <translation>operators: add, list, change passwords and rights, staff cards, remove</translation>
+    </message>
+    <message>
+        <source>给权限，收回权限</source>
+        <translation>give rights, take them back</translation>
+    </message>
+    <message>
+        <source>给的权限</source>
+        <translation>rights to give</translation>
+    </message>
+    <message>
+        <source>收回的权限</source>
+        <translation>rights to take back</translation>
+    </message>
+    <message>
+        <source>%1：</source>
+        <translation>%1: </translation>
+    </message>
+    <message>
+        <source>店铺已建好：%1</source>
+        <translation>The shop has been made: %1</translation>
+    </message>
+    <message>
+        <source>打印机、钱箱、客显在收银程序的收银设置里选，颜色在功能菜单的颜色设置里选。</source>
+        <translation>Printer, drawer and display are chosen in the till&apos;s Device settings, colours in the function menu.</translation>
+    </message>
+    <message>
+        <source>数据文件是店铺文件夹里的 data/POS.mdb 时，也问这台收银机的打印机、钱箱、客显和颜色，存在店铺文件夹的 Config.ini 里。data 文件夹没有就建立。</source>
+        <translation>When the data file is data/POS.mdb of a shop&apos;s folder, this till&apos;s printer, drawer, display and colours are asked for too and kept in Config.ini of that folder. The folder data is made if there is none.</translation>
+    </message>
+    <message>
+        <source>往下走</source>
+        <translation>go on</translation>
+    </message>
+    <message>
+        <source>试一试打印机、钱箱和客显</source>
+        <translation>try printer, drawer and display</translation>
+    </message>
+    <message>
+        <source>重新选</source>
+        <translation>choose anew</translation>
+    </message>
+    <message>
+        <source>请写店名，它是小票的第一行。</source>
+        <translation>Please enter the shop&apos;s name: it is the receipt&apos;s first line.</translation>
+    </message>
+    <message>
+        <source>不舍入</source>
+        <translation>Don&apos;t round</translation>
+    </message>
+    <message>
+        <source>舍入到角</source>
+        <translation>Round to 0.1 yuan</translation>
+    </message>
+    <message>
+        <source>舍入到元</source>
+        <translation>Round to 1 yuan</translation>
+    </message>
+    <message>
+        <source>全部答完才建立店铺。直接回车用方括号里的答案；按 Ctrl+D 放弃。</source>
+        <translation>The shop is made when all is answered. Enter takes the answer in brackets; Ctrl+D gives up.</translation>
+    </message>
+    <message>
+        <source>新店铺</source>
+        <translation>A new shop</translation>
+    </message>
+    <message>
+        <source>演示店铺</source>
+        <translation>The demo shop</translation>
+    </message>
+    <message>
+        <source>从备份恢复</source>
+        <translation>From a backup</translation>
+    </message>
+    <message>
+        <source>有一次商品导入还没有写完，等着写入 %1 行：收银程序下次打开时，或者下次导入商品时，会接着写完</source>
+        <translation>an import of goods is not finished and has %1 lines to write: the till finishes it when it is opened next, or the next import does</translation>
+    </message>
+    <message>
+        <source>有一次商品导入没有读完就结束了，或者正在读，读了 %1 行，什么也没有写入：再导入一次这张商品表就行</source>
+        <translation>an import of goods ended while the sheet was read, or is being read, after %1 lines; nothing was written: just import the sheet again</translation>
+    </message>
+</context>
+<context>
+    <name>WorkProgress</name>
+    <message>
+        <source>%1&#x3000;已完成 %2</source>
+        <translation>%1&#x3000;%2 done</translation>
     </message>
 </context>
 <context>
@@ -5007,7 +5193,7 @@ Please write the goods anew.</translation>
     <name>dlgApproval</name>
     <message>
         <source>授权</source>
-        <translation>Approval</translation>
+        <translation>Approve</translation>
     </message>
     <message>
         <source>放弃</source>
@@ -5053,10 +5239,6 @@ Please write the goods anew.</translation>
         <translation>Stopping; what is being written is finished first.</translation>
     </message>
     <message>
-        <source>%1&#x3000;已完成 %2</source>
-        <translation>%1&#x3000;%2 done</translation>
-    </message>
-    <message>
         <source>正在读取……</source>
         <translation>Reading…</translation>
     </message>
@@ -5079,6 +5261,33 @@ Please write the goods anew.</translation>
     <message>
         <source>%1。什么也没有写入。</source>
         <translation>%1. Nothing was written.</translation>
+    </message>
+    <message>
+        <source>用这张表(&amp;S)</source>
+        <translation>Use this sheet (&amp;S)</translation>
+    </message>
+    <message>
+        <source>%1。按回车键选定，开店时导入。</source>
+        <translation>%1. Press Enter to choose it; it is imported when the shop is made.</translation>
+    </message>
+</context>
+<context>
+    <name>dlgMaking</name>
+    <message>
+        <source>开店</source>
+        <translation>Set up the shop</translation>
+    </message>
+    <message>
+        <source>停止(&amp;C)</source>
+        <translation>Stop (&amp;C)</translation>
+    </message>
+    <message>
+        <source>正在建立店铺……</source>
+        <translation>Making the shop…</translation>
+    </message>
+    <message>
+        <source>正在停止，什么也不会留下……</source>
+        <translation>Stopping, nothing will be left behind…</translation>
     </message>
 </context>
 <context>
@@ -5152,7 +5361,7 @@ Please write the goods anew.</translation>
     </message>
     <message>
         <source>%1今日销售统计表</source>
-        <translation>%1Sales of today</translation>
+        <translation>%1, sales of today</translation>
     </message>
     <message>
         <source>，其中%1 [%2] 元</source>
@@ -5784,7 +5993,7 @@ Member since: %3</translation>
     </message>
     <message>
         <source>折扣</source>
-        <translation>Discount</translation>
+        <translation>Disc.</translation>
     </message>
     <message>
         <source>调入挂单</source>
@@ -5992,10 +6201,6 @@ Member since: %3</translation>
     <message>
         <source>店铺没有建立：%1</source>
         <translation>The shop was not made: %1</translation>
-    </message>
-    <message>
-        <source>设置写不进 Config.ini。</source>
-        <translation>The settings can&apos;t be written to Config.ini.</translation>
     </message>
     <message>
         <source>退出的话，什么也没有建立。要退出吗？</source>

@@ -54,7 +54,7 @@ class ApprovalTest : public TillFixture {
   std::string approvedEntries() {
     return stored(
         "group_concat(kind, ' ') as v from (select distinct kind from fact where approver = 2 and"
-        " kind <> 'approved' order by kind)");
+        " kind <> 'approval_given' order by kind)");
   }
   /// All that a deed could change.
   std::string state() {
