@@ -146,7 +146,7 @@ TopUpBooks posMod::topUpBooks() const {
 }
 
 ShiftBooks posMod::shiftBooks() const {
-  return {*gConn, clock, gOperator};
+  return ShiftBooks(*gConn, clock, gOperator);
 }
 
 // Its receipts can be taken for the shop's by nobody.

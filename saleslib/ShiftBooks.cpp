@@ -47,8 +47,11 @@ bool isShiftOpen(Connection& connection) {
 
 ShiftBooks::ShiftBooks(Connection& connection, Clock clock,
                        std::shared_ptr<const ClsOperator> person)
-    : connection_(connection), clock_(std::move(clock)), person_(std::move(person)) {
+    : connection_(connection), clock_(std::move(clock)), person_(std::move(person)) {}
+
+const ClsOperator& ShiftBooks::keeper() const {
   ensure(person_ != nullptr, "somebody keeps the books of shifts");
+  return *person_;
 }
 
 std::optional<std::int64_t> ShiftBooks::openNumber() const {
@@ -63,7 +66,7 @@ bool ShiftBooks::open(Currency cashFloat) {
       1 + firstWhole(connection_.query("select max(id) as id from shift"), "id").value_or(0);
   connection_.run(
       "insert into shift (id, opened, opened_by, opened_name, cash_float) values (?, ?, ?, ?, ?)",
-      number, clock_(), person_->Id(), person_->Name(), cashFloat);
+      number, clock_(), keeper().Id(), keeper().Name(), cashFloat);
   note(connection_, EntryKind::kShiftOpened, number);
   opening.commit();
   return true;
@@ -74,11 +77,11 @@ std::optional<CashMove> ShiftBooks::move(Currency amount, const std::string& rea
   Transaction moving(connection_);
   const std::optional<std::int64_t> number = openNumber();
   if (!number) return std::nullopt;
-  const CashMove move{*number, clock_(), person_->Name(), amount, reason};
+  const CashMove move{*number, clock_(), keeper().Name(), amount, reason};
   connection_.run(
       "insert into shift_cash (shift, time, operator_id, name, amount, reason)"
       " values (?, ?, ?, ?, ?, ?)",
-      *number, move.time, person_->Id(), move.person, amount, reason);
+      *number, move.time, keeper().Id(), move.person, amount, reason);
   note(connection_, EntryKind::kCashMoved, *number,
        {{"amount", generalNumber(amount)}, {"reason", reason}});
   moving.commit();
@@ -118,7 +121,7 @@ bool ShiftBooks::close() {
   if (!shift || shift->counts == 0) return false;
   storeFigures(*shift);
   connection_.run("update shift set closed = ?, closed_by = ?, closed_name = ? where id = ?",
-                  clock_(), person_->Id(), person_->Name(), shift->number);
+                  clock_(), keeper().Id(), keeper().Name(), shift->number);
   note(connection_, EntryKind::kShiftClosed, shift->number,
        {{"expected", generalNumber(shift->expected())},
         {"counted", generalNumber(shift->counted.sum())},

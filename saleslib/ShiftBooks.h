@@ -72,8 +72,10 @@ TESSALY_API bool isShiftOpen(Connection& connection);
 /// Throws StoreError when the store is broken, Overflow for sums that do not fit.
 class TESSALY_API ShiftBooks {
  public:
-  /// The connection outlives the books. There is somebody who keeps them (ensure).
-  ShiftBooks(Connection& connection, Clock clock, std::shared_ptr<const ClsOperator> person);
+  /// The connection outlives the books. Who only reads them needs nobody who keeps them; for every
+  /// step there is somebody (ensure).
+  explicit ShiftBooks(Connection& connection, Clock clock = localTime,
+                      std::shared_ptr<const ClsOperator> person = {});
 
   /// The next shift, with that much in the drawer, which is not below 0 (ensure). False when one is
   /// open already.
@@ -97,6 +99,7 @@ class TESSALY_API ShiftBooks {
 
  private:
   std::optional<std::int64_t> openNumber() const;
+  const ClsOperator& keeper() const;
   void readMoves(Shift& shift) const;
   void readCount(Shift& shift) const;
   std::string journalHash(const Shift& shift) const;

@@ -5203,6 +5203,14 @@ The questions were not all answered. Nothing was made.</translation>
         <source>单据</source>
         <translation>Bills</translation>
     </message>
+    <message>
+        <source>写不下去，磁盘可能满了，列得不完整。</source>
+        <translation>Cannot write any further, the disk may be full; the list is incomplete.</translation>
+    </message>
+    <message>
+        <source>列出结过的班，最近的在前：班次、开班、开班人、结班、结班人、应有、清点、长短款、日志校验值，各用制表符分开</source>
+        <translation>lists the closed shifts, the latest first: number, opened, by whom, closed, by whom, what should be there, counted, over or short, hash of the journal, separated by tabs</translation>
+    </message>
 </context>
 <context>
     <name>WorkProgress</name>
