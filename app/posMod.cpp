@@ -16,6 +16,7 @@
 #include "saleslib/ClsRights.h"
 #include "saleslib/Journal.h"
 #include "saleslib/ReturnBooks.h"
+#include "saleslib/ShiftBooks.h"
 #include "saleslib/TopUpBooks.h"
 #include "store/Connection.h"
 #include "store/DataFile.h"
@@ -144,6 +145,10 @@ TopUpBooks posMod::topUpBooks() const {
   return TopUpBooks(*gConn);
 }
 
+ShiftBooks posMod::shiftBooks() const {
+  return ShiftBooks(*gConn, clock, gOperator);
+}
+
 // Its receipts can be taken for the shop's by nobody.
 std::unique_ptr<posMod> posMod::practice() const {
   ensure(gOperator != nullptr, "somebody practises");
@@ -151,6 +156,7 @@ std::unique_ptr<posMod> posMod::practice() const {
   practice->gConn = practiceDataFile(*gConn, std::filesystem::temp_directory_path());
   practice->gSysParam.Conn(*practice->gConn);
   ensure(practice->gSysParam.set("ShopName", kPracticeTitle).empty(), "a title is a shop's name");
+  ensure(practice->gSysParam.set("Shifts", "0").empty(), "to practise is no shift");
   practice->gMemberSvc.Conn(*practice->gConn);
   practice->gKeyBoard = gKeyBoard;
   practice->gPosSet = gPosSet;

@@ -23,6 +23,7 @@ class Connection;
 class DataFileLock;
 class Journal;
 class ReturnBooks;
+class ShiftBooks;
 class TopUpBooks;
 struct DataSource;
 
@@ -81,6 +82,7 @@ class posMod {
   BillBooks billBooks() const;
   ReturnBooks returnBooks() const;
   TopUpBooks topUpBooks() const;
+  ShiftBooks shiftBooks() const;
   /// Who somebody is who gives a number and password; the same brake for all who ask.
   Identification identification();
   /// A till to practise at, for the same operator and with the same keys, devices (but for the

@@ -51,6 +51,13 @@ void DemoDay::logIn(TillDriver& till, const char* number, const char* password) 
   till.type(password);
 }
 
+void DemoDay::beginShift(TillDriver& till) {
+  till.waitFor("dlgCash");
+  till.type("200");
+  shot(till, "shift-begins");
+  till.key("Return");
+}
+
 void DemoDay::basketOfEveryKind(TillDriver& till) {
   till.enter(goods_.plain);
   till.enter(goods_.promoted);
@@ -102,6 +109,7 @@ void DemoDay::morning() {
   logIn(till, "1", "111");
   shot(till, "login");
   till.key("Return");
+  beginShift(till);
   till.waitFor("frmSell");
   shot(till, "empty-bill");
 

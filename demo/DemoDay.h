@@ -40,7 +40,9 @@ class DemoDay {
   void suspendedBill(TillDriver& till);
   void colours(TillDriver& till);
   void takeBack(TillDriver& till);
+  void beginShift(TillDriver& till);
   void handOver(TillDriver& till);
+  void closeShift(TillDriver& till);
   void practise(TillDriver& till);
   void query(TillDriver& till);
   void exportList(TillDriver& till, const char* file);

@@ -16,6 +16,7 @@ enum FurtherMenu {
   kUnSell,
   kAddMen,
   kKeySet,
+  kShift,
   kJournal,
   kPractice,
   kExit,
@@ -71,6 +72,8 @@ void DemoDay::evening() {
   till.key("Space");
   furtherScreen(kPractice, "frmSell");
   practise(till);
+  furtherScreen(kShift, "frmShift");
+  closeShift(till);
   furtherScreen(kJournal, "frmJournal");
   till.key("Return");
   till.waitForText("lblState", isEnglish() ? "in all" : "共");
@@ -201,6 +204,38 @@ void DemoDay::handOver(TillDriver& till) {
   till.tabTo("print1");
   till.key("Space");
   till.sync();
+  till.key("Esc");
+}
+
+// The shift that was opened in the morning, on another run of the till.
+void DemoDay::closeShift(TillDriver& till) {
+  shot(till, "shift");
+  till.tabTo("cmdOut");
+  till.key("Space");
+  till.waitFor("dlgCash");
+  till.enter("150");
+  till.type("付送水费");
+  shot(till, "cash-taken-out");
+  till.key("Return");
+  till.waitFor("frmShift");
+  till.tabTo("cmdRead");
+  till.key("Space");
+  till.waitFor("dlgShiftSheet");
+  till.key("Return");
+  till.waitFor("frmShift");
+  till.tabTo("cmdClose");
+  till.key("Space");
+  till.waitFor("dlgCashCount");
+  for (const char* pieces : {"5", "2", "1", "3", "1", "4", "1"}) till.enter(pieces);
+  till.type("2");
+  shot(till, "drawer-counted-blind");
+  till.key("Return");
+  till.key("Return");
+  till.waitFor("dlgShiftSheet");
+  shot(till, "shift-sheet");
+  till.key("Return");
+  till.waitFor("frmShift");
+  shot(till, "shift-closed");
   till.key("Esc");
 }
 

@@ -4,11 +4,13 @@
 
 #include "base/Failure.h"
 #include "base/NumberText.h"
+#include "base/Words.h"
 #include "saleslib/BillNotes.h"
 #include "saleslib/CardNumber.h"
 #include "saleslib/ClsDayStat.h"
 #include "saleslib/ClsMemberSvc.h"
 #include "saleslib/ClsSysParam.h"
+#include "saleslib/ShiftBooks.h"
 #include "store/Connection.h"
 #include "store/StoreError.h"
 #include "store/Transaction.h"
@@ -17,6 +19,7 @@ namespace {
 
 constexpr std::int16_t kMayGoNegative = 0;
 constexpr std::int16_t kOpen = 0, kSettled = 1;
+constexpr const char* kNoShift = Words::mark("还没有开班，不能收款。请回到主菜单，先开班。");
 
 void save(ClsSell& bill) {
   if (!bill.Save()) throw StoreError(bill.ErrText());
@@ -175,8 +178,13 @@ std::optional<StoredCard> BillBooks::payingCard(const std::string& typed) const 
   return findStoredCard(connection_, payingCardNumbers(typed));
 }
 
+bool BillBooks::hasShift() const {
+  return !rules_.Shifts() || isShiftOpen(connection_);
+}
+
 std::string BillBooks::markPaid(ClsSell& bill) {
   ensure(bill.CardPay().isZero(), "a card is charged together with the mark");
+  if (!hasShift()) return Words::tr(kNoShift);
   if (!bill.SavePaid()) return bill.ErrText();
   ensure(bill.Paid() && !connection_.inTransaction(), "a payment is durable before it is shown");
   return {};
@@ -185,6 +193,7 @@ std::string BillBooks::markPaid(ClsSell& bill) {
 CardResult BillBooks::payByCard(ClsSell& bill, const std::string& password) {
   ensure(bill.CardPay() == roundedToFen(bill.Amount()), "a card pays all that is due");
   ensure(!bill.Paid(), "a bill is paid once");
+  if (!hasShift()) throw StoreError(Words::tr(kNoShift));
   Transaction paying(connection_);
   CardResult result = chargeCard(connection_, bill.CardNo(), password, bill.CardPay());
   if (result.outcome != CardOutcome::kDone) return result;

@@ -77,7 +77,7 @@ class TESSALY_API BillBooks {
   /// is none.
   std::optional<StoredCard> payingCard(const std::string& typed) const;
   /// Payment is taken for an open bill, which is stored with the mark of a paid one (see
-  /// ClsSell::SavePaid). An empty text, or why it is not marked, for people.
+  /// ClsSell::SavePaid), unless the shop sells in shifts and none is open. An empty text, or why it is not marked, for people.
   [[nodiscard]] std::string markPaid(ClsSell& bill);
   /// The same by the card that the bill names (CardNo), which pays all that is due, in fen
   /// (CardPay; ensure): the card is charged together with the mark. Nothing is written unless it is
@@ -118,6 +118,7 @@ class TESSALY_API BillBooks {
   StockOutcome take(const ClsSellItem& line, double quantity, std::int16_t rule);
   StockOutcome putBack(const ClsSellItem& line);
   void takeAgain(Recalled& recalled);
+  bool hasShift() const;
   bool settleAs(EntryKind kind, ClsSell& bill);
   Credit creditMember(const ClsSell& bill);
 

@@ -152,19 +152,27 @@ bool ClsSell::SavePaid() {
   return paid_;
 }
 
-// The mark goes with the state that settles the bill, in one statement.
+// The mark goes with the state that settles the bill, in one statement. What is paid for is the
+// open shift's from then on.
 void ClsSell::store() {
-  static const std::string statement =
+  static const std::string kFigures =
       "update sell set sell_time = ?, state = ?, quantity = ?, goods_amount = ?, amount = ?,"
       " card_no = ?, phone_slip = nullif(?, ''), salesman = ?, member_id = ?, paid = ?" +
-      tenderAssignments() + " where id = ?";
+      tenderAssignments();
+  static const std::string kUpdate = kFigures + " where id = ?";
+  static const std::string kPayment =
+      kFigures +
+      ", shift = (select id from shift where closed is null),"
+      " cash_kept = case when exists (select 1 from shift where closed is null) then ? end"
+      " where id = ?";
   std::vector<Value> values = {toValue(sellTime_),    toValue(state_),    toValue(quantity_),
                                toValue(goodsAmount_), toValue(amount_),   toValue(cardNo_),
                                toValue(slip_),        toValue(salesman_), toValue(memberId_),
                                toValue(Paid())};
   for (const Currency figure : tendered_) values.push_back(toValue(figure));
+  if (Paid()) values.push_back(toValue(Cash() - Change()));
   values.push_back(toValue(billNo_));
-  if (connection_->runBound(statement.c_str(), std::move(values)) == 0) {
+  if (connection_->runBound((Paid() ? kPayment : kUpdate).c_str(), std::move(values)) == 0) {
     throw StoreError(Words::tr("单据 %1 已不在数据文件中！", billNo_));
   }
 }

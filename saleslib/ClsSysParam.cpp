@@ -97,6 +97,8 @@ constexpr std::array kDefinitions = {
                Words::mark("收银程序的更多功能里有练习，练习不入账：0 否，1 是")},
     Definition{"Approval", &kSwitch, "0",
                Words::mark("操作员没有权限的操作要有人授权：0 否，1 是")},
+    Definition{"Shifts", &kSwitch, "0",
+               Words::mark("按班次收银：先开班再收款，结班时清点钱箱，出班次表：0 否，1 是")},
     Definition{
         "Journal", &kSwitch, "0",
         Words::mark(
@@ -255,6 +257,9 @@ bool ClsSysParam::Approval() const {
 }
 bool ClsSysParam::OwnerReport() const {
   return isOn("OwnerReport");
+}
+bool ClsSysParam::Shifts() const {
+  return isOn("Shifts");
 }
 bool ClsSysParam::KeepsJournal() const {
   return isOn("Journal");

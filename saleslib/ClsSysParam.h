@@ -41,6 +41,7 @@ class TESSALY_API ClsSysParam {
   bool Approval() const;           ///< deeds need a right or an approval; off
   bool Practice() const;           ///< practising in the till's further menu; off
   bool OwnerReport() const;        ///< the owner's report in the till's further menu; off
+  bool Shifts() const;             ///< nothing is sold outside a shift (saleslib/ShiftBooks.h); off
   bool KeepsJournal() const;       ///< what is done is noted (saleslib/Journal.h); off
   /// Whether the shop takes that kind of payment: those with a parameter of their own (PhonePay)
   /// are off.

@@ -23,7 +23,8 @@ void ClsUnSell::Save() {
   if (!(quantity_ > 0)) return;
   const std::optional<std::int64_t> key = connection_->insert(
       "insert into un_sell (un_time, sell_id, item_id, quantity, money, cost, ratio, discount,"
-      " operator_id) values (?, ?, ?, ?, ?, ?, ?, ?, ?)",
+      " operator_id, shift) values (?, ?, ?, ?, ?, ?, ?, ?, ?,"
+      " (select id from shift where closed is null))",
       clock_(), billNo_, itemId_, quantity_, money_, cost_, ratio_, discount_, operatorId_);
   transaction.commit();
   id_ = key32(key.value());

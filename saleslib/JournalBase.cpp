@@ -41,7 +41,7 @@ JournalBase::JournalBase(Connection& connection) : connection_(connection) {
 
 void JournalBase::state() const {
   Json begun = Json::object();
-  for (const char* table : {"sell", "un_sell", "cardStored", "member"})
+  for (const char* table : {"sell", "un_sell", "cardStored", "member", "shift"})
     begun["last"][table] = highest(connection_, table);
   begun["open"] = Json::array();
   Rows bills = connection_.query("select id from sell where state = 0 order by id");
@@ -52,6 +52,7 @@ void JournalBase::state() const {
   stateRows("operators", "select id from operators where id > ? order by id", operatorRecord);
   stateRows("returns", "select id from un_sell where id > ? order by id", returnRecord);
   stateRows("top_ups", "select id from cardStored where id > ? order by id", topUpRecord);
+  stateRows("shifts", "select id from shift where id > ? order by id", shiftRecord);
   stateParameters();
   stateBills();
 }

@@ -47,6 +47,10 @@ const std::vector<EntryKindName>& entryKinds() {
       {kClockSetBack, "clock_set_back", Words::mark("时钟倒退")},
       {kApprovalGiven, "approval_given", Words::mark("授权")},
       {kApprovalRefused, "approval_refused", Words::mark("没有授权")},
+      {kShiftOpened, "shift_opened", Words::mark("开班")},
+      {kCashMoved, "cash_moved", Words::mark("钱箱存取")},
+      {kShiftCounted, "shift_counted", Words::mark("清点钱箱")},
+      {kShiftClosed, "shift_closed", Words::mark("结班")},
   };
   return kinds;
 }

@@ -45,6 +45,10 @@ enum class EntryKind {
   kClockSetBack,
   kApprovalGiven,
   kApprovalRefused,
+  kShiftOpened,
+  kCashMoved,
+  kShiftCounted,
+  kShiftClosed,
 };
 
 /// A kind as entries have it, and as people call it.

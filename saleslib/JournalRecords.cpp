@@ -39,8 +39,9 @@ Json rowOf(Connection& connection, const char* query, std::int64_t id, const Col
 nlohmann::json billRecord(Connection& connection, std::int64_t number) {
   Rows row = connection.query("select * from sell where id = ?", number);
   if (!row.next()) return {};
-  Json bill = recordOf(row, {"id", "sell_time", "operator_id", "quantity", "goods_amount", "amount",
-                             "card_no", "phone_slip", "salesman", "member_id"});
+  Json bill =
+      recordOf(row, {"id", "sell_time", "operator_id", "quantity", "goods_amount", "amount",
+                     "card_no", "phone_slip", "salesman", "member_id", "shift", "cash_kept"});
   for (const TenderKind& kind : tenderKinds()) add(bill, row, kind.column);
   Json lines = Json::array();
   Rows rows = connection.query("select * from sellProducts where sellId = ? order by id", number);
@@ -55,12 +56,12 @@ nlohmann::json billRecord(Connection& connection, std::int64_t number) {
 nlohmann::json returnRecord(Connection& connection, std::int64_t id) {
   return rowOf(connection, "select * from un_sell where id = ?", id,
                {"id", "un_time", "sell_id", "item_id", "quantity", "money", "cost", "ratio",
-                "discount", "operator_id"});
+                "discount", "operator_id", "shift"});
 }
 
 nlohmann::json topUpRecord(Connection& connection, std::int64_t id) {
   return rowOf(connection, "select * from cardStored where id = ?", id,
-               {"id", "cardbh", "addmoney", "inMoney", "commerce", "bz", "complete"});
+               {"id", "cardbh", "addmoney", "inMoney", "commerce", "bz", "complete", "shift"});
 }
 
 nlohmann::json memberRecord(Connection& connection, std::int64_t id) {
@@ -86,6 +87,24 @@ nlohmann::json operatorRecord(Connection& connection, std::int64_t id) {
   while (rows.next()) rights.push_back(rows.text("right_key"));
   person["rights"] = std::move(rights);
   return person;
+}
+
+nlohmann::json shiftRecord(Connection& connection, std::int64_t id) {
+  Json shift = rowOf(connection, "select * from shift where id = ?", id,
+                     {"id", "opened", "opened_by", "opened_name", "cash_float", "closed",
+                      "closed_by", "closed_name"});
+  if (shift.is_null()) return {};
+  const auto addRows = [&](const char* name, const char* query, const Columns& columns) {
+    Rows rows = connection.query(query, id);
+    while (rows.next()) shift[name].push_back(recordOf(rows, columns));
+  };
+  addRows("moves", "select * from shift_cash where shift = ? order by id",
+          {"id", "time", "operator_id", "name", "amount", "reason"});
+  addRows("counts", "select * from shift_count where shift = ? order by attempt, piece",
+          {"attempt", "piece", "pieces"});
+  addRows("figures", "select * from shift_figure where shift = ? order by kind",
+          {"kind", "count", "amount"});
+  return shift;
 }
 
 std::string billMark(Connection& connection, std::int64_t number) {

@@ -21,5 +21,7 @@ TESSALY_API nlohmann::json topUpRecord(Connection& connection, std::int64_t id);
 TESSALY_API nlohmann::json memberRecord(Connection& connection, std::int64_t id);
 /// With the list of rights and the mark of a staff card.
 TESSALY_API nlohmann::json operatorRecord(Connection& connection, std::int64_t id);
+/// With what it moved, counted and was closed with.
+TESSALY_API nlohmann::json shiftRecord(Connection& connection, std::int64_t id);
 /// The mark of a bill's record: what stands for it where the record is too long.
 TESSALY_API std::string billMark(Connection& connection, std::int64_t number);

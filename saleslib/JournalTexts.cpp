@@ -68,6 +68,10 @@ void addRecords(Listed& list, const Json& body) {
        {{{"id", Words::mark("编号")},
          {"name", Words::mark("姓名")},
          {"rights", Words::mark("权限")}}}},
+      {"shift",
+       {{{"opened", Words::mark("开班时间")},
+         {"opened_name", Words::mark("开班人")},
+         {"cash_float", Words::mark("备用金")}}}},
       {"card", {{{"number", Words::mark("卡号")}, {"by", Words::mark("余额变动")}, {"", ""}}}},
   };
   for (const auto& [name, columns] : kRecords) {
@@ -79,9 +83,13 @@ void addRecords(Listed& list, const Json& body) {
 // What is many rows is counted.
 void addCounts(Listed& list, const Json& body) {
   constexpr std::pair<const char*, const char*> kMany[] = {
-      {"stock", Words::mark("%1 种商品的库存")}, {"members", Words::mark("%1 位会员")},
-      {"operators", Words::mark("%1 位操作员")}, {"returns", Words::mark("%1 笔退货")},
-      {"top_ups", Words::mark("%1 笔充值")},     {"left", Words::mark("%1 行")}};
+      {"stock", Words::mark("%1 种商品的库存")},
+      {"members", Words::mark("%1 位会员")},
+      {"operators", Words::mark("%1 位操作员")},
+      {"returns", Words::mark("%1 笔退货")},
+      {"top_ups", Words::mark("%1 笔充值")},
+      {"shifts", Words::mark("%1 个班次")},
+      {"left", Words::mark("%1 行")}};
   for (const auto& [name, unit] : kMany) {
     if (body.contains(name)) list.add(Words::tr(unit, body.at(name).size()));
   }
@@ -98,7 +106,10 @@ void addTexts(Listed& list, const Json& body) {
       {"updated", Words::mark("更新")},    {"rows", Words::mark("行数")},
       {"right", Words::mark("权限")},      {"size", Words::mark("多少")},
       {"approver", Words::mark("批准人")}, {"file", Words::mark("文件")},
-      {"backup", Words::mark("备份")},     {"old", Words::mark("原文件")}};
+      {"backup", Words::mark("备份")},     {"old", Words::mark("原文件")},
+      {"amount", Words::mark("金额")},     {"reason", Words::mark("原因")},
+      {"expected", Words::mark("应有")},   {"counted", Words::mark("清点")},
+      {"over", Words::mark("长短款")}};
   if (body.contains("line")) list.add(shownLine(body.at("line")));
   if (body.contains("parameters") && body.contains("before")) {
     for (const auto& [name, value] : body.at("parameters").items())

@@ -55,7 +55,8 @@ void TopUpBooks::load(const TopUp& topUp, std::int64_t record) {
   }
   ensure(cards == 1, "a card's number is one member's");
   connection_.run(
-      "update cardStored set complete = 1, commerce = (select card from member where bh = cardbh)"
+      "update cardStored set complete = 1, shift = (select id from shift where closed is null),"
+      " commerce = (select card from member where bh = cardbh)"
       " where id = ?",
       record);
   Journal(connection_).note(EntryKind::kTopUpLoaded, record, [&] {

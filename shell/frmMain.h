@@ -33,8 +33,8 @@ class frmMain : public QWidget {
     std::optional<Right> right = {};  ///< needed to open it; implies needsLogin
   };
   /// By menu key: "sell", "count", "search", "posset", "keyset", "addmen", "editpwd", "unsell",
-  /// "goodsin", "report", "journal", "practice", "help". A menu entry whose screen is not in the
-  /// table is not shown.
+  /// "goodsin", "report", "journal", "shift", "practice", "help". A menu entry whose screen is not
+  /// in the table is not shown.
   frmMain(posMod& pos, std::map<QString, Screen> screens, QWidget* parent = nullptr);
   ~frmMain() override;
 

@@ -44,6 +44,7 @@ constexpr DemoParameter kParameters[] = {
     {"CheckPayment", "1"},
     {"Approval", "1"},
     {"Practice", "1"},
+    {"Shifts", "1"},
 };
 
 struct DemoMember {

@@ -4,3 +4,4 @@
 extern const char* const kFirstTables;
 extern const char* const kGoodsTables;
 extern const char* const kJournalTable;
+extern const char* const kShiftTables;

@@ -1,7 +1,9 @@
 #include "InstalledTill.h"
 
 #include "base/DateTime.h"
+#include "base/Failure.h"
 #include "platform/IniFile.h"
+#include "saleslib/ClsSysParam.h"
 #include "shop/DemoShop.h"
 #include "store/Connection.h"
 #include "store/DataFile.h"
@@ -13,7 +15,11 @@ InstalledTill::InstalledTill() {
   for (const char* file : {"till", "libTessaly.so.1"}) {
     fs::copy(fs::path(TILL_PROGRAM_FOLDER) / file, program() / file);
   }
-  fillDemoShop(*createDataFile({dataFile(), kBuiltInPassword}), localTime);
+  const std::unique_ptr<Connection> shop = createDataFile({dataFile(), kBuiltInPassword});
+  fillDemoShop(*shop, localTime);
+  ClsSysParam parameters;
+  parameters.Conn(*shop);
+  ensure(parameters.set("Shifts", "0").empty(), "a shop may sell without shifts");
   writeSettings({});
 }
 

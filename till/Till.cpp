@@ -24,6 +24,8 @@
 #include "shell/ControlKeys.h"
 #include "shell/Modal.h"
 #include "shell/frmEditPwd.h"
+#include "shifts/RequiredShift.h"
+#include "shifts/frmShift.h"
 #include "shop/GoodsStage.h"
 #include "store/Connection.h"
 
@@ -76,14 +78,23 @@ std::map<QString, frmMain::Screen> Till::screens() {
     all["report"] = {true, [this] { reportTakings(); }, Right::kReport};
   if (pos_.gSysParam.KeepsJournal())
     all["journal"] = {true, [this] { showJournal(); }, Right::kJournal};
+  if (pos_.gSysParam.Shifts()) all["shift"] = {true, [this] { show<frmShift>(pos_); }};
   return all;
 }
 
 std::map<QString, frmMain::Screen> Till::fixedScreens() {
-  return {{"sell", {true, [this] { frmSell_->openModal(); }}},
+  return {{"sell",
+           {true,
+            [this] {
+              if (requireShift(pos_, QApplication::activeWindow())) frmSell_->openModal();
+            }}},
           {"count", {true, [this] { frmCount(pos_, QApplication::activeWindow()).init(); }}},
           {"search", {true, [this] { show<frmSearch>(pos_); }}},
-          {"unsell", {true, [this] { show<frmUnSell>(pos_); }}},
+          {"unsell",
+           {true,
+            [this] {
+              if (requireShift(pos_, QApplication::activeWindow())) show<frmUnSell>(pos_);
+            }}},
           {"addmen", {true, [this] { show<frmFMember>(pos_); }, Right::kMembers}},
           {"editpwd", {false, [this] { show<frmEditPwd>(pos_); }}},
           {"posset", {true, [this] { show<frmPosSet>(pos_); }, Right::kSettings}},

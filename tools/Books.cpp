@@ -26,6 +26,7 @@ BooksSummary Books::check() {
   examineMembers(books);
   examineGoods(books);
   examineShop(books);
+  examineShifts(books);
   examineJournal(books);
   return found_;
 }

@@ -54,6 +54,10 @@ void examineMembers(const Examination& books);
 /// stock belong to goods.
 void examineGoods(const Examination& books);
 
+/// Shifts of the drawer: numbered without a gap, at most one open, and the figures that each was
+/// closed with are those of the bills, top-ups, returns and moved cash that belong to it.
+void examineShifts(const Examination& books);
+
 /// The journal, where the shop keeps one: its chain is whole, and the books are what its entries
 /// make them: bills and lines, returns, top-ups, stock, members with balance, purchases and points,
 /// operators with rights and passwords, shop parameters. Bills of before it began are held against

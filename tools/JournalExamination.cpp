@@ -86,6 +86,7 @@ void JournalExamination::run() {
               Words::tr("退货"));
   examineRows(state_.topUps, "select id from cardStored order by id", topUpRecord,
               Words::tr("充值"));
+  examineRows(state_.shifts, "select id from shift order by id", shiftRecord, Words::tr("班次"));
 }
 
 void JournalExamination::take(const JournalEntry& entry) {

@@ -71,6 +71,7 @@ void JournalState::takeRows(const JournalEntry& entry, const Json& body) {
        [this](const Json& record) { returns[numberOf(record, "id")] = record; });
   each("top_ups", "top_up",
        [this](const Json& record) { topUps[numberOf(record, "id")] = record; });
+  each("shifts", "shift", [this](const Json& record) { shifts[numberOf(record, "id")] = record; });
   if (isKind(entry, EntryKind::kOperatorRemoved)) operators.erase(std::stoll(entry.touches));
   if (body.contains("stock")) {
     for (const auto& [item, quantity] : body.at("stock").items())

@@ -39,10 +39,10 @@ class JournalState {
   std::map<std::int64_t, Account> accounts;  ///< by member
   std::map<std::int64_t, Json> operators;    ///< records
   std::map<std::string, std::string> parameters;
-  std::map<std::int64_t, Json> returns, topUps;  ///< records
-  std::map<std::int64_t, std::int64_t> bills;    ///< the entry that has a bill's last record
-  std::set<std::int64_t> open;                   ///< bills
-  std::set<std::int64_t> begunOpen;              ///< of those, when the journal began
+  std::map<std::int64_t, Json> returns, topUps, shifts;  ///< records
+  std::map<std::int64_t, std::int64_t> bills;  ///< the entry that has a bill's last record
+  std::set<std::int64_t> open;                 ///< bills
+  std::set<std::int64_t> begunOpen;            ///< of those, when the journal began
   std::vector<OlderBills> older;
   std::map<std::int64_t, std::string> before;  ///< older bills' marks before their first change
   std::map<std::string, std::int64_t> last;    ///< numbers given when it began, by table

@@ -24,6 +24,7 @@
 #include "tools/ReportCommand.h"
 #include "tools/RestoreCommand.h"
 #include "tools/SetupCommand.h"
+#include "tools/ShiftCommand.h"
 
 namespace {
 
@@ -74,6 +75,7 @@ int runTool(int count, const char* const* arguments, Console& console,
   addAutostartCommand(app, console);
   addReportCommand(app, console);
   addJournalCommand(app, console);
+  addShiftCommand(app, console);
   groupInChinese(app);
   try {
     app.parse(wordsOf(count, arguments));

@@ -5112,6 +5112,102 @@ The questions were not all answered. Nothing was made.</translation>
         <source>优惠</source>
         <translation>Discount</translation>
     </message>
+    <message>
+        <source>还没有开班，不能收款。请回到主菜单，先开班。</source>
+        <translation>No shift is open, so no payment can be taken. Go back to the main menu and open one first.</translation>
+    </message>
+    <message>
+        <source>按班次收银：先开班再收款，结班时清点钱箱，出班次表：0 否，1 是</source>
+        <translation>work in shifts: open one before selling, count the drawer when closing it, print its sheet: 0 no, 1 yes</translation>
+    </message>
+    <message>
+        <source>开班</source>
+        <translation>Open shift</translation>
+    </message>
+    <message>
+        <source>钱箱存取</source>
+        <translation>cash moved</translation>
+    </message>
+    <message>
+        <source>清点钱箱</source>
+        <translation>Count the drawer</translation>
+    </message>
+    <message>
+        <source>结班</source>
+        <translation>Close shift</translation>
+    </message>
+    <message>
+        <source>开班时间</source>
+        <translation>opened</translation>
+    </message>
+    <message>
+        <source>开班人</source>
+        <translation>opened by</translation>
+    </message>
+    <message>
+        <source>备用金</source>
+        <translation>Float</translation>
+    </message>
+    <message>
+        <source>%1 个班次</source>
+        <translation>%1 shifts</translation>
+    </message>
+    <message>
+        <source>原因</source>
+        <translation>reason</translation>
+    </message>
+    <message>
+        <source>应有</source>
+        <translation>should be</translation>
+    </message>
+    <message>
+        <source>清点</source>
+        <translation>Counted</translation>
+    </message>
+    <message>
+        <source>长短款</source>
+        <translation>over or short</translation>
+    </message>
+    <message>
+        <source>班次</source>
+        <translation>Shift</translation>
+    </message>
+    <message>
+        <source>单据 %1 笔 %2 元，钱箱现金 %3 元</source>
+        <translation>%1 bills of %2 yuan, %3 yuan of cash in the drawer</translation>
+    </message>
+    <message>
+        <source>班次 %1 结班时是%2；按账上的单据、充值、退货和存取款却是%3</source>
+        <translation>shift %1 was closed with %2; by the bills, top-ups, returns and moved cash of the books it is %3</translation>
+    </message>
+    <message>
+        <source>少了班次 %1</source>
+        <translation>shift %1 is missing</translation>
+    </message>
+    <message>
+        <source>班次 %1 读不出来：%2</source>
+        <translation>shift %1 cannot be read: %2</translation>
+    </message>
+    <message>
+        <source>有 %1 个班次没有结班</source>
+        <translation>%1 shifts are not closed</translation>
+    </message>
+    <message>
+        <source>%1 %2 属于班次 %3，却没有这个班次</source>
+        <translation>%1 %2 belongs to shift %3, but there is no such shift</translation>
+    </message>
+    <message>
+        <source>单据</source>
+        <translation>Bills</translation>
+    </message>
+    <message>
+        <source>写不下去，磁盘可能满了，列得不完整。</source>
+        <translation>Cannot write any further, the disk may be full; the list is incomplete.</translation>
+    </message>
+    <message>
+        <source>列出结过的班，最近的在前：班次、开班、开班人、结班、结班人、应有、清点、长短款、日志校验值，各用制表符分开</source>
+        <translation>lists the closed shifts, the latest first: number, opened, by whom, closed, by whom, what should be there, counted, over or short, hash of the journal, separated by tabs</translation>
+    </message>
 </context>
 <context>
     <name>WorkProgress</name>
@@ -5218,6 +5314,85 @@ The questions were not all answered. Nothing was made.</translation>
     </message>
 </context>
 <context>
+    <name>dlgCash</name>
+    <message>
+        <source>开班</source>
+        <translation>Open shift</translation>
+    </message>
+    <message>
+        <source>存入现金</source>
+        <translation>Cash in</translation>
+    </message>
+    <message>
+        <source>取出现金</source>
+        <translation>Cash out</translation>
+    </message>
+    <message>
+        <source>备用金（元）：</source>
+        <translation>Float (yuan):</translation>
+    </message>
+    <message>
+        <source>金额（元）：</source>
+        <translation>Amount (yuan):</translation>
+    </message>
+    <message>
+        <source>原因：</source>
+        <translation>Reason:</translation>
+    </message>
+    <message>
+        <source>确定</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>取消</source>
+        <translation>Cancel</translation>
+    </message>
+    <message>
+        <source>数一数钱箱里的备用金，没有就写 0。</source>
+        <translation>Count the float in the drawer; enter 0 if there is none.</translation>
+    </message>
+    <message>
+        <source>请输入金额，到分为止。</source>
+        <translation>Please enter an amount, in fen at most.</translation>
+    </message>
+    <message>
+        <source>请写明原因。</source>
+        <translation>Please give the reason.</translation>
+    </message>
+</context>
+<context>
+    <name>dlgCashCount</name>
+    <message>
+        <source>清点钱箱</source>
+        <translation>Count the drawer</translation>
+    </message>
+    <message>
+        <source>清点完了</source>
+        <translation>Counted</translation>
+    </message>
+    <message>
+        <source>取消</source>
+        <translation>Cancel</translation>
+    </message>
+    <message>
+        <source>%1 元 ×</source>
+        <comment>worth of a note or coin, before the field of its pieces</comment>
+        <translation>%1 yuan ×</translation>
+    </message>
+    <message>
+        <source>钱箱里各有几张、几枚？（含备用金）</source>
+        <translation>How many of each are in the drawer, the float included?</translation>
+    </message>
+    <message>
+        <source>合计：%1 元</source>
+        <translation>Sum: %1 yuan</translation>
+    </message>
+    <message>
+        <source>合计：有不是整数的张数</source>
+        <translation>Sum: not every count is a whole number</translation>
+    </message>
+</context>
+<context>
     <name>dlgGoodsPreview</name>
     <message>
         <source>导入(&amp;S)</source>
@@ -5285,6 +5460,86 @@ The questions were not all answered. Nothing was made.</translation>
     <message>
         <source>正在停止，什么也不会留下……</source>
         <translation>Stopping, nothing will be left behind…</translation>
+    </message>
+</context>
+<context>
+    <name>dlgShiftSheet</name>
+    <message>
+        <source>第 %1 班</source>
+        <translation>Shift %1</translation>
+    </message>
+    <message>
+        <source>结班</source>
+        <translation>Close shift</translation>
+    </message>
+    <message>
+        <source>打印</source>
+        <translation>Print</translation>
+    </message>
+    <message>
+        <source>重新清点</source>
+        <translation>Count again</translation>
+    </message>
+    <message>
+        <source>先不结班</source>
+        <translation>Not yet</translation>
+    </message>
+    <message>
+        <source>关闭</source>
+        <translation>Close</translation>
+    </message>
+    <message>
+        <source>%1 笔</source>
+        <comment>how many, before what they came to</comment>
+        <translation>%1 ×</translation>
+    </message>
+    <message>
+        <source>单据</source>
+        <translation>Bills</translation>
+    </message>
+    <message>
+        <source>充值收现金</source>
+        <translation>Top-ups in cash</translation>
+    </message>
+    <message>
+        <source>退货退现金</source>
+        <translation>Refunds in cash</translation>
+    </message>
+    <message>
+        <source>存入现金</source>
+        <translation>Cash in</translation>
+    </message>
+    <message>
+        <source>取出现金</source>
+        <translation>Cash out</translation>
+    </message>
+    <message>
+        <source>备用金</source>
+        <translation>Float</translation>
+    </message>
+    <message>
+        <source>钱箱应有</source>
+        <translation>Should be there</translation>
+    </message>
+    <message>
+        <source>清点</source>
+        <translation>Counted</translation>
+    </message>
+    <message>
+        <source>第 %1 次</source>
+        <translation>count %1</translation>
+    </message>
+    <message>
+        <source>相符</source>
+        <translation>It agrees</translation>
+    </message>
+    <message>
+        <source>长款</source>
+        <translation>Over</translation>
+    </message>
+    <message>
+        <source>短款</source>
+        <translation>Short</translation>
     </message>
 </context>
 <context>
@@ -5912,6 +6167,10 @@ Member since: %3</translation>
         <source>练    习</source>
         <translation>Practice</translation>
     </message>
+    <message>
+        <source>班    次</source>
+        <translation>Shift</translation>
+    </message>
 </context>
 <context>
     <name>frmMenu</name>
@@ -6202,6 +6461,53 @@ Member since: %3</translation>
     <message>
         <source>退出的话，什么也没有建立。要退出吗？</source>
         <translation>Nothing is made if you leave now. Leave?</translation>
+    </message>
+</context>
+<context>
+    <name>frmShift</name>
+    <message>
+        <source>开班</source>
+        <translation>Open shift</translation>
+    </message>
+    <message>
+        <source>存入现金</source>
+        <translation>Cash in</translation>
+    </message>
+    <message>
+        <source>取出现金</source>
+        <translation>Cash out</translation>
+    </message>
+    <message>
+        <source>读数</source>
+        <translation>Reading</translation>
+    </message>
+    <message>
+        <source>清点和结班</source>
+        <translation>Count and close</translation>
+    </message>
+    <message>
+        <source>退出</source>
+        <translation>Exit</translation>
+    </message>
+    <message>
+        <source>班次</source>
+        <translation>Shift</translation>
+    </message>
+    <message>
+        <source>结过的班（回车看班次表、重打）</source>
+        <translation>Closed shifts (Enter shows the sheet, to print it again)</translation>
+    </message>
+    <message>
+        <source>第 %1 班，%2 由%3开班，备用金 %4 元。</source>
+        <translation>Shift %1, opened %2 by %3 with a float of %4 yuan.</translation>
+    </message>
+    <message>
+        <source>还没有开班。</source>
+        <translation>No shift is open.</translation>
+    </message>
+    <message>
+        <source>第 %1 班</source>
+        <translation>Shift %1</translation>
     </message>
 </context>
 <context>

@@ -11,6 +11,17 @@
 constexpr std::size_t kLongestBill = 7;
 constexpr std::size_t kMostHeld = 3;
 constexpr std::int16_t kPointUnit = 10;  // the demo shop's
+// Places in the further menu.
+constexpr int kReturns = 1, kShift = 4, kFurtherEntries = 9;
+
+namespace {
+
+// What is left of a bill in the drawer, behind the name that the ledger has for it.
+std::string inShift(const std::string& name, const Ledger& ledger) {
+  return name + " in shift " + std::to_string(ledger.shifts);
+}
+
+}  // namespace
 
 Day::Day(Journal& journal, Goods goods, unsigned seed, std::function<void()> aboutToConfirm)
     : journal_(journal),
@@ -45,17 +56,53 @@ void Day::confirm(const std::string& what, const std::string& window, Journal::S
   journal_.confirm();
 }
 
-void Day::logIn(TillDriver& till) {
+bool Day::logIn(TillDriver& till) {
   till_ = &till;
-  atReturns_ = false;
+  furtherAt_ = 0;
   held_.clear();
   play(">frmMenu Return >frmLogin =1 =111");
+  if (till.activeWindow() == "dlgCash") return false;
   if (till.activeWindow() == "frmMsg") {
     told_ += till.text("Label1");
     till.key("Return");
   }
   till.waitFor("frmSell");
   newBill();
+  return true;
+}
+
+void Day::beginShift() {
+  const Currency cashFloat = Currency::fromYuan(below(300));
+  play("'" + generalNumber(cashFloat));
+  confirm("opening a shift", "frmSell", [cashFloat](Ledger& ledger) {
+    const std::string name = "shift " + std::to_string(++ledger.shifts);
+    ledger.money[name + ", float"] = cashFloat;
+    ledger.numbers[name + ", counts"] = ledger.numbers[name + ", closed"] = 0;
+    ledger.numbers["entries of shift_opened " + std::to_string(ledger.shifts)] = 1;
+  });
+  newBill();
+}
+
+std::string Day::toFurther(int entry) {
+  std::string keys = "Esc >frmMenu Menu ";
+  for (; furtherAt_ != entry; furtherAt_ = (furtherAt_ + 1) % kFurtherEntries) keys += "Down ";
+  return keys + "Return ";
+}
+
+void Day::closeShift() {
+  play(toFurther(kShift) + ">frmShift @cmdClose Return >dlgCashCount '" +
+       std::to_string(below(20)) + " @cmdOk");
+  const auto more = [](const char* figure, const char* kind) {
+    return [figure, kind](Ledger& ledger) {
+      const std::string number = std::to_string(ledger.shifts);
+      ++ledger.numbers["shift " + number + figure];
+      ++ledger.numbers[std::string("entries of ") + kind + " " + number];
+    };
+  };
+  confirm("counting the drawer", "dlgShiftSheet", more(", counts", "shift_counted"));
+  confirm("closing a shift", "frmShift", more(", closed", "shift_closed"));
+  play("Esc >frmMenu Return >dlgCash");
+  beginShift();
 }
 
 // A bill's number is never used twice, not even that of a bill that was voided.
@@ -85,6 +132,7 @@ void Day::step() {
 void Day::beginBill() {
   if (!held_.empty() && chance(40)) return recall();
   if (held_.empty() && !journal_.confirmed().bills.empty() && chance(8)) return takeBack();
+  if (held_.empty() && chance(5)) return closeShift();
   if (bill_.member.empty() && chance(25)) {
     bill_.member = anyCard();
     return play("F2 >frmInput =" + bill_.member + " >frmSell");
@@ -182,6 +230,9 @@ Journal::Step Day::settling(const Ledger::Bill& bill) const {
   return [bill, number = number_](Ledger& ledger) {
     const Currency amount = bill.goodsAmount();
     ledger.put(number, bill);
+    Currency kept = amount;
+    for (std::size_t i = 1; i < kTenders; ++i) kept -= bill.tendered[i];
+    ledger.money[inShift("cash of bill " + std::to_string(number), ledger)] = kept;
     ledger.numbers["entries of bill " + std::to_string(number)] = 1;
     for (const Ledger::Line& line : bill.lines) ledger.addStock(line, -line.quantity);
     if (!bill.card.empty()) ledger.money["card of " + bill.card] -= amount;
@@ -213,6 +264,7 @@ void Day::topUp() {
     record(ledger);
     const std::string number = std::to_string(ledger.topUps);
     ledger.numbers["top-up " + number + ", completed"] = 1;
+    ledger.money[inShift("cash of top-up " + number, ledger)] = paid;
     ledger.numbers["entries of loading " + number] = 1;
     ledger.money[account] += credited;
   };
@@ -221,8 +273,7 @@ void Day::topUp() {
 }
 
 void Day::takeBack() {
-  play(std::exchange(atReturns_, true) ? "Esc >frmMenu Menu Return >frmUnSell"
-                                       : "Esc >frmMenu Menu Down Return >frmUnSell");
+  play(toFurther(kReturns) + ">frmUnSell");
   const auto& bills = journal_.confirmed().bills;
   const auto chosen = std::prev(bills.end(), 1 + below(std::min<std::size_t>(20, bills.size())));
   takeBackLineOf(chosen->first, chosen->second);
@@ -239,6 +290,7 @@ void Day::takeBackLineOf(int number, const Ledger::Bill& bill) {
   const auto taken = [number, gone, position = line - bill.lines.begin()](Ledger& ledger) {
     const std::string name = "return " + std::to_string(++ledger.returns);
     ledger.money[name + " on bill " + std::to_string(number)] = gone.money();
+    ledger.money[inShift("cash of " + name, ledger)] = gone.money();
     ledger.numbers[name + ", pieces of " + gone.item] = gone.quantity;
     ledger.addStock(gone, gone.quantity);
     ++ledger.numbers["entries of returns on bill " + std::to_string(number)];

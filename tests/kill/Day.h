@@ -21,8 +21,11 @@ class Day {
   /// `aboutToConfirm` is called before a key is sent that changes the books.
   Day(Journal& journal, Goods goods, unsigned seed, std::function<void()> aboutToConfirm);
 
-  /// From the main menu of that till, which the further steps work, to an empty bill.
-  void logIn(TillDriver& till);
+  /// From the main menu of that till, which the further steps work, to an empty bill. False when a
+  /// shift must be opened first.
+  [[nodiscard]] bool logIn(TillDriver& till);
+  /// Opens that shift, and goes on to an empty bill.
+  void beginShift();
   /// What the till told on the way, also on those that a kill cut short since this was last asked.
   std::string takeTold() { return std::exchange(told_, {}); }
   /// The next thing that the cashier does.
@@ -52,6 +55,8 @@ class Day {
   bool typeCard(Ledger::Bill& bill);
   Journal::Step settling(const Ledger::Bill& bill) const;
   void topUp();
+  std::string toFurther(int entry);
+  void closeShift();
   void takeBack();
   void takeBackLineOf(int number, const Ledger::Bill& bill);
 
@@ -64,6 +69,6 @@ class Day {
   Ledger::Bill bill_;
   bool hasCurrentLine_ = false;  ///< the last line can still be changed
   std::vector<std::pair<int, Ledger::Bill>> held_;
-  bool atReturns_ = false;  ///< the highlight of the further menu
+  int furtherAt_ = 0;  ///< the highlight of the further menu
   std::string told_, settledBill_, lastTopUp_;
 };

@@ -15,6 +15,12 @@ constexpr const char* kMoney =
     "union all select 'top-up ' || id || ' of ' || cardbh || ', paid', inMoney from cardStored "
     "union all select 'top-up ' || id || ', credited', addmoney from cardStored "
     "union all select 'top-up ' || id || ', balance', commerce from cardStored "
+    "union all select 'shift ' || id || ', float', cash_float from shift "
+    "union all select 'cash of bill ' || id || ' in shift ' || shift, cash_kept from sell "
+    "where state = 1 "
+    "union all select 'cash of return ' || id || ' in shift ' || shift, money from un_sell "
+    "union all select 'cash of top-up ' || id || ' in shift ' || shift, inMoney from cardStored "
+    "where complete = 1 "
     "union all select 'bill ' || id || ', amount', amount from sell where state = 1 ";
 constexpr const char* kNumbers =
     "select 'stock of ' || spbm as name, quantity as figure from stock "
@@ -24,8 +30,13 @@ constexpr const char* kNumbers =
     "union all select 'top-up ' || id || ', completed', complete from cardStored "
     "union all select 'entries of ' || case when kind = 'goods_returned' then 'returns on bill ' "
     "when kind = 'top_up_begun' then 'top-up ' when kind = 'top_up_loaded' then 'loading ' "
-    "else 'bill ' end || touches, count(*) from fact where kind in ('bill_settled', "
-    "'bill_completed', 'goods_returned', 'top_up_begun', 'top_up_loaded') group by 1 "
+    "when kind like 'shift%' then kind || ' ' else 'bill ' end || touches, count(*) from fact "
+    "where kind in ('bill_settled', "
+    "'bill_completed', 'goods_returned', 'top_up_begun', 'top_up_loaded', 'shift_opened', "
+    "'shift_counted', 'shift_closed') group by 1 "
+    "union all select 'shift ' || id || ', closed', closed is not null from shift "
+    "union all select 'shift ' || id || ', counts', (select count(distinct attempt) from "
+    "shift_count where shift = id) from shift "
     "union all select 'bill ' || s.id || ' of member \"' || coalesce(bh, '') || '\", card \"' || "
     "coalesce(card_no, '') || '\", slip \"' || coalesce(phone_slip, '') || '\", salesman', "
     "salesman from sell s left join member m on m.id = member_id where state = 1 "
@@ -96,9 +107,10 @@ Ledger Ledger::read(Connection& connection) {
     ledger.numbers[numbers.text("name")] = numbers.number("figure").value_or(0);
   Rows records = connection.query(
       "select (select count(*) from un_sell) as returns, (select count(*) from cardStored) as "
-      "tops");
+      "tops, (select count(*) from shift) as shifts");
   records.next();
   ledger.returns = static_cast<int>(records.whole("returns").value());
+  ledger.shifts = static_cast<int>(records.whole("shifts").value());
   ledger.topUps = static_cast<int>(records.whole("tops").value());
   return ledger;
 }

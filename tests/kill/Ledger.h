@@ -41,7 +41,7 @@ struct Ledger {
   std::map<std::string, Currency> money;
   std::map<std::string, double> numbers;
   /// The records so far.
-  int returns = 0, topUps = 0;
+  int returns = 0, topUps = 0, shifts = 0;
   /// The settled bills as the journal has them; none in a ledger that was read.
   std::map<int, Bill> bills;
 

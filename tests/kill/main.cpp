@@ -45,10 +45,10 @@ class KillTest {
     std::printf(
         "%d kills: %d between two steps, %d in a step that was then done (%d of them shown before, "
         "%d completed at the start), %d in one that was not, %d between the two writes of a "
-        "top-up; %zu bills (%td by telephone), %d returns, %d top-ups; lost: 0\n",
+        "top-up; %zu bills (%td by telephone), %d returns, %d top-ups, %d shifts; lost: 0\n",
         kills_, outcomes_[kNothingOpen], outcomes_[kTaken], takenShown_, completed_,
         outcomes_[kNotTaken], outcomes_[kHalfTaken], books.bills.size(), byPhone, books.returns,
-        books.topUps);
+        books.topUps, books.shifts);
   }
 
  private:
@@ -56,7 +56,9 @@ class KillTest {
     auto shop = till_.open();
     ClsSysParam parameters;
     parameters.Conn(*shop);
-    if (!parameters.set("PhonePay", "1").empty()) throw std::logic_error("no payment by telephone");
+    for (const char* name : {"PhonePay", "Shifts"}) {
+      if (!parameters.set(name, "1").empty()) throw std::logic_error(name);
+    }
     return shop;
   }
 
@@ -75,6 +77,7 @@ class KillTest {
     }
   }
   void stepConfirmed() {
+    drawerBefore_ = till_.drawerBytes();  // counting opened it before
     if (confirmationsLeft_ == 0 || --confirmationsLeft_ > 0) return;
     const auto where = random_() % 5;
     if (where == 0) {
@@ -106,7 +109,7 @@ class KillTest {
 
   /// Up to an empty bill, and the books hold. The drawer opens only for a bill that is paid for.
   void openShop(TillDriver& till) {
-    day_.logIn(till);
+    const bool hasShift = day_.logIn(till);
     const bool shown = journal_.isOpen() && till_.drawerBytes() > drawerBefore_;
     const Journal::Outcome outcome = journal_.judge(Ledger::read(*till_.open()), shown);
     ++outcomes_[outcome];
@@ -118,6 +121,7 @@ class KillTest {
       ++completed_;  // which only the bill that was being settled can have been
       require(told, day_.settledBill());
     }
+    if (!hasShift) day_.beginShift();
   }
   static void require(const std::string& told, const std::string& named) {
     if (told.find(named) == std::string::npos)

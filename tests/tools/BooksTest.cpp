@@ -65,6 +65,14 @@ TEST_F(BooksTest, NameEachFaultAndWhatIsWorthALook) {
        "values (5, '2026-11-22 09:00:00', 1, 1, 1, 1)"},
       {1, "未结的单据 2 的操作员 8 不存在", "update sell set operator_id = 8 where id = 2"},
       {1, "单据 2 的状态不是", "update sell set state = 7 where id = 2"},
+      {1, "单据 1 属于班次 7，却没有这个班次", "update sell set shift = 7 where id = 1"},
+      {1, "少了班次 1",
+       "insert into shift values (2, '2026-11-22 09:00:00', 1, '张三', 0, null, null, null)"},
+      {1,
+       "班次 1 结班时是单据 0 笔 0.00 元，钱箱现金 0.00 元；按账上的单据、充值、退货和存取款"
+       "却是单据 1 笔 5.00 元，钱箱现金 5.00 元",
+       "update sell set shift = 1, cash_kept = 5 where id = 1; insert into shift values"
+       " (1, '2026-11-22 09:00:00', 1, '张三', 0, '2026-11-22 09:01:00', 1, '张三')"},
       {1, "退货 1 所退的商品行 3 不在单据 1 里", "update un_sell set item_id = 3"},
       {1, "单据 1 已结，却还带着收款未存的标记", "update sell set paid = 1 where id = 1"},
       {1, "单据 1 的应收是 6.00，商品金额是 4.80", "update sell set amount = 6 where id = 1"},

@@ -5,6 +5,7 @@
 #include "saleslib/BillBooks.h"
 #include "saleslib/ClsSysParam.h"
 #include "saleslib/ReturnBooks.h"
+#include "saleslib/ShiftBooks.h"
 #include "saleslib/TopUpBooks.h"
 
 using testing::HasSubstr;
@@ -50,6 +51,9 @@ struct JournalTest : OwnerTest {
     EXPECT_EQ(returns.takeBack(*bill, back, 1, yuan(4)).kind, ReturnBooks::Outcome::kDone);
     const TopUp topUp{"8002", yuan(50), yuan(55), yuan(62), "", yuan(7)};
     EXPECT_EQ(TopUpBooks(*till).store(topUp).outcome, CardOutcome::kDone);
+    ShiftBooks shifts(*till, clock, cashier);
+    EXPECT_TRUE(shifts.open(yuan(100)) && shifts.move(yuan(5), "零钱"));
+    EXPECT_TRUE(shifts.count({{1, 0, 0, 0, 0, 4}}) && shifts.close());
     ClsMember member;
     member.Init(*till, 0, clock);
     member.setBh(std::to_string(++lastMember));
@@ -105,6 +109,8 @@ TEST_F(JournalTest, IsKeptOnlyWhereTheOwnerWantsIt) {
   expect(0, "1 张三\t-\t结账\t5\t2 行，应收 8.75，现金 10", "journal @ --kind 结账");
   expect(0, "退货\t5\t2 行", "journal @ --operator 1 --from 2026-11-22");
   expect(1, "没有这一种", "journal @ --kind x");
+  expect(0, "\t105.00\t104.00\t-1.00\t", "shift @");
+  expect(0, "结班\t2\t", "journal @ --kind shift_closed");
   now.hour = 9;  // the clock is set back
   expect(0, "", "param set @ PointUnit=5 Journal=0");
   expect(0, "时钟倒退", "journal @ --operator 0");
@@ -229,6 +235,10 @@ TEST_F(JournalTest, NamesWhatWasDoneFromOutside) {
       {"退货 1 在日志里",
        "delete from un_sell; update sqlite_sequence set seq = 0"
        " where name = 'un_sell'"},
+      {"班次 1 与日志不符", "drop trigger shift_changed; update shift set cash_float = 50"},
+      {"班次 1 与日志不符", "drop trigger shift_count_changed; update shift_count set pieces = 1"},
+      {"班次 2 不在日志里",
+       "insert into shift values (2, '2026-11-22 09:00:00', 1, '张三', 0, null, null, null)"},
       {"退货 2 不在日志里",
        "insert into un_sell (un_time, sell_id, item_id, quantity, money, cost,"
        " ratio, discount, operator_id) select un_time, sell_id, item_id, 1, 4,"

@@ -1,0 +1,43 @@
+#pragma once
+
+#include "devices/Devices.h"
+#include "saleslib/ShiftBooks.h"
+#include "shell/KeyDrivenDialog.h"
+#include "shifts/ShiftPaper.h"
+#include "shifts/dlgCash.h"
+
+class QListWidget;
+class posMod;
+
+/// The shift of the drawer: opening it, cash put in and taken out, reading its figures, counting
+/// and closing, and the sheets of closed ones. Shown modally with exec(); a new one per use.
+class frmShift : public KeyDrivenDialog {
+  Q_OBJECT
+
+ public:
+  /// Needs somebody logged in.
+  explicit frmShift(posMod& pos, QWidget* parent = nullptr);
+
+ private:
+  void arrange();
+  void showState();
+  void attempt(const std::function<void()>& deed);
+  void open();
+  void move(dlgCash::Purpose purpose);
+  void read();
+  void closeShift();
+  bool count();
+  void showClosed();
+  void print(const Shift& shift, ShiftPaperKind kind);
+
+  posMod& pos_;
+  Devices devices_;
+  QPushButton* cmdOpen_;
+  QPushButton* cmdIn_;
+  QPushButton* cmdOut_;
+  QPushButton* cmdRead_;
+  QPushButton* cmdClose_;
+  QListWidget* listClosed_;
+  QPushButton* cmdExit_;
+  QLabel* lblState_;
+};

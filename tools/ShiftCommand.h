@@ -1,0 +1,10 @@
+#pragma once
+
+#include "tools/Console.h"
+
+namespace CLI {
+class App;
+}
+
+/// `tilladmin shift FILE`: lists the closed shifts.
+void addShiftCommand(CLI::App& app, Console& console);
