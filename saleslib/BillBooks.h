@@ -77,7 +77,8 @@ class TESSALY_API BillBooks {
   /// is none.
   std::optional<StoredCard> payingCard(const std::string& typed) const;
   /// Payment is taken for an open bill, which is stored with the mark of a paid one (see
-  /// ClsSell::SavePaid), unless the shop sells in shifts and none is open. An empty text, or why it is not marked, for people.
+  /// ClsSell::SavePaid), unless the shop sells in shifts and none is open. An empty text, or why it
+  /// is not marked, for people.
   [[nodiscard]] std::string markPaid(ClsSell& bill);
   /// The same by the card that the bill names (CardNo), which pays all that is due, in fen
   /// (CardPay; ensure): the card is charged together with the mark. Nothing is written unless it is

@@ -13,7 +13,8 @@ class Connection;
 /// What the books hold.
 struct BooksSummary {
   std::int64_t faults = 0;
-  std::int64_t bills = 0, openBills = 0, paidBills = 0, lines = 0, returns = 0, stockRows = 0, entries = 0;
+  std::int64_t bills = 0, openBills = 0, paidBills = 0, lines = 0, returns = 0, stockRows = 0,
+               entries = 0;
 };
 
 /// Examines a data file: the engine's own integrity, and that the books agree with themselves and
