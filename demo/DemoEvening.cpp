@@ -76,7 +76,7 @@ void DemoDay::evening() {
   closeShift(till);
   furtherScreen(kJournal, "frmJournal");
   till.key("Return");
-  till.waitForText("lblState", isEnglish() ? "entries" : "共");
+  till.waitForText("lblState", isEnglish() ? "in all" : "共");
   shot(till, "journal");
   till.key("Esc");
   furtherScreen(kHelp, "frmHelp");

@@ -76,7 +76,6 @@ void frmJournal::arrange() {
   lookLikeReport(*listEntries_);
   int column = 0;
   for (const int width : kColumnWidths) listEntries_->setColumnWidth(column++, width);
-  listEntries_->horizontalHeader()->setStretchLastSection(true);
   lblState_->setTextFormat(Qt::PlainText);
   auto* above = new QHBoxLayout;
   above->setSpacing(10);
@@ -128,6 +127,15 @@ void frmJournal::search() {
   }
 }
 
+// As wide as what is in it, to which the arrow keys scroll.
+void frmJournal::fitDetails() {
+  listEntries_->resizeColumnToContents(JournalModel::kDetails);
+  const int free = listEntries_->viewport()->width() -
+                   listEntries_->horizontalHeader()->sectionPosition(JournalModel::kDetails);
+  if (listEntries_->columnWidth(JournalModel::kDetails) < free)
+    listEntries_->setColumnWidth(JournalModel::kDetails, free);
+}
+
 void frmJournal::read(std::vector<JournalModel::Shown>& found) {
   const DataSource source = pos_.gConn->source();
   const JournalFilter wanted = filter();
@@ -149,6 +157,7 @@ void frmJournal::read(std::vector<JournalModel::Shown>& found) {
       showPart);
   const std::size_t count = found.size();
   model_->show(std::move(found));
+  fitDetails();
   listEntries_->scrollToBottom();
   if (count > 0) listEntries_->selectRow(static_cast<int>(count) - 1);
   lblState_->setText(isWhole ? tr("共 %L1 条").arg(count)

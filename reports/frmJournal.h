@@ -28,6 +28,7 @@ class frmJournal : public KeyDrivenDialog {
   void arrange();
   JournalFilter filter() const;
   void search();
+  void fitDetails();
   void read(std::vector<JournalModel::Shown>& found);
 
   posMod& pos_;

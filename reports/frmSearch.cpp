@@ -41,8 +41,7 @@ constexpr int kAround = 24;    // pixels left free around the form, which else f
 constexpr int kBlankKey = 32;  // virtual-key code
 
 /// Of the file and in it, whatever the screens speak.
-// untranslated: the name of exported files
-constexpr const char* kExportTitle = "商品查询";
+constexpr const char* kExportTitle = "商品查询";  // untranslated: exported
 
 }  // namespace
 

@@ -2,6 +2,7 @@
 
 #include "base/Failure.h"
 #include "base/Text.h"
+#include "base/Words.h"
 #include "saleslib/ClsSell.h"
 #include "saleslib/ClsSysParam.h"
 
@@ -24,11 +25,12 @@ std::string withoutControls(const std::string& text) {
 const std::array<TenderKind, kTenders>& tenderKinds() {
   using enum TenderKind::Form;
   static constexpr std::array<TenderKind, kTenders> kKinds = {{
-      {Tender::kCash, "现金", "cash", kReceived},
-      {Tender::kBankCard, "银行卡", "bank_card", kReceived},
-      {Tender::kPhone, "扫码", "phone_pay", kReceived, "PhonePay", "付款码"},
-      {Tender::kStoredCard, "储值卡", "card_pay", kCharged},
-      {Tender::kFavorable, "优惠", "favorable", kGranted},
+      {Tender::kCash, Words::mark("现金"), "cash", kReceived},
+      {Tender::kBankCard, Words::mark("银行卡"), "bank_card", kReceived},
+      {Tender::kPhone, Words::mark("扫码"), "phone_pay", kReceived, "PhonePay",
+       Words::mark("付款码")},
+      {Tender::kStoredCard, Words::mark("储值卡"), "card_pay", kCharged},
+      {Tender::kFavorable, Words::mark("优惠"), "favorable", kGranted},
   }};
   return kKinds;
 }

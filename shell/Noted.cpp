@@ -7,6 +7,7 @@
 #include "shell/Modal.h"
 
 bool noted(const posMod& pos, QWidget* parent, EntryKind kind, const QString& touches) {
+  if (!pos.gConn) return true;  // no shop is open yet
   try {
     pos.journal().note(kind, touches.toStdString());
     return true;

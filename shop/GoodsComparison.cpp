@@ -274,16 +274,14 @@ void GoodsComparison::compareCase(const GoodsRow& row, Outcome& outcome) {
   set("splbmc", article(GoodsField::kCategory), GoodsField::kCategory);
   set("xsdj", *row.value(GoodsField::kCasePrice), GoodsField::kCasePrice);
   set("dwbl", ratio, GoodsField::kCaseRatio);
-  if (row.gives(GoodsField::kCaseUnit)) {
+  if (row.gives(GoodsField::kCaseUnit))
     set("jldw", *row.value(GoodsField::kCaseUnit), GoodsField::kCaseUnit);
-  }
   if (const auto cost = Currency::parse(known(GoodsField::kCost)); cost) {
     const double count = parseNumber(textOf(ratio)).value();
     set("zhjj", toValue(lineAmount(*cost, count, Discount())), GoodsField::kCost);
   }
   if (!before) {
-    // untranslated: stored with the goods
-    set("spmc", known(GoodsField::kName) + " 整箱", GoodsField::kName);
+    set("spmc", known(GoodsField::kName) + " 整箱", GoodsField::kName);  // untranslated: stored
     set("ggxh", "1x" + textOf(ratio), GoodsField::kSpecification);
     outcome.changes(headingOf(GoodsField::kCaseBarcode));
   }

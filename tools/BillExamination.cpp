@@ -194,8 +194,8 @@ void BillExamination::examineTenders(const ClsSell& bill) {
   for (const TenderKind& kind : tenderKinds()) {
     const Currency figure = bill.Tendered(kind.tender);
     if (kind.parameter == nullptr || figure.isZero() || !unset_.contains(kind.parameter)) continue;
-    fault(Words::tr(" 有%1付款 %2，店里却从来没有设过 %3", kind.name, twoDecimals(figure),
-                    kind.parameter));
+    fault(Words::tr(" 有%1付款 %2，店里却从来没有设过 %3", Words::tr(kind.name),
+                    twoDecimals(figure), kind.parameter));
   }
 }
 

@@ -528,7 +528,7 @@ Take the payment like this?</translation>
     </message>
     <message>
         <source># 收银员按键卡 {.card}</source>
-        <translation># The cashier&apos;s keys {.card}</translation>
+        <translation># Keys for the cashier {.card}</translation>
     </message>
     <message>
         <source>一笔销售：扫描商品；都扫完了，在空行按 `%1`；输入收到的现金，再按 `%1`。</source>
@@ -540,7 +540,7 @@ Take the payment like this?</translation>
     </message>
     <message>
         <source>店里改过按键的，以程序里的“帮助”为准：它在主菜单的更多功能和销售界面的功能菜单里，总是最后一项。</source>
-        <translation>Where the shop has changed its keys, &quot;Help&quot; in the program is right: the last entry of the main menu&apos;s further functions and of the sale screen&apos;s function menu.</translation>
+        <translation>Where the shop has changed its keys, the program itself knows best: Help is the last entry of the further functions on the main menu and of the function menu on the sale screen.</translation>
     </message>
 </context>
 <context>
@@ -556,7 +556,7 @@ Take the payment like this?</translation>
     </message>
     <message>
         <source>录入、空行结账</source>
-        <translation>Ring up; settle on an empty line</translation>
+        <translation>Ring up, settle</translation>
     </message>
     <message>
         <source>取消</source>
@@ -747,7 +747,7 @@ Take the payment like this?</translation>
     </message>
     <message>
         <source>菜单键</source>
-        <translation>Menu key</translation>
+        <translation>Menu</translation>
     </message>
     <message>
         <source>小键盘 %1</source>
@@ -775,11 +775,11 @@ Take the payment like this?</translation>
     </message>
     <message>
         <source>在现金栏：收款，打小票</source>
-        <translation>In the cash field: take the payment, print the receipt</translation>
+        <translation>Cash field: take payment, print</translation>
     </message>
     <message>
         <source>在现金栏：不收款，返回单据</source>
-        <translation>In the cash field: no payment, back to the bill</translation>
+        <translation>Cash field: back to the bill</translation>
     </message>
     <message>
         <source>转到下一栏</source>
@@ -807,11 +807,11 @@ Take the payment like this?</translation>
     </message>
     <message>
         <source>更多功能、功能菜单</source>
-        <translation>Further functions, function menu</translation>
+        <translation>Further functions</translation>
     </message>
     <message>
         <source>主菜单的更多功能</source>
-        <translation>Further functions of the main menu</translation>
+        <translation>The same on the main menu</translation>
     </message>
     <message>
         <source>商品快捷键</source>
@@ -1711,7 +1711,7 @@ Last goods: %3</translation>
     </message>
     <message>
         <source> 储值卡消费成功！余额：%1 </source>
-        <translation> Paid with the stored-value card. Balance: %1 </translation>
+        <translation>Paid with the stored-value card. Balance: %1</translation>
     </message>
     <message>
         <source>储值卡没有扣款：%1</source>
@@ -1778,33 +1778,6 @@ Last goods: %3</translation>
     <message>
         <source>怎样开店</source>
         <translation>How to begin</translation>
-    </message>
-</context>
-<context>
-    <name>Tender</name>
-    <message>
-        <source>现金</source>
-        <translation>Cash</translation>
-    </message>
-    <message>
-        <source>银行卡</source>
-        <translation>Bank card</translation>
-    </message>
-    <message>
-        <source>扫码</source>
-        <translation>Phone</translation>
-    </message>
-    <message>
-        <source>付款码</source>
-        <translation>Pay code</translation>
-    </message>
-    <message>
-        <source>储值卡</source>
-        <translation>Stored value</translation>
-    </message>
-    <message>
-        <source>优惠</source>
-        <translation>Discount</translation>
     </message>
 </context>
 <context>
@@ -4365,7 +4338,7 @@ The questions were not all answered. Nothing was made.</translation>
     </message>
     <message>
         <source>起点账面</source>
-        <translation>Books at the beginning</translation>
+        <translation>First books</translation>
     </message>
     <message>
         <source>日志停用</source>
@@ -4393,11 +4366,11 @@ The questions were not all answered. Nothing was made.</translation>
     </message>
     <message>
         <source>减少数量</source>
-        <translation>Quantity lowered</translation>
+        <translation>Less quantity</translation>
     </message>
     <message>
         <source>改折扣</source>
-        <translation>Discount changed</translation>
+        <translation>New discount</translation>
     </message>
     <message>
         <source>删除商品行</source>
@@ -4425,7 +4398,7 @@ The questions were not all answered. Nothing was made.</translation>
     </message>
     <message>
         <source>补存结账</source>
-        <translation>Paid bill completed</translation>
+        <translation>Completed</translation>
     </message>
     <message>
         <source>改单据时间</source>
@@ -4433,7 +4406,7 @@ The questions were not all answered. Nothing was made.</translation>
     </message>
     <message>
         <source>退货</source>
-        <translation>Goods returned</translation>
+        <translation>Return</translation>
     </message>
     <message>
         <source>充值收款</source>
@@ -4441,7 +4414,7 @@ The questions were not all answered. Nothing was made.</translation>
     </message>
     <message>
         <source>充值到账</source>
-        <translation>Top-up credited</translation>
+        <translation>Credited</translation>
     </message>
     <message>
         <source>增加会员</source>
@@ -4449,7 +4422,7 @@ The questions were not all answered. Nothing was made.</translation>
     </message>
     <message>
         <source>修改会员</source>
-        <translation>Member changed</translation>
+        <translation>Member edited</translation>
     </message>
     <message>
         <source>开钱箱</source>
@@ -4457,7 +4430,7 @@ The questions were not all answered. Nothing was made.</translation>
     </message>
     <message>
         <source>补打小票</source>
-        <translation>Receipt reprinted</translation>
+        <translation>Reprint</translation>
     </message>
     <message>
         <source>导出</source>
@@ -4465,15 +4438,15 @@ The questions were not all answered. Nothing was made.</translation>
     </message>
     <message>
         <source>经营报表</source>
-        <translation>Owner&apos;s report</translation>
+        <translation>Report</translation>
     </message>
     <message>
         <source>改本机设置</source>
-        <translation>Settings changed</translation>
+        <translation>Settings</translation>
     </message>
     <message>
         <source>设店铺参数</source>
-        <translation>Shop parameter set</translation>
+        <translation>Parameter</translation>
     </message>
     <message>
         <source>修改操作员</source>
@@ -4489,7 +4462,7 @@ The questions were not all answered. Nothing was made.</translation>
     </message>
     <message>
         <source>恢复备份</source>
-        <translation>Backup restored</translation>
+        <translation>Restored</translation>
     </message>
     <message>
         <source>时钟倒退</source>
@@ -4881,11 +4854,11 @@ The questions were not all answered. Nothing was made.</translation>
     </message>
     <message>
         <source>授权</source>
-        <translation>Approval given</translation>
+        <translation>Approved</translation>
     </message>
     <message>
         <source>没有授权</source>
-        <translation>Approval refused</translation>
+        <translation>Not approved</translation>
     </message>
     <message>
         <source>多少</source>
@@ -5114,6 +5087,30 @@ The questions were not all answered. Nothing was made.</translation>
     <message>
         <source>有一次商品导入没有读完就结束了，或者正在读，读了 %1 行，什么也没有写入：再导入一次这张商品表就行</source>
         <translation>an import of goods ended while the sheet was read, or is being read, after %1 lines; nothing was written: just import the sheet again</translation>
+    </message>
+    <message>
+        <source>现金</source>
+        <translation>Cash</translation>
+    </message>
+    <message>
+        <source>银行卡</source>
+        <translation>Bank card</translation>
+    </message>
+    <message>
+        <source>扫码</source>
+        <translation>Phone</translation>
+    </message>
+    <message>
+        <source>付款码</source>
+        <translation>Pay code</translation>
+    </message>
+    <message>
+        <source>储值卡</source>
+        <translation>Stored value</translation>
+    </message>
+    <message>
+        <source>优惠</source>
+        <translation>Discount</translation>
     </message>
     <message>
         <source>还没有开班，不能收款。请回到主菜单，先开班。</source>
@@ -5962,7 +5959,7 @@ Member since: %3</translation>
     </message>
     <message>
         <source>共 %L1 条</source>
-        <translation>%L1 entries</translation>
+        <translation>%L1 entries in all</translation>
     </message>
     <message>
         <source>只列出前 %L1 条，后面的没有再看</source>

@@ -23,11 +23,11 @@ TEST(LanguageTest, EnglishIsSpokenByWindowsRoomsAndLibraryWhereTheSettingsAskFor
     const Language language = chosenLanguage(settings);
     EXPECT_EQ(language == Language::kEnglish, isEnglish) << text;
     speak(language);
-    EXPECT_EQ(QCoreApplication::translate("Tender", "现金"), isEnglish ? "Cash" : "现金");
+    EXPECT_EQ(QCoreApplication::translate("Modal", "确定"), isEnglish ? "OK" : "确定");
     EXPECT_EQ(Words::tr("磁盘已满。"), isEnglish ? "The disk is full." : "磁盘已满。");
     EXPECT_EQ(ClsSysParam::refusal("Nothing", ""),
               isEnglish ? "There is no parameter Nothing" : "没有这个参数：Nothing");
   }
   speak(Language::kChinese);
-  EXPECT_EQ(QCoreApplication::translate("Tender", "现金"), "现金");
+  EXPECT_EQ(QCoreApplication::translate("Modal", "确定"), "确定");
 }

@@ -110,18 +110,13 @@ TEST_F(SellWindowTest, TheEditorCoversTheEditedCellAndTheListNeverHasTheFocus) {
 }
 
 TEST_F(SellWindowTest, TheLineOfKeysFollowsTheKeyboardMap) {
-  const auto help = [this] {
-    show([] {});
-    return window.findChild<QLabel*>("ViewF")->text().toStdString();
-  };
-  EXPECT_EQ(help(),
-            "ESC=退出 Enter=结账 F2=会员卡 F3=增加会员 F4删除最后一行 F5挂单 F6取单 "
-            "F8补打小票查询销售 F9会员充值 F12=整单撤消 方向箭头改数量折扣");
   pos.gKeyBoard.mF5 = 'G';
   pos.gKeyBoard.mF6 = 0;
   pos.gKeyBoard.mUp = 104;
-  EXPECT_THAT(help(), testing::HasSubstr(" F4删除最后一行 G挂单 F8补打小票查询销售 "));
-  EXPECT_THAT(help(), testing::EndsWith(" 小键盘\u00A08/↓/←/→改数量折扣"));
+  show([] {});
+  EXPECT_EQ(window.findChild<QLabel*>("ViewF")->text().toStdString(),
+            "ESC=退出 Enter=结账 F2=会员卡 F3=增加会员 F4删除最后一行 G挂单 "
+            "F8补打小票查询销售 F9会员充值 F12=整单撤消 小键盘\u00A08/↓/←/→改数量折扣");
 }
 
 // The list paints only what changes: what is on the screen must be what painting it whole gives.

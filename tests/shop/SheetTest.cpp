@@ -122,7 +122,7 @@ TEST_F(SheetTest, ALargeWorkbookIsReadToItsEndOrRefused) {
   const auto opened = openSheet(folder.file("sheet.xlsx"));
   std::vector<std::string> fields;
   EXPECT_TRUE(opened->next(fields));
-  EXPECT_THROW(while (opened->next(fields)) {}, Refusal);
+  EXPECT_THROW(while (opened->next(fields)){}, Refusal);
 }
 
 TEST(GoodsMappingTest, GuessesWhatOthersCallIt) {
