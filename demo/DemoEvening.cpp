@@ -226,8 +226,8 @@ void DemoDay::closeShift(TillDriver& till) {
   till.tabTo("cmdClose");
   till.key("Space");
   till.waitFor("dlgCashCount");
-  for (const char* pieces : {"5", "2", "1", "3", "1", "4", "1"}) till.enter(pieces);
-  till.type("2");
+  for (const char* pieces : {"3", "1", "2", "1", "1", "3", ""}) till.enter(pieces);
+  till.type("4");
   shot(till, "drawer-counted-blind");
   till.key("Return");
   till.key("Return");

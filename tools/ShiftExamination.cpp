@@ -52,13 +52,15 @@ void examineStrays(const Examination& books, const char* query, const std::strin
 void examineShifts(const Examination& books) {
   examineNumbers(books);
   examineStrays(books,
-                "select id, shift from sell where shift not in (select id from shift) order by id",
+                "select id, shift from sell where shift is not null and shift not in (select id "
+                "from shift) order by id",
                 Words::tr("单据"));
-  examineStrays(
-      books, "select id, shift from un_sell where shift not in (select id from shift) order by id",
-      Words::tr("退货"));
-  examineStrays(
-      books,
-      "select id, shift from cardStored where shift not in (select id from shift) order by id",
-      Words::tr("充值"));
+  examineStrays(books,
+                "select id, shift from un_sell where shift is not null and shift not in (select id "
+                "from shift) order by id",
+                Words::tr("退货"));
+  examineStrays(books,
+                "select id, shift from cardStored where shift is not null and shift not in (select "
+                "id from shift) order by id",
+                Words::tr("充值"));
 }
