@@ -166,30 +166,30 @@ void BillLines::tell(const QString& status) {
 }
 
 bool BillLines::CancelBill() {
-  const Permit allowed =
-      leave(sale_.isEmpty() ? std::nullopt : std::optional(Deed{Right::kDelete}));
+  Permit allowed = leave(sale_.isEmpty() ? std::nullopt : std::optional(Deed{Right::kDelete}));
   if (!allowed) return false;
   devices_.receipt.FeedLines(*sale_.bill());
   if (sale_.isEmpty()) {
     screen_.ShowMessage(tr("没有商品，无需删除！"));
-  } else {
-    voidBill();
+  } else if (voidBill()) {
+    allowed.reset();  // the next bill needs none
+    checkout_.PrepareNextBill();
   }
   return true;
 }
 
-void BillLines::voidBill() {
+bool BillLines::voidBill() {
   std::vector<StockOutcome> refusals;
   const bool cancelled = guarded([&] {
     refusals = books_.cancel(*sale_.bill(), sale_.line());
     return true;
   });
-  if (!cancelled) return;
+  if (!cancelled) return false;
   sale_.setStatus({});
   sale_.clear();
   screen_.show(sale_.picture());
   checkout_.tell(refusals);
-  checkout_.PrepareNextBill();
+  return true;
 }
 
 // The row that goes is the current line's, also when the entry row below it is the selected one.

@@ -32,7 +32,7 @@ class BillLines : private SalePart {
   bool ring(std::shared_ptr<ClsSellItem> line);
   void change(ClsSellItem changed, const QString& typed, const QString& refused);
   void dropWhileEditing(const QString& code);
-  void voidBill();
+  [[nodiscard]] bool voidBill();
   void notFound(const QString& code);
   void changeQuantity(const QString& typed);
   void changeDiscount(const QString& typed);

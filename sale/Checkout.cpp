@@ -43,6 +43,7 @@ void Checkout::SettleBill() {
   } else {
     dropUnstored();
   }
+  favour.reset();  // the next bill needs none
   PrepareNextBill();
 }
 
