@@ -207,38 +207,6 @@ void DemoDay::handOver(TillDriver& till) {
   till.key("Esc");
 }
 
-// The shift that was opened in the morning, on another run of the till.
-void DemoDay::closeShift(TillDriver& till) {
-  shot(till, "shift");
-  till.tabTo("cmdOut");
-  till.key("Space");
-  till.waitFor("dlgCash");
-  till.enter("150");
-  till.type("付送水费");
-  shot(till, "cash-taken-out");
-  till.key("Return");
-  till.waitFor("frmShift");
-  till.tabTo("cmdRead");
-  till.key("Space");
-  till.waitFor("dlgShiftSheet");
-  till.key("Return");
-  till.waitFor("frmShift");
-  till.tabTo("cmdClose");
-  till.key("Space");
-  till.waitFor("dlgCashCount");
-  for (const char* pieces : {"3", "1", "2", "1", "1", "3", ""}) till.enter(pieces);
-  till.type("4");
-  shot(till, "drawer-counted-blind");
-  till.key("Return");
-  till.key("Return");
-  till.waitFor("dlgShiftSheet");
-  shot(till, "shift-sheet");
-  till.key("Return");
-  till.waitFor("frmShift");
-  shot(till, "shift-closed");
-  till.key("Esc");
-}
-
 // Nothing of it is in the day's books.
 void DemoDay::practise(TillDriver& till) {
   till.enter(goods_.plain);
