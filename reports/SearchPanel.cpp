@@ -165,10 +165,10 @@ void SearchPanel::lookFor(const LastBill& bill) {
   numberSerch->setText(QString::number(bill.number));
 }
 
-void SearchPanel::showWork(const QString& what, int done, int all) {
+void SearchPanel::showWork(const QString& what, std::size_t done, std::size_t all) {
   lblState->setText(what);
-  prgState->setRange(0, all);
-  prgState->setValue(done);
+  prgState->setRange(0, static_cast<int>(all));
+  prgState->setValue(static_cast<int>(done));
   prgState->show();
 }
 

@@ -36,7 +36,7 @@ class SearchPanel : public QFrame {
   void lookFor(const LastBill& bill);
 
   /// Tells that something goes on; `all` 0: nobody knows how much there is to do.
-  void showWork(const QString& what, int done, int all);
+  void showWork(const QString& what, std::size_t done, std::size_t all);
   void showIdle(const QString& what);
 
   DateField* DtBegin;

@@ -32,10 +32,8 @@
 
 namespace {
 
-// In twips.
-constexpr int kWidth = 14235;
-constexpr int kHeight = 7755;
-constexpr int kEdge = 100;
+constexpr int kWidth = 14235, kHeight = 7755;  // in twips
+constexpr int kEdge = 100;                     // in twips
 
 constexpr int kAround = 24;    // pixels left free around the form, which else fills the screen
 constexpr int kBlankKey = 32;  // virtual-key code
@@ -241,9 +239,8 @@ void frmSearch::reprintWanted() {
 
 void frmSearch::printReceipt() {
   const ResultList& list = *ListView1_->list();
-  const bool bySlip = takesSlips() && list.lineCount() > 0;
-  const std::string number =
-      bySlip ? list.text(0, kColumnBill) : Frame5_->numberSerch->text().toStdString();
+  std::string number = Frame5_->numberSerch->text().toStdString();
+  if (takesSlips() && list.lineCount() > 0) number = list.text(0, kColumnBill);
   if (!noted(pos_, this, EntryKind::kReprinted, qtText(number))) return;
   print(reprintPage(list, number, pos_.gSysParam, pos_.clock()));
 }
@@ -287,11 +284,8 @@ void frmSearch::exportTo(const std::filesystem::path& file) {
   above.insert(above.begin(), kExportTitle);
   for (const TenderSum& tender : ListView1_->list()->tenders()) above.push_back(tender.printed());
   const std::shared_ptr<const ResultList> list = ListView1_->list();
-  const int all = static_cast<int>(list->rowCount());
   const QString state = tr("正在导出…按 %1 停止").arg(escKey());
-  const auto show = [&](std::size_t rows) {
-    Frame5_->showWork(state, static_cast<int>(rows), all);
-  };
+  const auto show = [&](std::size_t rows) { Frame5_->showWork(state, rows, list->rowCount()); };
   show(0);
   try {
     makeExportFolder(file.parent_path());

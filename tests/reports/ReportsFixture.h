@@ -1,7 +1,30 @@
 #pragma once
 
+#include <QTableView>
+
+#include "Hands.h"
 #include "ShopFixture.h"
 #include "store/Transaction.h"
+
+/// The rows of a list: each cell with a blank behind it, each row with a line.
+inline std::string rowsOf(QWidget& window, const char* list, std::initializer_list<int> columns) {
+  const QAbstractItemModel& model = *window.findChild<QTableView*>(list)->model();
+  QString all;
+  for (int row = 0; row < model.rowCount(); ++row) {
+    for (const int column : columns) all += model.index(row, column).data().toString() + " ";
+    all += "|";
+  }
+  return all.toStdString();
+}
+
+/// Presses keys until that control has the focus, and types there.
+inline void typeAt(QWidget& window, const char* control, const QString& keys) {
+  for (int i = 0; i < 30 && window.focusWidget()->objectName() != control; ++i)
+    Hands::pressNow(Qt::Key_Tab);
+  EXPECT_EQ(window.focusWidget()->objectName(), control);
+  if (auto* field = qobject_cast<QLineEdit*>(window.focusWidget())) field->selectAll();
+  Hands::typeNow(keys);
+}
 
 /// The shop at noon, with two categories and three goods.
 class ReportsFixture : public ShopFixture {
