@@ -26,6 +26,7 @@ class DiskFaultTest : public FaultyTill {
   void openNewBooks() {
     pos.gConn->runScript(
         "delete from sell; delete from sellProducts; update stock set quantity = 1000000;"
+        "drop trigger if exists fact_deleted; delete from fact;"
         "update member set card = 900000, total_spent = 0, points = 0");
     pos.journal().begin();
     settledBills.clear();
