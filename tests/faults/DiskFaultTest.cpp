@@ -5,7 +5,6 @@
 #include "FaultyTill.h"
 #include "LongRun.h"
 #include "base/NumberText.h"
-#include "saleslib/Journal.h"
 #include "store/StoreError.h"
 
 constexpr std::pair<const char*, Disk::Fault> kFaults[] = {{"full", Disk::Fault::kFull},
@@ -26,9 +25,7 @@ class DiskFaultTest : public FaultyTill {
   void openNewBooks() {
     pos.gConn->runScript(
         "delete from sell; delete from sellProducts; update stock set quantity = 1000000;"
-        "drop trigger if exists fact_deleted; delete from fact;"
         "update member set card = 900000, total_spent = 0, points = 0");
-    pos.journal().begin();
     settledBills.clear();
     chargedInVain = {};
     open();

@@ -13,13 +13,12 @@ struct WithDisk {
 /// A till on a disk of the test, and the ways to settle a bill.
 class FaultyTill : public WithDisk, public TillFixture {
  protected:
-  /// The books of this shop are examined, so that its goods are in order and its journal is kept.
+  /// The books of this shop are examined, so that its goods are in order.
   FaultyTill() {
     setParameter("PointUnit", "1");
     pos.gConn->runScript(
         "delete from tmda where xsdj = 'x'; insert into stock values ('2001', 40);"
         "insert into spda (f_spbm) select distinct spbm from tmda");
-    setParameter("Journal", "1");
   }
 
   /// Rings two goods, one of them three times, for 7 yuan, and settles; `asked` is called before

@@ -23,6 +23,7 @@ struct Settled {
 class PowerCutTest : public FaultyTill {
  protected:
   PowerCutTest() {
+    setParameter("Journal", "1");
     ports.isReal = true;
     pos.gPosSet.PPort = "LPT1";
     pos.gPosSet.MBPort = "LPT2";
