@@ -24,7 +24,7 @@ class FaultyTill : public WithDisk, public TillFixture {
   /// Rings two goods, one of them three times, for 7 yuan, and settles; `asked` is called before
   /// the cashier confirms the payment. The member comes at the prices that were rung already.
   void sell(
-      Tender tender, bool member, std::function<void()> asked = [] {}) {
+      Tender tender, bool member, const std::function<void()>& asked = [] {}) {
     enter(kWater);
     enter("QB-01");
     press(kUp);
