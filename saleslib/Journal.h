@@ -52,6 +52,7 @@ class TESSALY_API Journal {
     std::string time, kind, hash;
   };
   std::optional<Last> last() const;
+  std::int64_t till() const;
   void append(EntryKind kind, const std::string& touches, nlohmann::json body) const;
   void write(const std::optional<Last>& before, EntryKind kind, const std::string& time,
              const std::string& touches, nlohmann::json body) const;
