@@ -103,6 +103,18 @@ std::optional<ServerAnswer> ServerLine::openFault(Moment deadline) {
 ServerAnswer ServerLine::ask(const char* statement, const ServerAnswer::Row& values,
                              Milliseconds patience) {
   if (auto failed = openFault(steady_clock::now() + patience)) return *failed;
+  return askOpen(statement, values, steady_clock::now() + patience);
+}
+
+ServerAnswer ServerLine::askWithin(Milliseconds patience, const char* statement,
+                                   const ServerAnswer::Row& values) {
+  const Moment deadline = steady_clock::now() + patience;
+  if (auto failed = openFault(deadline)) return *failed;
+  return askOpen(statement, values, deadline);
+}
+
+ServerAnswer ServerLine::askOpen(const char* statement, const ServerAnswer::Row& values,
+                                 Moment deadline) {
   std::vector<const char*> texts;
   texts.reserve(values.size());
   for (const auto& value : values) texts.push_back(value ? value->c_str() : nullptr);
@@ -110,7 +122,7 @@ ServerAnswer ServerLine::ask(const char* statement, const ServerAnswer::Row& val
   if (PQsendQueryParams(line_.get(), statement, static_cast<int>(texts.size()), nullptr,
                         texts.data(), nullptr, nullptr, 0) == 0)
     return unknown(fault());
-  return answer(steady_clock::now() + patience);
+  return answer(deadline);
 }
 
 ServerAnswer ServerLine::run(const std::string& script, Milliseconds patience) {

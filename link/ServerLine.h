@@ -44,6 +44,9 @@ class ServerLine {
   /// answer, and before that as long for the line if it is not open.
   ServerAnswer ask(const char* statement, const ServerAnswer::Row& values = {},
                    Milliseconds patience = kPatience);
+  /// The same, with line and answer within the one patience.
+  ServerAnswer askWithin(Milliseconds patience, const char* statement,
+                         const ServerAnswer::Row& values);
   /// Runs several statements in one transaction, without an answer's rows.
   ServerAnswer run(const std::string& script, Milliseconds patience);
   void close();
@@ -59,6 +62,7 @@ class ServerLine {
   };
 
   std::optional<ServerAnswer> openFault(Moment deadline);
+  ServerAnswer askOpen(const char* statement, const ServerAnswer::Row& values, Moment deadline);
   ServerAnswer unknown(const std::string& why);
   ServerAnswer answer(Moment deadline);
   bool receive(Moment deadline);
