@@ -5,11 +5,11 @@
 
 #include "base/Failure.h"
 #include "base/Words.h"
-#include "link/AuthorityFile.h"
 #include "saleslib/ShopLink.h"
 #include "store/Connection.h"
 #include "store/DataFile.h"
 #include "store/StoreError.h"
+#include "sync/TillLine.h"
 
 namespace {
 
@@ -23,27 +23,14 @@ constexpr auto kWithoutTill = 1min;
 constexpr auto kBetweenNotes = 1s;
 constexpr int kFailuresToOpenAnew = 10;  // the till may have joined anew, under another password
 
-LineParameters parametersOf(const ShopLink& link, const AuthorityFile& authority) {
-  return tillParameters({.host = link.host,
-                         .port = link.port,
-                         .database = link.database,
-                         .user = "till_" + std::to_string(link.till),
-                         .password = link.password},
-                        authority.path());
-}
-
 }  // namespace
 
 struct SyncRun::Session {
   Session(std::unique_ptr<Connection> opened, const ShopLink& link)
-      : connection(std::move(opened)),
-        authority(link.authority),
-        line(parametersOf(link, authority)),
-        upload(*connection, line) {}
+      : connection(std::move(opened)), server(link), upload(*connection, server.line()) {}
 
   std::unique_ptr<Connection> connection;
-  AuthorityFile authority;
-  ServerLine line;
+  TillLine server;
   Upload upload;
 };
 
