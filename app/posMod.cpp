@@ -17,6 +17,7 @@
 #include "saleslib/Journal.h"
 #include "saleslib/ReturnBooks.h"
 #include "saleslib/ShiftBooks.h"
+#include "saleslib/ShopLink.h"
 #include "saleslib/TopUpBooks.h"
 #include "store/Connection.h"
 #include "store/DataFile.h"
@@ -24,6 +25,7 @@
 #include "store/DataFileLock.h"
 #include "store/PracticeFile.h"
 #include "store/Transaction.h"
+#include "sync/ShopCards.h"
 
 namespace {
 
@@ -124,6 +126,8 @@ void posMod::start() {
   gPosSet.LoadSet(configIni);
   if (gPosSet.VMouse == 0) ShowMouse(false);
   startBackups();
+  if (const std::optional<ShopLink> link = shopLink(*gConn))
+    cards = std::make_unique<ShopCards>(*link, gConn->source().path, clock);
 }
 
 // The medium is not looked at here: one that hangs must not hold the window.
@@ -134,7 +138,7 @@ void posMod::startBackups() {
 }
 
 BillBooks posMod::billBooks() const {
-  return {*gConn, gSysParam, clock, gOperator};
+  return {*gConn, gSysParam, clock, gOperator, cards.get()};
 }
 
 ReturnBooks posMod::returnBooks() const {

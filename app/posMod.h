@@ -19,6 +19,7 @@
 
 class BackupKeeper;
 class BillBooks;
+class CardAuthority;
 class Connection;
 class DataFileLock;
 class Journal;
@@ -56,6 +57,7 @@ class posMod {
   LoginBrake loginBrake;
   std::unique_ptr<const Ports> ports;     ///< never none
   std::unique_ptr<BackupKeeper> backups;  ///< the dated ones; none until start, and unless wanted
+  std::unique_ptr<CardAuthority> cards;   ///< of a till of a shop with a server; none until start
 
   /// Takes the till's lock on the data file and opens it: Path of section Database as
   /// DataSource::parse reads it (a relative one starts at the shop's folder), else

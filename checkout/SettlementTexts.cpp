@@ -69,6 +69,8 @@ QString cardRefusal(const CardResult& result) {
       return Texts::tr("储值卡密码错误,请重输");
     case CardOutcome::kTooLittle:
       return Texts::tr("储值卡余额不够,请先充值");
+    case CardOutcome::kNoAnswer:
+      return Texts::tr("储值卡没有回应，请改用其它方式付款");
     case CardOutcome::kDone:
       break;
   }

@@ -224,6 +224,8 @@ void frmEndSell::payByCard() {
       return focusWhole(cardNumber_);
     case CardOutcome::kWrongPassword:
       return focusWhole(password_);
+    case CardOutcome::kNoAnswer:
+      return focusWhole(cash_);
     case CardOutcome::kTooLittle:
       return;
   }

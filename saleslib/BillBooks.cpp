@@ -7,6 +7,7 @@
 #include "base/Words.h"
 #include "saleslib/BillNotes.h"
 #include "saleslib/CardNumber.h"
+#include "saleslib/CardPayment.h"
 #include "saleslib/ClsDayStat.h"
 #include "saleslib/ClsMemberSvc.h"
 #include "saleslib/ClsSysParam.h"
@@ -28,11 +29,12 @@ void save(ClsSell& bill) {
 }  // namespace
 
 BillBooks::BillBooks(Connection& connection, const ClsSysParam& rules, Clock clock,
-                     std::shared_ptr<const ClsOperator> cashier)
+                     std::shared_ptr<const ClsOperator> cashier, CardAuthority* cards)
     : connection_(connection),
       rules_(rules),
       clock_(std::move(clock)),
-      cashier_(std::move(cashier)) {
+      cashier_(std::move(cashier)),
+      cards_(cards) {
   ensure(cashier_ != nullptr, "somebody is logged in who keeps the books");
 }
 
@@ -194,12 +196,7 @@ CardResult BillBooks::payByCard(ClsSell& bill, const std::string& password) {
   ensure(bill.CardPay() == roundedToFen(bill.Amount()), "a card pays all that is due");
   ensure(!bill.Paid(), "a bill is paid once");
   if (!hasShift()) throw StoreError(Words::tr(kNoShift));
-  Transaction paying(connection_);
-  CardResult result = chargeCard(connection_, bill.CardNo(), password, bill.CardPay());
-  if (result.outcome != CardOutcome::kDone) return result;
-  if (!bill.SavePaid()) throw StoreError(bill.ErrText());
-  BillNotes(connection_).charged(bill);
-  paying.commit();
+  CardResult result = CardPayment(connection_, rules_, cards_).pay(bill, password);
   ensure(!connection_.inTransaction(), "a payment is durable before it is shown");
   return result;
 }
@@ -236,6 +233,7 @@ Credit BillBooks::creditMember(const ClsSell& bill) {
 }
 
 std::vector<BillBooks::PaidBill> BillBooks::completePaid() {
+  CardPayment(connection_, rules_, cards_).giveUpUnpaid();
   ClsDayStat bills;
   bills.PaidQuery(connection_);
   std::vector<PaidBill> paid;

@@ -17,6 +17,7 @@
 #include "saleslib/JournalKinds.h"
 #include "saleslib/StoredCard.h"
 
+class CardAuthority;
 class ClsDayStat;
 class ClsSysParam;
 class Connection;
@@ -28,9 +29,10 @@ class Connection;
 /// stock is an outcome, a broken store throws StoreError.
 class TESSALY_API BillBooks {
  public:
-  /// Connection and rules outlive the books. There is a cashier (ensure).
+  /// Connection, rules and whoever decides about cards outlive the books; without one the data file
+  /// decides. There is a cashier (ensure).
   BillBooks(Connection& connection, const ClsSysParam& rules, Clock clock,
-            std::shared_ptr<const ClsOperator> cashier);
+            std::shared_ptr<const ClsOperator> cashier, CardAuthority* cards = nullptr);
 
   const ClsOperator& cashier() const { return *cashier_; }
   const ClsSysParam& rules() const { return rules_; }
@@ -81,8 +83,8 @@ class TESSALY_API BillBooks {
   /// is not marked, for people.
   [[nodiscard]] std::string markPaid(ClsSell& bill);
   /// The same by the card that the bill names (CardNo), which pays all that is due, in fen
-  /// (CardPay; ensure): the card is charged together with the mark. Nothing is written unless it is
-  /// done.
+  /// (CardPay; ensure): the card is charged together with the mark. Nothing is paid unless it is
+  /// done (saleslib/CardPayment.h).
   [[nodiscard]] CardResult payByCard(ClsSell& bill, const std::string& password);
   /// Stores a paid bill (ensure) as settled, and credits its member with purchase and points. False
   /// when the store failed: nothing was written, and the bill is as paid as it was. A member that
@@ -96,6 +98,7 @@ class TESSALY_API BillBooks {
   };
   /// Settles the bills, of all operators, whose payment was taken by an earlier run of the program
   /// that ended before it stored them. One that cannot be settled now waits for the next time.
+  /// Charges of cards that it asked for and did not take are given up.
   std::vector<PaidBill> completePaid();
 
   // What was sold
@@ -127,4 +130,5 @@ class TESSALY_API BillBooks {
   const ClsSysParam& rules_;
   Clock clock_;
   std::shared_ptr<const ClsOperator> cashier_;
+  CardAuthority* cards_;
 };

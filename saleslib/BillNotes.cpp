@@ -73,9 +73,19 @@ void BillNotes::left(EntryKind kind, const ClsSell& bill, const ClsSellItem* lin
   });
 }
 
-void BillNotes::charged(const ClsSell& bill) const {
+void BillNotes::charged(const ClsSell& bill, const std::string& key) const {
   journal_.note(EntryKind::kCardCharged, bill.BillNo(), [&] {
-    return Json{{"card", {{"number", bill.CardNo()}, {"by", generalNumber(-bill.CardPay())}}}};
+    Json card = {{"number", bill.CardNo()}, {"by", generalNumber(-bill.CardPay())}};
+    if (!key.empty()) card["key"] = key;
+    return Json{{"card", std::move(card)}};
+  });
+}
+
+void BillNotes::chargeVoided(const CardAuthority::Charge& charge) const {
+  journal_.note(EntryKind::kChargeVoided, charge.bill, [&] {
+    return Json{
+        {"charge",
+         {{"key", charge.key}, {"number", charge.card}, {"amount", generalNumber(charge.amount)}}}};
   });
 }
 

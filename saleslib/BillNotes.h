@@ -1,8 +1,10 @@
 #pragma once
 
+#include <string>
 #include <vector>
 
 #include "base/Currency.h"
+#include "saleslib/CardAuthority.h"
 #include "saleslib/Journal.h"
 #include "saleslib/StoredCard.h"
 
@@ -23,7 +25,10 @@ class BillNotes {
   void deleted(const ClsSellItem& line) const;
   /// Of a bill that is left with these lines and `line`, if there is one, which is not yet in it.
   void left(EntryKind kind, const ClsSell& bill, const ClsSellItem* line = nullptr) const;
-  void charged(const ClsSell& bill) const;
+  /// With the key that the shop's server knows the charge by, if there is a server.
+  void charged(const ClsSell& bill, const std::string& key = {}) const;
+  /// Of a charge that was asked for and given up.
+  void chargeVoided(const CardAuthority::Charge& charge) const;
   /// What the bill's row and lines are by now, and what its member was credited.
   void settled(EntryKind kind, const ClsSell& bill, const Credit& credit) const;
 

@@ -106,6 +106,13 @@ constexpr std::array kDefinitions = {
         Words::mark(
             "记日志：每笔业务一条，只增不改，check 拿账目和它核对；打开时收银程序先退出：0 否，1 "
             "是")},
+    Definition{"OfflineCard", &kSwitch, "0",
+               Words::mark("连着服务器的店，服务器没有回应时储值卡付款：0 不收，1 收到 "
+                           "OfflineCardLimit 为止")},
+    Definition{
+        "OfflineCardLimit", &kWhole, "0",
+        Words::mark("服务器没有回应时，一张卡在一台收银机上最多收多少元；同一张卡最多可能损失 "
+                    "收银机台数 × 这个数")},
 };
 
 const Definition* find(std::string_view name) {
@@ -267,6 +274,9 @@ bool ClsSysParam::Shifts() const {
 }
 bool ClsSysParam::KeepsJournal() const {
   return isOn("Journal");
+}
+Currency ClsSysParam::OfflineCardLimit() const {
+  return isOn("OfflineCard") ? Currency::fromYuan(whole("OfflineCardLimit")) : Currency();
 }
 bool ClsSysParam::Takes(const TenderKind& kind) const {
   return kind.parameter == nullptr || isOn(kind.parameter);

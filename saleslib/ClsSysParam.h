@@ -43,6 +43,9 @@ class TESSALY_API ClsSysParam {
   bool OwnerReport() const;        ///< the owner's report in the till's further menu; off
   bool Shifts() const;             ///< nothing is sold outside a shift (saleslib/ShiftBooks.h); off
   bool KeepsJournal() const;       ///< what is done is noted (saleslib/Journal.h); off
+  /// What a stored-value card may pay at one till while the shop's server does not answer; 0: it
+  /// may not (OfflineCard is off).
+  Currency OfflineCardLimit() const;
   /// Whether the shop takes that kind of payment: those with a parameter of their own (PhonePay)
   /// are off.
   bool Takes(const TenderKind& kind) const;

@@ -51,6 +51,7 @@ const std::vector<EntryKindName>& entryKinds() {
       {kCashMoved, "cash_moved", Words::mark("钱箱存取")},
       {kShiftCounted, "shift_counted", Words::mark("清点钱箱")},
       {kShiftClosed, "shift_closed", Words::mark("结班")},
+      {kChargeVoided, "charge_voided", Words::mark("撤消储值卡扣款")},
   };
   return kinds;
 }

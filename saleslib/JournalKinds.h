@@ -49,6 +49,7 @@ enum class EntryKind {
   kCashMoved,
   kShiftCounted,
   kShiftClosed,
+  kChargeVoided,
 };
 
 /// A kind as entries have it, and as people call it.

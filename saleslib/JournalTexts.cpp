@@ -73,6 +73,7 @@ void addRecords(Listed& list, const Json& body) {
          {"opened_name", Words::mark("开班人")},
          {"cash_float", Words::mark("备用金")}}}},
       {"card", {{{"number", Words::mark("卡号")}, {"by", Words::mark("余额变动")}, {"", ""}}}},
+      {"charge", {{{"number", Words::mark("卡号")}, {"amount", Words::mark("金额")}, {"", ""}}}},
   };
   for (const auto& [name, columns] : kRecords) {
     if (!body.contains(name)) continue;

@@ -20,14 +20,12 @@ StoredCard cardOf(const Row& row) {
           .isEnabled = row.whole("enabled").value_or(0) != 0};
 }
 
-CardOutcome refusal(Connection& connection, const StoredCard& card, const std::string& password,
-                    Currency due) {
+CardOutcome refusal(Connection& connection, const StoredCard& card, const std::string& password) {
   if (!card.isEnabled) return CardOutcome::kBlocked;
   const bool isTheirs =
       connection.query("select id from member where bh = ? and password = ?", card.number, password)
           .next();
-  if (!isTheirs) return CardOutcome::kWrongPassword;
-  return card.balance < due ? CardOutcome::kTooLittle : CardOutcome::kDone;
+  return isTheirs ? CardOutcome::kDone : CardOutcome::kWrongPassword;
 }
 
 }  // namespace
@@ -45,19 +43,28 @@ CardResult chargeCard(Connection& connection, const std::string& number,
                       const std::string& password, Currency due) {
   ensure(due >= Currency(), "a charge loads no card");
   Transaction charging(connection);
-  const std::optional<StoredCard> found = findStoredCard(connection, {number});
-  if (!found) return {};
-  CardResult result{refusal(connection, *found, password, due), *found};
+  CardResult result = provenCard(connection, number, password);
   if (result.outcome != CardOutcome::kDone) return result;
   const std::int64_t charged =
       connection.run("update member set card = round(card - ?, 4) where bh = ? and card >= ?", due,
-                     found->number, due);
+                     result.card.number, due);
   ensure(charged <= 1, "a card's number is one member's");
-  if (charged == 0) return {CardOutcome::kTooLittle, *found};
+  if (charged == 0) return {CardOutcome::kTooLittle, result.card};
   charging.commit();
   result.card.balance -= due;
   ensure(result.card.balance >= Currency(), "a card is charged what it holds at most");
   return result;
+}
+
+CardResult provenCard(Connection& connection, const std::string& number,
+                      const std::string& password) {
+  const std::optional<StoredCard> found = findStoredCard(connection, {number});
+  if (!found) return {};
+  return {refusal(connection, *found, password), *found};
+}
+
+void followCharge(Connection& connection, const std::string& number, Currency due) {
+  connection.run("update member set card = round(card - ?, 4) where bh = ?", due, number);
 }
 
 Credit creditPurchase(Connection& connection, std::int32_t memberId, Currency amount,

@@ -24,7 +24,14 @@ TESSALY_API std::optional<StoredCard> findStoredCard(Connection& connection,
                                                      const std::vector<std::string>& numbers);
 
 /// What became of a charge or a top-up.
-enum class CardOutcome { kDone, kUnknown, kBlocked, kWrongPassword, kTooLittle };
+enum class CardOutcome {
+  kDone,
+  kUnknown,
+  kBlocked,
+  kWrongPassword,
+  kTooLittle,
+  kNoAnswer,  ///< the shop's server did not say, and the card stays as it was
+};
 /// The card as the operation left it; empty when it is unknown.
 struct CardResult {
   CardOutcome outcome = CardOutcome::kUnknown;
@@ -35,6 +42,14 @@ struct CardResult {
 /// is kDone. Throws StoreError.
 TESSALY_API CardResult chargeCard(Connection& connection, const std::string& number,
                                   const std::string& password, Currency due);
+
+/// Whether the data file knows that card by that password and lets it pay (kDone), whatever it
+/// holds. Throws StoreError.
+TESSALY_API CardResult provenCard(Connection& connection, const std::string& number,
+                                  const std::string& password);
+/// Takes an amount that the shop's server has taken, or will, from what the data file knows of a
+/// card, however little that is. Throws StoreError.
+TESSALY_API void followCharge(Connection& connection, const std::string& number, Currency due);
 
 /// What was added to a member's purchases and points.
 struct Credit {

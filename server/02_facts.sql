@@ -85,6 +85,8 @@ begin
     when 'card_charged', 'top_up_loaded' then
       insert into shop.card_entry values (f.till, f.epoch, f.seq, lower(body->'card'->>'number'),
                                           shop.amount_of(body->'card'->>'by'));
+      perform shop.settle_charge(f, body->'card');
+    when 'charge_voided' then perform shop.void_charge(f, body->'charge');
     when 'books_stated', 'stock_counted' then
       perform shop.apply_stock(f, body);
       perform shop.apply_cards(f, coalesce(body->'members', '[]'));

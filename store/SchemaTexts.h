@@ -6,3 +6,4 @@ extern const char* const kGoodsTables;
 extern const char* const kJournalTable;
 extern const char* const kShiftTables;
 extern const char* const kLinkTable;
+extern const char* const kCardTables;

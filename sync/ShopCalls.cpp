@@ -2,6 +2,7 @@
 
 #include <cstdlib>
 
+#include "base/NumberText.h"
 #include "base/Version.h"
 
 namespace {
@@ -62,4 +63,19 @@ ShopCalls::Epoch ShopCalls::newEpoch(int epoch, const std::vector<Place>& own) {
   begun.epoch = static_cast<int>(numberOf(answer.rows.at(0).at(0)));
   begun.highestBill = numberOf(answer.rows.at(0).at(1));
   return begun;
+}
+
+CardAuthority::Answer ShopCalls::charge(const CardAuthority::Charge& charge,
+                                        Milliseconds patience) {
+  using Answer = CardAuthority::Answer;
+  const ServerAnswer answer =
+      line_.askWithin(patience, "select outcome, balance from api.charge($1, $2, $3, $4)",
+                      {till_, charge.key, charge.card, generalNumber(charge.amount)});
+  if (!answer.isDone()) return {};
+  const std::string outcome = answer.rows.at(0).at(0).value_or("");
+  const std::string balance = answer.rows.at(0).at(1).value_or("");
+  if (outcome == "done") return {Answer::kDone, Currency::parse(balance).value_or(Currency())};
+  if (outcome == "too_little") return {Answer::kTooLittle};
+  if (outcome == "unknown_card") return {Answer::kUnknownCard};
+  return {};
 }

@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "link/ServerLine.h"
+#include "saleslib/CardAuthority.h"
 #include "sync/Facts.h"
 
 /// What a till asks the shop's server, one function of its each (server/).
@@ -38,6 +39,11 @@ class ShopCalls {
   };
   /// The history that the server goes on with: one that has an entry of these, or a new one.
   Epoch newEpoch(int epoch, const std::vector<Place>& own);
+
+  /// Takes the amount from the card, once however often it is asked for. Line and answer have that
+  /// patience together.
+  CardAuthority::Answer charge(const CardAuthority::Charge& charge,
+                               ServerLine::Milliseconds patience);
 
  private:
   static Standing standing(const ServerAnswer& answer);

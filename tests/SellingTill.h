@@ -11,6 +11,7 @@
 #include "base/Failure.h"
 #include "base/NumberText.h"
 #include "saleslib/BillBooks.h"
+#include "saleslib/CardAuthority.h"
 #include "saleslib/ClsSysParam.h"
 #include "saleslib/ReturnBooks.h"
 #include "saleslib/ShopLink.h"
@@ -39,22 +40,17 @@ class SellingTill {
     static_cast<void>(books().completePaid());
     static_cast<void>(books().cancelOpen());
   }
-  /// A bill of one or two lines, by that card or in cash. What the customer is shown: its number
-  /// and what was due, four decimals.
+  /// A bill of two lines, by that card or, without one or when it is refused (see outcome), in
+  /// cash. What the customer is shown: its number and what was due, four decimals.
   std::pair<int, std::string> sell(double quantity, const std::string& card = {}) {
     BillBooks all = books();
     const std::shared_ptr<ClsSell> bill = all.open();
     bill->setMemberId(card.empty() ? 0 : 1);
     ring(all, *bill, "A", "4.05", 1);
     ring(all, *bill, "B", "1.333", quantity);
-    if (card.empty()) {
-      bill->setCash(Currency::fromYuan(1000));
+    if (card.empty() || !isPaidBy(card, all, *bill)) {
+      bill->setCash(bill->Amount());
       ensure(all.markPaid(*bill).empty(), "a bill can be paid in cash");
-    } else {
-      bill->setCardNo(card);
-      bill->setAmount(roundedToFen(bill->Amount()));
-      bill->setCardPay(bill->Amount());
-      ensure(all.payByCard(*bill, "1111").outcome == CardOutcome::kDone, "the card holds enough");
     }
     ensure(all.settle(*bill), "a paid bill is stored");
     return {bill->BillNo(), generalNumber(bill->Amount())};
@@ -88,7 +84,13 @@ class SellingTill {
     return rows.next() ? rows.text("card") : "(no card)";
   }
 
+  void set(const char* parameter, const char* value) {
+    ensure(rules_.set(parameter, value).empty(), "a parameter has values of its kind");
+  }
+
   std::unique_ptr<Connection> shop;
+  CardAuthority* cards = nullptr;            ///< none: the file decides about cards
+  CardOutcome outcome = CardOutcome::kDone;  ///< of the card that was tried last
 
  private:
   static void fill(Connection& connection) {
@@ -102,7 +104,16 @@ class SellingTill {
     )");
     filling.commit();
   }
-  BillBooks books() { return {*shop, rules_, localTime, cashier_}; }
+  BillBooks books() { return {*shop, rules_, localTime, cashier_, cards}; }
+  bool isPaidBy(const std::string& card, BillBooks& all, ClsSell& bill) {
+    bill.setAmount(roundedToFen(bill.Amount()));
+    ClsSell paid = bill;
+    paid.setCardNo(card);
+    paid.setCardPay(bill.Amount());
+    outcome = all.payByCard(paid, "1111").outcome;
+    if (outcome == CardOutcome::kDone) bill = paid;
+    return outcome == CardOutcome::kDone;
+  }
   void ring(BillBooks& all, ClsSell& bill, const char* item, const char* price, double quantity) {
     auto line = std::make_shared<ClsSellItem>();
     line->Init(*shop, bill.BillNo(), 0, localTime);

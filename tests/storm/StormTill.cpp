@@ -9,6 +9,7 @@
 #include <thread>
 
 #include "SellingTill.h"
+#include "sync/ShopCards.h"
 
 namespace {
 
@@ -20,6 +21,8 @@ void playStormTill(const std::string& file, const std::string& shown, unsigned s
   const int paper = open(shown.c_str(), O_WRONLY | O_APPEND | O_CREAT | O_CLOEXEC, 0600);
   std::mt19937 random(seed);
   SellingTill till(file);
+  ShopCards cards(shopLink(*till.shop).value(), file, localTime);
+  till.cards = &cards;
   till.begin();
   int last = 0;
   for (;;) {
