@@ -53,6 +53,8 @@ QString Returns::open(std::int32_t billNo) {
       return tr("没有找到“%1”单据！").arg(billNo);
     case ReturnBooks::Found::kOpen:
       return tr("单据“%1”还没有结账，不能退货！").arg(billNo);
+    case ReturnBooks::Found::kElsewhere:
+      return tr("单据“%1”是 %2 号收银机的，请到那台收银机上退货！").arg(billNo).arg(found.till);
     case ReturnBooks::Found::kDamaged:
       return qtText(found.damage);
     case ReturnBooks::Found::kSettled:

@@ -32,6 +32,8 @@ class TESSALY_API CardAuthority {
   CardAuthority& operator=(const CardAuthority&) = delete;
   virtual ~CardAuthority() = default;
 
+  /// The server is known to be away: a question would be answered by nobody.
+  virtual bool isAway() const = 0;
   /// Takes the amount from the card, once however often it is asked for under that key. Waits two
   /// seconds at most. Throws nothing for a server that is away.
   virtual Answer charge(const Charge& charge) = 0;

@@ -53,7 +53,10 @@ CardResult CardPayment::payHere(ClsSell& bill, const std::string& password) {
 }
 
 CardResult CardPayment::payAtShop(ClsSell& bill, const StoredCard& card) {
-  const Charge charge = ask(bill);
+  const Charge charge{newKey(), bill.BillNo(), bill.CardNo(), bill.CardPay()};
+  ensure(charge.amount >= Currency(), "a charge loads no card");
+  if (shop_->isAway() && !mayGoUnanswered(charge, card)) return {CardOutcome::kNoAnswer, card};
+  prepare(charge);
   ensure(!connection_.inTransaction(), "a question is durable before it goes out");
   try {
     return follow(bill, charge, shop_->charge(charge), card);
@@ -93,14 +96,11 @@ CardResult CardPayment::follow(ClsSell& bill, const Charge& charge, const Answer
   return result;
 }
 
-Charge CardPayment::ask(const ClsSell& bill) {
-  Charge charge{newKey(), bill.BillNo(), bill.CardNo(), bill.CardPay()};
-  ensure(charge.amount >= Currency(), "a charge loads no card");
-  Transaction asking(connection_);
+void CardPayment::prepare(const Charge& charge) {
+  Transaction preparing(connection_);
   connection_.run("insert into card_pending (key, sell_id, card_no, amount) values (?, ?, ?, ?)",
                   charge.key, charge.bill, charge.card, charge.amount);
-  asking.commit();
-  return charge;
+  preparing.commit();
 }
 
 void CardPayment::take(ClsSell& bill, const Charge& charge, bool isAnswered) {

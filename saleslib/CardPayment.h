@@ -30,7 +30,7 @@ class CardPayment {
   CardResult payAtShop(ClsSell& bill, const StoredCard& card);
   CardResult follow(ClsSell& bill, const CardAuthority::Charge& charge,
                     const CardAuthority::Answer& answer, const StoredCard& card);
-  CardAuthority::Charge ask(const ClsSell& bill);
+  void prepare(const CardAuthority::Charge& charge);
   void take(ClsSell& bill, const CardAuthority::Charge& charge, bool isAnswered);
   bool mayGoUnanswered(const CardAuthority::Charge& charge, const StoredCard& card);
   void refuse(const CardAuthority::Charge& charge);

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <nlohmann/json.hpp>
+#include <optional>
 #include <utility>
 
 #include "base/Failure.h"
@@ -9,6 +10,7 @@
 #include "saleslib/ClsStock.h"
 #include "saleslib/Journal.h"
 #include "saleslib/JournalRecords.h"
+#include "saleslib/ShopLink.h"
 #include "saleslib/StoredCard.h"
 #include "store/Connection.h"
 #include "store/StoreError.h"
@@ -46,7 +48,7 @@ ReturnBooks::ReturnBooks(Connection& connection, Clock clock,
 ReturnBooks::Found ReturnBooks::find(std::int32_t billNo) const {
   ensure(billNo > 0, "number 0 would start a new bill");
   auto bill = std::make_shared<ClsSell>();
-  if (!bill->Open(connection_, billNo, 0)) return {};
+  if (!bill->Open(connection_, billNo, 0)) return missing(billNo);
   if (bill->State() != kSettled) return {Found::kOpen};
   try {
     bill->LoadLines();
@@ -54,6 +56,14 @@ ReturnBooks::Found ReturnBooks::find(std::int32_t billNo) const {
     return {Found::kDamaged, nullptr, damaged.what()};
   }
   return {Found::kSettled, std::move(bill)};
+}
+
+// What a line still holds is known to the till that sold it.
+ReturnBooks::Found ReturnBooks::missing(std::int32_t billNo) const {
+  const std::optional<ShopLink> link = shopLink(connection_);
+  const auto till = static_cast<int>(billNo / kNumbersPerTill);
+  if (!link || till == 0 || till == link->till) return {};
+  return {.kind = Found::kElsewhere, .till = till};
 }
 
 ClsOperator ReturnBooks::cashierOf(const ClsSell& bill) const {

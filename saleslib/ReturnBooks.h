@@ -23,10 +23,11 @@ class TESSALY_API ReturnBooks {
   ReturnBooks(Connection& connection, Clock clock, std::shared_ptr<const ClsOperator> taker);
 
   struct Found {
-    enum Kind { kSettled, kOpen, kUnknown, kDamaged };
+    enum Kind { kSettled, kOpen, kUnknown, kDamaged, kElsewhere };
     Kind kind = kUnknown;
     std::shared_ptr<ClsSell> bill = {};  ///< a settled one, with its lines; else none
     std::string damage = {};             ///< for people
+    int till = 0;                        ///< of a bill that is another till's (kElsewhere)
   };
   /// The stored bill of that number, which is more than 0 (ensure).
   [[nodiscard]] Found find(std::int32_t billNo) const;
@@ -50,6 +51,7 @@ class TESSALY_API ReturnBooks {
                                  Currency refund);
 
  private:
+  Found missing(std::int32_t billNo) const;
   ClsUnSell record(const ClsSell& bill, const ClsSellItem& line, double quantity, Currency refund);
 
   Connection& connection_;

@@ -26,14 +26,14 @@ std::chrono::seconds between(const DateTime& from, const DateTime& to) {
 ShopCards::ShopCards(const ShopLink& link, std::filesystem::path dataFile, Clock clock)
     : till_(link.till), dataFile_(std::move(dataFile)), clock_(std::move(clock)), server_(link) {}
 
-bool ShopCards::isSilent() const {
+bool ShopCards::isAway() const {
   const std::optional<SyncState> state = readSyncState(dataFile_);
   return state && between(state->contact, clock_()) > kSilence;
 }
 
 CardAuthority::Answer ShopCards::charge(const Charge& charge) {
   Answer answer;
-  if (isSilent()) return answer;
+  if (isAway()) return answer;
   const auto deadline = steady_clock::now() + kPatience;
   for (int attempt = 0; attempt < kAttempts && answer.kind == Answer::kNone; ++attempt) {
     const auto left = duration_cast<ServerLine::Milliseconds>(deadline - steady_clock::now());

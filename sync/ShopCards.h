@@ -13,17 +13,16 @@ class ShopCards : public CardAuthority {
  public:
   /// A cashier waits so long and no longer.
   static constexpr std::chrono::seconds kPatience{2};
-  /// A server that tillsync has had no answer of for so long is not asked at all.
+  /// A server that tillsync has had no answer of for so long is away.
   static constexpr std::chrono::seconds kSilence{5};
 
   /// `dataFile` is where tillsync says beside which data file when the server last answered.
   ShopCards(const ShopLink& link, std::filesystem::path dataFile, Clock clock);
 
+  bool isAway() const override;
   Answer charge(const Charge& charge) override;
 
  private:
-  bool isSilent() const;
-
   int till_;
   std::filesystem::path dataFile_;
   Clock clock_;

@@ -27,6 +27,10 @@ TEST_F(ReturnsTest, OnlyASettledBillOfThatNumberLoads) {
     EXPECT_EQ(returns.bill() == nullptr, QString(refusal).contains("“"));
   }
   EXPECT_EQ(stored("count(*) as v from sell"), "2") << "number 0 opened no bill";
+  EXPECT_EQ(load("30000001"), "没有找到“30000001”单据！");
+  pos.gConn->runScript("insert into link values (1, 2, 1, '', 0, '', '', '')");
+  EXPECT_EQ(load("30000001"), "单据“30000001”是 3 号收银机的，请到那台收银机上退货！");
+  EXPECT_EQ(load("20000001"), "没有找到“20000001”单据！");
   pos.gConn->runScript("update sellProducts set amount = 9 where sellId = 1");
   EXPECT_EQ(load("1"), "单据 1 的商品明细与合计不符，数据文件可能已损坏，请与管理员联系！")
       << "a damaged bill is not returned against";

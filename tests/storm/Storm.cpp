@@ -122,7 +122,7 @@ void Storm::clearAndCompare() {
   proxy_.set(Proxy::Weather::kFair);
   for (Till& till : tills_) {
     till.program->kill();
-    SellingTill(till.file).begin();
+    beginStormTill(till.file);
   }
   for (const Till& till : tills_) drain(till);
   for (const Till& till : tills_) compare(till);
@@ -183,6 +183,14 @@ void Storm::compareSums() {
   same(balances[0], "select balance from shop.card_balance where number = '8001'");
   same(balances[1], "select balance from shop.card_balance where number = '8002'");
   same(0, "select count(*) from shop.fault");
+  same(0, "select count(*) from shop.charge where state = 'open'");
+  same(number(server_.value("select sum(card_pay) from shop.sale")),
+       "select sum(amount) from shop.charge where state = 'settled'");
+  charges_ = server_.value(
+      "select count(*) filter (where state = 'settled') || ' settled, ' || count(*) filter (where"
+      " state = 'voided' and asked is not null) || ' taken back, ' || count(*) filter (where state "
+      "="
+      " 'voided' and asked is null) || ' given up before they came' from shop.charge");
   ServerLine owner(server_.owner());
   const ShopServer::Checked checked = ShopServer(owner).check(false);
   if (!checked.faults.empty()) fail(checked.faults.front());
@@ -191,6 +199,8 @@ void Storm::compareSums() {
 void Storm::print() const {
   std::string faults;
   for (const auto& [name, count] : faults_) faults += ", " + name + " " + std::to_string(count);
-  std::printf("%zu tills%s; %zu bills shown; lost: 0, doubled: 0, stock and cards wrong: 0\n",
-              tills_.size(), faults.c_str(), bills_);
+  std::printf(
+      "%zu tills%s; %zu bills shown; charges of cards: %s; lost: 0, doubled: 0, stock and cards "
+      "wrong: 0\n",
+      tills_.size(), faults.c_str(), bills_, charges_.c_str());
 }

@@ -48,4 +48,5 @@ class Storm {
   std::vector<Till> tills_;
   std::map<std::string, int> faults_;
   std::size_t bills_ = 0;
+  std::string charges_;
 };

@@ -15,15 +15,28 @@ namespace {
 
 const char* const kCards[] = {"8001", "8002"};
 
+/// A till that has begun its day, whose cards the server decides about.
+struct LiveTill {
+  explicit LiveTill(const std::string& file)
+      : till(file), cards(shopLink(*till.shop).value(), file, localTime) {
+    till.cards = &cards;
+    till.begin();
+  }
+  SellingTill till;
+  ShopCards cards;
+};
+
 }  // namespace
+
+void beginStormTill(const std::string& file) {
+  LiveTill begun(file);
+}
 
 void playStormTill(const std::string& file, const std::string& shown, unsigned seed) {
   const int paper = open(shown.c_str(), O_WRONLY | O_APPEND | O_CREAT | O_CLOEXEC, 0600);
   std::mt19937 random(seed);
-  SellingTill till(file);
-  ShopCards cards(shopLink(*till.shop).value(), file, localTime);
-  till.cards = &cards;
-  till.begin();
+  LiveTill live(file);
+  SellingTill& till = live.till;
   int last = 0;
   for (;;) {
     const auto what = random() % 10;

@@ -8,6 +8,9 @@
 /// in a line.
 [[noreturn]] void playStormTill(const std::string& file, const std::string& shown, unsigned seed);
 
+/// A till's start and nothing more.
+void beginStormTill(const std::string& file);
+
 /// What customers were shown, by the bill's number. Throws std::runtime_error when a number was
 /// shown twice.
 std::map<int, std::string> shownBills(const std::string& shown);

@@ -17,6 +17,7 @@ namespace {
 /// The shop's server behind something that happens to a question.
 struct Troubled : CardAuthority {
   explicit Troubled(CardAuthority& server_) : server(server_) {}
+  bool isAway() const override { return server.isAway(); }
   Answer charge(const Charge& charge) override {
     asked = charge;
     return trouble();
@@ -171,4 +172,10 @@ TEST_F(CardsTest, KeepsACashierWaitingTwoSecondsAtMost) {
   EXPECT_LT(waited, 3) << "2.1 on a machine that has nothing else to do";
   SyncPlace(file).write({.contact = DateTime{Date{2026, 1, 1}}});
   EXPECT_LT(seconds(), 1) << "nobody has heard of the server since";
+  joined->till.cards = &cards;
+  joined->till.sell(1, "8001");
+  EXPECT_EQ(joined->till.outcome, CardOutcome::kNoAnswer);
+  EXPECT_EQ(joined->till.value("select count(*) as value from fact where kind = 'charge_voided'"),
+            "0")
+      << "what nobody asked for is not given up";
 }
