@@ -35,11 +35,11 @@ LineParameters parametersOf(const ShopLink& link, const AuthorityFile& authority
 }  // namespace
 
 struct SyncRun::Session {
-  Session(std::unique_ptr<Connection> opened, const ShopLink& link)
+  Session(std::unique_ptr<Connection> opened, const ShopLink& link, std::int64_t atServer)
       : connection(std::move(opened)),
         authority(link.authority),
         line(parametersOf(link, authority)),
-        upload(*connection, line) {}
+        upload(*connection, line, atServer) {}
 
   std::unique_ptr<Connection> connection;
   AuthorityFile authority;
@@ -63,7 +63,7 @@ void SyncRun::open() {
   std::unique_ptr<Connection> connection = openDataFile(file_);
   const std::optional<ShopLink> link = shopLink(*connection);
   ensure(link.has_value(), "run has looked");
-  session_ = std::make_unique<Session>(std::move(connection), *link);
+  session_ = std::make_unique<Session>(std::move(connection), *link, state_.atServer);
 }
 
 void SyncRun::run() {
@@ -84,6 +84,7 @@ Upload::Outcome SyncRun::attempt() try {
   session_->connection->requireItsFile();
   const Upload::Outcome outcome = session_->upload.step();
   state_.pendingBills = session_->upload.pendingBills();
+  state_.atServer = session_->upload.atServer();
   fault_ = session_->upload.fault();
   return outcome;
 } catch (const Failure& failure) {

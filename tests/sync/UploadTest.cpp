@@ -40,6 +40,9 @@ TEST_F(UploadTest, BringsWhatHappenedAtEachTill) {
   EXPECT_EQ(second->upload->pendingBills(), 2);
   for (const auto& each : {&first, &second}) EXPECT_GT((*each)->bring(), 0);
   EXPECT_EQ(second->upload->pendingBills(), 0);
+  second->till.sell(1);
+  EXPECT_EQ(Upload(*second->till.shop, *second->line, second->upload->atServer()).pendingBills(), 1)
+      << "known before the server answers";
 
   EXPECT_EQ(value("select trim_scale(amount) from shop.sale where bill = 10000001"), due);
   EXPECT_EQ(stock(), "995.25") << "of 1000, whoever sold them";
