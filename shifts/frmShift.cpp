@@ -21,7 +21,7 @@
 namespace {
 
 constexpr std::size_t kMostListed = 200;
-constexpr int kColumnWidths[] = {60, 190, 110, 190};  // pixels; the last column takes the rest
+constexpr int kColumnWidths[] = {60, 170, 110, 170};  // pixels; the last column takes the rest
 
 Outage::Report boxOver(QWidget* window) {
   return [window](const std::string& text) { messageBox(window, qtText(text)); };
@@ -70,7 +70,8 @@ frmShift::frmShift(posMod& pos, QWidget* parent)
 }
 
 void frmShift::lookLikeList() {
-  const QStringList titles = {tr("班次"), tr("开班"), tr("开班人"), tr("结班"), tr("结班人")};
+  const QStringList titles = {tr("班次"), tr("开班", "when it was opened"), tr("开班人"),
+                              tr("结班"), tr("结班人")};
   listClosed_->setColumnCount(static_cast<int>(titles.size()));
   listClosed_->setHorizontalHeaderLabels(titles);
   listClosed_->setSelectionBehavior(QAbstractItemView::SelectRows);

@@ -5210,15 +5210,15 @@ The questions were not all answered. Nothing was made.</translation>
     </message>
     <message>
         <source>记日志：谁在什么时候做了什么，谁也改不了</source>
-        <translation>Keep a journal: who did what and when, which nobody can rewrite</translation>
+        <translation>Keep a journal of who did what, which nobody can rewrite</translation>
     </message>
     <message>
-        <source>打折、删行、退货等要有权限，没有的请有权限的人授权</source>
-        <translation>Discounts, deleted lines, returns etc. need a right, or approval by someone who has it</translation>
+        <source>打折、删行、退货等要有权限，没有的请人授权</source>
+        <translation>Ask for a right, or an approval, for discounts, returns etc.</translation>
     </message>
     <message>
         <source>按班收款：开班写备用金，结班清点钱箱</source>
-        <translation>Work in shifts: state the float at the start, count the drawer at the end</translation>
+        <translation>Work in shifts: float at the start, count at the end</translation>
     </message>
     <message>
         <source>收银台上可以练习，不记账</source>
