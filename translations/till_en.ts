@@ -6571,6 +6571,11 @@ Member since: %3</translation>
         <source>结班人</source>
         <translation>Closed by</translation>
     </message>
+    <message>
+        <source>开班</source>
+        <comment>when it was opened</comment>
+        <translation>Opened</translation>
+    </message>
 </context>
 <context>
     <name>frmUnSell</name>
