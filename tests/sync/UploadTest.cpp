@@ -1,6 +1,8 @@
 #include <filesystem>
 
 #include "saleslib/JournalEntry.h"
+#include "saleslib/JournalKinds.h"
+#include "server/ServerSteps.h"
 #include "sync/ShopServerFixture.h"
 
 namespace fs = std::filesystem;
@@ -144,6 +146,8 @@ TEST_F(UploadTest, KeepsBothHistoriesOfAFileThatWasPutBack) {
 }
 
 TEST_F(UploadTest, KeepsWhatItCannotReadAndGoesOn) {
+  for (const EntryKindName& kind : entryKinds())
+    EXPECT_THAT(serverSteps().at(1), HasSubstr("'" + std::string(kind.key) + "'"));
   const auto till = join(1, "till");
   Connection& file = *till->till.shop;
   addEntry(file, "bill_settled", "no JSON");
