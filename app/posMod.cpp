@@ -1,11 +1,13 @@
 #include "app/posMod.h"
 
+#include <QCoreApplication>
 #include <QStringList>
 #include <algorithm>
 #include <iterator>
 #include <utility>
 #include <vector>
 
+#include "app/SyncProgram.h"
 #include "backups/BackupKeeper.h"
 #include "base/Failure.h"
 #include "base/FileName.h"
@@ -126,8 +128,15 @@ void posMod::start() {
   gPosSet.LoadSet(configIni);
   if (gPosSet.VMouse == 0) ShowMouse(false);
   startBackups();
-  if (const std::optional<ShopLink> link = shopLink(*gConn))
-    cards = std::make_unique<ShopCards>(*link, gConn->source().path, clock);
+  startShop();
+}
+
+void posMod::startShop() {
+  const std::optional<ShopLink> link = shopLink(*gConn);
+  if (!link) return;
+  cards = std::make_unique<ShopCards>(*link, gConn->source().path, clock);
+  const std::filesystem::path programs = QCoreApplication::applicationDirPath().toStdString();
+  sync = std::make_unique<SyncProgram>(programs / "tillsync", gConn->source());
 }
 
 // The medium is not looked at here: one that hangs must not hold the window.

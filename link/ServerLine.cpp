@@ -7,6 +7,8 @@
 #include <utility>
 
 #include "base/Failure.h"
+#include "base/Text.h"
+#include "base/Words.h"
 
 namespace {
 
@@ -65,7 +67,7 @@ std::string ServerLine::fault() const {
 }
 
 ServerAnswer ServerLine::unknown(const std::string& why) {
-  ServerAnswer answer{.kind = ServerAnswer::kUnknown, .text = why};
+  ServerAnswer answer{.kind = ServerAnswer::kUnknown, .text = std::string(trimmed(why))};
   close();
   return answer;
 }
@@ -168,7 +170,8 @@ ServerAnswer ServerLine::answer(Moment deadline) {
 }
 
 std::string ServerLine::verifierOf(const std::string& password, const std::string& role) {
-  if (const auto failed = openFault(steady_clock::now() + kPatience)) throw Failure(failed->text);
+  if (const auto failed = openFault(steady_clock::now() + kPatience))
+    throw Failure(Words::tr("连不上服务器：%1", failed->text));
   const std::unique_ptr<char, void (*)(void*)> verifier(
       PQencryptPasswordConn(line_.get(), password.c_str(), role.c_str(), "scram-sha-256"),
       &PQfreemem);

@@ -48,8 +48,6 @@ void joinShop(Connection& connection, const ShopLink& link, std::int64_t highest
       " values (1, ?, ?, ?, ?, ?, ?, ?)",
       link.till, link.epoch, link.host, link.port, link.database, link.password, link.authority);
   numberBillsBehind(connection, link.till, highestBill);
-  for (const char* table : {"member", "cardStored", "un_sell"})
-    numberRowsBehind(connection, table, link.till * kNumbersPerTill);
   ClsSysParam parameters;
   parameters.Conn(connection);
   const std::string refused = Journal(connection).isOn() ? "" : parameters.set("Journal", "1");

@@ -33,7 +33,8 @@ std::optional<SyncState> readSyncState(const std::filesystem::path& dataFile) {
   std::ifstream file(placeOf(dataFile));
   std::string date, time;
   SyncState state;
-  if (!(file >> date >> time >> state.pendingBills >> state.isRefused)) return std::nullopt;
+  if (!(file >> date >> time >> state.pendingBills >> state.isRefused >> state.atServer))
+    return std::nullopt;
   const std::optional<DateTime> contact = parseDateTime(date + " " + time);
   if (!contact) return std::nullopt;
   state.contact = *contact;
@@ -53,9 +54,10 @@ SyncPlace::~SyncPlace() {
 
 // One write of one length: a reader finds the line before or this one.
 void SyncPlace::write(const SyncState& state) const {
-  std::array<char, 64> line{};
-  std::snprintf(line.data(), line.size(), "%s %20lld %d\n", storedText(state.contact).c_str(),
-                static_cast<long long>(state.pendingBills), state.isRefused ? 1 : 0);
+  std::array<char, 80> line{};
+  std::snprintf(line.data(), line.size(), "%s %20lld %d %20lld\n",
+                storedText(state.contact).c_str(), static_cast<long long>(state.pendingBills),
+                state.isRefused ? 1 : 0, static_cast<long long>(state.atServer));
   const std::string text = line.data();
   if (pwrite(file_, text.data(), text.size(), 0) < 0) return;  // nobody depends on it
 }

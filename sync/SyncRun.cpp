@@ -26,8 +26,10 @@ constexpr int kFailuresToOpenAnew = 10;  // the till may have joined anew, under
 }  // namespace
 
 struct SyncRun::Session {
-  Session(std::unique_ptr<Connection> opened, const ShopLink& link)
-      : connection(std::move(opened)), server(link), upload(*connection, server.line()) {}
+  Session(std::unique_ptr<Connection> opened, const ShopLink& link, std::int64_t atServer)
+      : connection(std::move(opened)),
+        server(link),
+        upload(*connection, server.line(), atServer) {}
 
   std::unique_ptr<Connection> connection;
   TillLine server;
@@ -50,7 +52,7 @@ void SyncRun::open() {
   std::unique_ptr<Connection> connection = openDataFile(file_);
   const std::optional<ShopLink> link = shopLink(*connection);
   ensure(link.has_value(), "run has looked");
-  session_ = std::make_unique<Session>(std::move(connection), *link);
+  session_ = std::make_unique<Session>(std::move(connection), *link, state_.atServer);
 }
 
 void SyncRun::run() {
@@ -71,6 +73,7 @@ Upload::Outcome SyncRun::attempt() try {
   session_->connection->requireItsFile();
   const Upload::Outcome outcome = session_->upload.step();
   state_.pendingBills = session_->upload.pendingBills();
+  state_.atServer = session_->upload.atServer();
   fault_ = session_->upload.fault();
   return outcome;
 } catch (const Failure& failure) {

@@ -30,11 +30,12 @@ bool isForPeople(const std::string& state) {
 
 }  // namespace
 
-Upload::Upload(Connection& connection, ServerLine& line)
+Upload::Upload(Connection& connection, ServerLine& line, std::int64_t atServer)
     : connection_(connection),
       calls_(line, requiredLink(connection).till),
       backlog_(connection),
-      epoch_(requiredLink(connection).epoch) {}
+      epoch_(requiredLink(connection).epoch),
+      known_{atServer, {}} {}
 
 Upload::Outcome Upload::step(Moment now) {
   if (!place_) return greet(now);

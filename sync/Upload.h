@@ -16,8 +16,10 @@ class Upload {
   /// An idle till is heard of as often as this: that is how it learns that the server was put back.
   static constexpr std::chrono::seconds kHeartbeat{3};
 
-  /// Connection and line outlive the upload. The till belongs to a shop (ensure).
-  Upload(Connection& connection, ServerLine& line);
+  /// Connection and line outlive the upload. The till belongs to a shop (ensure). `atServer` is the
+  /// number of the last entry that the server once told to have: until it tells again, what is still
+  /// to come is counted from there, and nothing else.
+  Upload(Connection& connection, ServerLine& line, std::int64_t atServer = 0);
 
   enum class Outcome {
     kWent,     ///< the server answered; there may be more to do at once
@@ -32,6 +34,7 @@ class Upload {
   const std::string& fault() const { return fault_; }
   /// Settled bills that the server does not have, as far as it told. Throws StoreError.
   std::int64_t pendingBills() { return backlog_.bills(place_.value_or(known_)); }
+  std::int64_t atServer() const { return known_.seq; }
 
  private:
   Outcome greet(Moment now);

@@ -72,6 +72,7 @@ ThrowAwayServer::ThrowAwayServer(Reach reach) : hasPort_(reach == Reach::kPort) 
   set("unix_socket_directories = '" + folder().string() + "'");
   set("port = " + std::to_string(port_));
   set(std::string("listen_addresses = '") + (hasPort_ ? "127.0.0.1'" : "'"));
+  allow("local all +tills scram-sha-256");
   start();
   makeEmpty();
 }
@@ -144,10 +145,9 @@ void ThrowAwayServer::kill() {
 }
 
 void ThrowAwayServer::copy() {
-  stop();
   fs::remove_all(data() + ".copy");
-  run("cp -a " + data() + " " + data() + ".copy");
-  start();
+  run(programFolder() + "pg_basebackup --checkpoint=fast --no-sync -U owner -h " +
+      folder().string() + " -p " + std::to_string(port_) + " -D " + data() + ".copy");
 }
 
 void ThrowAwayServer::putBack() {

@@ -33,7 +33,7 @@ class ThrowAwayServer {
   void stop();
   /// Ends all of its processes at once, as a power cut does.
   void kill();
-  /// Stops it, and keeps or puts back a copy of all that it has on the disk.
+  /// Keeps a copy of all that it has on the disk while it runs, and has that be its disk.
   void copy();
   void putBack();
   /// A line of its access file (pg_hba.conf) before all others, and a setting; for the next start.

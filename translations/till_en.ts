@@ -1781,6 +1781,17 @@ Last goods: %3</translation>
     </message>
 </context>
 <context>
+    <name>SyncProgram</name>
+    <message>
+        <source>服务器不认这台收银机，请告诉店主</source>
+        <translation>The server doesn&apos;t know this till; tell the owner</translation>
+    </message>
+    <message>
+        <source>离线 %1 分钟，%2 单未上传</source>
+        <translation>Offline %1 min, %2 bills to send</translation>
+    </message>
+</context>
+<context>
     <name>TenderSum</name>
     <message>
         <source>超出范围</source>
@@ -5208,6 +5219,202 @@ The questions were not all answered. Nothing was made.</translation>
         <source>列出结过的班，最近的在前：班次、开班、开班人、结班、结班人、应有、清点、长短款、日志校验值，各用制表符分开</source>
         <translation>lists the closed shifts, the latest first: number, opened, by whom, closed, by whom, what should be there, counted, over or short, hash of the journal, separated by tabs</translation>
     </message>
+    <message>
+        <source>这台收银机连着店铺的服务器，日志不能停。</source>
+        <translation>This till is joined to the shop&apos;s server; its journal can&apos;t be turned off.</translation>
+    </message>
+    <message>
+        <source>打不开 %1：%2</source>
+        <translation>%1 can&apos;t be opened: %2</translation>
+    </message>
+    <message>
+        <source>加入码有 20 个字符，写的不是：%1</source>
+        <translation>A code has 20 characters; this is none: %1</translation>
+    </message>
+    <message>
+        <source>这台收银机加入了店铺，机号 %1。</source>
+        <translation>This till has joined the shop as number %1.</translation>
+    </message>
+    <message>
+        <source>这台收银机加入有服务器的店；收银程序必须先退出，以后一直记日志</source>
+        <translation>This till joins a shop with a server; close the till first; it keeps a journal from then on</translation>
+    </message>
+    <message>
+        <source>服务器</source>
+        <translation>server</translation>
+    </message>
+    <message>
+        <source>服务器的名称或地址，和它的证书上写的一样</source>
+        <translation>The server&apos;s name or address, as its certificate has it</translation>
+    </message>
+    <message>
+        <source>加入码</source>
+        <translation>code</translation>
+    </message>
+    <message>
+        <source>tilladmin shop add-till 给出的</source>
+        <translation>As tilladmin shop add-till gave it</translation>
+    </message>
+    <message>
+        <source>服务器的端口，一般是 5432</source>
+        <translation>The server&apos;s port, usually 5432</translation>
+    </message>
+    <message>
+        <source>服务器上的数据库，一般是 till</source>
+        <translation>The database at the server, usually till</translation>
+    </message>
+    <message>
+        <source>读不出这个文件：%1</source>
+        <translation>This file can&apos;t be read: %1</translation>
+    </message>
+    <message>
+        <source>服务器上的店铺已建好（%1 步）</source>
+        <translation>The shop at the server is ready (%1 steps)</translation>
+    </message>
+    <message>
+        <source>服务器上的店铺已是最新的</source>
+        <translation>The shop at the server is up to date</translation>
+    </message>
+    <message>
+        <source>收银机 %1 的加入码，24 小时内用一次：</source>
+        <translation>The code for till %1 to join with, once within 24 hours:</translation>
+    </message>
+    <message>
+        <source>已加入</source>
+        <translation>joined</translation>
+    </message>
+    <message>
+        <source>等它加入</source>
+        <translation>waiting for it to join</translation>
+    </message>
+    <message>
+        <source>加入码过期</source>
+        <translation>code expired</translation>
+    </message>
+    <message>
+        <source>已停用</source>
+        <translation>shut out</translation>
+    </message>
+    <message>
+        <source>从没联系过</source>
+        <translation>never heard of</translation>
+    </message>
+    <message>
+        <source>在线</source>
+        <translation>online</translation>
+    </message>
+    <message>
+        <source>%1 分钟没联系</source>
+        <translation>not heard of for %1 minutes</translation>
+    </message>
+    <message>
+        <source>时钟快 %1 分钟</source>
+        <translation>clock %1 minutes ahead</translation>
+    </message>
+    <message>
+        <source>时钟慢 %1 分钟</source>
+        <translation>clock %1 minutes behind</translation>
+    </message>
+    <message>
+        <source>已到 %1 条</source>
+        <translation>%1 entries here</translation>
+    </message>
+    <message>
+        <source>未到 %1 单</source>
+        <translation>%1 bills to come</translation>
+    </message>
+    <message>
+        <source>读不懂 %1 条</source>
+        <translation>%1 entries unreadable</translation>
+    </message>
+    <message>
+        <source>第 %1 段</source>
+        <translation>history %1</translation>
+    </message>
+    <message>
+        <source>查过 %1 条记录，%2 张单据</source>
+        <translation>%1 entries and %2 bills were checked</translation>
+    </message>
+    <message>
+        <source>收银机 %1 已停用；它传来的账还在。</source>
+        <translation>Till %1 is shut out; what it brought stays.</translation>
+    </message>
+    <message>
+        <source>几台收银机的店：在服务器上建店、加收银机、查账</source>
+        <translation>A shop of several tills: make it at a server, let tills in, check what they brought</translation>
+    </message>
+    <message>
+        <source>怎样连到服务器，例如 &quot;host=/run/postgresql dbname=till&quot;；不写是本机的数据库 till</source>
+        <translation>How to reach the server, for example &quot;host=/run/postgresql dbname=till&quot;; else the database till on this machine</translation>
+    </message>
+    <message>
+        <source>机号</source>
+        <translation>till</translation>
+    </message>
+    <message>
+        <source>收银机的号码，从 1 起</source>
+        <translation>The till&apos;s number, from 1</translation>
+    </message>
+    <message>
+        <source>建店，或者升级到这个版本</source>
+        <translation>Make the shop, or bring it to this version</translation>
+    </message>
+    <message>
+        <source>店铺自己的证书（PEM 文件），收银机凭它认服务器</source>
+        <translation>The shop&apos;s own certificate (a PEM file), by which tills know the server</translation>
+    </message>
+    <message>
+        <source>加一台收银机，给出它的加入码</source>
+        <translation>Let a till in: gives the code that it joins with</translation>
+    </message>
+    <message>
+        <source>它已经加入过：换了机器或者重装，原来的那台从此不能再传</source>
+        <translation>It joined before: for a new machine; the old one is shut out from then on</translation>
+    </message>
+    <message>
+        <source>列出收银机：状态、最后联系、已到未到、时钟、版本</source>
+        <translation>List the tills: state, last contact, what is here and to come, clock, version</translation>
+    </message>
+    <message>
+        <source>核对每台传来的记录和按它们做的账表</source>
+        <translation>Check what each till brought, and the tables made from it</translation>
+    </message>
+    <message>
+        <source>按记录重新做账表</source>
+        <translation>Make the tables again from the entries</translation>
+    </message>
+    <message>
+        <source>记日志：谁在什么时候做了什么，谁也改不了</source>
+        <translation>Keep a journal of who did what, which nobody can rewrite</translation>
+    </message>
+    <message>
+        <source>打折、删行、退货等要有权限，没有的请人授权</source>
+        <translation>Ask for a right, or an approval, for discounts, returns etc.</translation>
+    </message>
+    <message>
+        <source>按班收款：开班写备用金，结班清点钱箱</source>
+        <translation>Work in shifts: float at the start, count at the end</translation>
+    </message>
+    <message>
+        <source>收银台上可以练习，不记账</source>
+        <translation>Practice at the till, which leaves the books alone</translation>
+    </message>
+    <message>
+        <source>没有班次 %1。</source>
+        <translation>There is no shift %1.</translation>
+    </message>
+    <message>
+        <source>班次 %1 还没有结班。</source>
+        <translation>Shift %1 has not been closed yet.</translation>
+    </message>
+    <message>
+        <source>不列，写出这一班的结班表，和收银台重打的一样</source>
+        <translation>instead of the list, write the sheet of this shift, as the till prints it again</translation>
+    </message>
+    <message>
+        <source>停用一台收银机</source>
+        <translation>Shut a till out</translation>
+    </message>
 </context>
 <context>
     <name>WorkProgress</name>
@@ -5540,6 +5747,32 @@ The questions were not all answered. Nothing was made.</translation>
     <message>
         <source>短款</source>
         <translation>Short</translation>
+    </message>
+    <message>
+        <source>%1 次</source>
+        <comment>how often something was done</comment>
+        <translation>%1 times</translation>
+    </message>
+    <message>
+        <source>不收款开钱箱</source>
+        <translation>Drawer opened without a sale</translation>
+    </message>
+    <message>
+        <source>撤消单据</source>
+        <translation>Cancelled bills</translation>
+    </message>
+    <message>
+        <source>删除商品行</source>
+        <translation>Deleted lines</translation>
+    </message>
+    <message>
+        <source>%1 行</source>
+        <comment>of bills</comment>
+        <translation>%1 lines</translation>
+    </message>
+    <message>
+        <source>授权</source>
+        <translation>Approvals</translation>
     </message>
 </context>
 <context>
@@ -6427,6 +6660,11 @@ Member since: %3</translation>
         <source>当前时间：%1</source>
         <translation>Now: %1</translation>
     </message>
+    <message>
+        <source>%1&#x3000;%2</source>
+        <comment>time, state of the line</comment>
+        <translation>%1&#x3000;%2</translation>
+    </message>
 </context>
 <context>
     <name>frmSetup</name>
@@ -6506,8 +6744,21 @@ Member since: %3</translation>
         <translation>No shift is open.</translation>
     </message>
     <message>
-        <source>第 %1 班</source>
-        <translation>Shift %1</translation>
+        <source>开班人</source>
+        <translation>Opened by</translation>
+    </message>
+    <message>
+        <source>结班</source>
+        <translation>Closed</translation>
+    </message>
+    <message>
+        <source>结班人</source>
+        <translation>Closed by</translation>
+    </message>
+    <message>
+        <source>开班</source>
+        <comment>when it was opened</comment>
+        <translation>Opened</translation>
     </message>
 </context>
 <context>

@@ -14,7 +14,7 @@ TEST_F(LineTest, SaysWhatIsKnownOfAQuestionWithinItsTime) {
   EXPECT_THAT(warned.text, HasSubstr("not copied"));
   EXPECT_TRUE(owner->ask("select 1").isDone()) << "the line is opened anew";
   const auto begun = steady_clock::now();
-  const auto silent = owner->ask("select pg_sleep(20)", {}, std::chrono::milliseconds(200));
+  const auto silent = owner->ask("select pg_sleep(3)", {}, std::chrono::milliseconds(200));
   EXPECT_EQ(silent.kind, ServerAnswer::kUnknown);
   EXPECT_LT(steady_clock::now() - begun, std::chrono::seconds(10));
   const auto ended = owner->ask("select pg_terminate_backend(pg_backend_pid())");

@@ -49,7 +49,7 @@ class ShopServerFixture : public testing::Test {
     /// Until nothing is to be brought any more; how many questions that took. `later` is how long
     /// the till was idle before.
     int bring(std::chrono::seconds later = std::chrono::seconds(0)) {
-      auto now = std::chrono::steady_clock::now() + later;
+      now += later;
       for (int asked = 0; asked < 50; ++asked, now += std::chrono::milliseconds(1)) {
         const Upload::Outcome outcome = upload->step(now);
         if (outcome == Upload::Outcome::kIdle) return asked;
@@ -61,6 +61,7 @@ class ShopServerFixture : public testing::Test {
 
     SellingTill till;
     int number, failures = 0;
+    Upload::Moment now = std::chrono::steady_clock::now();
     std::unique_ptr<ServerLine> line;
     std::unique_ptr<Upload> upload;
   };

@@ -1,6 +1,8 @@
 #include <filesystem>
 
 #include "saleslib/JournalEntry.h"
+#include "saleslib/JournalKinds.h"
+#include "server/ServerSteps.h"
 #include "sync/ShopServerFixture.h"
 
 namespace fs = std::filesystem;
@@ -40,6 +42,9 @@ TEST_F(UploadTest, BringsWhatHappenedAtEachTill) {
   EXPECT_EQ(second->upload->pendingBills(), 2);
   for (const auto& each : {&first, &second}) EXPECT_GT((*each)->bring(), 0);
   EXPECT_EQ(second->upload->pendingBills(), 0);
+  second->till.sell(1);
+  EXPECT_EQ(Upload(*second->till.shop, *second->line, second->upload->atServer()).pendingBills(), 1)
+      << "known before the server answers";
 
   EXPECT_EQ(value("select trim_scale(amount) from shop.sale where bill = 10000001"), due);
   EXPECT_EQ(stock(), "995.25") << "of 1000, whoever sold them";
@@ -141,6 +146,8 @@ TEST_F(UploadTest, KeepsBothHistoriesOfAFileThatWasPutBack) {
 }
 
 TEST_F(UploadTest, KeepsWhatItCannotReadAndGoesOn) {
+  for (const EntryKindName& kind : entryKinds())
+    EXPECT_THAT(serverSteps().at(1), HasSubstr("'" + std::string(kind.key) + "'"));
   const auto till = join(1, "till");
   Connection& file = *till->till.shop;
   addEntry(file, "bill_settled", "no JSON");
