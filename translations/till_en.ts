@@ -1364,6 +1364,10 @@ Take the payment like this?</translation>
         <source>实退金额不能是负数！</source>
         <translation>The refund can&apos;t be negative.</translation>
     </message>
+    <message>
+        <source>单据“%1”是 %2 号收银机的，请到那台收银机上退货！</source>
+        <translation>Bill &quot;%1&quot; is of till %2. Take the goods back there.</translation>
+    </message>
 </context>
 <context>
     <name>Right</name>
@@ -1728,6 +1732,10 @@ Last goods: %3</translation>
     <message>
         <source>应收是负数，不能用储值卡付款。</source>
         <translation>The amount due is negative and can&apos;t be paid with a stored-value card.</translation>
+    </message>
+    <message>
+        <source>储值卡没有回应，请改用其它方式付款</source>
+        <translation>Nobody answers for the stored-value card. Take another kind of payment.</translation>
     </message>
 </context>
 <context>
@@ -5414,6 +5422,18 @@ The questions were not all answered. Nothing was made.</translation>
     <message>
         <source>停用一台收银机</source>
         <translation>Shut a till out</translation>
+    </message>
+    <message>
+        <source>连着服务器的店，服务器没有回应时储值卡付款：0 不收，1 收到 OfflineCardLimit 为止</source>
+        <translation>In a shop with a server, stored-value cards while it does not answer: 0 are refused, 1 pay up to OfflineCardLimit</translation>
+    </message>
+    <message>
+        <source>服务器没有回应时，一张卡在一台收银机上最多收多少元；同一张卡最多可能损失 收银机台数 × 这个数</source>
+        <translation>How many yuan one card pays at one till at most while the server does not answer; one card may cost the number of tills × this</translation>
+    </message>
+    <message>
+        <source>撤消储值卡扣款</source>
+        <translation>Charge of a card taken back</translation>
     </message>
 </context>
 <context>

@@ -111,10 +111,11 @@ TEST_F(CardsTest, TakesBackWhatWasNotAnswered) {
   };
   EXPECT_EQ(till.sell(1), CardOutcome::kNoAnswer);
   EXPECT_EQ(charges("state = 'open'"), "1");
-  till.way.trouble = [&till]() -> CardAuthority::Answer {
+  const auto killed = [&till]() -> CardAuthority::Answer {
     till.way.pass();
     throw Killed();
   };
+  till.way.trouble = killed;
   EXPECT_THROW(till.sell(1), Killed);
   till.way.trouble = [] { return CardAuthority::Answer{}; };
   EXPECT_EQ(till.sell(1), CardOutcome::kNoAnswer);
@@ -127,6 +128,11 @@ TEST_F(CardsTest, TakesBackWhatWasNotAnswered) {
   EXPECT_EQ(till.till.balance("8001"), "10000");
   EXPECT_EQ(till.till.value("select count(*) as value from card_pending"), "0");
   expectSound();
+
+  till.way.trouble = killed;
+  EXPECT_THROW(till.sell(1), Killed);
+  join(1, "another", true);
+  EXPECT_EQ(balance("8001"), "10000") << "what was asked went with the till's disk";
 }
 
 TEST_F(CardsTest, LetsTheOwnerRiskSoMuchWithoutAnAnswer) {
