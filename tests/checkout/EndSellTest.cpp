@@ -4,6 +4,7 @@
 #include "CheckoutFixture.h"
 #include "Hands.h"
 #include "checkout/frmEndSell.h"
+#include "saleslib/CardAuthority.h"
 
 /// The dialog with a bill of 88.5, driven by real key events while it is shown.
 class frmEndSellTest : public CheckoutFixture {
@@ -92,4 +93,17 @@ TEST_F(frmEndSellTest, AStoredValueCardPays) {
   EXPECT_EQ(screen.said(), "储值卡号错误,请重输|储值卡密码错误,请重输| 储值卡消费成功！余额：0 ");
   EXPECT_EQ(Hands::textsOf(dialog, "mima").substr(0, 1), "@");
   EXPECT_EQ(stored("card as v from member"), "0");
+}
+
+TEST_F(frmEndSellTest, CashPaysWhereNobodyAnswersForACard) {
+  struct Away : CardAuthority {
+    bool isAway() const override { return true; }
+    Answer charge(const Charge& /*charge*/) override { return {}; }
+  } server;
+  BillBooks till(*pos.gConn, pos.gSysParam, pos.clock, pos.gOperator, &server);
+  Settlement settlement(till, *bill, devices.display(), screen, [] {});
+  type("\t\t\t\t8001\n").type("Pw1\n").see("txtInMoney", "88.5@txtInMoney").type("\n");
+  EXPECT_TRUE(dialog.init(settlement));
+  EXPECT_EQ(screen.said(), "储值卡没有回应，请改用其它方式付款");
+  EXPECT_EQ(stored("cash || ' ' || card_pay || ' ' || card as v from sell, member"), "88.5 0 88.5");
 }
