@@ -6,8 +6,8 @@
 #include <fstream>
 #include <iostream>
 
+#include "FaultyTill.h"
 #include "LongRun.h"
-#include "TillFixture.h"
 #include "platform/PseudoTerminal.h"
 
 constexpr qint64 kLongestKeyPressMs = 2500;
@@ -21,7 +21,7 @@ constexpr const char* kNames[kDevices] = {"missing",
                                           "a terminal that takes nothing more",
                                           "a file"};
 
-class DeviceFaultTest : public TillFixture {
+class DeviceFaultTest : public ExaminedTill {
  protected:
   DeviceFaultTest() {
     ports.isReal = true;
