@@ -110,6 +110,7 @@ class DeviceFaultTest : public ExaminedTill {
     settle();
     timed([this] { press(kEsc); });
     EXPECT_EQ(stored("count(*) as v from sell where state = 1"), std::to_string(billsBefore + 2));
+    EXPECT_EQ(bookFaults(), "");
     EXPECT_LT(longest, kLongestKeyPressMs);
   }
   /// The devices are mended: outages are over, and the next ones are told again.
