@@ -6427,6 +6427,10 @@ Member since: %3</translation>
         <source>当前时间：%1</source>
         <translation>Now: %1</translation>
     </message>
+    <message>
+        <source>练习，不入账</source>
+        <translation>Practice, not in the books</translation>
+    </message>
 </context>
 <context>
     <name>frmSetup</name>
