@@ -5122,19 +5122,19 @@ The questions were not all answered. Nothing was made.</translation>
     </message>
     <message>
         <source>开班</source>
-        <translation>Open shift</translation>
+        <translation>Shift opened</translation>
     </message>
     <message>
         <source>钱箱存取</source>
-        <translation>cash moved</translation>
+        <translation>Cash moved</translation>
     </message>
     <message>
         <source>清点钱箱</source>
-        <translation>Count the drawer</translation>
+        <translation>Drawer counted</translation>
     </message>
     <message>
         <source>结班</source>
-        <translation>Close shift</translation>
+        <translation>Shift closed</translation>
     </message>
     <message>
         <source>开班时间</source>
