@@ -6575,6 +6575,11 @@ Member since: %3</translation>
         <source>结班人</source>
         <translation>Closed by</translation>
     </message>
+    <message>
+        <source>开班</source>
+        <comment>when it was opened</comment>
+        <translation>Opened</translation>
+    </message>
 </context>
 <context>
     <name>frmUnSell</name>
