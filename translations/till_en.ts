@@ -421,7 +421,7 @@ Take the payment like this?</translation>
     </message>
     <message>
         <source>库存</source>
-        <translation>stock</translation>
+        <translation>Stock</translation>
     </message>
     <message>
         <source>加入(&amp;A)</source>
@@ -1656,7 +1656,7 @@ Last goods: %3</translation>
     </message>
     <message>
         <source>单号/付款码(&amp;N)</source>
-        <translation>Bill &amp;no./pay code</translation>
+        <translation>Bill &amp;no./code</translation>
     </message>
 </context>
 <context>
