@@ -155,6 +155,9 @@ TEST_F(SetupTest, LeavesNothingWhereverTheAnswersEnd) {
 TEST_F(SetupTest, MakesTheDemoShopOrTakesABackup) {
   typed = "2\n";
   expect(0, "", "setup @");
+  EXPECT_EQ(value("select count(*) as value from sys_param where value = '1' and name in"
+                  " ('Journal', 'Approval', 'Shifts', 'Practice')"),
+            "4");
   const std::string goods = value("select count(*) as value from tmda");
   std::filesystem::rename(shop, folder.file("backup"));
   write("noise", "no backup");
