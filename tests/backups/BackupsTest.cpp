@@ -143,7 +143,7 @@ TEST_F(BackupKeeperTest, WhatIsNotWholeOrNotTheOpenFileReplacesNothing) {
   books_->checkpoint();
   {
     std::fstream file(shopFile_, std::ios::in | std::ios::out | std::ios::binary);
-    file.seekp(-4096 * 2, std::ios::end);
+    file.seekp(-8192, std::ios::end);
     file << "a scratch on the disk";
   }
   refuse("损坏");
