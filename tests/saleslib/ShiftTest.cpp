@@ -36,7 +36,7 @@ class ShiftTest : public Shop {
   }
   std::shared_ptr<ClsSell> paid(const char* price, const char* cash, const char* bankCard = "0",
                                 const char* phone = "0", const char* favorable = "0") {
-    const std::shared_ptr<ClsSell> bill = rung(price);
+    std::shared_ptr<ClsSell> bill = rung(price);
     bill->setCash(yuan(cash));
     bill->setBankCard(yuan(bankCard));
     bill->setTendered(Tender::kPhone, yuan(phone));
@@ -49,7 +49,7 @@ class ShiftTest : public Shop {
     EXPECT_TRUE(books.settle(*paid(price, cash, bankCard, phone, favorable)));
   }
   void payByCard(const char* price) {
-    const std::shared_ptr<ClsSell> bill = rung(price);
+    std::shared_ptr<ClsSell> bill = rung(price);
     bill->setCardNo("8001");
     bill->setCardPay(bill->Amount());
     EXPECT_EQ(books.payByCard(*bill, "Pw1").outcome, CardOutcome::kDone);
