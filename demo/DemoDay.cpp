@@ -248,11 +248,15 @@ void DemoDay::afternoon() {
   if (till.waitForEnd() != 0) throw std::runtime_error("the till did not end cleanly at night");
 }
 
-void DemoDay::writeTranscripts() const {
+std::string DemoDay::printed() const {
   std::ifstream printed(out_ / "line-printer.bin", std::ios::binary);
   std::stringstream bytes;
   bytes << printed.rdbuf();
-  std::ofstream(out_ / "line-printer.txt") << gbk::decode(bytes.str());
+  return gbk::decode(bytes.str());
+}
+
+void DemoDay::writeTranscripts() const {
+  std::ofstream(out_ / "line-printer.txt") << printed();
   std::ofstream display(out_ / "display.txt");
   for (const std::string& figure : display_.shown()) display << figure << "\n";
 }

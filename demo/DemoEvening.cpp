@@ -1,54 +1,19 @@
 // The rest of the demo day: members and their cards, a suspended bill, a return, the day's figures,
 // the query with its prints and exports, and the settings.
-#include <stdexcept>
-
 #include "demo/DemoDay.h"
+#include "demo/TillMenus.h"
 #include "driver/TillDriver.h"
 
 namespace {
 
 constexpr const char* kNewCard = "88001234";
 
-// Entries of the main menu and of the further menu, by position.
-enum MainMenu { kSell, kCount, kPosSet, kEditPwd, kEnd, kMainEntries };
-enum FurtherMenu {
-  kSearch,
-  kUnSell,
-  kAddMen,
-  kKeySet,
-  kShift,
-  kJournal,
-  kPractice,
-  kExit,
-  kHelp,
-  kFurtherEntries
-};
-
-/// Moves the highlight of a menu, which stays where it was last time, and chooses.
-void choose(TillDriver& till, int& highlight, int entry, int entries) {
-  for (; highlight != entry; highlight = (highlight + 1) % entries) till.key("Down");
-  till.key("Return");
-}
-
 }  // namespace
 
 void DemoDay::evening() {
   setUpDevices("USB");
   TillDriver till(shop_);
-  int mainEntry = kSell;
-  int furtherEntry = kSearch;
-  const auto screen = [&](MainMenu entry) {
-    till.waitFor("frmMenu");
-    choose(till, mainEntry, entry, kMainEntries);
-  };
-  const auto furtherScreen = [&](FurtherMenu entry, const char* window) {
-    till.waitFor("frmMenu");
-    till.key("Menu");
-    till.sync();
-    choose(till, furtherEntry, entry, kFurtherEntries);
-    till.waitFor(window);
-  };
-
+  TillMenus menus(till);
   logIn(till, "1", "111");
   till.key("Return");
   till.waitFor("frmSell");
@@ -58,41 +23,39 @@ void DemoDay::evening() {
   suspendedBill(till);
   colours(till);
   till.key("Esc");
-  mainEntry = kSell;
 
-  furtherScreen(kUnSell, "frmUnSell");
+  menus.open(TillMenus::kUnSell, "frmUnSell");
   takeBack(till);
-  screen(kCount);
+  menus.open(TillMenus::kCount);
   handOver(till);
-  furtherScreen(kSearch, "frmSearch");
+  menus.open(TillMenus::kSearch, "frmSearch");
   query(till);
-  furtherScreen(kKeySet, "frmKeyset");
+  menus.open(TillMenus::kKeySet, "frmKeyset");
   shot(till, "keyboard-settings");
   till.tabTo("cmdCancel");
   till.key("Space");
-  furtherScreen(kPractice, "frmSell");
+  menus.open(TillMenus::kPractice, "frmSell");
   practise(till);
-  furtherScreen(kShift, "frmShift");
+  menus.open(TillMenus::kShift, "frmShift");
   closeShift(till);
-  furtherScreen(kJournal, "frmJournal");
+  menus.open(TillMenus::kJournal, "frmJournal");
   till.key("Return");
   till.waitForText("lblState", isEnglish() ? "in all" : "共");
   shot(till, "journal");
   till.key("Esc");
-  furtherScreen(kHelp, "frmHelp");
+  menus.open(TillMenus::kHelp, "frmHelp");
   shot(till, "help");
   till.key("Esc");
-  screen(kPosSet);
+  menus.open(TillMenus::kPosSet);
   till.waitFor("frmPosSet");
   shot(till, "terminal-settings");
   till.tabTo("cmdOk");
   till.key("Space");
-  screen(kEditPwd);
+  menus.open(TillMenus::kEditPwd);
   till.waitFor("frmEditPwd");
   shot(till, "password-change");
   till.key("Esc");
-  screen(kEnd);
-  if (till.waitForEnd() != 0) throw std::runtime_error("the till did not end cleanly at closing");
+  menus.end();
 }
 
 void DemoDay::newMember(TillDriver& till) {
@@ -212,6 +175,7 @@ void DemoDay::practise(TillDriver& till) {
   till.enter(goods_.plain);
   till.enter(goods_.another);
   till.key("F10");
+  till.waitForText("title", isEnglish() ? "Practice" : "练习");
   shot(till, "practice");
   till.key("F1");
   till.waitFor("frmEndSell");

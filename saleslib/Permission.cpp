@@ -1,6 +1,5 @@
 #include "saleslib/Permission.h"
 
-#include <ranges>
 #include <utility>
 
 #include "base/Failure.h"
@@ -31,8 +30,8 @@ Permit Permission::given(const Deed& deed) const {
 }
 
 std::shared_ptr<const ClsOperator> Permission::approver() const {
-  for (const auto& each : given_ | std::views::reverse) {
-    if (const Permit permit = each.lock()) return permit->approver;
+  for (auto each = given_.rbegin(); each != given_.rend(); ++each) {
+    if (const Permit permit = each->lock()) return permit->approver;
   }
   return {};
 }

@@ -32,6 +32,11 @@ void note(Connection& connection, EntryKind kind, std::int64_t shift, Json more 
   });
 }
 
+ShiftHead headOf(const Row& row) {
+  return {row.whole("id").value_or(0), row.dateTime("opened").value_or(DateTime()),
+          row.text("opened_name"), row.dateTime("closed"), row.text("closed_name")};
+}
+
 }  // namespace
 
 Currency CashCount::sum() const {
@@ -139,17 +144,13 @@ std::optional<Shift> ShiftBooks::find(std::int64_t number) const {
   Rows row = connection_.query("select * from shift where id = ?", number);
   if (!row.next()) return std::nullopt;
   std::optional<Shift> shift(std::in_place);
-  shift->number = number;
-  shift->opened = row.dateTime("opened").value_or(DateTime());
-  shift->openedBy = row.text("opened_name");
+  static_cast<ShiftHead&>(*shift) = headOf(row);
   shift->cashFloat = money(row, "cash_float");
-  shift->closed = row.dateTime("closed");
-  shift->closedBy = row.text("closed_name");
   shift->takings =
       shift->closed ? closedTakings(connection_, number) : takingsOfShift(connection_, number);
   readMoves(*shift);
   readCount(*shift);
-  shift->journalHash = journalHash(*shift);
+  readJournal(*shift);
   return shift;
 }
 
@@ -175,20 +176,16 @@ void ShiftBooks::readCount(Shift& shift) const {
   }
 }
 
-// Looked for from the moment on at which the shift was closed.
-std::string ShiftBooks::journalHash(const Shift& shift) const {
-  Rows rows = shift.closed ? connection_.query(
-                                 "select hash from fact where time >= ? and kind = ?"
-                                 " and touches = ? order by time, seq limit 1",
-                                 *shift.closed, entryKind(EntryKind::kShiftClosed).key,
-                                 std::to_string(shift.number))
-                           : connection_.query("select hash from fact order by seq desc limit 1");
-  return rows.next() ? rows.text("hash") : std::string();
+void ShiftBooks::readJournal(Shift& shift) const {
+  const std::optional<ShiftJournal> part = journalOf(connection_, shift);
+  if (!part) return;
+  shift.deeds = deedsIn(connection_, *part);
+  shift.journalHash = part->lastHash;
 }
 
-std::vector<std::int64_t> ShiftBooks::closed(std::size_t most) const {
-  std::vector<std::int64_t> numbers;
-  Rows rows = connection_.query("select id from shift where closed is not null order by id desc");
-  while (numbers.size() < most && rows.next()) numbers.push_back(rows.whole("id").value_or(0));
-  return numbers;
+std::vector<ShiftHead> ShiftBooks::closed(std::size_t most) const {
+  std::vector<ShiftHead> shifts;
+  Rows rows = connection_.query("select * from shift where closed is not null order by id desc");
+  while (shifts.size() < most && rows.next()) shifts.push_back(headOf(rows));
+  return shifts;
 }

@@ -13,6 +13,7 @@
 #include "base/DateTime.h"
 #include "saleslib/ClsOperator.h"
 #include "saleslib/Export.h"
+#include "saleslib/ShiftDeeds.h"
 #include "saleslib/ShiftTakings.h"
 
 class Connection;
@@ -42,18 +43,23 @@ struct CashMove {
   std::string reason;
 };
 
-/// A shift as its sheet tells of it.
-struct TESSALY_API Shift {
+/// Which shift, of when and of whom.
+struct ShiftHead {
   std::int64_t number = 0;
   DateTime opened;
   std::string openedBy;
-  Currency cashFloat;
-  std::optional<DateTime> closed;  ///< none: it is open, and the figures are those of now
+  std::optional<DateTime> closed;  ///< none: it is open
   std::string closedBy;
+};
+
+/// A shift as its sheet tells of it; an open one with the figures of now.
+struct TESSALY_API Shift : ShiftHead {
+  Currency cashFloat;
   ShiftTakings takings;
   std::vector<CashMove> moves;
-  int counts = 0;     ///< how often the drawer was counted
-  CashCount counted;  ///< the last time
+  int counts = 0;                   ///< how often the drawer was counted
+  CashCount counted;                ///< the last time
+  std::optional<ShiftDeeds> deeds;  ///< none without a journal
   /// Of the journal's entry that closed the shift, of an open one its last; empty without a
   /// journal.
   std::string journalHash;
@@ -94,15 +100,15 @@ class TESSALY_API ShiftBooks {
   std::optional<Shift> current() const;
   /// A shift of that number; a closed one with the figures that it was closed with.
   std::optional<Shift> find(std::int64_t number) const;
-  /// Numbers of the closed shifts, the latest first, at most so many.
-  std::vector<std::int64_t> closed(std::size_t most) const;
+  /// The closed shifts, the latest first, at most so many.
+  std::vector<ShiftHead> closed(std::size_t most) const;
 
  private:
   std::optional<std::int64_t> openNumber() const;
   const ClsOperator& keeper() const;
   void readMoves(Shift& shift) const;
   void readCount(Shift& shift) const;
-  std::string journalHash(const Shift& shift) const;
+  void readJournal(Shift& shift) const;
   void storeFigures(const Shift& shift) const;
 
   Connection& connection_;

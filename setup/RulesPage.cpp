@@ -1,12 +1,15 @@
 #include "setup/RulesPage.h"
 
 #include <QComboBox>
+#include <QGridLayout>
 #include <QLineEdit>
 
 #include "base/Words.h"
 #include "platform/QtText.h"
 
 namespace {
+
+constexpr int kRowSpacing = 2;  // all of them show on a screen of 768 pixels
 
 QString shown(const char* text) {
   return qtText(Words::tr(text));
@@ -15,6 +18,8 @@ QString shown(const char* text) {
 }  // namespace
 
 RulesPage::RulesPage(SetupAnswers& answers) : SetupPage(answers) {
+  setObjectName("rules");
+  grid().setVerticalSpacing(kRowSpacing);
   for (const SetupQuestion& question : setupQuestions()) {
     const QString caption = tr("%1：").arg(shown(question.text));
     const QString value = qtText(answers.shop.answerTo(question));

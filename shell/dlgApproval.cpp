@@ -109,7 +109,7 @@ void dlgApproval::say(const QString& text) {
 Permit askLeave(posMod& pos, QWidget* parent, const Deed& deed) {
   ensure(pos.gOperator != nullptr, "who asks for leave is logged in");
   bool isAsked = false;
-  const Permit permit = pos.permission.may(*pos.gOperator, deed, [&](const Deed& wanted) {
+  Permit permit = pos.permission.may(*pos.gOperator, deed, [&](const Deed& wanted) {
     isAsked = true;
     return dlgApproval(pos, wanted, parent).ask();
   });

@@ -20,8 +20,9 @@ dlgShiftSheet::dlgShiftSheet(const KeyBoard& keys, const ClsSysParam& shop, cons
   connect(cmdOk, &QPushButton::clicked, this, &QDialog::accept);
   auto* grid = new QGridLayout;
   grid->setHorizontalSpacing(32);
-  grid->setVerticalSpacing(6);
+  grid->setVerticalSpacing(2);
   addTakings(*grid, shift, shop);
+  if (shift.deeds) addDeeds(*grid, *shift.deeds);
   addDrawer(*grid, shift, isClosing || shift.closed);
   auto* all = new QVBoxLayout(this);
   all->setContentsMargins(32, 20, 32, 20);
@@ -40,11 +41,16 @@ dlgShiftSheet::dlgShiftSheet(const KeyBoard& keys, const ClsSysParam& shop, cons
 }
 
 void dlgShiftSheet::addRow(QGridLayout& grid, const char* name, const QString& caption,
-                           const QString& count, Currency amount) {
+                           const QString& count, const QString& amount) {
   const int row = grid.rowCount();
   grid.addWidget(label("", caption), row, 0);
   grid.addWidget(label("", count), row, 1, Qt::AlignRight);
-  grid.addWidget(label(name, qtText(twoDecimals(amount))), row, 2, Qt::AlignRight);
+  grid.addWidget(label(name, amount), row, 2, Qt::AlignRight);
+}
+
+void dlgShiftSheet::addRow(QGridLayout& grid, const char* name, const QString& caption,
+                           const QString& count, Currency amount) {
+  addRow(grid, name, caption, count, qtText(twoDecimals(amount)));
 }
 
 void dlgShiftSheet::addSum(QGridLayout& grid, const char* name, const QString& caption,
@@ -64,6 +70,17 @@ void dlgShiftSheet::addTakings(QGridLayout& grid, const Shift& shift, const ClsS
   addSum(grid, "lblRefunds", tr("退货退现金"), takings.refunds);
   addSum(grid, "lblIn", tr("存入现金"), takings.cashIn);
   addSum(grid, "lblOut", tr("取出现金"), takings.cashOut);
+}
+
+void dlgShiftSheet::addDeeds(QGridLayout& grid, const ShiftDeeds& deeds) {
+  const auto times = [](std::int64_t count) {
+    return tr("%1 次", "how often something was done").arg(count);
+  };
+  addRow(grid, "lblOpened", tr("不收款开钱箱"), times(deeds.drawerOpened), QString());
+  addSum(grid, "lblCancelled", tr("撤消单据"), deeds.cancelled);
+  addRow(grid, "lblDeleted", tr("删除商品行"), tr("%1 行", "of bills").arg(deeds.deleted.count),
+         deeds.deleted.amount);
+  addRow(grid, "lblApprovals", tr("授权"), times(deeds.approvals), QString());
 }
 
 void dlgShiftSheet::addDrawer(QGridLayout& grid, const Shift& shift, bool isCounted) {

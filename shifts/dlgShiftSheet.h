@@ -20,7 +20,10 @@ class dlgShiftSheet : public KeyDrivenDialog {
 
  private:
   void addTakings(QGridLayout& grid, const Shift& shift, const ClsSysParam& shop);
+  void addDeeds(QGridLayout& grid, const ShiftDeeds& deeds);
   void addDrawer(QGridLayout& grid, const Shift& shift, bool isCounted);
+  void addRow(QGridLayout& grid, const char* name, const QString& caption, const QString& count,
+              const QString& amount);
   void addRow(QGridLayout& grid, const char* name, const QString& caption, const QString& count,
               Currency amount);
   void addSum(QGridLayout& grid, const char* name, const QString& caption, const ShiftSum& sum);

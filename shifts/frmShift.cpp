@@ -1,9 +1,10 @@
 #include "shifts/frmShift.h"
 
 #include <QHBoxLayout>
+#include <QHeaderView>
 #include <QLabel>
-#include <QListWidget>
 #include <QPushButton>
+#include <QTableWidget>
 #include <QVBoxLayout>
 
 #include "app/posMod.h"
@@ -20,9 +21,15 @@
 namespace {
 
 constexpr std::size_t kMostListed = 200;
+constexpr int kColumnWidths[] = {60, 170, 110, 170};  // pixels; the last column takes the rest
 
 Outage::Report boxOver(QWidget* window) {
   return [window](const std::string& text) { messageBox(window, qtText(text)); };
+}
+
+/// To the minute, as a list shows it.
+QString shownTime(const DateTime& time) {
+  return qtText(dateText(time.date) + " " + shortTime(time));
 }
 
 /// Of a shift, in the journal, which is Chinese whatever the screens speak.
@@ -41,7 +48,7 @@ frmShift::frmShift(posMod& pos, QWidget* parent)
       cmdOut_(button("cmdOut", tr("取出现金"))),
       cmdRead_(button("cmdRead", tr("读数"))),
       cmdClose_(button("cmdClose", tr("清点和结班"))),
-      listClosed_(made("listClosed", new QListWidget(this))),
+      listClosed_(made("listClosed", new QTableWidget(this))),
       cmdExit_(button("cmdExit", tr("退出"))),
       lblState_(label("lblState", {})) {
   setObjectName("frmShift");
@@ -62,7 +69,27 @@ frmShift::frmShift(posMod& pos, QWidget* parent)
   showState();
 }
 
+void frmShift::lookLikeList() {
+  const QStringList titles = {tr("班次"), tr("开班", "when it was opened"), tr("开班人"),
+                              tr("结班"), tr("结班人")};
+  listClosed_->setColumnCount(static_cast<int>(titles.size()));
+  listClosed_->setHorizontalHeaderLabels(titles);
+  listClosed_->setSelectionBehavior(QAbstractItemView::SelectRows);
+  listClosed_->setSelectionMode(QAbstractItemView::SingleSelection);
+  listClosed_->setEditTriggers(QAbstractItemView::NoEditTriggers);
+  listClosed_->setTabKeyNavigation(false);
+  listClosed_->setShowGrid(false);
+  listClosed_->setWordWrap(false);
+  listClosed_->verticalHeader()->hide();
+  listClosed_->horizontalHeader()->setHighlightSections(false);
+  listClosed_->horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+  listClosed_->horizontalHeader()->setStretchLastSection(true);
+  int column = 0;
+  for (const int width : kColumnWidths) listClosed_->setColumnWidth(column++, width);
+}
+
 void frmShift::arrange() {
+  lookLikeList();
   lblState_->setTextFormat(Qt::PlainText);
   lblState_->setWordWrap(true);
   auto* buttons = new QVBoxLayout;
@@ -84,7 +111,7 @@ void frmShift::arrange() {
   all->setSpacing(20);
   all->addWidget(lblState_);
   all->addLayout(both, 1);
-  resize(760, 520);
+  resize(900, 560);
 }
 
 // The focus goes to what is likely to come next.
@@ -99,13 +126,23 @@ void frmShift::showState() {
   cmdOpen_->setEnabled(!shift);
   for (QPushButton* each : {cmdIn_, cmdOut_, cmdRead_, cmdClose_})
     each->setEnabled(shift.has_value());
-  listClosed_->clear();
-  for (const std::int64_t number : books.closed(kMostListed)) {
-    auto* row = new QListWidgetItem(tr("第 %1 班").arg(number), listClosed_);
-    row->setData(Qt::UserRole, QVariant::fromValue<qint64>(number));
-  }
-  if (listClosed_->count() > 0) listClosed_->setCurrentRow(0);
+  listClosed();
   (shift ? cmdIn_ : cmdOpen_)->setFocus();
+}
+
+void frmShift::listClosed() {
+  const std::vector<ShiftHead> shifts = pos_.shiftBooks().closed(kMostListed);
+  listClosed_->setRowCount(static_cast<int>(shifts.size()));
+  int row = 0;
+  for (const ShiftHead& shift : shifts) {
+    int column = 0;
+    for (const QString& text :
+         {QString::number(shift.number), shownTime(shift.opened), qtText(shift.openedBy),
+          shownTime(shift.closed.value_or(DateTime())), qtText(shift.closedBy)})
+      listClosed_->setItem(row, column++, new QTableWidgetItem(text));
+    listClosed_->item(row++, 0)->setData(Qt::UserRole, QVariant::fromValue<qint64>(shift.number));
+  }
+  if (row > 0) listClosed_->selectRow(0);
 }
 
 void frmShift::attempt(const std::function<void()>& deed) {
@@ -129,9 +166,7 @@ void frmShift::move(dlgCash::Purpose purpose) {
       purpose == dlgCash::Purpose::kIn ? dialog.amount() : -dialog.amount(), dialog.reason());
   if (!move) return;
   devices_.drawer().OpenDrawer();
-  devices_.print([&](ReceiptPrinter& printer) {
-    printer.print(cashSlip(*move, pos_.gSysParam, printer.paper()));
-  });
+  print([&](int columns) { return cashSlip(*move, pos_.gSysParam, columns); });
 }
 
 void frmShift::read() {
@@ -167,9 +202,10 @@ void frmShift::closeShift() {
 }
 
 void frmShift::showClosed() {
-  const QListWidgetItem* row = listClosed_->currentItem();
-  if (row == nullptr) return;
-  const std::optional<Shift> shift = pos_.shiftBooks().find(row->data(Qt::UserRole).toLongLong());
+  const QTableWidgetItem* number = listClosed_->item(listClosed_->currentRow(), 0);
+  if (number == nullptr) return;
+  const std::optional<Shift> shift =
+      pos_.shiftBooks().find(number->data(Qt::UserRole).toLongLong());
   const Permit leave = askLeave(pos_, this, {Right::kShift});
   if (!leave || !shift) return;
   dlgShiftSheet dialog(pos_.gKeyBoard, pos_.gSysParam, *shift, dlgShiftSheet::Purpose::kPrint,
@@ -180,7 +216,13 @@ void frmShift::showClosed() {
 }
 
 void frmShift::print(const Shift& shift, ShiftPaperKind kind) {
+  print(
+      [&](int columns) { return shiftPaper(shift, kind, pos_.clock(), pos_.gSysParam, columns); });
+}
+
+void frmShift::print(const std::function<ShiftPaper(int columns)>& paper) {
   devices_.print([&](ReceiptPrinter& printer) {
-    printer.print(shiftPaper(shift, kind, pos_.clock(), pos_.gSysParam, printer.paper()));
+    ShiftPaper printed = paper(printer.paper().line);
+    printer.print(LineDocument{std::move(printed.name), std::move(printed.lines)});
   });
 }

@@ -3,10 +3,10 @@
 #include "devices/Devices.h"
 #include "saleslib/ShiftBooks.h"
 #include "shell/KeyDrivenDialog.h"
-#include "shifts/ShiftPaper.h"
 #include "shifts/dlgCash.h"
+#include "takings/ShiftPaper.h"
 
-class QListWidget;
+class QTableWidget;
 class posMod;
 
 /// The shift of the drawer: opening it, cash put in and taken out, reading its figures, counting
@@ -20,7 +20,9 @@ class frmShift : public KeyDrivenDialog {
 
  private:
   void arrange();
+  void lookLikeList();
   void showState();
+  void listClosed();
   void attempt(const std::function<void()>& deed);
   void open();
   void move(dlgCash::Purpose purpose);
@@ -29,6 +31,7 @@ class frmShift : public KeyDrivenDialog {
   bool count();
   void showClosed();
   void print(const Shift& shift, ShiftPaperKind kind);
+  void print(const std::function<ShiftPaper(int columns)>& paper);
 
   posMod& pos_;
   Devices devices_;
@@ -37,7 +40,7 @@ class frmShift : public KeyDrivenDialog {
   QPushButton* cmdOut_;
   QPushButton* cmdRead_;
   QPushButton* cmdClose_;
-  QListWidget* listClosed_;
+  QTableWidget* listClosed_;
   QPushButton* cmdExit_;
   QLabel* lblState_;
 };

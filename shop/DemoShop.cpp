@@ -148,6 +148,7 @@ void addOperators(Connection& connection) {
   addOperator(connection, {1, "张三", "111", allRights()});
   addOperator(connection, {2, "李四", "222", cashier});
   addOperator(connection, {3, "王五", "333", supervisor});
+  addOperator(connection, {4, "赵六", "444", {kRightSell}});
 }
 
 void addMembers(Connection& connection, const Clock& clock) {

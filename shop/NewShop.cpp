@@ -22,13 +22,13 @@ namespace {
 /// Thrown out of the midst of it all, which takes everything back; no failure that anybody hears.
 struct Ended {};
 
-void setParameters(Connection& connection, const NewShop& shop) {
+constexpr const char* kJournal = "Journal";
+
+void setParameter(Connection& connection, const std::string& name, const std::string& value) {
   ClsSysParam parameters;
   parameters.Conn(connection);
-  for (const auto& [name, value] : shop.parameters) {
-    const std::string refusal = parameters.set(name, value);
-    if (!refusal.empty()) throw Refusal(refusal);
-  }
+  const std::string refusal = parameters.set(name, value);
+  if (!refusal.empty()) throw Refusal(refusal);
 }
 
 void import(Connection& connection, SheetReader& sheet, const GoodsMapping& mapping,
@@ -62,10 +62,17 @@ void addGoods(Connection& connection, const NewShop& shop, const GoOn& goOn) {
 
 void fillShop(Connection& connection, const NewShop& shop, const Clock& clock, const GoOn& goOn) {
   if (shop.from == NewShop::From::kDemo) return fillDemoShop(connection, clock);
+  ConnectionUser maker;
+  maker.clock = clock;
+  connection.setUser(std::move(maker));
   Transaction all(connection);
-  setParameters(connection, shop);
+  for (const auto& [name, value] : shop.parameters)
+    if (name != kJournal) setParameter(connection, name, value);
   for (const NewOperator& person : shop.operators) addOperator(connection, person);
   addGoods(connection, shop, goOn);
+  // What is done from then on: the shop as it was filled is what its journal begins with.
+  const auto journal = shop.parameters.find(kJournal);
+  if (journal != shop.parameters.end()) setParameter(connection, kJournal, journal->second);
   all.commit();
 }
 

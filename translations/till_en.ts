@@ -421,7 +421,7 @@ Take the payment like this?</translation>
     </message>
     <message>
         <source>库存</source>
-        <translation>stock</translation>
+        <translation>Stock</translation>
     </message>
     <message>
         <source>加入(&amp;A)</source>
@@ -1656,7 +1656,7 @@ Last goods: %3</translation>
     </message>
     <message>
         <source>单号/付款码(&amp;N)</source>
-        <translation>Bill &amp;no./pay code</translation>
+        <translation>Bill &amp;no./code</translation>
     </message>
 </context>
 <context>
@@ -5122,19 +5122,19 @@ The questions were not all answered. Nothing was made.</translation>
     </message>
     <message>
         <source>开班</source>
-        <translation>Open shift</translation>
+        <translation>Shift opened</translation>
     </message>
     <message>
         <source>钱箱存取</source>
-        <translation>cash moved</translation>
+        <translation>Cash moved</translation>
     </message>
     <message>
         <source>清点钱箱</source>
-        <translation>Count the drawer</translation>
+        <translation>Drawer counted</translation>
     </message>
     <message>
         <source>结班</source>
-        <translation>Close shift</translation>
+        <translation>Shift closed</translation>
     </message>
     <message>
         <source>开班时间</source>
@@ -5207,6 +5207,34 @@ The questions were not all answered. Nothing was made.</translation>
     <message>
         <source>列出结过的班，最近的在前：班次、开班、开班人、结班、结班人、应有、清点、长短款、日志校验值，各用制表符分开</source>
         <translation>lists the closed shifts, the latest first: number, opened, by whom, closed, by whom, what should be there, counted, over or short, hash of the journal, separated by tabs</translation>
+    </message>
+    <message>
+        <source>记日志：谁在什么时候做了什么，谁也改不了</source>
+        <translation>Keep a journal of who did what, which nobody can rewrite</translation>
+    </message>
+    <message>
+        <source>打折、删行、退货等要有权限，没有的请人授权</source>
+        <translation>Ask for a right, or an approval, for discounts, returns etc.</translation>
+    </message>
+    <message>
+        <source>按班收款：开班写备用金，结班清点钱箱</source>
+        <translation>Work in shifts: float at the start, count at the end</translation>
+    </message>
+    <message>
+        <source>收银台上可以练习，不记账</source>
+        <translation>Practice at the till, which leaves the books alone</translation>
+    </message>
+    <message>
+        <source>没有班次 %1。</source>
+        <translation>There is no shift %1.</translation>
+    </message>
+    <message>
+        <source>班次 %1 还没有结班。</source>
+        <translation>Shift %1 has not been closed yet.</translation>
+    </message>
+    <message>
+        <source>不列，写出这一班的结班表，和收银台重打的一样</source>
+        <translation>instead of the list, write the sheet of this shift, as the till prints it again</translation>
     </message>
 </context>
 <context>
@@ -5540,6 +5568,32 @@ The questions were not all answered. Nothing was made.</translation>
     <message>
         <source>短款</source>
         <translation>Short</translation>
+    </message>
+    <message>
+        <source>%1 次</source>
+        <comment>how often something was done</comment>
+        <translation>%1 times</translation>
+    </message>
+    <message>
+        <source>不收款开钱箱</source>
+        <translation>Drawer opened without a sale</translation>
+    </message>
+    <message>
+        <source>撤消单据</source>
+        <translation>Cancelled bills</translation>
+    </message>
+    <message>
+        <source>删除商品行</source>
+        <translation>Deleted lines</translation>
+    </message>
+    <message>
+        <source>%1 行</source>
+        <comment>of bills</comment>
+        <translation>%1 lines</translation>
+    </message>
+    <message>
+        <source>授权</source>
+        <translation>Approvals</translation>
     </message>
 </context>
 <context>
@@ -6427,6 +6481,10 @@ Member since: %3</translation>
         <source>当前时间：%1</source>
         <translation>Now: %1</translation>
     </message>
+    <message>
+        <source>练习，不入账</source>
+        <translation>Practice, not in the books</translation>
+    </message>
 </context>
 <context>
     <name>frmSetup</name>
@@ -6506,8 +6564,21 @@ Member since: %3</translation>
         <translation>No shift is open.</translation>
     </message>
     <message>
-        <source>第 %1 班</source>
-        <translation>Shift %1</translation>
+        <source>开班人</source>
+        <translation>Opened by</translation>
+    </message>
+    <message>
+        <source>结班</source>
+        <translation>Closed</translation>
+    </message>
+    <message>
+        <source>结班人</source>
+        <translation>Closed by</translation>
+    </message>
+    <message>
+        <source>开班</source>
+        <comment>when it was opened</comment>
+        <translation>Opened</translation>
     </message>
 </context>
 <context>

@@ -4,11 +4,11 @@
 #include "base/NumberText.h"
 #include "saleslib/BillBooks.h"
 #include "saleslib/ClsSysParam.h"
+#include "saleslib/Journal.h"
 #include "saleslib/ReturnBooks.h"
 #include "saleslib/TopUpBooks.h"
 #include "store/StoreError.h"
 
-using testing::ElementsAre;
 using testing::HasSubstr;
 
 /// A shop that sells in shifts and keeps a journal, with one member's card.
@@ -36,7 +36,7 @@ class ShiftTest : public Shop {
   }
   std::shared_ptr<ClsSell> paid(const char* price, const char* cash, const char* bankCard = "0",
                                 const char* phone = "0", const char* favorable = "0") {
-    const std::shared_ptr<ClsSell> bill = rung(price);
+    std::shared_ptr<ClsSell> bill = rung(price);
     bill->setCash(yuan(cash));
     bill->setBankCard(yuan(bankCard));
     bill->setTendered(Tender::kPhone, yuan(phone));
@@ -49,7 +49,7 @@ class ShiftTest : public Shop {
     EXPECT_TRUE(books.settle(*paid(price, cash, bankCard, phone, favorable)));
   }
   void payByCard(const char* price) {
-    const std::shared_ptr<ClsSell> bill = rung(price);
+    std::shared_ptr<ClsSell> bill = rung(price);
     bill->setCardNo("8001");
     bill->setCardPay(bill->Amount());
     EXPECT_EQ(books.payByCard(*bill, "Pw1").outcome, CardOutcome::kDone);
@@ -125,7 +125,43 @@ TEST_F(ShiftTest, WhatIsPaidBelongsToTheShiftThatWasOpenWhateverComesLater) {
   EXPECT_EQ(figures(*shifts.current()), "refunds 1:50 = 50");
   EXPECT_EQ(figures(*shifts.find(1)), kFigures);
   EXPECT_EQ(takingsOfShift(connection, 1), closed.takings) << "the books still say the same";
-  EXPECT_THAT(shifts.closed(9), ElementsAre(1));
+  ASSERT_EQ(shifts.closed(9).size(), 1U);
+  EXPECT_EQ(shifts.closed(9)[0].closedBy + generalText(*shifts.closed(9)[0].closed),
+            "张三2026-11-23 00:05:00");
+}
+
+TEST_F(ShiftTest, ItsSheetCountsWhatNoTakingsShow) {
+  const Journal journal(connection);
+  const auto deeds = [](const Shift& shift) {
+    const ShiftDeeds& found = shift.deeds.value();
+    return std::to_string(found.drawerOpened) + " " + std::to_string(found.cancelled.count) + ":" +
+           generalNumber(found.cancelled.amount) + " " + std::to_string(found.deleted.count) + ":" +
+           generalNumber(found.deleted.amount) + " " + std::to_string(found.approvals);
+  };
+  const auto countedAndClosed = [&] {
+    journal.note(EntryKind::kDrawerOpened);
+    count({1});
+    return shifts.close();
+  };
+  ASSERT_TRUE(shifts.open(yuan("100")));
+  const std::shared_ptr<ClsSell> bill = rung("5", 2);
+  auto line = newLine(*bill, "3", 1);
+  EXPECT_TRUE(books.ring(*line).done() && books.remove(*line).done());
+  journal.note(EntryKind::kApprovalGiven);
+  journal.note(EntryKind::kApprovalRefused);
+  EXPECT_TRUE(books.cancel(*bill).empty());
+  books.drop(*books.open());
+  journal.note(EntryKind::kDrawerOpened);
+  EXPECT_EQ(deeds(*shifts.current()), "1 1:10 1:3 1");
+  ASSERT_TRUE(countedAndClosed() && shifts.open(yuan("100")));
+  EXPECT_EQ(deeds(*shifts.find(1)), "1 1:10 1:3 1") << "what opens it for a count is a count";
+  EXPECT_EQ(deeds(*shifts.current()), "0 0:0 0:0 0");
+  EXPECT_EQ(rules.set("Journal", "0"), "");
+  EXPECT_FALSE(shifts.current()->deeds);
+  EXPECT_EQ(rules.set("Journal", "1"), "");
+  journal.note(EntryKind::kDrawerOpened);
+  ASSERT_TRUE(countedAndClosed());
+  EXPECT_EQ(deeds(*shifts.find(2)), "1 0:0 0:0 0");
 }
 
 TEST_F(ShiftTest, EachStepIsWrittenWholeWithItsEntryAndNothingClosedChanges) {

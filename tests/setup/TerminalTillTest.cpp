@@ -43,7 +43,7 @@ constexpr const char* kPrinter = "2\n2\n3\n\n\n\n\n\n";  // LPT1, narrow, two co
 
 TEST_F(TerminalTillTest, DevicesAreTriedAndEverythingIsStoredWhenAllIsAnswered) {
   const std::string people = "好邻居\n\n\n\n\n\n\n\n店主\n1\n\n\n\n";
-  const std::string rules = "\n\n\n\n\n\n\nmedia/x\n/media/stick\n";
+  const std::string rules = "\n\n\n\n\n\n\n\n\n\n\nmedia/x\n/media/stick\n";
   const std::string all = "\n" + std::string(kPrinter) + "2\n1\n" + people + rules + "2\n";
   for (std::size_t end = all.find('\n'); end + 1 < all.size(); end = all.find('\n', end + 1)) {
     EXPECT_EQ(setUp(all.substr(0, end + 1)), 1);

@@ -1,11 +1,11 @@
-#include "shifts/ShiftPaper.h"
+#include "takings/ShiftPaper.h"
 
 #include "ShopFixture.h"
 #include "base/Gbk.h"
 
 namespace {
 
-std::string textOf(const LineDocument& paper, int columns) {
+std::string textOf(const ShiftPaper& paper, int columns) {
   std::string text;
   for (const std::string& line : paper.lines) {
     EXPECT_LE(gbk::width(line), static_cast<std::size_t>(columns)) << line;
@@ -31,6 +31,7 @@ struct ShiftPaperTest : ShopFixture {
         {{4, yuan("23.8")}, {2, yuan("42")}, {}, {1, yuan("8.5")}, {1, yuan("0.5")}}};
     shift.takings.cashOut = {1, yuan("120.5")};
     shift.moves = {{12, {{2026, 11, 22}, 9, 5, 0}, "张三", yuan("-120.5"), "付第四季度水费和电费"}};
+    shift.deeds = {2, {1, yuan("45.6")}, {3, yuan("12")}, 4};
     shift.journalHash = "0123456789abcdef0123456789abcdef0123456789abcdef0123456789abcdef";
   }
   Shift shift;
@@ -41,7 +42,7 @@ TEST_F(ShiftPaperTest, AClosedShiftFitsTheNarrowPaperAndAReprintSaysSo) {
   shift.closedBy = "李四";
   shift.counts = 2;
   shift.counted.pieces = {1, 0, 0, 0, 0, 3, 0, 2};
-  EXPECT_EQ(textOf(shiftPaper(shift, ShiftPaperKind::kReprint, now, pos.gSysParam, {}), 32),
+  EXPECT_EQ(textOf(shiftPaper(shift, ShiftPaperKind::kReprint, now, pos.gSysParam, 32), 32),
             R"(          好邻居便利店
         结班表 第 12 班
             （重打）
@@ -62,6 +63,11 @@ TEST_F(ShiftPaperTest, AClosedShiftFitsTheNarrowPaperAndAReprintSaysSo) {
 取出现金        1 笔      120.50
   09:05 付第四季度水费和 -120.50
 --------------------------------
+不收款开钱箱    2 次
+撤消单据        1 笔       45.60
+删除商品行      3 行       12.00
+授权            4 次
+--------------------------------
 备用金                    200.00
 钱箱应有                  103.30
   100 元 × 1             100.00
@@ -79,16 +85,16 @@ TEST_F(ShiftPaperTest, AClosedShiftFitsTheNarrowPaperAndAReprintSaysSo) {
 }
 
 TEST_F(ShiftPaperTest, AReadingOnWidePaperShowsNoCountAndSlipsTellTheReason) {
-  const Paper wide = Paper::ofModel(1);
+  constexpr int kWide = 40;
   const std::string reading =
-      textOf(shiftPaper(shift, ShiftPaperKind::kReading, now, pos.gSysParam, wide), wide.line);
+      textOf(shiftPaper(shift, ShiftPaperKind::kReading, now, pos.gSysParam, kWide), kWide);
   EXPECT_THAT(reading, testing::StartsWith(R"(              好邻居便利店
            班次读数 第 12 班
               （没有结班）
 )"));
   EXPECT_THAT(reading, Not(testing::HasSubstr("清点")));
   shift.moves[0].reason += "，明天补票据";
-  EXPECT_EQ(textOf(cashSlip(shift.moves[0], pos.gSysParam, {}), 32), R"(          好邻居便利店
+  EXPECT_EQ(textOf(cashSlip(shift.moves[0], pos.gSysParam, 32), 32), R"(          好邻居便利店
             取出现金
 第 12 班 2026-11-22 09:05:00
 收银员 张三

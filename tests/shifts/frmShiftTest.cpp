@@ -1,5 +1,7 @@
 #include "shifts/frmShift.h"
 
+#include <QTableWidget>
+
 #include "Approvals.h"
 #include "base/Gbk.h"
 #include "shifts/RequiredShift.h"
@@ -62,7 +64,11 @@ TEST_F(frmShiftTest, IsCountedBlindAndACrashInTheMidstLeavesItOpenAndTheCountKep
   hands.see("dlgShiftSheet", "lblExpected lblCounted lblOver", "70.00|70.00|0.00@cmdOk");
   hands.type("\n").type("frmShift", "↑↑\n").type("dlgApproval", kApproves);
   hands.see("dlgShiftSheet", "lblCounted", "70.00@cmdOk").type("\n");
-  hands.see("frmShift", "lblState cmdClose", "还没有开班。|(清点和结班)@cmdOpen").type("⎋");
+  hands.at("frmShift", [](QWidget& window) {
+    auto* const list = window.findChild<QTableWidget*>("listClosed");
+    EXPECT_EQ(list->item(0, 3)->text() + list->item(0, 4)->text(), "2026-11-22 09:05张三");
+  });
+  hands.see("lblState cmdClose", "还没有开班。|(清点和结班)@cmdOpen").type("⎋");
   work();
   EXPECT_THAT(entries(), HasSubstr("shift_counted,shift_closed"));
   EXPECT_EQ(stored("approver as v from fact where kind = 'shift_closed'"), "2");

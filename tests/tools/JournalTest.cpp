@@ -110,6 +110,9 @@ TEST_F(JournalTest, IsKeptOnlyWhereTheOwnerWantsIt) {
   expect(0, "退货\t5\t2 行", "journal @ --operator 1 --from 2026-11-22");
   expect(1, "没有这一种", "journal @ --kind x");
   expect(0, "\t105.00\t104.00\t-1.00\t", "shift @");
+  expect(0, "结班表 第 2 班\n            （重打）\n", "shift @ --print 2");
+  expect(1, "没有班次 3", "shift @ --print 3");
+  expect(0, "补打小票\t班次 2", "journal @ --operator 0");
   expect(0, "结班\t2\t", "journal @ --kind shift_closed");
   now.hour = 9;  // the clock is set back
   expect(0, "", "param set @ PointUnit=5 Journal=0");

@@ -42,6 +42,7 @@ struct Owner {
     std::ostringstream outText, errText;
     Console console{in, outText, errText, [this] { return now; }};
     std::vector<const char*> arguments;
+    arguments.reserve(words.size());
     for (const std::string& word : words) arguments.push_back(word.c_str());
     const int code = runTool(static_cast<int>(arguments.size()), arguments.data(), console);
     out = outText.str();
@@ -68,7 +69,7 @@ struct Owner {
   /// A page of the data file goes bad on the disk.
   void scratchShop() const {
     std::fstream file(shop, std::ios::in | std::ios::out | std::ios::binary);
-    file.seekp(4096 * 3);
+    file.seekp(std::streamoff{4096} * 3);
     file << "a scratch on the disk";
   }
 };

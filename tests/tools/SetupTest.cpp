@@ -74,6 +74,10 @@ static const char* const kDialog = R"(
 请写 1 到 2。
 收银台上可以导入商品表（能收银的人都可以）：1 否，2 是 [2]：
 店主在收银台上看经营报表：1 否，2 是 [2]：
+记日志：谁在什么时候做了什么，谁也改不了：1 否，2 是 [2]：
+打折、删行、退货等要有权限，没有的请人授权：1 否，2 是 [1]：
+按班收款：开班写备用金，结班清点钱箱：1 否，2 是 [1]：
+收银台上可以练习，不记账：1 否，2 是 [2]：
 退出程序时备份数据文件：1 否，2 是 [2]：
 )";
 
@@ -88,11 +92,11 @@ struct SetupTest : testing::Test, Owner {
   }
   /// A line each; some of the answers are mistakes, after which the question comes again.
   std::vector<std::string> answers() const {
-    std::istringstream all(
-        replaced("4|||好邻居||光明路 18 "
-                 "号|||||3||王店主|秘密|小李|222|none|./bad.csv|./goods.csv||./goods.csv|"
-                 "代号=商品编码||批发部||6902|红糖|袋|五块||6902|红糖|袋|5.5|3||1|||看情况||| ",
-                 "./", folder.path().string() + "/"));
+    std::istringstream all(replaced(
+        "4|||好邻居||光明路 18 "
+        "号|||||3||王店主|秘密|小李|222|none|./bad.csv|./goods.csv||./goods.csv|"
+        "代号=商品编码||批发部||6902|红糖|袋|五块||6902|红糖|袋|5.5|3||1|||看情况|||||2|| ",
+        "./", folder.path().string() + "/"));
     std::vector<std::string> lines;
     for (std::string line; std::getline(all, line, '|');) lines.push_back(line);
     return lines;
@@ -117,10 +121,11 @@ TEST_F(SetupTest, AsksUntilTheAnswersMakeAShop) {
   for (std::size_t at; (at = err.find(path)) != std::string::npos;) err.erase(at, path.size());
   EXPECT_EQ("\n" + err, kDialog);
   EXPECT_EQ(all("select name a, value b from sys_param order by name"),
-            "BackupOnExit=1 CheckPayment=1 GoodsImport=1 OwnerReport=1 PhonePay=0 "
+            "Approval=0 BackupOnExit=1 CheckPayment=1 GoodsImport=1 Journal=1 OwnerReport=1 "
+            "PhonePay=0 Practice=1 "
             "ReceiptText1=欢迎光临 ReceiptText2=光明路 18 号 ReceiptText3=谢谢惠顾，欢迎再来！ "
             "ReceiptText4= ReceiptText5= ReceiptText6= "
-            "RoundJiao=0 RoundYuan=1 ShopName=好邻居 StockRule=0 ");
+            "RoundJiao=0 RoundYuan=1 Shifts=1 ShopName=好邻居 StockRule=0 ");
   EXPECT_EQ(all("select f_spbm a, f_xsdj b from spda order by id"), "A1=4.5 6902=5.5 ");
   EXPECT_EQ(all("select f_sphh a, quantity b from spda join stock on spbm = f_spbm"), "6902=3 ")
       << "a short code can be rung";
@@ -135,6 +140,7 @@ TEST_F(SetupTest, AsksUntilTheAnswersMakeAShop) {
     login.Conn(*connection);
     ASSERT_TRUE(login.Check(number, password)) << number;
   }
+  expect(0, "账目正确：", "check @");
   expect(1, "不会覆盖", "setup @");
 }
 
@@ -149,6 +155,9 @@ TEST_F(SetupTest, LeavesNothingWhereverTheAnswersEnd) {
 TEST_F(SetupTest, MakesTheDemoShopOrTakesABackup) {
   typed = "2\n";
   expect(0, "", "setup @");
+  EXPECT_EQ(value("select count(*) as value from sys_param where value = '1' and name in"
+                  " ('Journal', 'Approval', 'Shifts', 'Practice')"),
+            "4");
   const std::string goods = value("select count(*) as value from tmda");
   std::filesystem::rename(shop, folder.file("backup"));
   write("noise", "no backup");

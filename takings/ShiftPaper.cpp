@@ -1,4 +1,4 @@
-#include "shifts/ShiftPaper.h"
+#include "takings/ShiftPaper.h"
 
 #include <algorithm>
 #include <utility>
@@ -23,7 +23,7 @@ std::string padded(const std::string& text, std::size_t columns) {
 /// Lines of a sheet of that many columns.
 class Sheet {
  public:
-  explicit Sheet(const Paper& paper) : columns_(static_cast<std::size_t>(paper.line)) {}
+  explicit Sheet(int columns) : columns_(static_cast<std::size_t>(columns)) {}
 
   void line(std::string text = {}) { lines_.push_back(std::move(text)); }
   /// A text of any length, on as many lines as it takes.
@@ -44,13 +44,10 @@ class Sheet {
     line(padded(gbk::cut(left, room), room) + " " + right);
   }
   void amount(const std::string& name, Currency amount) { row(name, twoDecimals(amount)); }
-  void sum(const std::string& name, const ShiftSum& sum) {
-    const std::string count = std::to_string(sum.count) + " 笔";
-    const std::size_t width = gbk::width(count);
-    row(padded(name, kNameColumns) +
-            std::string(kCountColumns > width ? kCountColumns - width : 0, ' ') + count,
-        twoDecimals(sum.amount));
+  void sum(const std::string& name, const ShiftSum& sum, const char* unit = "笔") {
+    row(counted(name, sum.count, unit), twoDecimals(sum.amount));
   }
+  void count(const std::string& name, std::int64_t count) { line(counted(name, count, "次")); }
   /// In groups, which eyes compare more easily.
   void hash(const std::string& hash) {
     const std::size_t most = (columns_ + 1) / (kHashGroup + 1) * kHashGroup;
@@ -61,9 +58,16 @@ class Sheet {
       line(text);
     }
   }
-  LineDocument document(std::string name) && { return {std::move(name), std::move(lines_)}; }
+  ShiftPaper paper(std::string name) && { return {std::move(name), std::move(lines_)}; }
 
  private:
+  static std::string counted(const std::string& name, std::int64_t count, const char* unit) {
+    const std::string text = std::to_string(count) + " " + unit;
+    const std::size_t width = gbk::width(text);
+    return padded(name, kNameColumns) +
+           std::string(kCountColumns > width ? kCountColumns - width : 0, ' ') + text;
+  }
+
   std::size_t columns_;
   std::vector<std::string> lines_;
 };
@@ -101,6 +105,15 @@ void addTakings(Sheet& sheet, const Shift& shift, const ClsSysParam& shop) {
   sheet.rule();
 }
 
+// What no takings show: the owner asks about these, and looks them up in the journal.
+void addDeeds(Sheet& sheet, const ShiftDeeds& deeds) {
+  sheet.count("不收款开钱箱", deeds.drawerOpened);
+  sheet.sum("撤消单据", deeds.cancelled);
+  sheet.sum("删除商品行", deeds.deleted, "行");
+  sheet.count("授权", deeds.approvals);
+  sheet.rule();
+}
+
 void addCount(Sheet& sheet, const Shift& shift) {
   for (std::size_t kind = 0; kind < kCashPieces.size(); ++kind) {
     const std::int32_t pieces = shift.counted.pieces[kind];
@@ -116,11 +129,12 @@ void addCount(Sheet& sheet, const Shift& shift) {
 
 }  // namespace
 
-LineDocument shiftPaper(const Shift& shift, ShiftPaperKind kind, const DateTime& printed,
-                        const ClsSysParam& shop, const Paper& paper) {
-  Sheet sheet(paper);
+ShiftPaper shiftPaper(const Shift& shift, ShiftPaperKind kind, const DateTime& printed,
+                      const ClsSysParam& shop, int columns) {
+  Sheet sheet(columns);
   addHead(sheet, shift, kind, printed, shop);
   addTakings(sheet, shift, shop);
+  if (shift.deeds) addDeeds(sheet, *shift.deeds);
   sheet.amount("备用金", shift.cashFloat);
   sheet.amount("钱箱应有", shift.expected());
   if (shift.closed) addCount(sheet, shift);
@@ -132,12 +146,12 @@ LineDocument shiftPaper(const Shift& shift, ShiftPaperKind kind, const DateTime&
   sheet.line();
   sheet.line("签名");
   for (int feed = 0; feed < 4; ++feed) sheet.line();
-  return std::move(sheet).document(kind == ShiftPaperKind::kReading ? "班次读数" : "结班表");
+  return std::move(sheet).paper(kind == ShiftPaperKind::kReading ? "班次读数" : "结班表");
 }
 
-LineDocument cashSlip(const CashMove& move, const ClsSysParam& shop, const Paper& paper) {
+ShiftPaper cashSlip(const CashMove& move, const ClsSysParam& shop, int columns) {
   const bool isOut = move.amount < Currency();
-  Sheet sheet(paper);
+  Sheet sheet(columns);
   sheet.title(shop.ShopName());
   sheet.title(isOut ? "取出现金" : "存入现金");
   sheet.line("第 " + std::to_string(move.shift) + " 班 " + generalText(move.time));
@@ -147,5 +161,5 @@ LineDocument cashSlip(const CashMove& move, const ClsSysParam& shop, const Paper
   sheet.line();
   sheet.line("签名");
   for (int feed = 0; feed < 4; ++feed) sheet.line();
-  return std::move(sheet).document(isOut ? "取款单" : "存款单");
+  return std::move(sheet).paper(isOut ? "取款单" : "存款单");
 }
