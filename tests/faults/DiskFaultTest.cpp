@@ -153,7 +153,10 @@ class DiskTill : public FaultyTill {
     }
     checkpoint();
     disk.mend();
-    if (disk.failed()) hit = true, ++tally.faults;
+    if (disk.failed()) {
+      hit = true;
+      ++tally.faults;
+    }
     EXPECT_EQ(steps() == before, !done) << before << "; now: " << steps();
     EXPECT_TRUE(done || step());
     EXPECT_EQ(bookFaults(), "");
