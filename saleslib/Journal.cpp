@@ -11,7 +11,7 @@
 namespace {
 
 constexpr int kBodyVersion = 1;
-constexpr std::int64_t kTill = 1;  // each till has a data file of its own; so far there is one
+constexpr std::int64_t kOnlyTill = 1;  // a till that belongs to no shop with a server
 
 // What no JSON can hold is replaced: a name in the books never keeps an entry from being written.
 std::string textOf(const nlohmann::json& body) {
@@ -27,8 +27,14 @@ std::optional<Journal::Last> Journal::last() const {
               rows.text("hash")};
 }
 
+<<<<<<< HEAD
 bool Journal::Last::isOn() const {
   return kind != entryKind(EntryKind::kJournalEnded).key;
+=======
+std::int64_t Journal::till() const {
+  Rows rows = connection_.query("select till from link");
+  return rows.next() ? rows.whole("till").value_or(kOnlyTill) : kOnlyTill;
+>>>>>>> tills
 }
 
 bool Journal::isOn() const {
@@ -73,7 +79,7 @@ void Journal::write(const std::optional<Last>& before, EntryKind kind, const std
   body["v"] = kBodyVersion;
   JournalEntry entry{.seq = before ? before->seq + 1 : 1,
                      .time = time,
-                     .till = kTill,
+                     .till = till(),
                      .operatorId = connection_.user().number(),
                      .approver = connection_.user().approver(),
                      .kind = entryKind(kind).key,
