@@ -13,14 +13,22 @@ std::optional<int> ageOf(const std::vector<Date>& dates, const Date& today) {
   return last == dates.end() ? std::nullopt : std::optional(daysBetween(*last, today));
 }
 
+/// When the first bill was made; today where there is none.
+Date firstBillsDay(Connection& shop, const Date& today) {
+  Rows first = shop.query("select sell_time from sell order by id limit 1");
+  const auto time = first.next() ? first.dateTime("sell_time") : std::nullopt;
+  return time ? time->date : today;
+}
+
 }  // namespace
 
-BackupKeeper::BackupKeeper(const Connection& shop, std::filesystem::path medium, Clock clock,
+BackupKeeper::BackupKeeper(Connection& shop, std::filesystem::path medium, Clock clock,
                            Seconds first, Seconds pause)
     : shop_(shop),
       medium_(std::move(medium)),
       opened_(FileIdentity::of(shop.source().path)),
       clock_(std::move(clock)),
+      firstDay_(firstBillsDay(shop, clock_().date)),
       pause_(pause),
       next_(std::chrono::steady_clock::now() + first) {
   state_.here = BackupFolder::beside(shop.source().path).dates();
@@ -85,4 +93,8 @@ std::optional<int> BackupKeeper::age() const {
   const std::optional<int> here = ageOf(state_.here, today);
   if (medium_.empty() || !here || state_.onMedium.empty()) return here;
   return std::max(*here, ageOf(state_.onMedium, today).value_or(*here));
+}
+
+int BackupKeeper::daysAtRisk() const {
+  return age().value_or(daysBetween(firstDay_, clock_().date));
 }

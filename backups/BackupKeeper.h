@@ -23,7 +23,7 @@ class BackupKeeper {
 
   /// Looks after the file of that connection, which outlives this. `medium` is a mounted folder or
   /// empty. The first look is `first` after the making, the others `pause` apart.
-  BackupKeeper(const Connection& shop, std::filesystem::path medium, Clock clock,
+  BackupKeeper(Connection& shop, std::filesystem::path medium, Clock clock,
                Seconds first = Seconds(60), Seconds pause = Seconds(600));
   /// Stops a run that goes on. One that the medium holds up is left behind.
   ~BackupKeeper();
@@ -45,6 +45,9 @@ class BackupKeeper {
   /// The days since the last backup, beside the data file or on the medium, whichever is older; of
   /// those later than today none counts. Nothing when there is none.
   std::optional<int> age() const;
+  /// How many days' sales could be lost: the age, or where there is no backup, the days since the
+  /// books' first bill, as the making found it.
+  int daysAtRisk() const;
 
  private:
   void start(bool anew);
@@ -54,6 +57,7 @@ class BackupKeeper {
   std::filesystem::path medium_;
   FileIdentity opened_;
   Clock clock_;
+  Date firstDay_;
   Seconds pause_;
   std::chrono::steady_clock::time_point next_;
   BackupResult state_;

@@ -175,6 +175,7 @@ void DemoDay::practise(TillDriver& till) {
   till.enter(goods_.plain);
   till.enter(goods_.another);
   till.key("F10");
+  till.waitForText("title", isEnglish() ? "Practice" : "练习");
   shot(till, "practice");
   till.key("F1");
   till.waitFor("frmEndSell");

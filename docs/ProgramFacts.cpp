@@ -35,6 +35,7 @@ std::string helpOf(std::vector<std::string> words) {
   words.insert(words.begin(), "tilladmin");
   words.emplace_back("--help");
   std::vector<const char*> arguments;
+  arguments.reserve(words.size());
   for (const std::string& word : words) arguments.push_back(word.c_str());
   std::istringstream in;
   std::ostringstream out, err;

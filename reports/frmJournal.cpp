@@ -129,7 +129,8 @@ void frmJournal::search() {
 
 // As wide as what is in it, to which the arrow keys scroll.
 void frmJournal::fitDetails() {
-  listEntries_->resizeColumnToContents(JournalModel::kDetails);
+  for (const auto column : {JournalModel::kKind, JournalModel::kDetails})
+    listEntries_->resizeColumnToContents(column);
   const int free = listEntries_->viewport()->width() -
                    listEntries_->horizontalHeader()->sectionPosition(JournalModel::kDetails);
   if (listEntries_->columnWidth(JournalModel::kDetails) < free)

@@ -84,8 +84,7 @@ void frmSell::begin() {
   myMenu_->MenuClick = [this](const MenuItem& Menu) { session_->menu(Menu.Key); };
   myMenu_->closed = [this] { endProgram(); };
 
-  const QString shop = qtText(pos_.gSysParam.ShopName());
-  controls_.title->showText(shop.isEmpty() ? tr("收  银  台") : shop);
+  controls_.title->showText(heading());
   controls_.title1->showText(tr("单号：收银员："));
   controls_.title3->showText({});
   controls_.txtmoney->showText({});
@@ -100,6 +99,13 @@ void frmSell::begin() {
   activateWindow();
   controls_.t->setFocus();
   Timer1_.start();
+}
+
+// The shop's name of a till to practise at is what its papers say, which are Chinese.
+QString frmSell::heading() const {
+  if (property("practice").toBool()) return tr("练习，不入账");
+  const QString shop = qtText(pos_.gSysParam.ShopName());
+  return shop.isEmpty() ? tr("收  银  台") : shop;
 }
 
 void frmSell::finish() {

@@ -32,7 +32,7 @@ class frmSell : public QWidget, private SaleScreen {
 
   /// Shows the screen modally; returns when it has been left. Needs an operator. Throws StoreError.
   void openModal();
-  /// The screen is one to practise at: its heading is a coloured band across it. Before it opens.
+  /// The screen is one to practise at: its heading says so, on a coloured band. Before it opens.
   void showPractice();
   /// Opens the function menu: the menu key or a right click.
   void ShowSaleMenu();
@@ -56,6 +56,7 @@ class frmSell : public QWidget, private SaleScreen {
   void endProgram() override;
 
   void begin();
+  QString heading() const;
   void finish();
   void arrange();
   void showInput(const SalePicture& picture);

@@ -27,20 +27,28 @@ std::optional<Journal::Last> Journal::last() const {
               rows.text("hash")};
 }
 
+<<<<<<< HEAD
+bool Journal::Last::isOn() const {
+  return kind != entryKind(EntryKind::kJournalEnded).key;
+=======
 std::int64_t Journal::till() const {
   Rows rows = connection_.query("select till from link");
   return rows.next() ? rows.whole("till").value_or(kOnlyTill) : kOnlyTill;
+>>>>>>> tills
 }
 
 bool Journal::isOn() const {
   const std::optional<Last> before = last();
-  return before && before->kind != entryKind(EntryKind::kJournalEnded).key;
+  return before && before->isOn();
 }
 
 void Journal::note(EntryKind kind, const std::string& touches, const Body& body) const {
-  if (!isOn()) return;
+  const std::optional<Last> before = last();
+  if (!before || !before->isOn()) return;
+  // Within the transaction of what it tells nobody else can have added one meanwhile.
+  if (connection_.inTransaction()) return append(before, kind, touches, body());
   Transaction noting(connection_);
-  append(kind, touches, body());
+  append(last(), kind, touches, body());
   noting.commit();
 }
 
@@ -53,9 +61,9 @@ void Journal::note(EntryKind kind, const std::string& touches,
   });
 }
 
-// The last entry is read under the write lock: another program may have added one meanwhile.
-void Journal::append(EntryKind kind, const std::string& touches, nlohmann::json body) const {
-  std::optional<Last> before = last();
+// The last entry was read under the write lock: another program may have added one before.
+void Journal::append(std::optional<Last> before, EntryKind kind, const std::string& touches,
+                     nlohmann::json body) const {
   const std::string now = storedText(connection_.user().clock());
   if (before && isSetBack(before->time, now)) {
     nlohmann::json from = nlohmann::json::object();

@@ -19,10 +19,6 @@ constexpr int kOldDays = 3;
 constexpr int kWaitPixels = 400;
 constexpr QColor kAlarm(0xc0, 0x10, 0x10);
 
-bool isAlarming(const BackupKeeper& backups) {
-  return backups.age().value_or(kOldDays) >= kOldDays;
-}
-
 QString faultText(const BackupResult& state) {
   QStringList faults;
   for (const std::string* fault : {&state.fault, &state.mediumFault})
@@ -51,7 +47,7 @@ void BackupLine::paint(QPainter& painter, const QRect& place, const BackupKeeper
                    metrics.elidedText(fault, Qt::ElideRight, place.width() - 2 * kPlateMargin));
   const QString age = ageText(backups);
   QRect plate(place.topLeft(), QSize(metrics.horizontalAdvance(age) + 2 * kPlateMargin, height));
-  if (isAlarming(backups)) {
+  if (backups.daysAtRisk() >= kOldDays) {
     painter.fillRect(plate, kAlarm);
     painter.setPen(Qt::white);
   }

@@ -7,8 +7,7 @@ class QPainter;
 class QRect;
 
 /// What the main window says of the dated backups, in one line: how old the last one is, in white
-/// on red from the third day on or when there is none, and in a second one why the last could not
-/// be made.
+/// on red once three days' sales could be lost, and in a second one why the last could not be made.
 class BackupLine {
   Q_DECLARE_TR_FUNCTIONS(BackupLine)
 

@@ -40,7 +40,7 @@ frmMain::frmMain(posMod& pos, std::map<QString, Screen> screens, QWidget* parent
       screens_(std::move(screens)),
       login_(new frmLogin(pos, this)),
       theMenu_(std::make_unique<frmMenu>(pos.gKeyBoard)),
-      furtherMenu_(new frmMenu(pos.gKeyBoard, this)),
+      furtherMenu_(new frmMenu(pos.gKeyBoard, theMenu_.get())),  // what raises one, raises both
       Label1_(new QLabel(tr("使用光标键选择菜单,回车键执行,Esc键返回,Tab键移动选择焦点"))) {
   setObjectName("frmMain");
   setWindowTitle(QGuiApplication::applicationDisplayName());

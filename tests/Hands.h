@@ -16,7 +16,7 @@
 
 /// The hands of someone at the till: what they do, in order, each step as soon as the window of
 /// that name is the modal one in front. A step that never comes fails the test and closes the
-/// windows.
+/// windows, those too that come up later.
 class Hands : public QObject {
  public:
   using Step = std::function<void(QWidget& window)>;
@@ -59,6 +59,7 @@ class Hands : public QObject {
 
   static void pressNow(Qt::Key key) {
     QWidget* shown = QApplication::activeModalWidget();
+    if (!shown) FAIL() << "there is no window for the key";
     QTest::keyClick(focusIn(*shown), key);
   }
   static void typeNow(const QString& text) {
@@ -89,7 +90,7 @@ class Hands : public QObject {
   }
 
  private:
-  static constexpr int kPatienceMs = 5000;
+  static constexpr int kPatienceMs = 30'000;  // a busy disk makes no shop in five seconds
 
   static QWidget* focusIn(QWidget& window) {
     QWidget* focus = window.focusWidget();
@@ -101,6 +102,7 @@ class Hands : public QObject {
   void look() {
     lookSoon();
     QWidget* shown = QApplication::activeModalWidget();
+    if (shown && gaveUp_) return shown->hide();
     if (!shown || steps_.empty()) return waited_.invalidate();
     // A window that has just come to the front may still be waiting for the one that closed.
     if (std::exchange(seen_, shown) != shown) return;
@@ -117,12 +119,14 @@ class Hands : public QObject {
     ADD_FAILURE() << shown.objectName().toStdString() << " is in front, not "
                   << steps_.front().first.toStdString();
     steps_.clear();
+    gaveUp_ = true;
     while (QWidget* front = QApplication::activeModalWidget()) front->hide();
     QCoreApplication::quit();
   }
 
   std::deque<std::pair<QString, Step>> steps_;
   QElapsedTimer waited_;
+  bool gaveUp_ = false;
   const QWidget* seen_ = nullptr;
   const char* last_ = "";
 };

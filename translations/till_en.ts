@@ -421,7 +421,7 @@ Take the payment like this?</translation>
     </message>
     <message>
         <source>库存</source>
-        <translation>stock</translation>
+        <translation>Stock</translation>
     </message>
     <message>
         <source>加入(&amp;A)</source>
@@ -1656,7 +1656,7 @@ Last goods: %3</translation>
     </message>
     <message>
         <source>单号/付款码(&amp;N)</source>
-        <translation>Bill &amp;no./pay code</translation>
+        <translation>Bill &amp;no./code</translation>
     </message>
 </context>
 <context>
@@ -5133,19 +5133,19 @@ The questions were not all answered. Nothing was made.</translation>
     </message>
     <message>
         <source>开班</source>
-        <translation>Open shift</translation>
+        <translation>Shift opened</translation>
     </message>
     <message>
         <source>钱箱存取</source>
-        <translation>cash moved</translation>
+        <translation>Cash moved</translation>
     </message>
     <message>
         <source>清点钱箱</source>
-        <translation>Count the drawer</translation>
+        <translation>Drawer counted</translation>
     </message>
     <message>
         <source>结班</source>
-        <translation>Close shift</translation>
+        <translation>Shift closed</translation>
     </message>
     <message>
         <source>开班时间</source>
@@ -5414,6 +5414,54 @@ The questions were not all answered. Nothing was made.</translation>
     <message>
         <source>停用一台收银机</source>
         <translation>Shut a till out</translation>
+    </message>
+    <message>
+        <source>连不上服务器：%1</source>
+        <translation>The server cannot be reached: %1</translation>
+    </message>
+    <message>
+        <source>收银机 %1 的记录少了第 %2 到第 %3 条</source>
+        <translation>Till %1 lacks the entries %2 to %3</translation>
+    </message>
+    <message>
+        <source>收银机 %1 的第 %2 条记录与它的校验值不符：它，或者它前面的一条，被改过</source>
+        <translation>Entry %2 of till %1 does not match its hash: it, or the one before it, has been changed</translation>
+    </message>
+    <message>
+        <source>服务器没有照办：%1</source>
+        <translation>The server did not do it: %1</translation>
+    </message>
+    <message>
+        <source>服务器上的店铺是更新版本的程序建立的。</source>
+        <translation>The shop at the server was made by a newer version of this program.</translation>
+    </message>
+    <message>
+        <source>收银机 %1 已经加入。换机器或者重装要写 --again，原来的那台从此不能再传。</source>
+        <translation>Till %1 has joined already. For another machine, or after a new installation, add --again; the old one can bring nothing from then on.</translation>
+    </message>
+    <message>
+        <source>没有收银机 %1。</source>
+        <translation>There is no till %1.</translation>
+    </message>
+    <message>
+        <source>收银机 %1 的单据 %2：各行加起来与它不符</source>
+        <translation>Bill %2 of till %1: its lines do not add up to it</translation>
+    </message>
+    <message>
+        <source>账表与传来的记录不符，已按记录重新做好</source>
+        <translation>The tables did not agree with the entries, and have been made again from them</translation>
+    </message>
+    <message>
+        <source>账表与传来的记录不符，可用 --rebuild 重新做好</source>
+        <translation>The tables do not agree with the entries; --rebuild makes them again</translation>
+    </message>
+    <message>
+        <source>这台收银机没有加入店铺的服务器（tilladmin enrol）。</source>
+        <translation>This till has not joined a shop with a server (tilladmin enrol).</translation>
+    </message>
+    <message>
+        <source>已连上服务器</source>
+        <translation>The server answers</translation>
     </message>
 </context>
 <context>
@@ -6659,6 +6707,10 @@ Member since: %3</translation>
     <message>
         <source>当前时间：%1</source>
         <translation>Now: %1</translation>
+    </message>
+    <message>
+        <source>练习，不入账</source>
+        <translation>Practice, not in the books</translation>
     </message>
     <message>
         <source>%1&#x3000;%2</source>

@@ -111,6 +111,21 @@ TEST_F(BackupKeeperTest, ADaysBackupIsOneStateOfTheBooksHoweverMuchIsSoldMeanwhi
   EXPECT_EQ(backups.age(), 3);
 }
 
+TEST_F(BackupKeeperTest, WithoutABackupTheDaysAtRiskBeginWithTheFirstBill) {
+  {
+    const BackupKeeper newShop = keeper();
+    today_ = plusDays(kMonday, 1);
+    EXPECT_EQ(newShop.daysAtRisk(), 1) << "sold today, and no backup tomorrow";
+  }
+  EXPECT_EQ(keeper().daysAtRisk(), 0);
+  for (const char* time : {"2026-11-20 09:00:00", "2026-11-23 09:00:00"})
+    books_->run("insert into sell (sell_time, operator_id) values (?, 1)", std::string(time));
+  BackupKeeper backups = keeper();
+  EXPECT_EQ(backups.daysAtRisk(), 4);
+  lookUntilNews(backups);
+  EXPECT_EQ(backups.daysAtRisk(), 0);
+}
+
 TEST_F(BackupKeeperTest, WhatIsNotWholeOrNotTheOpenFileReplacesNothing) {
   fs::create_directory(here_.path());
   const auto refuse = [&](const char* why) {
@@ -128,7 +143,7 @@ TEST_F(BackupKeeperTest, WhatIsNotWholeOrNotTheOpenFileReplacesNothing) {
   books_->checkpoint();
   {
     std::fstream file(shopFile_, std::ios::in | std::ios::out | std::ios::binary);
-    file.seekp(-4096 * 2, std::ios::end);
+    file.seekp(-8192, std::ios::end);
     file << "a scratch on the disk";
   }
   refuse("损坏");
