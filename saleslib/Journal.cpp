@@ -27,14 +27,13 @@ std::optional<Journal::Last> Journal::last() const {
               rows.text("hash")};
 }
 
-<<<<<<< HEAD
 bool Journal::Last::isOn() const {
   return kind != entryKind(EntryKind::kJournalEnded).key;
-=======
+}
+
 std::int64_t Journal::till() const {
   Rows rows = connection_.query("select till from link");
   return rows.next() ? rows.whole("till").value_or(kOnlyTill) : kOnlyTill;
->>>>>>> tills
 }
 
 bool Journal::isOn() const {

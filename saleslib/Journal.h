@@ -54,13 +54,9 @@ class TESSALY_API Journal {
     bool isOn() const;  ///< and not the journal's end
   };
   std::optional<Last> last() const;
-<<<<<<< HEAD
   void append(std::optional<Last> before, EntryKind kind, const std::string& touches,
               nlohmann::json body) const;
-=======
   std::int64_t till() const;
-  void append(EntryKind kind, const std::string& touches, nlohmann::json body) const;
->>>>>>> tills
   void write(const std::optional<Last>& before, EntryKind kind, const std::string& time,
              const std::string& touches, nlohmann::json body) const;
 
