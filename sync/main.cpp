@@ -30,38 +30,41 @@ DataSource sourceOf(const Options& options) {
   return source;
 }
 
-/// Waits for the end of the standard input, which the till holds open; without a till for nothing.
-bool hasInputEnded(const Options& options, SyncRun::Milliseconds patience) {
-  pollfd input{options.isWithTill ? STDIN_FILENO : -1, 0, 0};
-  if (poll(&input, 1, static_cast<int>(patience.count())) <= 0) return false;
-  return (input.revents & (POLLHUP | POLLERR)) != 0;
-}
+/// The till that started this program, as its standard input tells: the till holds it open.
+class StartingTill {
+ public:
+  explicit StartingTill(bool isThere) : input_(isThere ? STDIN_FILENO : -1) {}
+
+  /// Waits so long, shorter when the till ends.
+  void wait(SyncRun::Milliseconds patience) {
+    pollfd input{isGone_ ? -1 : input_, 0, 0};
+    if (poll(&input, 1, static_cast<int>(patience.count())) > 0) isGone_ = true;
+  }
+  bool isGone() const { return isGone_; }
+
+ private:
+  int input_;  ///< -1: nobody's end is waited for
+  bool isGone_ = false;
+};
 
 int run(const Options& options) {
-  using namespace std::chrono_literals;
   const DataSource source = sourceOf(options);
   const SyncPlace place(source.path);
   if (!place.isMine()) return 0;
-  bool isTillGone = false;
-  SyncRun sync(
-      source, place,
-      {.pause =
-           [&](SyncRun::Milliseconds wait) {
-             if (isTillGone) {
-               poll(nullptr, 0, static_cast<int>(wait.count()));
-             } else {
-               isTillGone = hasInputEnded(options, wait);
-             }
-           },
-       .isTillGone = [&] { return isTillGone = isTillGone || hasInputEnded(options, 0ms); },
-       .tell = [](const std::string& what) { std::cerr << what << std::endl; }});
+  StartingTill till(options.isWithTill);
+  SyncRun sync(source, place,
+               {.pause = [&](SyncRun::Milliseconds wait) { till.wait(wait); },
+                .isTillGone =
+                    [&] {
+                      till.wait(SyncRun::Milliseconds(0));
+                      return till.isGone();
+                    },
+                .tell = [](const std::string& what) { std::cerr << what << std::endl; }});
   sync.run();
   return 0;
 }
 
-}  // namespace
-
-int main(int count, char** arguments) {
+int runCommandLine(int count, char** arguments) {
   Options options;
   CLI::App app("Brings what happens at a till to the shop's server.", "tillsync");
   app.set_version_flag("--version", std::string(tillVersion()));
@@ -71,8 +74,14 @@ int main(int count, char** arguments) {
   app.add_flag("--with-till", options.isWithTill,
                "end when the standard input does and everything is brought");
   CLI11_PARSE(app, count, arguments);
+  return run(options);
+}
+
+}  // namespace
+
+int main(int count, char** arguments) {
   try {
-    return run(options);
+    return runCommandLine(count, arguments);
   } catch (const std::exception& failure) {
     std::cerr << failure.what() << '\n';
     return 1;
