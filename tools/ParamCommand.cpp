@@ -1,6 +1,7 @@
 #include "tools/ParamCommand.h"
 
 #include <CLI/CLI.hpp>
+#include <algorithm>
 #include <memory>
 #include <string>
 #include <vector>
@@ -51,9 +52,12 @@ void set(const Options& options, Console& console) {
 
 std::string parametersExplained() {
   std::string text = Words::tr("参数：\n");
-  for (const ClsSysParam::Parameter& parameter : ClsSysParam().list()) {
-    text += "  " + parameter.name + std::string(14 - parameter.name.size(), ' ') +
-            parameter.meaning + "\n";
+  const std::vector<ClsSysParam::Parameter> parameters = ClsSysParam().list();
+  std::size_t longest = 0;
+  for (const auto& each : parameters) longest = std::max(longest, each.name.size());
+  for (const auto& each : parameters) {
+    text +=
+        "  " + each.name + std::string(longest + 2 - each.name.size(), ' ') + each.meaning + "\n";
   }
   return text;
 }
