@@ -196,7 +196,8 @@ CardResult BillBooks::payByCard(ClsSell& bill, const std::string& password) {
   ensure(bill.CardPay() == roundedToFen(bill.Amount()), "a card pays all that is due");
   ensure(!bill.Paid(), "a bill is paid once");
   if (!hasShift()) throw StoreError(Words::tr(kNoShift));
-  CardResult result = CardPayment(connection_, rules_, cards_).pay(bill, password);
+  CardResult result =
+      CardPayment(connection_, rules_.OfflineCardLimit(), cards_).pay(bill, password);
   ensure(!connection_.inTransaction(), "a payment is durable before it is shown");
   return result;
 }
@@ -233,7 +234,7 @@ Credit BillBooks::creditMember(const ClsSell& bill) {
 }
 
 std::vector<BillBooks::PaidBill> BillBooks::completePaid() {
-  CardPayment(connection_, rules_, cards_).giveUpUnpaid();
+  CardPayment(connection_, rules_.OfflineCardLimit(), cards_).giveUpUnpaid();
   ClsDayStat bills;
   bills.PaidQuery(connection_);
   std::vector<PaidBill> paid;

@@ -8,7 +8,6 @@
 #include "base/Failure.h"
 #include "saleslib/BillNotes.h"
 #include "saleslib/ClsSell.h"
-#include "saleslib/ClsSysParam.h"
 #include "saleslib/Fields.h"
 #include "saleslib/Sodium.h"
 #include "store/Connection.h"
@@ -124,8 +123,7 @@ void CardPayment::take(ClsSell& bill, const Charge& charge, bool isAnswered) {
 bool CardPayment::mayGoUnanswered(const Charge& charge, const StoredCard& card) {
   Rows row = connection_.query("select amount from card_offline where card_no = ?", charge.card);
   const Currency before = row.next() ? money(row, "amount") : Currency();
-  const Currency limit = rules_.OfflineCardLimit();
-  return limit > Currency() && before + charge.amount <= limit && charge.amount <= card.balance;
+  return limit_ > Currency() && before + charge.amount <= limit_ && charge.amount <= card.balance;
 }
 
 void CardPayment::refuse(const Charge& charge) {

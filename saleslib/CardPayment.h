@@ -6,7 +6,6 @@
 #include "saleslib/StoredCard.h"
 
 class ClsSell;
-class ClsSysParam;
 class Connection;
 
 /// How a stored-value card pays for a bill: by the data file in one transaction, or in a shop with
@@ -15,9 +14,10 @@ class Connection;
 /// either a paid bill or a charge that is known to be given up. Throws StoreError.
 class CardPayment {
  public:
-  /// All outlive the payment. `shop` may be none.
-  CardPayment(Connection& connection, const ClsSysParam& rules, CardAuthority* shop)
-      : connection_(connection), rules_(rules), shop_(shop) {}
+  /// Both outlive the payment. `shop` may be none; `limit` is what one card may pay while it does
+  /// not answer (ClsSysParam::OfflineCardLimit).
+  CardPayment(Connection& connection, Currency limit, CardAuthority* shop)
+      : connection_(connection), limit_(limit), shop_(shop) {}
 
   /// Charges the bill's card with what it pays (CardPay), and stores the bill with the mark of a
   /// paid one. The bill is paid only when the outcome is kDone.
@@ -38,6 +38,6 @@ class CardPayment {
   void forget(const CardAuthority::Charge& charge);
 
   Connection& connection_;
-  const ClsSysParam& rules_;
+  Currency limit_;
   CardAuthority* shop_;
 };
