@@ -1,11 +1,13 @@
 #include "app/posMod.h"
 
+#include <QCoreApplication>
 #include <QStringList>
 #include <algorithm>
 #include <iterator>
 #include <utility>
 #include <vector>
 
+#include "app/SyncProgram.h"
 #include "backups/BackupKeeper.h"
 #include "base/Failure.h"
 #include "base/FileName.h"
@@ -17,6 +19,7 @@
 #include "saleslib/Journal.h"
 #include "saleslib/ReturnBooks.h"
 #include "saleslib/ShiftBooks.h"
+#include "saleslib/ShopLink.h"
 #include "saleslib/TopUpBooks.h"
 #include "store/Connection.h"
 #include "store/DataFile.h"
@@ -124,6 +127,9 @@ void posMod::start() {
   gPosSet.LoadSet(configIni);
   if (gPosSet.VMouse == 0) ShowMouse(false);
   startBackups();
+  if (!shopLink(*gConn)) return;
+  const std::filesystem::path programs = QCoreApplication::applicationDirPath().toStdString();
+  sync = std::make_unique<SyncProgram>(programs / "tillsync", gConn->source());
 }
 
 // The medium is not looked at here: one that hangs must not hold the window.

@@ -24,6 +24,7 @@ class DataFileLock;
 class Journal;
 class ReturnBooks;
 class ShiftBooks;
+class SyncProgram;
 class TopUpBooks;
 struct DataSource;
 
@@ -56,6 +57,7 @@ class posMod {
   LoginBrake loginBrake;
   std::unique_ptr<const Ports> ports;     ///< never none
   std::unique_ptr<BackupKeeper> backups;  ///< the dated ones; none until start, and unless wanted
+  std::unique_ptr<SyncProgram> sync;      ///< of a till of a shop with a server; none until start
 
   /// Takes the till's lock on the data file and opens it: Path of section Database as
   /// DataSource::parse reads it (a relative one starts at the shop's folder), else
@@ -75,7 +77,8 @@ class posMod {
   [[nodiscard]] std::string protectFiles() const;
   /// Binds the services to the data file and loads keyboard map and terminal settings; hides the
   /// pointer unless the settings show it. `Backups`=1 or `BackupTo` of section Till, a folder (a
-  /// relative one starts at the shop's), turn the dated backups on. Needs the data file open.
+  /// relative one starts at the shop's), turn the dated backups on. In a till of a shop with a
+  /// server it starts what brings there what happens. Needs the data file open.
   /// Throws StoreError.
   void start();
   /// The books, kept by who is logged in (ensure); what they are made of outlives them.

@@ -31,6 +31,15 @@ void BenchShop::enter(const std::string& code) {
     throw std::runtime_error("Enter did nothing");
 }
 
+void BenchShop::lowerQuantity() {
+  static_cast<void>(session_->key(pos_->gKeyBoard.mUp, {}));
+  enter("0.5");
+}
+
+void BenchShop::deleteLine() {
+  static_cast<void>(session_->key(pos_->gKeyBoard.mF4, {}));
+}
+
 void BenchShop::attach(int memberId) {
   ClsMember member;
   member.Init(*pos_->gConn, memberId);

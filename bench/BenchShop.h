@@ -23,6 +23,10 @@ class BenchShop : public SaleScreen {
 
   /// Types a code and presses Enter.
   void enter(const std::string& code);
+  /// Makes the last line's quantity a half.
+  void lowerQuantity();
+  /// Takes the last line off the bill.
+  void deleteLine();
   /// Attaches a member to the bill.
   void attach(int memberId);
   /// Presses the settle key; payment is confirmed with the amount due in cash.

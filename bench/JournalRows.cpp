@@ -43,6 +43,13 @@ class Pair {
       keeping->enter(code);
     }
   }
+  void endBills() {
+    if (!without.sale().isEmpty()) {
+      keeping->settle();
+      without.settle();
+    }
+    checkpoint();
+  }
   void checkpoint() {
     without.pos().gConn->checkpoint();
     keeping->pos().gConn->checkpoint();
@@ -82,19 +89,37 @@ double perOne(const Syncs& syncs, const Measured& row) {
   return static_cast<double>(syncs.all) / static_cast<double>(row.till.count());
 }
 
+constexpr std::size_t kLinesPerBill = 20;
+
 void ring(Run& run, benchmark::State& state, Measured& row) {
-  constexpr std::size_t kLinesPerBill = 20;
   Pair pair(run);
   Syncs syncs;
   for ([[maybe_unused]] auto _ : state) {
     const std::string code = pair.next();
     compare(pair, state, row, syncs, [&](BenchShop& till) { till.enter(code); });
     if (row.till.count() % kLinesPerBill != 0) continue;
-    pair.keeping->settle();
-    pair.without.settle();
-    pair.checkpoint();
+    pair.endBills();
   }
   row.claims = {{"ratio", row.ratio(), 1.15}, {"syncs", perOne(syncs, row), 1.05}};
+}
+
+/// A correction of the line that was rung last, which is an entry of its own in its transaction.
+void correct(Run& run, benchmark::State& state, Measured& row, void (BenchShop::*correction)()) {
+  Pair pair(run);
+  Syncs syncs;
+  for ([[maybe_unused]] auto _ : state) {
+    const std::string code = pair.next();
+    for (BenchShop* till : {pair.keeping.get(), &pair.without}) till->enter(code);
+    compare(pair, state, row, syncs, [&](BenchShop& till) { (till.*correction)(); });
+    if (row.till.count() % kLinesPerBill == 0) pair.endBills();
+  }
+  row.claims = {{"ratio", row.ratio(), 1.4}, {"syncs", perOne(syncs, row), 1.05}};
+}
+void deleteLine(Run& run, benchmark::State& state, Measured& row) {
+  correct(run, state, row, &BenchShop::deleteLine);
+}
+void lowerQuantity(Run& run, benchmark::State& state, Measured& row) {
+  correct(run, state, row, &BenchShop::lowerQuantity);
 }
 
 void settle(Run& run, benchmark::State& state, Measured& row) {
@@ -117,5 +142,7 @@ void addJournalRows(Run& run) {
            [&run, body](benchmark::State& state, Measured& row) { body(run, state, row); });
   };
   add("ringing a line, journal kept", run.samples(3'000, 300), &ring);
+  add("deleting a line, journal kept", run.samples(1'000, 100), &deleteLine);
+  add("lowering a quantity, journal kept", run.samples(1'000, 100), &lowerQuantity);
   add("settling ten lines, journal kept", run.samples(500, 60), &settle);
 }

@@ -97,6 +97,13 @@ void SellControls::layOutStatus() {
   lblViewMember->raise();
 }
 
+// The next second needs no other room.
+void SellControls::showTime(const QString& text) {
+  const bool fits = text.size() == title2->text().size();
+  title2->setText(text);
+  if (!fits) layOutHeadings();
+}
+
 // The previous bill goes on in a second line of small type where the screen is narrow.
 void SellControls::layOutHeadings() {
   constexpr int kSmall = 12;

@@ -22,6 +22,8 @@ class SellControls {
   void arrange(const ClsPosSet& settings, const KeyBoard& keys);
   /// The member's lines take room from the status line when there are any.
   void showMember(const QString& text);
+  /// The headings at its sides make room for it.
+  void showTime(const QString& text);
 
   FittedLabel* const title;
   FittedLabel* const title1;

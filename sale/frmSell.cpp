@@ -11,6 +11,7 @@
 #include <QScopeGuard>
 #include <QScopedValueRollback>
 
+#include "app/SyncProgram.h"
 #include "app/posMod.h"
 #include "checkout/frmEndSell.h"
 #include "platform/QtText.h"
@@ -122,7 +123,11 @@ void frmSell::ShowSaleMenu() {
 }
 
 void frmSell::showTime() {
-  controls_.title2->setText(tr("当前时间：%1").arg(qtText(longTime(pos_.clock()))));
+  const DateTime now = pos_.clock();
+  const QString time = qtText(longTime(now));
+  const QString state = pos_.sync ? pos_.sync->stateText(now) : QString();
+  controls_.showTime(state.isEmpty() ? tr("当前时间：%1").arg(time)
+                                     : tr("%1　%2", "time, state of the line").arg(time, state));
 }
 
 bool frmSell::eventFilter(QObject* watched, QEvent* event) {

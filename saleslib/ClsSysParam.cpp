@@ -9,6 +9,7 @@
 #include "base/Text.h"
 #include "base/Words.h"
 #include "saleslib/Journal.h"
+#include "saleslib/ShopLink.h"
 #include "saleslib/Tenders.h"
 #include "store/Connection.h"
 #include "store/Transaction.h"
@@ -30,6 +31,7 @@ struct Definition {
 };
 
 constexpr std::size_t kLongestText = 200;
+constexpr std::string_view kJournal = "Journal";
 
 std::optional<std::string> readText(std::string_view text) {
   if (hasControlCharacter(text) || characters(text) > kLongestText) return std::nullopt;
@@ -144,6 +146,8 @@ std::string ClsSysParam::set(std::string_view name, std::string_view value) {
   if (!refused.empty()) return refused;
   const Definition* definition = find(name);
   const std::optional<std::string> kept = definition->kind->read(value);
+  if (definition->name == kJournal && kept == "0" && shopLink(*connection_))
+    return Words::tr("这台收银机连着店铺的服务器，日志不能停。");
   const std::string before = this->value(definition->name);
   Transaction transaction(*connection_);
   const std::int64_t known =
@@ -160,7 +164,7 @@ std::string ClsSysParam::set(std::string_view name, std::string_view value) {
 void ClsSysParam::note(const std::string& name, const std::string& before,
                        const std::string& value) {
   const Journal journal(*connection_);
-  const bool isSwitch = name == "Journal";
+  const bool isSwitch = name == kJournal;
   if (isSwitch && value == "1" && !journal.isOn()) return journal.begin();
   journal.note(EntryKind::kParameterSet, name, [&] {
     return nlohmann::json{{"parameters", {{name, value}}}, {"before", before}};

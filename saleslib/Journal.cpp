@@ -11,7 +11,7 @@
 namespace {
 
 constexpr int kBodyVersion = 1;
-constexpr std::int64_t kTill = 1;  // each till has a data file of its own; so far there is one
+constexpr std::int64_t kOnlyTill = 1;  // a till that belongs to no shop with a server
 
 // What no JSON can hold is replaced: a name in the books never keeps an entry from being written.
 std::string textOf(const nlohmann::json& body) {
@@ -27,15 +27,27 @@ std::optional<Journal::Last> Journal::last() const {
               rows.text("hash")};
 }
 
+bool Journal::Last::isOn() const {
+  return kind != entryKind(EntryKind::kJournalEnded).key;
+}
+
+std::int64_t Journal::till() const {
+  Rows rows = connection_.query("select till from link");
+  return rows.next() ? rows.whole("till").value_or(kOnlyTill) : kOnlyTill;
+}
+
 bool Journal::isOn() const {
   const std::optional<Last> before = last();
-  return before && before->kind != entryKind(EntryKind::kJournalEnded).key;
+  return before && before->isOn();
 }
 
 void Journal::note(EntryKind kind, const std::string& touches, const Body& body) const {
-  if (!isOn()) return;
+  const std::optional<Last> before = last();
+  if (!before || !before->isOn()) return;
+  // Within the transaction of what it tells nobody else can have added one meanwhile.
+  if (connection_.inTransaction()) return append(before, kind, touches, body());
   Transaction noting(connection_);
-  append(kind, touches, body());
+  append(last(), kind, touches, body());
   noting.commit();
 }
 
@@ -48,9 +60,9 @@ void Journal::note(EntryKind kind, const std::string& touches,
   });
 }
 
-// The last entry is read under the write lock: another program may have added one meanwhile.
-void Journal::append(EntryKind kind, const std::string& touches, nlohmann::json body) const {
-  std::optional<Last> before = last();
+// The last entry was read under the write lock: another program may have added one before.
+void Journal::append(std::optional<Last> before, EntryKind kind, const std::string& touches,
+                     nlohmann::json body) const {
   const std::string now = storedText(connection_.user().clock());
   if (before && isSetBack(before->time, now)) {
     nlohmann::json from = nlohmann::json::object();
@@ -66,7 +78,7 @@ void Journal::write(const std::optional<Last>& before, EntryKind kind, const std
   body["v"] = kBodyVersion;
   JournalEntry entry{.seq = before ? before->seq + 1 : 1,
                      .time = time,
-                     .till = kTill,
+                     .till = till(),
                      .operatorId = connection_.user().number(),
                      .approver = connection_.user().approver(),
                      .kind = entryKind(kind).key,

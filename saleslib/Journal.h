@@ -50,9 +50,13 @@ class TESSALY_API Journal {
   struct Last {
     std::int64_t seq = 0;
     std::string time, kind, hash;
+
+    bool isOn() const;  ///< and not the journal's end
   };
   std::optional<Last> last() const;
-  void append(EntryKind kind, const std::string& touches, nlohmann::json body) const;
+  void append(std::optional<Last> before, EntryKind kind, const std::string& touches,
+              nlohmann::json body) const;
+  std::int64_t till() const;
   void write(const std::optional<Last>& before, EntryKind kind, const std::string& time,
              const std::string& touches, nlohmann::json body) const;
 

@@ -46,7 +46,8 @@ void JournalBase::state() const {
   begun["open"] = Json::array();
   Rows bills = connection_.query("select id from sell where state = 0 order by id");
   while (bills.next()) begun["open"].push_back(bills.whole("id").value_or(0));
-  Journal(connection_).append(EntryKind::kJournalBegun, {}, std::move(begun));
+  const Journal journal(connection_);
+  journal.append(journal.last(), EntryKind::kJournalBegun, {}, std::move(begun));
   stateStock();
   stateRows("members", "select id from member where id > ? order by id", memberRecord);
   stateRows("operators", "select id from operators where id > ? order by id", operatorRecord);
@@ -60,7 +61,8 @@ void JournalBase::state() const {
 void JournalBase::append(EntryKind kind, const char* name, nlohmann::json rows) const {
   Json body = Json::object();
   body[name] = std::move(rows);
-  Journal(connection_).append(kind, {}, std::move(body));
+  const Journal journal(connection_);
+  journal.append(journal.last(), kind, {}, std::move(body));
 }
 
 void JournalBase::stateRows(const char* name, const char* query, Record record,

@@ -5,3 +5,4 @@ extern const char* const kFirstTables;
 extern const char* const kGoodsTables;
 extern const char* const kJournalTable;
 extern const char* const kShiftTables;
+extern const char* const kLinkTable;

@@ -10,6 +10,7 @@
 
 #include "base/Words.h"
 #include "saleslib/Journal.h"
+#include "saleslib/ShopLink.h"
 #include "store/Connection.h"
 #include "store/DataFileRestore.h"
 #include "tools/BackupChoice.h"
@@ -39,8 +40,10 @@ void restore(Options& options, Console& console) {
                                            : askForBackup(file, options.from, console);
   const std::filesystem::path aside =
       restoreDataFile(backup, file, "old-" + markOf(console.clock()));
-  Journal(*options.file.open(file, console))
-      .note(EntryKind::kRestored, {}, {{"backup", backup.string()}, {"old", aside.string()}});
+  const std::unique_ptr<Connection> restored = options.file.open(file, console);
+  Journal(*restored).note(EntryKind::kRestored, {},
+                          {{"backup", backup.string()}, {"old", aside.string()}});
+  skipUnknownNumbers(*restored);
   console.out << Words::tr("已用 %1 恢复 %2。", backup.string(), options.file.path) << '\n';
   if (!aside.empty()) console.out << Words::tr("原来的文件留在 %1。", aside.string()) << '\n';
 }

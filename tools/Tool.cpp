@@ -14,6 +14,7 @@
 #include "tools/BillCommand.h"
 #include "tools/CheckCommand.h"
 #include "tools/CreateCommand.h"
+#include "tools/EnrolCommand.h"
 #include "tools/ExportCommand.h"
 #include "tools/ImportAccessCommand.h"
 #include "tools/ImportCommand.h"
@@ -25,6 +26,7 @@
 #include "tools/RestoreCommand.h"
 #include "tools/SetupCommand.h"
 #include "tools/ShiftCommand.h"
+#include "tools/ShopCommand.h"
 
 namespace {
 
@@ -76,6 +78,8 @@ int runTool(int count, const char* const* arguments, Console& console,
   addReportCommand(app, console);
   addJournalCommand(app, console);
   addShiftCommand(app, console);
+  addEnrolCommand(app, console);
+  addShopCommand(app, console, exitCode);
   groupInChinese(app);
   try {
     app.parse(wordsOf(count, arguments));

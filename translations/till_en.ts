@@ -1781,6 +1781,17 @@ Last goods: %3</translation>
     </message>
 </context>
 <context>
+    <name>SyncProgram</name>
+    <message>
+        <source>服务器不认这台收银机，请告诉店主</source>
+        <translation>The server doesn&apos;t know this till; tell the owner</translation>
+    </message>
+    <message>
+        <source>离线 %1 分钟，%2 单未上传</source>
+        <translation>Offline %1 min, %2 bills to send</translation>
+    </message>
+</context>
+<context>
     <name>TenderSum</name>
     <message>
         <source>超出范围</source>
@@ -5209,6 +5220,170 @@ The questions were not all answered. Nothing was made.</translation>
         <translation>lists the closed shifts, the latest first: number, opened, by whom, closed, by whom, what should be there, counted, over or short, hash of the journal, separated by tabs</translation>
     </message>
     <message>
+        <source>这台收银机连着店铺的服务器，日志不能停。</source>
+        <translation>This till is joined to the shop&apos;s server; its journal can&apos;t be turned off.</translation>
+    </message>
+    <message>
+        <source>打不开 %1：%2</source>
+        <translation>%1 can&apos;t be opened: %2</translation>
+    </message>
+    <message>
+        <source>加入码有 20 个字符，写的不是：%1</source>
+        <translation>A code has 20 characters; this is none: %1</translation>
+    </message>
+    <message>
+        <source>这台收银机加入了店铺，机号 %1。</source>
+        <translation>This till has joined the shop as number %1.</translation>
+    </message>
+    <message>
+        <source>这台收银机加入有服务器的店；收银程序必须先退出，以后一直记日志</source>
+        <translation>This till joins a shop with a server; close the till first; it keeps a journal from then on</translation>
+    </message>
+    <message>
+        <source>服务器</source>
+        <translation>server</translation>
+    </message>
+    <message>
+        <source>服务器的名称或地址，和它的证书上写的一样</source>
+        <translation>The server&apos;s name or address, as its certificate has it</translation>
+    </message>
+    <message>
+        <source>加入码</source>
+        <translation>code</translation>
+    </message>
+    <message>
+        <source>tilladmin shop add-till 给出的</source>
+        <translation>As tilladmin shop add-till gave it</translation>
+    </message>
+    <message>
+        <source>服务器的端口，一般是 5432</source>
+        <translation>The server&apos;s port, usually 5432</translation>
+    </message>
+    <message>
+        <source>服务器上的数据库，一般是 till</source>
+        <translation>The database at the server, usually till</translation>
+    </message>
+    <message>
+        <source>读不出这个文件：%1</source>
+        <translation>This file can&apos;t be read: %1</translation>
+    </message>
+    <message>
+        <source>服务器上的店铺已建好（%1 步）</source>
+        <translation>The shop at the server is ready (%1 steps)</translation>
+    </message>
+    <message>
+        <source>服务器上的店铺已是最新的</source>
+        <translation>The shop at the server is up to date</translation>
+    </message>
+    <message>
+        <source>收银机 %1 的加入码，24 小时内用一次：</source>
+        <translation>The code for till %1 to join with, once within 24 hours:</translation>
+    </message>
+    <message>
+        <source>已加入</source>
+        <translation>joined</translation>
+    </message>
+    <message>
+        <source>等它加入</source>
+        <translation>waiting for it to join</translation>
+    </message>
+    <message>
+        <source>加入码过期</source>
+        <translation>code expired</translation>
+    </message>
+    <message>
+        <source>已停用</source>
+        <translation>shut out</translation>
+    </message>
+    <message>
+        <source>从没联系过</source>
+        <translation>never heard of</translation>
+    </message>
+    <message>
+        <source>在线</source>
+        <translation>online</translation>
+    </message>
+    <message>
+        <source>%1 分钟没联系</source>
+        <translation>not heard of for %1 minutes</translation>
+    </message>
+    <message>
+        <source>时钟快 %1 分钟</source>
+        <translation>clock %1 minutes ahead</translation>
+    </message>
+    <message>
+        <source>时钟慢 %1 分钟</source>
+        <translation>clock %1 minutes behind</translation>
+    </message>
+    <message>
+        <source>已到 %1 条</source>
+        <translation>%1 entries here</translation>
+    </message>
+    <message>
+        <source>未到 %1 单</source>
+        <translation>%1 bills to come</translation>
+    </message>
+    <message>
+        <source>读不懂 %1 条</source>
+        <translation>%1 entries unreadable</translation>
+    </message>
+    <message>
+        <source>第 %1 段</source>
+        <translation>history %1</translation>
+    </message>
+    <message>
+        <source>查过 %1 条记录，%2 张单据</source>
+        <translation>%1 entries and %2 bills were checked</translation>
+    </message>
+    <message>
+        <source>收银机 %1 已停用；它传来的账还在。</source>
+        <translation>Till %1 is shut out; what it brought stays.</translation>
+    </message>
+    <message>
+        <source>几台收银机的店：在服务器上建店、加收银机、查账</source>
+        <translation>A shop of several tills: make it at a server, let tills in, check what they brought</translation>
+    </message>
+    <message>
+        <source>怎样连到服务器，例如 &quot;host=/run/postgresql dbname=till&quot;；不写是本机的数据库 till</source>
+        <translation>How to reach the server, for example &quot;host=/run/postgresql dbname=till&quot;; else the database till on this machine</translation>
+    </message>
+    <message>
+        <source>机号</source>
+        <translation>till</translation>
+    </message>
+    <message>
+        <source>收银机的号码，从 1 起</source>
+        <translation>The till&apos;s number, from 1</translation>
+    </message>
+    <message>
+        <source>建店，或者升级到这个版本</source>
+        <translation>Make the shop, or bring it to this version</translation>
+    </message>
+    <message>
+        <source>店铺自己的证书（PEM 文件），收银机凭它认服务器</source>
+        <translation>The shop&apos;s own certificate (a PEM file), by which tills know the server</translation>
+    </message>
+    <message>
+        <source>加一台收银机，给出它的加入码</source>
+        <translation>Let a till in: gives the code that it joins with</translation>
+    </message>
+    <message>
+        <source>它已经加入过：换了机器或者重装，原来的那台从此不能再传</source>
+        <translation>It joined before: for a new machine; the old one is shut out from then on</translation>
+    </message>
+    <message>
+        <source>列出收银机：状态、最后联系、已到未到、时钟、版本</source>
+        <translation>List the tills: state, last contact, what is here and to come, clock, version</translation>
+    </message>
+    <message>
+        <source>核对每台传来的记录和按它们做的账表</source>
+        <translation>Check what each till brought, and the tables made from it</translation>
+    </message>
+    <message>
+        <source>按记录重新做账表</source>
+        <translation>Make the tables again from the entries</translation>
+    </message>
+    <message>
         <source>记日志：谁在什么时候做了什么，谁也改不了</source>
         <translation>Keep a journal of who did what, which nobody can rewrite</translation>
     </message>
@@ -5235,6 +5410,58 @@ The questions were not all answered. Nothing was made.</translation>
     <message>
         <source>不列，写出这一班的结班表，和收银台重打的一样</source>
         <translation>instead of the list, write the sheet of this shift, as the till prints it again</translation>
+    </message>
+    <message>
+        <source>停用一台收银机</source>
+        <translation>Shut a till out</translation>
+    </message>
+    <message>
+        <source>连不上服务器：%1</source>
+        <translation>The server cannot be reached: %1</translation>
+    </message>
+    <message>
+        <source>收银机 %1 的记录少了第 %2 到第 %3 条</source>
+        <translation>Till %1 lacks the entries %2 to %3</translation>
+    </message>
+    <message>
+        <source>收银机 %1 的第 %2 条记录与它的校验值不符：它，或者它前面的一条，被改过</source>
+        <translation>Entry %2 of till %1 does not match its hash: it, or the one before it, has been changed</translation>
+    </message>
+    <message>
+        <source>服务器没有照办：%1</source>
+        <translation>The server did not do it: %1</translation>
+    </message>
+    <message>
+        <source>服务器上的店铺是更新版本的程序建立的。</source>
+        <translation>The shop at the server was made by a newer version of this program.</translation>
+    </message>
+    <message>
+        <source>收银机 %1 已经加入。换机器或者重装要写 --again，原来的那台从此不能再传。</source>
+        <translation>Till %1 has joined already. For another machine, or after a new installation, add --again; the old one can bring nothing from then on.</translation>
+    </message>
+    <message>
+        <source>没有收银机 %1。</source>
+        <translation>There is no till %1.</translation>
+    </message>
+    <message>
+        <source>收银机 %1 的单据 %2：各行加起来与它不符</source>
+        <translation>Bill %2 of till %1: its lines do not add up to it</translation>
+    </message>
+    <message>
+        <source>账表与传来的记录不符，已按记录重新做好</source>
+        <translation>The tables did not agree with the entries, and have been made again from them</translation>
+    </message>
+    <message>
+        <source>账表与传来的记录不符，可用 --rebuild 重新做好</source>
+        <translation>The tables do not agree with the entries; --rebuild makes them again</translation>
+    </message>
+    <message>
+        <source>这台收银机没有加入店铺的服务器（tilladmin enrol）。</source>
+        <translation>This till has not joined a shop with a server (tilladmin enrol).</translation>
+    </message>
+    <message>
+        <source>已连上服务器</source>
+        <translation>The server answers</translation>
     </message>
 </context>
 <context>
@@ -6484,6 +6711,11 @@ Member since: %3</translation>
     <message>
         <source>练习，不入账</source>
         <translation>Practice, not in the books</translation>
+    </message>
+    <message>
+        <source>%1&#x3000;%2</source>
+        <comment>time, state of the line</comment>
+        <translation>%1&#x3000;%2</translation>
     </message>
 </context>
 <context>

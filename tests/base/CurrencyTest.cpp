@@ -24,16 +24,17 @@ TEST(CurrencyTest, RoundsByTheNamedRule) {
     for (const int sign : {1, -1}) {
       const int tenths = sign * positive, even = sign * positiveEven, away = sign * positiveAway;
       SCOPED_TRACE(tenths);
-      EXPECT_EQ(wholeHalfEven(Currency::fromScaled(tenths * 1000)), even);
+      EXPECT_EQ(wholeHalfEven(Currency::fromScaled(tenths * 1000L)), even);
       EXPECT_EQ(wholeHalfEven(tenths / 10.0), even);
       EXPECT_EQ(parseWhole32(generalNumber(tenths / 10.0)), even);
       EXPECT_EQ(money(generalNumber(tenths * 1e-5)).scaled(), even);
-      EXPECT_EQ(roundedToFen(Currency::fromScaled(tenths * 10)).scaled(), away * 100);
-      EXPECT_EQ(twoDecimals(Currency::fromScaled(tenths * 10)),
-                twoDecimals(Currency::fromScaled(away * 100)));
-      EXPECT_EQ(oneDecimal(Currency::fromScaled(tenths * 100)),
-                oneDecimal(Currency::fromScaled(away * 1000)));
-      EXPECT_EQ(lineAmount(Currency::fromScaled(tenths * 10), 1, Discount()).scaled(), away * 100);
+      EXPECT_EQ(roundedToFen(Currency::fromScaled(tenths * 10L)).scaled(), away * 100L);
+      EXPECT_EQ(twoDecimals(Currency::fromScaled(tenths * 10L)),
+                twoDecimals(Currency::fromScaled(away * 100L)));
+      EXPECT_EQ(oneDecimal(Currency::fromScaled(tenths * 100L)),
+                oneDecimal(Currency::fromScaled(away * 1000L)));
+      EXPECT_EQ(lineAmount(Currency::fromScaled(tenths * 10L), 1, Discount()).scaled(),
+                away * 100L);
     }
   }
 }

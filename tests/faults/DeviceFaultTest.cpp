@@ -6,8 +6,8 @@
 #include <fstream>
 #include <iostream>
 
+#include "FaultyTill.h"
 #include "LongRun.h"
-#include "TillFixture.h"
 #include "platform/PseudoTerminal.h"
 
 constexpr qint64 kLongestKeyPressMs = 2500;
@@ -21,7 +21,7 @@ constexpr const char* kNames[kDevices] = {"missing",
                                           "a terminal that takes nothing more",
                                           "a file"};
 
-class DeviceFaultTest : public TillFixture {
+class DeviceFaultTest : public ExaminedTill {
  protected:
   DeviceFaultTest() {
     ports.isReal = true;
@@ -110,6 +110,7 @@ class DeviceFaultTest : public TillFixture {
     settle();
     timed([this] { press(kEsc); });
     EXPECT_EQ(stored("count(*) as v from sell where state = 1"), std::to_string(billsBefore + 2));
+    EXPECT_EQ(bookFaults(), "");
     EXPECT_LT(longest, kLongestKeyPressMs);
   }
   /// The devices are mended: outages are over, and the next ones are told again.

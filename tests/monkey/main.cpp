@@ -8,8 +8,10 @@
 
 #include "InstalledTill.h"
 #include "ProofOptions.h"
+#include "base/Failure.h"
 #include "driver/TillDriver.h"
 #include "monkey/Figures.h"
+#include "saleslib/ClsSysParam.h"
 #include "store/Connection.h"
 
 namespace fs = std::filesystem;
@@ -32,6 +34,7 @@ class MonkeyTest {
   void run() try {
     while (events_ < options_.count) {
       clearAway();
+      workInShifts(starts_ % 2 == 0);
       TillDriver till(till_.program());
       till.waitFor("frmMenu");
       ++starts_;
@@ -55,7 +58,10 @@ class MonkeyTest {
         "(select count(*) from sellProducts) || ' lines, ' || "
         "(select count(*) from un_sell) || ' returns, ' || "
         "(select count(*) from member) || ' members, ' || "
-        "(select count(*) from cardStored) || ' top-ups' as made");
+        "(select count(*) from cardStored) || ' top-ups, ' || "
+        "(select count(closed) || ' of ' || count(*) from shift) || ' shifts closed, ' || "
+        "(select count(*) from fact where approver is not null) || ' of ' || "
+        "(select count(*) from fact) || ' entries of the journal approved by somebody' as made");
     rows.next();
     std::printf("%d events, %u starts of the till; %s; faults: 0\n", events_, starts_,
                 rows.text("made").c_str());
@@ -69,6 +75,13 @@ class MonkeyTest {
         "select sptm as word, ggxh as more from (select * from tmda order by id limit 60) "
         "union all select bh, password from member");
     while (each.next()) words << each.text("word") << '\n' << each.text("more") << '\n';
+  }
+
+  void workInShifts(bool on) const {
+    const auto shop = till_.open();
+    ClsSysParam parameters;
+    parameters.Conn(*shop);
+    ensure(parameters.set("Shifts", on ? "1" : "0").empty(), "a shop may work in shifts or not");
   }
 
   /// The settings as they were, and what was printed and exported gone.

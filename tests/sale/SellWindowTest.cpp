@@ -8,8 +8,10 @@
 
 #include "Hands.h"
 #include "TillFixture.h"
+#include "app/SyncProgram.h"
 #include "sale/BillView.h"
 #include "sale/frmSell.h"
+#include "saleslib/SyncState.h"
 
 using enum Qt::Key;
 
@@ -255,5 +257,24 @@ TEST_F(SellWindowTest, PricesSeveralMatchesAndHeldBillsAreAskedForInTheirWindows
               "流水号：1   收银员：张三||2件商品，合计14.75元|[]|"
               "1 红茶 13.50 1 1 13.50 |2 气球 1.25 1 1 1.25 |");
     press({Key_F12});
+  });
+}
+
+TEST_F(SellWindowTest, SaysInItsHeadingThatTheServerIsAway) {
+  const std::filesystem::path file = folder.path() / "data/shop.db";
+  show([&] {
+    const QLabel& time = *window.findChild<QLabel*>("title2");
+    const auto expectHeading = [&](const SyncState& state, const char* heading) {
+      SyncPlace(file).write(state);
+      pos.sync = std::make_unique<SyncProgram>("/bin/false", DataSource{file, ""});
+      QTRY_COMPARE(time.text(), heading);
+      EXPECT_GE(time.width(), time.sizeHint().width()) << "all of it can be read";
+      for (const char* side : {"title1", "title3"})
+        EXPECT_FALSE(window.findChild<QLabel*>(side)->geometry().intersects(time.geometry()));
+    };
+    expectHeading({{{2026, 11, 22}, 8, 53, 3}, 8, false, 0}, "09:05:03　离线 12 分钟，8 单未上传");
+    expectHeading({{{2026, 11, 22}, 9, 5, 3}, 0, true, 0},
+                  "09:05:03　服务器不认这台收银机，请告诉店主");
+    expectHeading({{{2026, 11, 22}, 9, 4, 4}, 8, false, 0}, "当前时间：09:05:03");
   });
 }

@@ -1,0 +1,168 @@
+#include "link/ServerLine.h"
+
+#include <libpq-fe.h>
+#include <poll.h>
+
+#include <algorithm>
+#include <utility>
+
+#include "base/Failure.h"
+#include "base/Text.h"
+#include "base/Words.h"
+
+namespace {
+
+using std::chrono::steady_clock;
+
+struct ResultCloser {
+  void operator()(PGresult* result) const { PQclear(result); }
+};
+using Result = std::unique_ptr<PGresult, ResultCloser>;
+
+ServerAnswer::Row rowOf(const PGresult* result, int row) {
+  ServerAnswer::Row values;
+  for (int column = 0; column < PQnfields(result); ++column) {
+    if (PQgetisnull(result, row, column) != 0) {
+      values.emplace_back(std::nullopt);
+    } else {
+      values.emplace_back(std::in_place, PQgetvalue(result, row, column));
+    }
+  }
+  return values;
+}
+
+std::string field(const PGresult* result, int code) {
+  const char* text = PQresultErrorField(result, code);
+  return text == nullptr ? "" : text;
+}
+
+/// An error that the server gave and went on from. After a fatal one nobody knows.
+bool isRefusal(const PGresult* result) {
+  return PQresultStatus(result) == PGRES_FATAL_ERROR &&
+         field(result, PG_DIAG_SEVERITY_NONLOCALIZED) == "ERROR";
+}
+
+}  // namespace
+
+void ServerLine::Closer::operator()(pg_conn* line) const {
+  PQfinish(line);
+}
+
+ServerLine::ServerLine(LineParameters parameters) : parameters_(std::move(parameters)) {}
+
+ServerLine::~ServerLine() = default;
+
+void ServerLine::close() {
+  line_.reset();
+}
+
+// A warning can say that the server did not wait for its second machine, for one: then what it
+// answers may be forgotten.
+void ServerLine::noticed(void* line, const char* text) {
+  static_cast<ServerLine*>(line)->notice_ = text;
+}
+
+std::string ServerLine::fault() const {
+  return line_ ? PQerrorMessage(line_.get()) : "no memory for a line";
+}
+
+ServerAnswer ServerLine::unknown(const std::string& why) {
+  ServerAnswer answer{.kind = ServerAnswer::kUnknown, .text = std::string(trimmed(why))};
+  close();
+  return answer;
+}
+
+bool ServerLine::wait(bool forWriting, Moment deadline) const {
+  const auto left =
+      std::chrono::duration_cast<Milliseconds>(deadline - steady_clock::now()).count();
+  if (left <= 0) return false;
+  pollfd socket{PQsocket(line_.get()), static_cast<short>(forWriting ? POLLIN | POLLOUT : POLLIN),
+                0};
+  return poll(&socket, 1, static_cast<int>(std::min<long long>(left, INT32_MAX))) > 0;
+}
+
+std::optional<ServerAnswer> ServerLine::openFault(Moment deadline) {
+  if (line_ && PQstatus(line_.get()) == CONNECTION_OK) return std::nullopt;
+  std::vector<const char*> names, values;
+  for (const auto& [name, value] : parameters_) {
+    names.push_back(name.c_str());
+    values.push_back(value.c_str());
+  }
+  names.push_back(nullptr);
+  values.push_back(nullptr);
+  line_.reset(PQconnectStartParams(names.data(), values.data(), 1));
+  if (!line_ || PQstatus(line_.get()) == CONNECTION_BAD) return unknown(fault());
+  PQsetNoticeProcessor(line_.get(), &ServerLine::noticed, this);
+  for (auto next = PGRES_POLLING_WRITING; next != PGRES_POLLING_OK;
+       next = PQconnectPoll(line_.get())) {
+    if (next == PGRES_POLLING_FAILED) return unknown(fault());
+    if (!wait(next == PGRES_POLLING_WRITING, deadline)) return unknown("the server is silent");
+  }
+  if (PQsetnonblocking(line_.get(), 1) != 0) return unknown(fault());
+  return std::nullopt;
+}
+
+ServerAnswer ServerLine::ask(const char* statement, const ServerAnswer::Row& values,
+                             Milliseconds patience) {
+  if (auto failed = openFault(steady_clock::now() + patience)) return *failed;
+  std::vector<const char*> texts;
+  texts.reserve(values.size());
+  for (const auto& value : values) texts.push_back(value ? value->c_str() : nullptr);
+  notice_.clear();
+  if (PQsendQueryParams(line_.get(), statement, static_cast<int>(texts.size()), nullptr,
+                        texts.data(), nullptr, nullptr, 0) == 0)
+    return unknown(fault());
+  return answer(steady_clock::now() + patience);
+}
+
+ServerAnswer ServerLine::run(const std::string& script, Milliseconds patience) {
+  if (auto failed = openFault(steady_clock::now() + patience)) return *failed;
+  notice_.clear();
+  if (PQsendQuery(line_.get(), script.c_str()) == 0) return unknown(fault());
+  return answer(steady_clock::now() + patience);
+}
+
+/// Sends what waits to be sent and takes in what has come, until a result is whole.
+bool ServerLine::receive(Moment deadline) {
+  for (;;) {
+    const int unsent = PQflush(line_.get());
+    if (unsent < 0) return false;
+    if (unsent == 0 && PQisBusy(line_.get()) == 0) return true;
+    if (!wait(unsent > 0, deadline)) return false;
+    if (PQconsumeInput(line_.get()) == 0) return false;
+  }
+}
+
+ServerAnswer ServerLine::answer(Moment deadline) {
+  ServerAnswer answer{.kind = ServerAnswer::kAnswer};
+  for (;;) {
+    if (!receive(deadline)) {
+      const std::string why = fault();
+      return unknown(why.empty() ? "the server is silent" : why);
+    }
+    const Result result(PQgetResult(line_.get()));
+    if (!result) break;
+    const ExecStatusType status = PQresultStatus(result.get());
+    if (status == PGRES_TUPLES_OK || status == PGRES_COMMAND_OK) {
+      for (int row = 0; row < PQntuples(result.get()); ++row)
+        answer.rows.push_back(rowOf(result.get(), row));
+      continue;
+    }
+    if (!isRefusal(result.get())) return unknown(PQresultErrorMessage(result.get()));
+    answer.kind = ServerAnswer::kRefusal;
+    answer.text = field(result.get(), PG_DIAG_MESSAGE_PRIMARY);
+    answer.state = field(result.get(), PG_DIAG_SQLSTATE);
+  }
+  if (!notice_.empty()) return unknown(notice_);
+  return answer;
+}
+
+std::string ServerLine::verifierOf(const std::string& password, const std::string& role) {
+  if (const auto failed = openFault(steady_clock::now() + kPatience))
+    throw Failure(Words::tr("连不上服务器：%1", failed->text));
+  const std::unique_ptr<char, void (*)(void*)> verifier(
+      PQencryptPasswordConn(line_.get(), password.c_str(), role.c_str(), "scram-sha-256"),
+      &PQfreemem);
+  if (!verifier) throw Failure(fault());
+  return verifier.get();
+}

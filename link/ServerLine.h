@@ -1,0 +1,72 @@
+#pragma once
+
+#include <chrono>
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "link/ServerAddress.h"
+
+struct pg_conn;
+
+/// What came of a question to the server.
+struct ServerAnswer {
+  enum Kind {
+    kAnswer,   ///< it is done, and `rows` is what the server says
+    kRefusal,  ///< the server did nothing, for the reason in `text`
+    kUnknown,  ///< nobody knows whether it is done: silence, a broken line, a warning
+  };
+  using Row = std::vector<std::optional<std::string>>;
+
+  Kind kind = kUnknown;
+  std::string text = {};   ///< the server's or the system's own words
+  std::string state = {};  ///< of a refusal: SQLSTATE
+  std::vector<Row> rows = {};
+
+  bool isDone() const { return kind == kAnswer; }
+};
+
+/// A line to a PostgreSQL server that never waits longer than it is told to. The line is opened by
+/// the first question and closed by everything that leaves one unknown. (A name of a host that is
+/// no address is looked up within the system's own time.)
+class ServerLine {
+ public:
+  using Milliseconds = std::chrono::milliseconds;
+  static constexpr Milliseconds kPatience{5000};
+
+  explicit ServerLine(LineParameters parameters);
+  ~ServerLine();
+  ServerLine(const ServerLine&) = delete;
+  ServerLine& operator=(const ServerLine&) = delete;
+
+  /// Asks one statement with $1 ... for the values, each as text or null, and waits so long for the
+  /// answer, and before that as long for the line if it is not open.
+  ServerAnswer ask(const char* statement, const ServerAnswer::Row& values = {},
+                   Milliseconds patience = kPatience);
+  /// Runs several statements in one transaction, without an answer's rows.
+  ServerAnswer run(const std::string& script, Milliseconds patience);
+  void close();
+
+  /// What the server keeps to know a role's password by, without the password (SCRAM-SHA-256,
+  /// RFC 5803). Throws Failure when the line cannot be opened.
+  std::string verifierOf(const std::string& password, const std::string& role);
+
+ private:
+  using Moment = std::chrono::steady_clock::time_point;
+  struct Closer {
+    void operator()(pg_conn* line) const;
+  };
+
+  std::optional<ServerAnswer> openFault(Moment deadline);
+  ServerAnswer unknown(const std::string& why);
+  ServerAnswer answer(Moment deadline);
+  bool receive(Moment deadline);
+  bool wait(bool forWriting, Moment deadline) const;
+  std::string fault() const;
+  static void noticed(void* line, const char* text);
+
+  LineParameters parameters_;
+  std::unique_ptr<pg_conn, Closer> line_;
+  std::string notice_;
+};

@@ -1,0 +1,192 @@
+#include "server/ShopServer.h"
+
+#include <cstdlib>
+
+#include "base/Failure.h"
+#include "base/Words.h"
+#include "link/ServerLine.h"
+#include "server/ChainCheck.h"
+#include "server/ServerSteps.h"
+
+namespace {
+
+using std::chrono_literals::operator""h;
+using std::chrono_literals::operator""min;
+
+constexpr auto kPatience = std::chrono::milliseconds(1min);
+constexpr auto kLongPatience = std::chrono::milliseconds(12h);  // of what goes through everything
+constexpr std::size_t kMostFaults = 20;
+
+const ServerAnswer& required(const ServerAnswer& answer) {
+  if (!answer.isDone()) throw Failure(Words::tr("服务器没有照办：%1", answer.text));
+  return answer;
+}
+
+std::string roleOf(int till) {
+  return "till_" + std::to_string(till);
+}
+
+std::int64_t numberOf(const std::optional<std::string>& text) {
+  return text ? std::atoll(text->c_str()) : 0;
+}
+
+std::optional<std::int64_t> numberIn(const std::optional<std::string>& text) {
+  if (!text) return std::nullopt;
+  return std::optional<std::int64_t>(numberOf(text));
+}
+
+}  // namespace
+
+int ShopServer::stepsDone() {
+  const ServerAnswer known = required(line_.ask("select to_regclass('shop.step') is not null"));
+  if (known.rows.at(0).at(0) != "t") return 0;
+  const ServerAnswer steps = required(line_.ask("select coalesce(max(number), 0) from shop.step"));
+  return static_cast<int>(numberOf(steps.rows.at(0).at(0)));
+}
+
+int ShopServer::init(const std::string& authority) {
+  required(line_.run(kServerRoles, kPatience));
+  const auto count = static_cast<int>(serverSteps().size());
+  const int done = stepsDone();
+  if (done > count) throw Failure(Words::tr("服务器上的店铺是更新版本的程序建立的。"));
+  for (int step = done + 1; step <= count; ++step) {
+    const std::string number = std::to_string(step);
+    required(line_.run("begin; set local role shop_keeper;\n" +
+                           std::string(serverSteps()[static_cast<std::size_t>(step - 1)]) +
+                           "\ninsert into shop.step (number) values (" + number + "); commit",
+                       kPatience));
+  }
+  if (!authority.empty()) {
+    required(
+        line_.ask("insert into shop.setting values ('authority', $1)"
+                  " on conflict (name) do update set value = excluded.value",
+                  {authority}));
+  }
+  return count - done;
+}
+
+JoinCode ShopServer::addTill(int till, bool again) {
+  const ServerAnswer known = required(line_.ask(
+      "select enrolled is not null from shop.till where till = $1", {std::to_string(till)}));
+  if (!known.rows.empty() && known.rows[0].at(0) == "t" && !again) {
+    throw Failure(Words::tr(
+        "收银机 %1 已经加入。换机器或者重装要写 --again，原来的那台从此不能再传。", till));
+  }
+  const JoinCode code = JoinCode::draw(till);
+  const std::string role = roleOf(till), number = std::to_string(till);
+  required(line_.run(
+      "begin; set local role shop_keeper; set local client_min_messages = warning;"
+      "do $$ begin"
+      " if not exists (select from pg_roles where rolname = '" +
+          role +
+          "') then"
+          "  create role " +
+          role +
+          " login;"
+          " end if;"
+          " execute format('alter role " +
+          role + " login password %L valid until %L', '" + line_.verifierOf(code.secret, role) +
+          "', now() + interval '1 day');"
+          "end $$;"
+          "grant tills to " +
+          role +
+          ";"
+          "insert into shop.till (till, code_until) values (" +
+          number +
+          ", now() + interval '1 day')"
+          " on conflict (till) do update set code_until = excluded.code_until, revoked = null;"
+          "commit",
+      kPatience));
+  return code;
+}
+
+void ShopServer::revoke(int till) {
+  const ServerAnswer gone =
+      required(line_.ask("update shop.till set revoked = now() where till = $1 returning till",
+                         {std::to_string(till)}));
+  if (gone.rows.empty()) throw Failure(Words::tr("没有收银机 %1。", till));
+  required(line_.run("begin; set local role shop_keeper; alter role " + roleOf(till) +
+                         " nologin password null; commit",
+                     kPatience));
+  required(line_.ask("select pg_terminate_backend(pid) from pg_stat_activity where usename = $1",
+                     {roleOf(till)}));
+}
+
+std::vector<ShopServer::Till> ShopServer::tills() {
+  const ServerAnswer answer = required(line_.ask(
+      "select till, epoch,"
+      " case when revoked is not null then 'revoked' when code_until < now() then 'expired'"
+      "      when code_until is not null then 'code' else 'joined' end,"
+      " applied, told_pending, (select count(*) from shop.fault f where f.till = t.till),"
+      " extract(epoch from now() - last_contact)::bigint,"
+      " extract(epoch from told_clock - last_contact)::bigint, version"
+      " from shop.till t order by till"));
+  std::vector<Till> tills;
+  for (const ServerAnswer::Row& row : answer.rows) {
+    tills.push_back({.till = static_cast<int>(numberOf(row.at(0))),
+                     .epoch = static_cast<int>(numberOf(row.at(1))),
+                     .status = row.at(2).value_or(""),
+                     .applied = numberOf(row.at(3)),
+                     .pending = numberOf(row.at(4)),
+                     .faults = numberOf(row.at(5)),
+                     .silentSeconds = numberIn(row.at(6)),
+                     .clockSeconds = numberIn(row.at(7)),
+                     .version = row.at(8).value_or("")});
+  }
+  return tills;
+}
+
+ShopServer::Checked ShopServer::check(bool rebuild) {
+  Checked found;
+  followChains(found);
+  const ServerAnswer sums = required(
+      line_.ask("select s.till, s.bill from shop.sale s left join lateral"
+                " (select coalesce(sum(money), 0) as money, coalesce(sum(quantity), 0) as quantity"
+                "  from shop.sale_line l where (l.till, l.epoch, l.bill) = (s.till, s.epoch, "
+                "s.bill)) l on true"
+                " where l.money <> s.goods_amount or l.quantity <> s.quantity limit $1",
+                {std::to_string(kMostFaults)}, kLongPatience));
+  for (const ServerAnswer::Row& row : sums.rows) {
+    found.faults.push_back(Words::tr("收银机 %1 的单据 %2：各行加起来与它不符",
+                                     row.at(0).value_or(""), row.at(1).value_or("")));
+  }
+  const ServerAnswer agree = required(line_.ask("select agree from shop.compare_rows($1)",
+                                                {rebuild ? "true" : "false"}, kLongPatience));
+  if (agree.rows.at(0).at(0) != "t") {
+    found.faults.push_back(rebuild ? Words::tr("账表与传来的记录不符，已按记录重新做好")
+                                   : Words::tr("账表与传来的记录不符，可用 --rebuild 重新做好"));
+  }
+  const ServerAnswer bills = required(line_.ask("select count(*) from shop.sale"));
+  found.bills = numberOf(bills.rows.at(0).at(0));
+  return found;
+}
+
+void ShopServer::followChains(Checked& found) {
+  ChainCheck chains(found.faults, kMostFaults);
+  const ServerAnswer epochs =
+      required(line_.ask("select till, epoch, from_seq, from_hash from"
+                         " shop.epoch"));
+  for (const ServerAnswer::Row& row : epochs.rows) chains.addEpoch(row);
+  ServerAnswer::Row last = {"0", "0", "0"};
+  for (;;) {
+    const ServerAnswer page = required(line_.ask(
+        "select till, epoch, seq, time, entry_till, operator, approver, kind, touches, body, hash"
+        " from shop.fact where (shop, till, epoch, seq) > (1, $1, $2, $3)"
+        " order by shop, till, epoch, seq limit 500",
+        last, kLongPatience));
+    if (page.rows.empty()) return;
+    for (const ServerAnswer::Row& row : page.rows) chains.take(row);
+    found.facts += static_cast<std::int64_t>(page.rows.size());
+    last.assign(page.rows.back().begin(), page.rows.back().begin() + 3);
+  }
+}
+
+ShopServer::Joined ShopServer::enrol(ServerLine& line, int till, const std::string& password) {
+  const ServerAnswer answer =
+      required(line.ask("select epoch, highest_bill, authority from api.enrol($1, $2)",
+                        {std::to_string(till), line.verifierOf(password, roleOf(till))}));
+  const ServerAnswer::Row& row = answer.rows.at(0);
+  return {.epoch = static_cast<int>(numberOf(row.at(0))),
+          .highestBill = numberOf(row.at(1)),
+          .authority = row.at(2).value_or("")};
+}

@@ -1,0 +1,64 @@
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "server/JoinCode.h"
+
+class ServerLine;
+
+/// The shop's server as its owner works on it, logged in as somebody who may make roles. All of it
+/// throws Failure, with the server's words, when it refuses or does not answer.
+class ShopServer {
+ public:
+  /// The line outlives this.
+  explicit ShopServer(ServerLine& line) : line_(line) {}
+
+  /// Makes the shop's tables and functions, or brings them up to date; gives how many steps were
+  /// taken. `authority` is the certificate (PEM) that tills are to know the server by; empty leaves
+  /// it as it is.
+  int init(const std::string& authority);
+
+  /// Makes a till's place and the code that it joins with within a day. One that has joined before
+  /// is let in anew only `again`; until then the one that was is shut out.
+  JoinCode addTill(int till, bool again);
+  /// The till is shut out at once and for good; what it brought stays.
+  void revoke(int till);
+
+  struct Till {
+    int till = 0, epoch = 0;
+    std::string status;  ///< "joined", "code", "expired", "revoked"
+    std::int64_t applied = 0, pending = 0, faults = 0;
+    std::optional<std::int64_t> silentSeconds;  ///< since the last contact, if there was one
+    std::optional<std::int64_t> clockSeconds;   ///< how far its clock was ahead then
+    std::string version;
+  };
+  std::vector<Till> tills();
+
+  struct Checked {
+    std::int64_t facts = 0, bills = 0;
+    std::vector<std::string> faults;  ///< sentences for the owner
+  };
+  /// Follows each till's chain from its beginning, adds up each bill, and holds the rows against
+  /// what the facts make of them; with `rebuild` the rows become that. The tills wait meanwhile,
+  /// and sell on.
+  Checked check(bool rebuild);
+
+  /// What a till that joins is given.
+  struct Joined {
+    int epoch = 0;
+    std::int64_t highestBill = 0;
+    std::string authority;
+  };
+  /// A till joins, logged in by its code: from now on its role's password is the one given.
+  static Joined enrol(ServerLine& line, int till, const std::string& password);
+
+ private:
+  void followChains(Checked& found);
+  int stepsDone();
+
+  ServerLine& line_;
+};

@@ -1,0 +1,65 @@
+#include "sync/ShopCalls.h"
+
+#include <cstdlib>
+
+#include "base/Version.h"
+
+namespace {
+
+using Milliseconds = ServerLine::Milliseconds;
+
+// A slow line needs a second for so many bytes.
+constexpr std::size_t kBytesPerSecond = 32 * 1024;
+
+std::int64_t numberOf(const std::optional<std::string>& text) {
+  return text ? std::atoll(text->c_str()) : 0;
+}
+
+// The hashes are hexadecimal digits: nothing in them needs quoting.
+std::string arrayOf(const std::vector<Place>& places, std::string (*textOf)(const Place&)) {
+  std::string array = "{";
+  for (const Place& place : places) array += (array.size() > 1 ? "," : "") + textOf(place);
+  return array + "}";
+}
+
+}  // namespace
+
+ShopCalls::Standing ShopCalls::standing(const ServerAnswer& answer) {
+  Standing standing{.kind = answer.kind, .fault = answer.text, .state = answer.state};
+  if (!answer.isDone()) return standing;
+  const ServerAnswer::Row& row = answer.rows.at(0);
+  standing.epoch = static_cast<int>(numberOf(row.at(0)));
+  standing.place = {numberOf(row.at(1)), row.at(2).value_or("")};
+  return standing;
+}
+
+ShopCalls::Standing ShopCalls::hello(const Told& told) {
+  return standing(line_.ask("select epoch, applied, hash from api.hello($1, $2, $3, $4)",
+                            {till_, std::to_string(told.pending), std::to_string(told.clock),
+                             std::string(tillVersion())}));
+}
+
+ShopCalls::Standing ShopCalls::put(int epoch, const std::string& before,
+                                   const std::vector<JournalEntry>& entries, const Told& told) {
+  const std::string text = entriesText(entries);
+  const Milliseconds longer(1000 * (text.size() / kBytesPerSecond));
+  return standing(
+      line_.ask("select $2, applied, hash from api.put($1, $2::integer, $3, $4, $5, $6)",
+                {till_, std::to_string(epoch), before, std::to_string(told.pending),
+                 std::to_string(told.clock), text},
+                ServerLine::kPatience + longer));
+}
+
+ShopCalls::Epoch ShopCalls::newEpoch(int epoch, const std::vector<Place>& own) {
+  const ServerAnswer answer =
+      line_.ask("select epoch, highest_bill from api.new_epoch($1, $2, $3, $4)",
+                {till_, std::to_string(epoch),
+                 arrayOf(own, [](const Place& place) { return std::to_string(place.seq); }),
+                 arrayOf(own, [](const Place& place) { return place.hash; })},
+                2 * ServerLine::kPatience);
+  Epoch begun{.kind = answer.kind, .fault = answer.text, .state = answer.state};
+  if (!answer.isDone()) return begun;
+  begun.epoch = static_cast<int>(numberOf(answer.rows.at(0).at(0)));
+  begun.highestBill = numberOf(answer.rows.at(0).at(1));
+  return begun;
+}

@@ -1,0 +1,47 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <vector>
+
+#include "link/ServerLine.h"
+#include "sync/Facts.h"
+
+/// What a till asks the shop's server, one function of its each (server/).
+class ShopCalls {
+ public:
+  /// The line outlives the calls.
+  ShopCalls(ServerLine& line, int till) : line_(line), till_(std::to_string(till)) {}
+
+  /// How far the server is with this till.
+  struct Standing {
+    ServerAnswer::Kind kind = ServerAnswer::kUnknown;
+    std::string fault = {}, state = {};  ///< of a refusal or an unknown answer
+    int epoch = 0;                       ///< of an answer to hello
+    Place place = {};                    ///< the last entry that the server has
+  };
+  /// What the till tells of itself each time: bills still to come, and its clock.
+  struct Told {
+    std::int64_t pending = 0;
+    std::int64_t clock = 0;  ///< seconds since 1970, UTC
+  };
+  Standing hello(const Told& told);
+  /// Entries behind the one with the hash `before`.
+  Standing put(int epoch, const std::string& before, const std::vector<JournalEntry>& entries,
+               const Told& told);
+
+  struct Epoch {
+    ServerAnswer::Kind kind = ServerAnswer::kUnknown;
+    std::string fault = {}, state = {};
+    int epoch = 0;
+    std::int64_t highestBill = 0;
+  };
+  /// The history that the server goes on with: one that has an entry of these, or a new one.
+  Epoch newEpoch(int epoch, const std::vector<Place>& own);
+
+ private:
+  static Standing standing(const ServerAnswer& answer);
+
+  ServerLine& line_;
+  std::string till_;
+};

@@ -1,0 +1,132 @@
+#include "sync/SyncRun.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "base/Failure.h"
+#include "base/Words.h"
+#include "link/AuthorityFile.h"
+#include "saleslib/ShopLink.h"
+#include "store/Connection.h"
+#include "store/DataFile.h"
+#include "store/StoreError.h"
+
+namespace {
+
+using namespace std::chrono_literals;
+using std::chrono::steady_clock;
+
+constexpr SyncRun::Milliseconds kShortestWait = 20ms;
+constexpr SyncRun::Milliseconds kLongestWait = 1s;
+constexpr SyncRun::Milliseconds kWaitForPeople = 10s;
+constexpr auto kWithoutTill = 1min;
+constexpr auto kBetweenNotes = 1s;
+constexpr int kFailuresToOpenAnew = 10;  // the till may have joined anew, under another password
+
+LineParameters parametersOf(const ShopLink& link, const AuthorityFile& authority) {
+  return tillParameters({.host = link.host,
+                         .port = link.port,
+                         .database = link.database,
+                         .user = "till_" + std::to_string(link.till),
+                         .password = link.password},
+                        authority.path());
+}
+
+}  // namespace
+
+struct SyncRun::Session {
+  Session(std::unique_ptr<Connection> opened, const ShopLink& link, std::int64_t atServer)
+      : connection(std::move(opened)),
+        authority(link.authority),
+        line(parametersOf(link, authority)),
+        upload(*connection, line, atServer) {}
+
+  std::unique_ptr<Connection> connection;
+  AuthorityFile authority;
+  ServerLine line;
+  Upload upload;
+};
+
+SyncRun::SyncRun(DataSource file, const SyncPlace& place, Surroundings surroundings)
+    : file_(std::move(file)),
+      place_(place),
+      surroundings_(std::move(surroundings)),
+      wait_(kShortestWait),
+      lastMoment_(steady_clock::time_point::max()) {
+  const std::optional<SyncState> before = readSyncState(file_.path);
+  state_ = before.value_or(SyncState{.contact = surroundings_.clock()});
+}
+
+SyncRun::~SyncRun() = default;
+
+void SyncRun::open() {
+  std::unique_ptr<Connection> connection = openDataFile(file_);
+  const std::optional<ShopLink> link = shopLink(*connection);
+  ensure(link.has_value(), "run has looked");
+  session_ = std::make_unique<Session>(std::move(connection), *link, state_.atServer);
+}
+
+void SyncRun::run() {
+  if (!shopLink(*openDataFile(file_)))
+    throw StoreError(Words::tr("这台收银机没有加入店铺的服务器（tilladmin enrol）。"));
+  for (;;) {
+    const Upload::Outcome outcome = attempt();
+    note(outcome);
+    if (isOver(outcome)) return;
+    if (const Milliseconds wait = waitAfter(outcome); wait > 0ms) surroundings_.pause(wait);
+  }
+}
+
+// The data file may be busy, be put back from a copy, or be gone for a moment: none of that ends
+// the program.
+Upload::Outcome SyncRun::attempt() try {
+  if (!session_) open();
+  session_->connection->requireItsFile();
+  const Upload::Outcome outcome = session_->upload.step();
+  state_.pendingBills = session_->upload.pendingBills();
+  state_.atServer = session_->upload.atServer();
+  fault_ = session_->upload.fault();
+  return outcome;
+} catch (const Failure& failure) {
+  fault_ = failure.what();
+  session_.reset();
+  return Upload::Outcome::kFailed;
+}
+
+void SyncRun::note(Upload::Outcome outcome) {
+  using enum Upload::Outcome;
+  const bool isWell = outcome == kWent || outcome == kIdle;
+  tellOnce(isWell ? "" : fault_);
+  failures_ = isWell ? 0 : failures_ + 1;
+  if (outcome == kRefused || failures_ % kFailuresToOpenAnew == kFailuresToOpenAnew - 1)
+    session_.reset();
+  if (outcome == kWent) state_.contact = surroundings_.clock();
+  if (outcome != kIdle) state_.isRefused = outcome == kRefused;
+  const auto now = steady_clock::now();
+  if (now - written_ < kBetweenNotes) return;
+  place_.write(state_);
+  written_ = now;
+}
+
+void SyncRun::tellOnce(const std::string& fault) {
+  if (fault == told_) return;
+  surroundings_.tell(fault.empty() ? Words::tr("已连上服务器") : fault);
+  told_ = fault;
+}
+
+SyncRun::Milliseconds SyncRun::waitAfter(Upload::Outcome outcome) {
+  using enum Upload::Outcome;
+  if (outcome == kRefused) return kWaitForPeople;
+  if (outcome != kFailed) {
+    wait_ = kShortestWait;
+    return outcome == kIdle ? kShortestWait : 0ms;
+  }
+  return std::exchange(wait_, std::min(2 * wait_, kLongestWait));
+}
+
+bool SyncRun::isOver(Upload::Outcome outcome) {
+  if (!surroundings_.isTillGone()) return false;
+  const auto now = steady_clock::now();
+  lastMoment_ = std::min(lastMoment_, now + kWithoutTill);
+  return outcome == Upload::Outcome::kIdle || now >= lastMoment_;
+}

@@ -1,0 +1,34 @@
+#include "storm/Process.h"
+
+#include <fcntl.h>
+#include <signal.h>
+#include <spawn.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <stdexcept>
+
+Process::Process(const std::vector<std::string>& words) {
+  std::vector<char*> arguments;
+  for (const std::string& word : words) arguments.push_back(const_cast<char*>(word.c_str()));
+  arguments.push_back(nullptr);
+  posix_spawn_file_actions_t files{};
+  posix_spawn_file_actions_init(&files);
+  posix_spawn_file_actions_addopen(&files, STDIN_FILENO, "/dev/null", O_RDONLY, 0);
+  posix_spawn_file_actions_addopen(&files, STDERR_FILENO, "/dev/null", O_WRONLY, 0);
+  const int code = posix_spawn(&id_, arguments.front(), &files, nullptr, arguments.data(), environ);
+  posix_spawn_file_actions_destroy(&files);
+  if (code != 0) throw std::runtime_error("cannot start " + words.front());
+}
+
+void Process::kill() {
+  if (id_ <= 0) return;
+  ::kill(id_, SIGKILL);
+  waitpid(id_, nullptr, 0);
+  id_ = -1;
+}
+
+bool Process::hasEnded() {
+  if (id_ > 0 && waitpid(id_, nullptr, WNOHANG) == id_) id_ = -1;
+  return id_ <= 0;
+}

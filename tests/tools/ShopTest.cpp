@@ -1,0 +1,60 @@
+#include "Owner.h"
+#include "ThrowAwayServer.h"
+#include "link/ServerLine.h"
+#include "saleslib/ShopLink.h"
+#include "sync/Upload.h"
+
+using testing::HasSubstr;
+
+struct ShopTest : OwnerTest {
+  ShopTest() {
+    for (const auto& [name, value] : server.owner()) at += name + "=" + value + "~";
+  }
+  void shop(int code, const std::string& said, const std::string& words) {
+    expect(code, said, "shop " + words + " --server " + at);
+  }
+  std::string codeOf(const std::string& till) {
+    shop(0, "加入码", "add-till " + till);
+    return out.substr(out.find('\n') + 1);
+  }
+  std::string place() const {
+    return " --port " + std::to_string(server.port()) + " --database books";
+  }
+
+  ThrowAwayServer server;
+  std::string at;
+};
+
+TEST_F(ShopTest, IsMadeAndJoinedAtTheCommandLine) {
+  shop(1, "服务器没有照办", "tills");
+  shop(0, "已建好", "init");
+  shop(0, "已是最新", "init");
+  shop(1, "读不出", "init --authority ./none.crt");
+  const std::string code = codeOf("2"), host = server.folder().string();
+  shop(0, "2\t等它加入\t从没联系过", "tills");
+  expect(1, "20 个字符", "enrol @ " + host + " ABC" + place());
+  expect(1, "连不上服务器", "enrol @ " + host + " 02000-00000-00000-00000" + place());
+  EXPECT_FALSE(shopLink(*open())) << "what was refused has written nothing";
+  expect(0, "机号 2", "enrol @ " + host + " " + code + place());
+  expect(0, "账目正确", "check @");
+  expect(1, "日志不能停", "param set @ Journal=0");
+  shop(0, "已加入\t在线\t已到 0 条", "tills");
+  {
+    const std::unique_ptr<Connection> till = open();
+    ServerLine line(tillParameters(
+        {host, server.port(), "books", "till_2", shopLink(*till)->password, {}}, ""));
+    Upload upload(*till, line);
+    while (upload.step() == Upload::Outcome::kWent) continue;
+  }
+  shop(0, "查过", "check");
+  server.value("insert into shop.movement values (2, 1, 1, 1, 'x', 1) returning till");
+  shop(1, "不符，可用 --rebuild", "check");
+  shop(1, "已按记录重新做好", "check --rebuild");
+  shop(0, "查过", "check");
+  server.value("alter table shop.fact disable trigger all");
+  server.value("update shop.fact set body = '{}' where seq = 2 returning seq");
+  shop(1, "第 2 条记录与它的校验值不符", "check");
+  shop(1, "--again", "add-till 2");
+  shop(0, "", "revoke 2");
+  shop(0, "已停用", "tills");
+}

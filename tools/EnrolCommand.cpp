@@ -1,0 +1,68 @@
+#include "tools/EnrolCommand.h"
+
+#include <CLI/CLI.hpp>
+#include <memory>
+#include <string>
+
+#include "base/Words.h"
+#include "link/ServerLine.h"
+#include "saleslib/ShopLink.h"
+#include "server/ShopServer.h"
+#include "shop/Refusal.h"
+#include "store/Connection.h"
+#include "store/DataFileLock.h"
+#include "tools/DataFileOptions.h"
+
+namespace {
+
+struct Options {
+  DataFileOptions file;
+  std::string host, code, database = "till";
+  int port = 5432;
+};
+
+// The server knows the new password before the file does: whoever is cut short in between asks for
+// another code, and nothing was written here.
+void enrol(const Options& options, Console& console) {
+  const std::optional<JoinCode> code = JoinCode::parse(options.code);
+  if (!code) throw Refusal(Words::tr("加入码有 20 个字符，写的不是：%1", options.code));
+  const DataSource source = options.file.source(console);
+  const DataFileLock closed(source.path);
+  const std::unique_ptr<Connection> connection = DataFileOptions::open(source, console);
+  ServerLine line(joiningParameters({.host = options.host,
+                                     .port = options.port,
+                                     .database = options.database,
+                                     .user = "till_" + std::to_string(code->till),
+                                     .password = code->secret}));
+  const std::string password = drawPassword();
+  const ShopServer::Joined joined = ShopServer::enrol(line, code->till, password);
+  joinShop(*connection,
+           {.till = code->till,
+            .epoch = joined.epoch,
+            .host = options.host,
+            .port = options.port,
+            .database = options.database,
+            .password = password,
+            .authority = joined.authority},
+           joined.highestBill);
+  console.out << Words::tr("这台收银机加入了店铺，机号 %1。", code->till) << '\n';
+}
+
+}  // namespace
+
+void addEnrolCommand(CLI::App& app, Console& console) {
+  CLI::App* command = app.add_subcommand(
+      "enrol", Words::tr("这台收银机加入有服务器的店；收银程序必须先退出，以后一直记日志"));
+  const auto options = std::make_shared<Options>();
+  options->file.addTo(*command);
+  command
+      ->add_option(Words::tr("服务器"), options->host,
+                   Words::tr("服务器的名称或地址，和它的证书上写的一样"))
+      ->required();
+  command
+      ->add_option(Words::tr("加入码"), options->code, Words::tr("tilladmin shop add-till 给出的"))
+      ->required();
+  command->add_option("--port", options->port, Words::tr("服务器的端口，一般是 5432"));
+  command->add_option("--database", options->database, Words::tr("服务器上的数据库，一般是 till"));
+  command->callback([options, &console] { enrol(*options, console); });
+}

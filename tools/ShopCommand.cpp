@@ -1,0 +1,133 @@
+#include "tools/ShopCommand.h"
+
+#include <CLI/CLI.hpp>
+#include <fstream>
+#include <iterator>
+#include <memory>
+#include <string>
+
+#include "base/Words.h"
+#include "link/ServerLine.h"
+#include "saleslib/ShopLink.h"
+#include "server/ShopServer.h"
+#include "shop/Refusal.h"
+#include "tools/ParserTexts.h"
+
+namespace {
+
+constexpr std::int64_t kToldClockSeconds = 120;  // what a till's clock may be off unsaid
+
+struct Options {
+  std::string server = "dbname=till";
+  std::string authority;
+  int till = 0;
+  bool again = false, rebuild = false;
+
+  ServerLine line() const { return ServerLine({{"dbname", server}}); }
+};
+
+std::string fileText(const std::string& path) {
+  if (path.empty()) return {};
+  std::ifstream file(path);
+  std::string text{std::istreambuf_iterator<char>(file), {}};
+  if (text.empty()) throw Refusal(Words::tr("读不出这个文件：%1", path));
+  return text;
+}
+
+void init(const Options& options, Console& console) {
+  ServerLine line = options.line();
+  const int steps = ShopServer(line).init(fileText(options.authority));
+  console.out << (steps > 0 ? Words::tr("服务器上的店铺已建好（%1 步）", steps)
+                            : Words::tr("服务器上的店铺已是最新的"))
+              << '\n';
+}
+
+void addTill(const Options& options, Console& console) {
+  ServerLine line = options.line();
+  const JoinCode code = ShopServer(line).addTill(options.till, options.again);
+  console.out << Words::tr("收银机 %1 的加入码，24 小时内用一次：", options.till) << '\n'
+              << code.shown() << '\n';
+}
+
+std::string statusText(const std::string& status) {
+  if (status == "joined") return Words::tr("已加入");
+  if (status == "code") return Words::tr("等它加入");
+  if (status == "expired") return Words::tr("加入码过期");
+  return Words::tr("已停用");
+}
+
+std::string silenceText(const ShopServer::Till& till) {
+  if (!till.silentSeconds) return Words::tr("从没联系过");
+  return *till.silentSeconds < 60 ? Words::tr("在线")
+                                  : Words::tr("%1 分钟没联系", *till.silentSeconds / 60);
+}
+
+std::string clockText(const ShopServer::Till& till) {
+  const std::int64_t ahead = till.clockSeconds.value_or(0);
+  if (ahead > kToldClockSeconds) return Words::tr("时钟快 %1 分钟", ahead / 60);
+  return ahead < -kToldClockSeconds ? Words::tr("时钟慢 %1 分钟", -ahead / 60) : "-";
+}
+
+void tills(const Options& options, Console& console) {
+  ServerLine line = options.line();
+  for (const ShopServer::Till& till : ShopServer(line).tills()) {
+    console.out << till.till << '\t' << statusText(till.status) << '\t' << silenceText(till) << '\t'
+                << Words::tr("已到 %1 条", till.applied) << '\t'
+                << Words::tr("未到 %1 单", till.pending) << '\t'
+                << Words::tr("读不懂 %1 条", till.faults) << '\t'
+                << Words::tr("第 %1 段", till.epoch) << '\t' << clockText(till) << '\t'
+                << till.version << '\n';
+  }
+}
+
+void check(const Options& options, Console& console, int& exitCode) {
+  ServerLine line = options.line();
+  const ShopServer::Checked found = ShopServer(line).check(options.rebuild);
+  for (const std::string& fault : found.faults) console.out << fault << '\n';
+  exitCode = found.faults.empty() ? 0 : 1;
+  console.out << Words::tr("查过 %1 条记录，%2 张单据", found.facts, found.bills) << '\n';
+}
+
+void revoke(const Options& options, Console& console) {
+  ServerLine line = options.line();
+  ShopServer(line).revoke(options.till);
+  console.out << Words::tr("收银机 %1 已停用；它传来的账还在。", options.till) << '\n';
+}
+
+}  // namespace
+
+void addShopCommand(CLI::App& app, Console& console, int& exitCode) {
+  CLI::App* parent =
+      app.add_subcommand("shop", Words::tr("几台收银机的店：在服务器上建店、加收银机、查账"));
+  parent->require_subcommand(1);
+  const auto options = std::make_shared<Options>();
+  const auto command = [&](const char* name, const std::string& meaning) {
+    CLI::App* added = parent->add_subcommand(name, meaning);
+    added->add_option("--server", options->server,
+                      Words::tr("怎样连到服务器，例如 \"host=/run/postgresql dbname=till\"；"
+                                "不写是本机的数据库 till"));
+    return added;
+  };
+  const auto takesTill = [&](CLI::App* added) {
+    added->add_option(Words::tr("机号"), options->till, Words::tr("收银机的号码，从 1 起"))
+        ->required()
+        ->check(wholeNumber(1, kMostTills));
+    return added;
+  };
+  CLI::App* making = command("init", Words::tr("建店，或者升级到这个版本"));
+  making->add_option("--authority", options->authority,
+                     Words::tr("店铺自己的证书（PEM 文件），收银机凭它认服务器"));
+  making->callback([options, &console] { init(*options, console); });
+  CLI::App* adding = takesTill(command("add-till", Words::tr("加一台收银机，给出它的加入码")));
+  adding->add_flag("--again", options->again,
+                   Words::tr("它已经加入过：换了机器或者重装，原来的那台从此不能再传"));
+  adding->callback([options, &console] { addTill(*options, console); });
+  command("tills", Words::tr("列出收银机：状态、最后联系、已到未到、时钟、版本"))
+      ->callback([options, &console] { tills(*options, console); });
+  CLI::App* checking = command("check", Words::tr("核对每台传来的记录和按它们做的账表"));
+  checking->add_flag("--rebuild", options->rebuild, Words::tr("按记录重新做账表"));
+  checking->callback([options, &console, &exitCode] { check(*options, console, exitCode); });
+  takesTill(command("revoke", Words::tr("停用一台收银机")))->callback([options, &console] {
+    revoke(*options, console);
+  });
+}
