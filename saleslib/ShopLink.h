@@ -20,8 +20,8 @@ struct TESSALY_API ShopLink {
   std::string authority;  ///< the certificate that vouches for the server, in PEM (RFC 7468)
 };
 
-/// Numbers of bills carry the till, so that no two tills make the same ones: the till times this, and
-/// a counter. The last till's still are numbers of 31 bits.
+/// Numbers of bills carry the till, so that no two tills make the same ones: the till times this,
+/// and a counter. The last till's still are numbers of 31 bits.
 inline constexpr std::int64_t kNumbersPerTill = 10'000'000;
 inline constexpr int kMostTills = 213;
 

@@ -1,7 +1,7 @@
 -- What tills may call. Every answer is a write of the till's row, so that an answer that a fail-over
 -- would forget is not given: it waits for whatever the server's commits wait for. The SQLSTATE of a
 -- refusal says what it is about: TL001 who asks, TL002 to TL004 that the till has another history
--- in mind than the server, TL005 that too many histories began.
+-- in mind than the server, TL005 that too many histories began, TL006 that more of one is wanted.
 
 create function shop.caller(asking integer) returns shop.till language plpgsql as $$
 declare
@@ -88,7 +88,8 @@ end $$;
 
 -- The till's history is not the server's, but they have these entries to compare: it goes on behind
 -- the last that both have. The same question again gets the same answer, as long as nothing came of
--- it yet. Who asks a third time in a day has one file on two machines; joining anew ends that.
+-- it yet. Who shares none of them is asked for the entries before (TL006), so that nothing that both
+-- have comes twice. Who asks a third time in a day has one file on two machines; joining anew ends that.
 create function api.new_epoch(asking integer, its_epoch integer, seqs bigint[], hashes text[],
                               out epoch integer, out highest_bill bigint)
 language plpgsql security definer set search_path = shop, pg_temp as $$
@@ -101,6 +102,9 @@ begin
     from unnest(seqs, hashes) as own(seq, hash)
     join shop.fact f on f.till = asking and f.seq = own.seq and f.hash = own.hash
     order by f.seq desc limit 1;
+  if common_seq is null and (select min(seq) from unnest(seqs) as own(seq)) > 1 then
+    raise exception using errcode = 'TL006', message = 'earlier entries are wanted';
+  end if;
   common_seq := coalesce(common_seq, 0);
   common_hash := coalesce(common_hash, '');
   highest_bill := t.highest_bill;

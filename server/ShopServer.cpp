@@ -72,7 +72,7 @@ JoinCode ShopServer::addTill(int till, bool again) {
     throw Failure(Words::tr(
         "收银机 %1 已经加入。换机器或者重装要写 --again，原来的那台从此不能再传。", till));
   }
-  const JoinCode code = JoinCode::draw(till);
+  JoinCode code = JoinCode::draw(till);
   const std::string role = roleOf(till), number = std::to_string(till);
   required(line_.run(
       "begin; set local role shop_keeper; set local client_min_messages = warning;"

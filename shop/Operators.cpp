@@ -60,6 +60,7 @@ std::vector<std::string> rightsMeant(const std::vector<std::string>& named) {
     }
   }
   std::vector<std::string> texts;
+  texts.reserve(meant.size());
   for (const auto& [right, text] : meant) texts.push_back(text);
   return texts;
 }

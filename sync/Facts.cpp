@@ -10,7 +10,7 @@ namespace {
 using Json = nlohmann::json;
 
 constexpr std::size_t kMostAtOnce = 64;
-constexpr std::size_t kMostBytes = 256 * 1024;  // together; a longer entry goes alone
+constexpr std::size_t kMostBytes = 262'144;  // together; a longer entry goes alone
 
 std::string withoutNul(std::string text) {
   for (std::size_t at = 0; (at = text.find('\0', at)) != std::string::npos;)
@@ -43,10 +43,10 @@ std::vector<JournalEntry> nextEntries(Connection& connection, const Place& behin
   return entries;
 }
 
-std::vector<Place> lastEntries(Connection& connection, int most) {
+std::vector<Place> lastEntries(Connection& connection, std::int64_t before, int most) {
   std::vector<Place> places;
-  Rows rows = connection.query("select seq, hash from fact order by seq desc limit ?",
-                               static_cast<std::int64_t>(most));
+  Rows rows = connection.query("select seq, hash from fact where seq < ? order by seq desc limit ?",
+                               before, static_cast<std::int64_t>(most));
   while (rows.next()) places.push_back({rows.whole("seq").value_or(0), rows.text("hash")});
   return places;
 }

@@ -19,8 +19,8 @@ struct Place {
 bool hasEntry(Connection& connection, const Place& place);
 /// The next entries behind that one, as many as go up at once.
 std::vector<JournalEntry> nextEntries(Connection& connection, const Place& behind);
-/// The last entries, the latest first: what a till tells of its history.
-std::vector<Place> lastEntries(Connection& connection, int most);
+/// The last entries before that number, the latest first: what a till tells of its history.
+std::vector<Place> lastEntries(Connection& connection, std::int64_t before, int most);
 /// Entries as the server takes them: JSON (RFC 8259), an array of objects with the fields of the
 /// table `fact`. What no text at the server can hold (bytes that are no UTF-8, the character NUL)
 /// is replaced by U+FFFD: the entry goes up, and the server's check says that its hash is another

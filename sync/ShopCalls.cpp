@@ -10,7 +10,7 @@ namespace {
 using Milliseconds = ServerLine::Milliseconds;
 
 // A slow line needs a second for so many bytes.
-constexpr std::size_t kBytesPerSecond = 32 * 1024;
+constexpr std::size_t kBytesPerSecond = 32'768;
 
 std::int64_t numberOf(const std::optional<std::string>& text) {
   return text ? std::atoll(text->c_str()) : 0;

@@ -1,5 +1,6 @@
 #include "sync/Upload.h"
 
+#include <cstdint>
 #include <ctime>
 #include <utility>
 
@@ -9,8 +10,8 @@
 
 namespace {
 
-// Two histories that have none of so many entries in common are taken for different from the start.
-constexpr int kEntriesTold = 5000;
+constexpr int kEntriesTold = 5000;  // of a history at once
+constexpr const char* kTellMore = "TL006";
 
 ShopLink requiredLink(Connection& connection) {
   std::optional<ShopLink> link = shopLink(connection);
@@ -70,7 +71,12 @@ Upload::Outcome Upload::follow(const ShopCalls::Standing& standing, Moment now) 
 
 Upload::Outcome Upload::beginEpoch() {
   place_.reset();
-  const ShopCalls::Epoch begun = calls_.newEpoch(epoch_, lastEntries(connection_, kEntriesTold));
+  std::vector<Place> own = lastEntries(connection_, INT64_MAX, kEntriesTold);
+  ShopCalls::Epoch begun = calls_.newEpoch(epoch_, own);
+  while (begun.state == kTellMore && !own.empty()) {
+    own = lastEntries(connection_, own.back().seq, kEntriesTold);
+    begun = calls_.newEpoch(epoch_, own);
+  }
   if (begun.kind != ServerAnswer::kAnswer) return failed(begun.kind, begun.fault, begun.state);
   ::beginEpoch(connection_, begun.epoch, begun.highestBill);
   epoch_ = begun.epoch;

@@ -17,8 +17,8 @@ class Upload {
   static constexpr std::chrono::seconds kHeartbeat{3};
 
   /// Connection and line outlive the upload. The till belongs to a shop (ensure). `atServer` is the
-  /// number of the last entry that the server once told to have: until it tells again, what is still
-  /// to come is counted from there, and nothing else.
+  /// number of the last entry that the server once told to have: until it tells again, what is
+  /// still to come is counted from there, and nothing else.
   Upload(Connection& connection, ServerLine& line, std::int64_t atServer = 0);
 
   enum class Outcome {

@@ -6,6 +6,7 @@
 #include <unistd.h>
 
 #include <algorithm>
+#include <cstdio>
 #include <cstdlib>
 #include <fstream>
 #include <iterator>
@@ -89,9 +90,9 @@ void ThrowAwayServer::makeEmpty() {
 
 ThrowAwayServer::~ThrowAwayServer() {
   try {
-    stop();
-  } catch (const std::exception&) {
-    kill();
+    run(programFolder() + "pg_ctl stop --mode=immediate --wait --timeout=60 -D " + data());
+  } catch (const std::exception& failure) {
+    std::fputs(failure.what(), stderr);
   }
 }
 
