@@ -27,9 +27,7 @@ constexpr int kFailuresToOpenAnew = 10;  // the till may have joined anew, under
 
 struct SyncRun::Session {
   Session(std::unique_ptr<Connection> opened, const ShopLink& link, std::int64_t atServer)
-      : connection(std::move(opened)),
-        server(link),
-        upload(*connection, server.line(), atServer) {}
+      : connection(std::move(opened)), server(link), upload(*connection, server.line(), atServer) {}
 
   std::unique_ptr<Connection> connection;
   TillLine server;
