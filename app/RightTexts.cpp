@@ -22,7 +22,7 @@ namespace {
 
 QString deedText(const Deed& deed) {
   const RightKind& kind = rightKind(deed.right);
-  const QString word = QCoreApplication::translate("Right", kind.word);
+  QString word = QCoreApplication::translate("Right", kind.word);
   if (kind.limit == RightKind::Limit::kNone) return word;
   return QCoreApplication::translate("Right", "%1 %2", "a deed, and how much of it")
       .arg(word, limitText(kind, deed.size));

@@ -190,7 +190,7 @@ void importBesideTill(Run& run, benchmark::State& state, Measured& row) {
   const fs::path folder = run.shops.copy(kRingingShop);
   const fs::path sheet = folder / "goods.csv";
   writeSheet(sheet, count);
-  for (auto _ : state) {
+  for ([[maybe_unused]] auto _ : state) {
     Samples imported, inserted;
     {
       BenchShop till(folder);

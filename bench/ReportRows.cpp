@@ -185,7 +185,7 @@ void ownersReport(Run& run, benchmark::State& state, Measured& row) {
   BareEngine engine(folder / "bare.mdb");
   BareEngine::Statement select(engine, "select * from sellProducts");
   const ReportTerms terms{shop_file::kFirstDay, shop_file::kBusyDay};
-  for (auto _ : state) {
+  for ([[maybe_unused]] auto _ : state) {
     state.SetIterationTime(row.till.time([&] {
       const auto report =
           takingsReport(*shop, terms, {shop_file::kBusyDay}, [](double) { return true; });
