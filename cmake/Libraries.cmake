@@ -15,7 +15,7 @@ pkg_check_modules(sodium REQUIRED IMPORTED_TARGET libsodium)
 pkg_check_modules(xlsxwriter REQUIRED IMPORTED_TARGET xlsxwriter)
 pkg_check_modules(expat REQUIRED IMPORTED_TARGET expat)
 pkg_check_modules(libzip REQUIRED IMPORTED_TARGET libzip)
-pkg_check_modules(libpq REQUIRED IMPORTED_TARGET libpq)
+pkg_check_modules(libpq REQUIRED libpq)
 pkg_check_modules(libmdb REQUIRED IMPORTED_TARGET libmdb)
 
 # What every target of ours is compiled with.

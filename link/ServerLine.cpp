@@ -1,51 +1,62 @@
 #include "link/ServerLine.h"
 
-#include <libpq-fe.h>
 #include <poll.h>
 
 #include <algorithm>
+#include <cstdlib>
 #include <utility>
 
 #include "base/Failure.h"
 #include "base/Text.h"
 #include "base/Words.h"
+#include "link/ClientLibrary.h"
 
 namespace {
 
 using std::chrono::steady_clock;
 
+const ClientLibrary& pq() {
+  return ClientLibrary::loaded();
+}
+
 struct ResultCloser {
-  void operator()(PGresult* result) const { PQclear(result); }
+  void operator()(PGresult* result) const { pq().PQclear(result); }
 };
 using Result = std::unique_ptr<PGresult, ResultCloser>;
 
 ServerAnswer::Row rowOf(const PGresult* result, int row) {
   ServerAnswer::Row values;
-  for (int column = 0; column < PQnfields(result); ++column) {
-    if (PQgetisnull(result, row, column) != 0) {
+  for (int column = 0; column < pq().PQnfields(result); ++column) {
+    if (pq().PQgetisnull(result, row, column) != 0) {
       values.emplace_back(std::nullopt);
     } else {
-      values.emplace_back(std::in_place, PQgetvalue(result, row, column));
+      values.emplace_back(std::in_place, pq().PQgetvalue(result, row, column));
     }
   }
   return values;
 }
 
 std::string field(const PGresult* result, int code) {
-  const char* text = PQresultErrorField(result, code);
+  const char* text = pq().PQresultErrorField(result, code);
   return text == nullptr ? "" : text;
 }
 
 /// An error that the server gave and went on from. After a fatal one nobody knows.
 bool isRefusal(const PGresult* result) {
-  return PQresultStatus(result) == PGRES_FATAL_ERROR &&
+  return pq().PQresultStatus(result) == PGRES_FATAL_ERROR &&
          field(result, PG_DIAG_SEVERITY_NONLOCALIZED) == "ERROR";
 }
 
 }  // namespace
 
+std::optional<std::int64_t> wholeAt(const ServerAnswer::Row& row, std::size_t column) {
+  const std::optional<std::string>& text = row.at(column);
+  if (!text) return std::nullopt;
+  return std::optional<std::int64_t>(std::in_place, std::atoll(text->c_str()));
+}
+
 void ServerLine::Closer::operator()(pg_conn* line) const {
-  PQfinish(line);
+  pq().PQfinish(line);
 }
 
 ServerLine::ServerLine(LineParameters parameters) : parameters_(std::move(parameters)) {}
@@ -63,7 +74,7 @@ void ServerLine::noticed(void* line, const char* text) {
 }
 
 std::string ServerLine::fault() const {
-  return line_ ? PQerrorMessage(line_.get()) : "no memory for a line";
+  return line_ ? pq().PQerrorMessage(line_.get()) : "no memory for a line";
 }
 
 ServerAnswer ServerLine::unknown(const std::string& why) {
@@ -76,13 +87,18 @@ bool ServerLine::wait(bool forWriting, Moment deadline) const {
   const auto left =
       std::chrono::duration_cast<Milliseconds>(deadline - steady_clock::now()).count();
   if (left <= 0) return false;
-  pollfd socket{PQsocket(line_.get()), static_cast<short>(forWriting ? POLLIN | POLLOUT : POLLIN),
-                0};
+  pollfd socket{pq().PQsocket(line_.get()),
+                static_cast<short>(forWriting ? POLLIN | POLLOUT : POLLIN), 0};
   return poll(&socket, 1, static_cast<int>(std::min<long long>(left, INT32_MAX))) > 0;
 }
 
 std::optional<ServerAnswer> ServerLine::openFault(Moment deadline) {
-  if (line_ && PQstatus(line_.get()) == CONNECTION_OK) return std::nullopt;
+  if (line_ && pq().PQstatus(line_.get()) == CONNECTION_OK) return std::nullopt;
+  try {
+    ClientLibrary::loaded();
+  } catch (const Failure& failure) {
+    return unknown(failure.what());
+  }
   std::vector<const char*> names, values;
   for (const auto& [name, value] : parameters_) {
     names.push_back(name.c_str());
@@ -90,15 +106,15 @@ std::optional<ServerAnswer> ServerLine::openFault(Moment deadline) {
   }
   names.push_back(nullptr);
   values.push_back(nullptr);
-  line_.reset(PQconnectStartParams(names.data(), values.data(), 1));
-  if (!line_ || PQstatus(line_.get()) == CONNECTION_BAD) return unknown(fault());
-  PQsetNoticeProcessor(line_.get(), &ServerLine::noticed, this);
+  line_.reset(pq().PQconnectStartParams(names.data(), values.data(), 1));
+  if (!line_ || pq().PQstatus(line_.get()) == CONNECTION_BAD) return unknown(fault());
+  pq().PQsetNoticeProcessor(line_.get(), &ServerLine::noticed, this);
   for (auto next = PGRES_POLLING_WRITING; next != PGRES_POLLING_OK;
-       next = PQconnectPoll(line_.get())) {
+       next = pq().PQconnectPoll(line_.get())) {
     if (next == PGRES_POLLING_FAILED) return unknown(fault());
     if (!wait(next == PGRES_POLLING_WRITING, deadline)) return unknown("the server is silent");
   }
-  if (PQsetnonblocking(line_.get(), 1) != 0) return unknown(fault());
+  if (pq().PQsetnonblocking(line_.get(), 1) != 0) return unknown(fault());
   return std::nullopt;
 }
 
@@ -121,8 +137,8 @@ ServerAnswer ServerLine::askOpen(const char* statement, const ServerAnswer::Row&
   texts.reserve(values.size());
   for (const auto& value : values) texts.push_back(value ? value->c_str() : nullptr);
   notice_.clear();
-  if (PQsendQueryParams(line_.get(), statement, static_cast<int>(texts.size()), nullptr,
-                        texts.data(), nullptr, nullptr, 0) == 0)
+  if (pq().PQsendQueryParams(line_.get(), statement, static_cast<int>(texts.size()), nullptr,
+                             texts.data(), nullptr, nullptr, 0) == 0)
     return unknown(fault());
   return answer(deadline);
 }
@@ -130,18 +146,18 @@ ServerAnswer ServerLine::askOpen(const char* statement, const ServerAnswer::Row&
 ServerAnswer ServerLine::run(const std::string& script, Milliseconds patience) {
   if (auto failed = openFault(steady_clock::now() + patience)) return *failed;
   notice_.clear();
-  if (PQsendQuery(line_.get(), script.c_str()) == 0) return unknown(fault());
+  if (pq().PQsendQuery(line_.get(), script.c_str()) == 0) return unknown(fault());
   return answer(steady_clock::now() + patience);
 }
 
 /// Sends what waits to be sent and takes in what has come, until a result is whole.
 bool ServerLine::receive(Moment deadline) {
   for (;;) {
-    const int unsent = PQflush(line_.get());
+    const int unsent = pq().PQflush(line_.get());
     if (unsent < 0) return false;
-    if (unsent == 0 && PQisBusy(line_.get()) == 0) return true;
+    if (unsent == 0 && pq().PQisBusy(line_.get()) == 0) return true;
     if (!wait(unsent > 0, deadline)) return false;
-    if (PQconsumeInput(line_.get()) == 0) return false;
+    if (pq().PQconsumeInput(line_.get()) == 0) return false;
   }
 }
 
@@ -152,15 +168,15 @@ ServerAnswer ServerLine::answer(Moment deadline) {
       const std::string why = fault();
       return unknown(why.empty() ? "the server is silent" : why);
     }
-    const Result result(PQgetResult(line_.get()));
+    const Result result(pq().PQgetResult(line_.get()));
     if (!result) break;
-    const ExecStatusType status = PQresultStatus(result.get());
+    const ExecStatusType status = pq().PQresultStatus(result.get());
     if (status == PGRES_TUPLES_OK || status == PGRES_COMMAND_OK) {
-      for (int row = 0; row < PQntuples(result.get()); ++row)
+      for (int row = 0; row < pq().PQntuples(result.get()); ++row)
         answer.rows.push_back(rowOf(result.get(), row));
       continue;
     }
-    if (!isRefusal(result.get())) return unknown(PQresultErrorMessage(result.get()));
+    if (!isRefusal(result.get())) return unknown(pq().PQresultErrorMessage(result.get()));
     answer.kind = ServerAnswer::kRefusal;
     answer.text = field(result.get(), PG_DIAG_MESSAGE_PRIMARY);
     answer.state = field(result.get(), PG_DIAG_SQLSTATE);
@@ -173,8 +189,8 @@ std::string ServerLine::verifierOf(const std::string& password, const std::strin
   if (const auto failed = openFault(steady_clock::now() + kPatience))
     throw Failure(Words::tr("连不上服务器：%1", failed->text));
   const std::unique_ptr<char, void (*)(void*)> verifier(
-      PQencryptPasswordConn(line_.get(), password.c_str(), role.c_str(), "scram-sha-256"),
-      &PQfreemem);
+      pq().PQencryptPasswordConn(line_.get(), password.c_str(), role.c_str(), "scram-sha-256"),
+      pq().PQfreemem);
   if (!verifier) throw Failure(fault());
   return verifier.get();
 }

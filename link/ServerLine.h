@@ -1,6 +1,7 @@
 #pragma once
 
 #include <chrono>
+#include <cstdint>
 #include <memory>
 #include <optional>
 #include <string>
@@ -26,6 +27,9 @@ struct ServerAnswer {
 
   bool isDone() const { return kind == kAnswer; }
 };
+
+/// A column of a row as a whole number; nothing for null.
+std::optional<std::int64_t> wholeAt(const ServerAnswer::Row& row, std::size_t column);
 
 /// A line to a PostgreSQL server that never waits longer than it is told to. The line is opened by
 /// the first question and closed by everything that leaves one unknown. (A name of a host that is

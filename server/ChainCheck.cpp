@@ -1,29 +1,20 @@
 #include "server/ChainCheck.h"
 
-#include <cstdlib>
-#include <optional>
-
 #include "base/Words.h"
 #include "saleslib/JournalEntry.h"
 
 namespace {
 
 std::int64_t number(const ServerAnswer::Row& row, std::size_t column) {
-  const std::optional<std::string>& text = row.at(column);
-  return text ? std::atoll(text->c_str()) : 0;
-}
-
-std::optional<std::int64_t> optionalNumber(const ServerAnswer::Row& row, std::size_t column) {
-  if (!row.at(column)) return std::nullopt;
-  return std::optional<std::int64_t>(number(row, column));
+  return wholeAt(row, column).value_or(0);
 }
 
 JournalEntry entryOf(const ServerAnswer::Row& row) {
   return {.seq = number(row, 2),
           .time = row.at(3).value_or(""),
           .till = number(row, 4),
-          .operatorId = optionalNumber(row, 5),
-          .approver = optionalNumber(row, 6),
+          .operatorId = wholeAt(row, 5),
+          .approver = wholeAt(row, 6),
           .kind = row.at(7).value_or(""),
           .touches = row.at(8).value_or(""),
           .body = row.at(9).value_or(""),

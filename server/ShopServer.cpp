@@ -1,7 +1,5 @@
 #include "server/ShopServer.h"
 
-#include <cstdlib>
-
 #include "base/Failure.h"
 #include "base/Words.h"
 #include "link/ServerLine.h"
@@ -26,13 +24,8 @@ std::string roleOf(int till) {
   return "till_" + std::to_string(till);
 }
 
-std::int64_t numberOf(const std::optional<std::string>& text) {
-  return text ? std::atoll(text->c_str()) : 0;
-}
-
-std::optional<std::int64_t> numberIn(const std::optional<std::string>& text) {
-  if (!text) return std::nullopt;
-  return std::optional<std::int64_t>(numberOf(text));
+std::int64_t number(const ServerAnswer::Row& row, std::size_t column) {
+  return wholeAt(row, column).value_or(0);
 }
 
 }  // namespace
@@ -41,7 +34,7 @@ int ShopServer::stepsDone() {
   const ServerAnswer known = required(line_.ask("select to_regclass('shop.step') is not null"));
   if (known.rows.at(0).at(0) != "t") return 0;
   const ServerAnswer steps = required(line_.ask("select coalesce(max(number), 0) from shop.step"));
-  return static_cast<int>(numberOf(steps.rows.at(0).at(0)));
+  return static_cast<int>(number(steps.rows.at(0), 0));
 }
 
 int ShopServer::init(const std::string& authority) {
@@ -123,14 +116,14 @@ std::vector<ShopServer::Till> ShopServer::tills() {
       " from shop.till t order by till"));
   std::vector<Till> tills;
   for (const ServerAnswer::Row& row : answer.rows) {
-    tills.push_back({.till = static_cast<int>(numberOf(row.at(0))),
-                     .epoch = static_cast<int>(numberOf(row.at(1))),
+    tills.push_back({.till = static_cast<int>(number(row, 0)),
+                     .epoch = static_cast<int>(number(row, 1)),
                      .status = row.at(2).value_or(""),
-                     .applied = numberOf(row.at(3)),
-                     .pending = numberOf(row.at(4)),
-                     .faults = numberOf(row.at(5)),
-                     .silentSeconds = numberIn(row.at(6)),
-                     .clockSeconds = numberIn(row.at(7)),
+                     .applied = number(row, 3),
+                     .pending = number(row, 4),
+                     .faults = number(row, 5),
+                     .silentSeconds = wholeAt(row, 6),
+                     .clockSeconds = wholeAt(row, 7),
                      .version = row.at(8).value_or("")});
   }
   return tills;
@@ -157,7 +150,7 @@ ShopServer::Checked ShopServer::check(bool rebuild) {
                                    : Words::tr("账表与传来的记录不符，可用 --rebuild 重新做好"));
   }
   const ServerAnswer bills = required(line_.ask("select count(*) from shop.sale"));
-  found.bills = numberOf(bills.rows.at(0).at(0));
+  found.bills = number(bills.rows.at(0), 0);
   return found;
 }
 
@@ -186,7 +179,7 @@ ShopServer::Joined ShopServer::enrol(ServerLine& line, int till, const std::stri
       required(line.ask("select epoch, highest_bill, authority from api.enrol($1, $2)",
                         {std::to_string(till), line.verifierOf(password, roleOf(till))}));
   const ServerAnswer::Row& row = answer.rows.at(0);
-  return {.epoch = static_cast<int>(numberOf(row.at(0))),
-          .highestBill = numberOf(row.at(1)),
+  return {.epoch = static_cast<int>(number(row, 0)),
+          .highestBill = number(row, 1),
           .authority = row.at(2).value_or("")};
 }

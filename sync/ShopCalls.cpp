@@ -1,7 +1,5 @@
 #include "sync/ShopCalls.h"
 
-#include <cstdlib>
-
 #include "base/NumberText.h"
 #include "base/Version.h"
 
@@ -12,8 +10,8 @@ using Milliseconds = ServerLine::Milliseconds;
 // A slow line needs a second for so many bytes.
 constexpr std::size_t kBytesPerSecond = 32'768;
 
-std::int64_t numberOf(const std::optional<std::string>& text) {
-  return text ? std::atoll(text->c_str()) : 0;
+std::int64_t number(const ServerAnswer::Row& row, std::size_t column) {
+  return wholeAt(row, column).value_or(0);
 }
 
 // The hashes are hexadecimal digits: nothing in them needs quoting.
@@ -29,8 +27,8 @@ ShopCalls::Standing ShopCalls::standing(const ServerAnswer& answer) {
   Standing standing{.kind = answer.kind, .fault = answer.text, .state = answer.state};
   if (!answer.isDone()) return standing;
   const ServerAnswer::Row& row = answer.rows.at(0);
-  standing.epoch = static_cast<int>(numberOf(row.at(0)));
-  standing.place = {numberOf(row.at(1)), row.at(2).value_or("")};
+  standing.epoch = static_cast<int>(number(row, 0));
+  standing.place = {number(row, 1), row.at(2).value_or("")};
   return standing;
 }
 
@@ -60,8 +58,8 @@ ShopCalls::Epoch ShopCalls::newEpoch(int epoch, const std::vector<Place>& own) {
                 2 * ServerLine::kPatience);
   Epoch begun{.kind = answer.kind, .fault = answer.text, .state = answer.state};
   if (!answer.isDone()) return begun;
-  begun.epoch = static_cast<int>(numberOf(answer.rows.at(0).at(0)));
-  begun.highestBill = numberOf(answer.rows.at(0).at(1));
+  begun.epoch = static_cast<int>(number(answer.rows.at(0), 0));
+  begun.highestBill = number(answer.rows.at(0), 1);
   return begun;
 }
 

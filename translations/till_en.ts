@@ -5483,6 +5483,10 @@ The questions were not all answered. Nothing was made.</translation>
         <source>已连上服务器</source>
         <translation>The server answers</translation>
     </message>
+    <message>
+        <source>这台机器没有 %1，连不上服务器。</source>
+        <translation>This machine has no %1; the server cannot be reached.</translation>
+    </message>
 </context>
 <context>
     <name>WorkProgress</name>
