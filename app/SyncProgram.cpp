@@ -14,12 +14,6 @@ namespace {
 
 constexpr auto kBetweenLooks = std::chrono::seconds(5);
 constexpr int kSilentMinutes = 1;  // what is not worth a word
-constexpr int kMinutesOfDay = 24 * 60;
-
-int minutesBetween(const DateTime& from, const DateTime& to) {
-  return daysBetween(from.date, to.date) * kMinutesOfDay + (to.hour - from.hour) * 60 + to.minute -
-         from.minute - (to.second < from.second ? 1 : 0);
-}
 
 /// Without a wait; the identity of the process, or -1.
 int startWithInput(const std::filesystem::path& program, const std::string& file, int input) {
@@ -71,7 +65,7 @@ void SyncProgram::start() {
 QString SyncProgram::stateText(const DateTime& now) const {
   if (!state_) return {};
   if (state_->isRefused) return tr("服务器不认这台收银机，请告诉店主");
-  const int minutes = minutesBetween(state_->contact, now);
+  const std::int64_t minutes = secondsBetween(state_->contact, now) / 60;
   if (minutes < kSilentMinutes) return {};
   return tr("离线 %1 分钟，%2 单未上传").arg(minutes).arg(state_->pendingBills);
 }

@@ -133,6 +133,12 @@ int daysBetween(const Date& from, const Date& to) {
   return static_cast<int>(dayNumber(to) - dayNumber(from));
 }
 
+std::int64_t secondsBetween(const DateTime& from, const DateTime& to) {
+  const std::int64_t hours =
+      std::int64_t{24} * daysBetween(from.date, to.date) + to.hour - from.hour;
+  return (hours * 60 + to.minute - from.minute) * 60 + to.second - from.second;
+}
+
 std::string generalText(const DateTime& value) {
   const bool midnight = value.hour == 0 && value.minute == 0 && value.second == 0;
   return midnight ? dateText(value.date) : storedText(value);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <compare>
+#include <cstdint>
 #include <functional>
 #include <optional>
 #include <string>
@@ -32,6 +33,8 @@ DateTime localTime();
 Date plusDays(Date date, int days);
 /// The days from one date to another, negative when that is earlier.
 int daysBetween(const Date& from, const Date& to);
+/// The seconds from one time to another, negative when that is earlier.
+std::int64_t secondsBetween(const DateTime& from, const DateTime& to);
 
 /// For people: "2026-11-22 09:05:03", the time left out at 00:00:00.
 std::string generalText(const DateTime& value);

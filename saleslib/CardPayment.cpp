@@ -1,8 +1,5 @@
 #include "saleslib/CardPayment.h"
 
-#include <sodium.h>
-
-#include <array>
 #include <vector>
 
 #include "base/Failure.h"
@@ -22,11 +19,7 @@ using Answer = CardAuthority::Answer;
 // By chance, not by counting: a file that was put back from a copy would count over again, and take
 // the answer to an old charge for that to a new one.
 std::string newKey() {
-  startSodium();
-  std::array<unsigned char, 16> bytes{};
-  randombytes_buf(bytes.data(), bytes.size());
-  std::array<char, 2 * bytes.size() + 1> digits{};
-  return sodium_bin2hex(digits.data(), digits.size(), bytes.data(), bytes.size());
+  return randomDigits(16);
 }
 
 void savePaid(ClsSell& bill) {

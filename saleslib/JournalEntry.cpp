@@ -1,24 +1,13 @@
 #include "saleslib/JournalEntry.h"
 
-#include <sodium.h>
-
-#include <array>
-
 #include "base/DateTime.h"
 #include "saleslib/Sodium.h"
 #include "store/Row.h"
 
 namespace {
 
-template <std::size_t Bytes>
-std::string hashOf(const std::string& text) {
-  startSodium();
-  std::array<unsigned char, Bytes> hash{};
-  crypto_generichash(hash.data(), hash.size(), reinterpret_cast<const unsigned char*>(text.data()),
-                     text.size(), nullptr, 0);
-  std::array<char, 2 * Bytes + 1> digits{};
-  return sodium_bin2hex(digits.data(), digits.size(), hash.data(), hash.size());
-}
+constexpr std::int64_t kToleratedBack = 60;  // seconds, for a clock that is put right
+constexpr std::size_t kSealBytes = 32, kMarkBytes = 16;
 
 void append(std::string& sealed, const std::string& field) {
   sealed.append(std::to_string(field.size())).append(":").append(field);
@@ -56,18 +45,16 @@ std::string JournalEntry::sealedBehind(const std::string& before) const {
   append(sealed, kind);
   append(sealed, touches);
   append(sealed, body);
-  return hashOf<32>(sealed);
+  return hashDigits(sealed, kSealBytes);
 }
 
 bool isSetBack(const std::string& before, const std::string& now) {
   const std::optional<DateTime> then = parseDateTime(before), time = parseDateTime(now);
-  if (!then || !time || *time >= *then) return false;
-  const auto seconds = [](const DateTime& each) {
-    return (each.hour * 60 + each.minute) * 60 + each.second;
-  };
-  return then->date != time->date || seconds(*then) - seconds(*time) > 60;
+  if (!then || !time) return false;
+  const std::int64_t back = secondsBetween(*time, *then);
+  return back > kToleratedBack || (back > 0 && then->date != time->date);
 }
 
 std::string textMark(const std::string& text) {
-  return hashOf<16>(text);
+  return hashDigits(text, kMarkBytes);
 }

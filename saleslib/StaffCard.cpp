@@ -1,8 +1,5 @@
 #include "saleslib/StaffCard.h"
 
-#include <sodium.h>
-
-#include <array>
 #include <cstdint>
 #include <nlohmann/json.hpp>
 #include <optional>
@@ -19,22 +16,17 @@
 
 namespace {
 
+constexpr std::size_t kHashBytes = 32;
+
 std::string track(std::string_view typed) {
   return trimmed(halfWidth(typed));
 }
 
-/// In hexadecimal digits. A generic hash (BLAKE2b), not a password's slow one: the card itself says
-/// nothing of whose it is, so that it is looked up by its hash.
+/// A generic hash, not a password's slow one: the card itself says nothing of whose it is, so that
+/// it is looked up by its hash.
 std::string hashOf(std::string_view typed) {
   ensure(isSwipe(typed), "a staff card is swiped");
-  const std::string text = track(typed);
-  startSodium();
-  std::array<unsigned char, crypto_generichash_BYTES> hash{};
-  crypto_generichash(hash.data(), hash.size(), reinterpret_cast<const unsigned char*>(text.data()),
-                     text.size(), nullptr, 0);
-  std::array<char, 2 * crypto_generichash_BYTES + 1> digits{};
-  sodium_bin2hex(digits.data(), digits.size(), hash.data(), hash.size());
-  return digits.data();
+  return hashDigits(track(typed), kHashBytes);
 }
 
 std::optional<std::int16_t> holder(Connection& connection, std::string_view typed) {

@@ -2,9 +2,8 @@
 
 #include <sodium.h>
 
-#include <array>
-
 #include "base/Failure.h"
+#include "saleslib/Sodium.h"
 
 namespace {
 
@@ -54,9 +53,5 @@ std::string JoinCode::shown() const {
 }
 
 std::string drawPassword() {
-  ensure(sodium_init() >= 0, "random numbers can be drawn");
-  std::array<unsigned char, 32> bytes{};
-  randombytes_buf(bytes.data(), bytes.size());
-  std::array<char, 2 * 32 + 1> digits{};
-  return sodium_bin2hex(digits.data(), digits.size(), bytes.data(), bytes.size());
+  return randomDigits(32);
 }

@@ -13,14 +13,6 @@ using std::chrono::steady_clock;
 // The first question may find that the line broke long ago.
 constexpr int kAttempts = 2;
 
-std::chrono::seconds between(const DateTime& from, const DateTime& to) {
-  const auto ofDay = [](const DateTime& time) {
-    return std::chrono::hours(time.hour) + std::chrono::minutes(time.minute) +
-           std::chrono::seconds(time.second);
-  };
-  return std::chrono::hours(24) * daysBetween(from.date, to.date) + ofDay(to) - ofDay(from);
-}
-
 }  // namespace
 
 ShopCards::ShopCards(const ShopLink& link, std::filesystem::path dataFile, Clock clock)
@@ -28,7 +20,7 @@ ShopCards::ShopCards(const ShopLink& link, std::filesystem::path dataFile, Clock
 
 bool ShopCards::isAway() const {
   const std::optional<SyncState> state = readSyncState(dataFile_);
-  return state && between(state->contact, clock_()) > kSilence;
+  return state && secondsBetween(state->contact, clock_()) > kSilence.count();
 }
 
 CardAuthority::Answer ShopCards::charge(const Charge& charge) {
