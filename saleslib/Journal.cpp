@@ -42,13 +42,15 @@ bool Journal::isOn() const {
 }
 
 void Journal::note(EntryKind kind, const std::string& touches, const Body& body) const {
+  if (!connection_.inTransaction()) {
+    if (!isOn()) return;
+    Transaction noting(connection_);
+    note(kind, touches, body);
+    return noting.commit();
+  }
+  // Within a transaction nobody else can add an entry meanwhile, or end the journal.
   const std::optional<Last> before = last();
-  if (!before || !before->isOn()) return;
-  // Within the transaction of what it tells nobody else can have added one meanwhile.
-  if (connection_.inTransaction()) return append(before, kind, touches, body());
-  Transaction noting(connection_);
-  append(last(), kind, touches, body());
-  noting.commit();
+  if (before && before->isOn()) append(before, kind, touches, body());
 }
 
 void Journal::note(EntryKind kind, const std::string& touches,

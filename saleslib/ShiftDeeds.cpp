@@ -57,8 +57,8 @@ Rows lastEntry(Connection& connection, const ShiftHead& shift) {
 
 std::int64_t firstEntry(Connection& connection, const ShiftHead& shift, std::int64_t last) {
   Rows opened = connection.query(
-      "select seq from fact where time >= ? and kind = ? and touches = ? order by time, seq limit "
-      "1",
+      "select seq from fact where time >= ? and kind = ? and touches = ?"
+      " order by time, seq limit 1",
       shift.opened, entryKind(EntryKind::kShiftOpened).key, std::to_string(shift.number));
   if (opened.next()) return opened.whole("seq").value_or(last);
   Rows begun = connection.query(

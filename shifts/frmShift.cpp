@@ -160,8 +160,9 @@ void frmShift::open() {
 
 void frmShift::move(dlgCash::Purpose purpose) {
   const Permit leave = askLeave(pos_, this, {Right::kDrawer});
+  if (!leave) return;
   dlgCash dialog(pos_.gKeyBoard, purpose, this);
-  if (!leave || dialog.exec() != QDialog::Accepted) return;
+  if (dialog.exec() != QDialog::Accepted) return;
   const std::optional<CashMove> move = pos_.shiftBooks().move(
       purpose == dlgCash::Purpose::kIn ? dialog.amount() : -dialog.amount(), dialog.reason());
   if (!move) return;
