@@ -45,5 +45,8 @@ std::string failureText(int code, const char* detail) {
 
 void check(sqlite3* engine, int code) {
   if (code == SQLITE_OK || code == SQLITE_ROW || code == SQLITE_DONE) return;
-  throw StoreError(failureText(code, engine ? sqlite3_errmsg(engine) : sqlite3_errstr(code)));
+  const std::string text =
+      failureText(code, engine ? sqlite3_errmsg(engine) : sqlite3_errstr(code));
+  if ((code & 0xff) == SQLITE_BUSY) throw StoreBusy(text);
+  throw StoreError(text);
 }

@@ -21,6 +21,8 @@ class Row {
   std::optional<std::int64_t> whole(std::string_view column) const;
   std::optional<DateTime> dateTime(std::string_view column) const;
   bool isNull(std::string_view column) const;
+  /// Whatever the column holds.
+  Value value(std::string_view column) const { return field(column); }
 
  protected:
   virtual Value field(std::string_view column) const = 0;

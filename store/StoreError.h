@@ -8,3 +8,10 @@ class StoreError : public Failure {
  public:
   using Failure::Failure;
 };
+
+/// Another program writes to the data file, and went on doing so for as long as anybody waits:
+/// later it may go.
+class StoreBusy : public StoreError {
+ public:
+  using StoreError::StoreError;
+};

@@ -1,5 +1,7 @@
 #include "sync/ShopCalls.h"
 
+#include <nlohmann/json.hpp>
+
 #include "base/NumberText.h"
 #include "base/Version.h"
 
@@ -19,6 +21,18 @@ std::string arrayOf(const std::vector<Place>& places, std::string (*textOf)(cons
   std::string array = "{";
   for (const Place& place : places) array += (array.size() > 1 ? "," : "") + textOf(place);
   return array + "}";
+}
+
+constexpr auto kDownPatience = 4 * ServerLine::kPatience;
+
+using Json = nlohmann::json;
+
+void takeRows(ShopCalls::Changes& changes, const std::string& text, std::size_t most) {
+  for (const Json& row : Json::parse(text)) {
+    changes.rows.push_back(
+        {row.at(0), row.at(1), row.at(2), row.at(3).is_null() ? std::string() : row.at(3).dump()});
+  }
+  changes.isLast = changes.rows.size() < most;
 }
 
 }  // namespace
@@ -61,6 +75,38 @@ ShopCalls::Epoch ShopCalls::newEpoch(int epoch, const std::vector<Place>& own) {
   begun.epoch = static_cast<int>(number(answer.rows.at(0), 0));
   begun.highestBill = number(answer.rows.at(0), 1);
   return begun;
+}
+
+ShopCalls::Changes ShopCalls::changes(const DownPlace& place, std::size_t most) {
+  if (place.isWalking) return walk(place, most);
+  const ServerAnswer answer =
+      line_.ask("select tx, tbl, key, changes from api.changes($1, $2, $3, $4, $5, $6)",
+                {till_, place.generation, place.tx, place.tbl, place.key, std::to_string(most)},
+                kDownPatience);
+  Changes changes{.kind = answer.kind, .fault = answer.text, .state = answer.state};
+  if (!answer.isDone()) return changes;
+  const ServerAnswer::Row& row = answer.rows.at(0);
+  changes.next = {place.generation, row.at(0).value(), row.at(1).value(), row.at(2).value(), false};
+  takeRows(changes, row.at(3).value(), most);
+  return changes;
+}
+
+ShopCalls::Changes ShopCalls::walk(const DownPlace& place, std::size_t most) {
+  const ServerAnswer answer =
+      line_.ask("select generation, horizon, changes, whole from api.walk($1, $2, $3, $4, $5, $6)",
+                {till_, place.generation, place.tx, place.tbl, place.key, std::to_string(most)},
+                kDownPatience);
+  Changes changes{.kind = answer.kind, .fault = answer.text, .state = answer.state};
+  if (!answer.isDone()) return changes;
+  const ServerAnswer::Row& row = answer.rows.at(0);
+  takeRows(changes, row.at(2).value(), most);
+  changes.whole = Json::parse(row.at(3).value()).get<std::vector<std::string>>();
+  changes.next = {row.at(0).value(), row.at(1).value(), "", "", !changes.isLast};
+  if (!changes.isLast) {
+    changes.next.tbl = changes.rows.back().tbl;
+    changes.next.key = changes.rows.back().key;
+  }
+  return changes;
 }
 
 CardAuthority::Answer ShopCalls::charge(const CardAuthority::Charge& charge,

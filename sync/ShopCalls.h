@@ -6,6 +6,7 @@
 
 #include "link/ServerLine.h"
 #include "saleslib/CardAuthority.h"
+#include "sync/DownPlace.h"
 #include "sync/Facts.h"
 
 /// What a till asks the shop's server, one function of its each (server/).
@@ -40,12 +41,30 @@ class ShopCalls {
   /// The history that the server goes on with: one that has an entry of these, or a new one.
   Epoch newEpoch(int epoch, const std::vector<Place>& own);
 
+  /// A row that changed at the server, and the place behind which the next ones are.
+  struct Change {
+    std::string tx, tbl, key;
+    std::string body;  ///< JSON; empty: the row is gone
+  };
+  struct Changes {
+    ServerAnswer::Kind kind = ServerAnswer::kUnknown;
+    std::string fault = {}, state = {};
+    std::vector<Change> rows = {};
+    bool isLast = false;                  ///< there are no more
+    DownPlace next = {};                  ///< behind these rows
+    std::vector<std::string> whole = {};  ///< tables that the till has no other rows of
+  };
+  /// What changed behind that place, at most so many rows; while the till compares everything, what
+  /// there is. A refusal TL007: everything is to be compared anew.
+  Changes changes(const DownPlace& place, std::size_t most);
+
   /// Takes the amount from the card, once however often it is asked for. Line and answer have that
   /// patience together.
   CardAuthority::Answer charge(const CardAuthority::Charge& charge,
                                ServerLine::Milliseconds patience);
 
  private:
+  Changes walk(const DownPlace& place, std::size_t most);
   static Standing standing(const ServerAnswer& answer);
 
   ServerLine& line_;

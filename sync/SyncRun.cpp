@@ -9,6 +9,7 @@
 #include "store/Connection.h"
 #include "store/DataFile.h"
 #include "store/StoreError.h"
+#include "sync/Download.h"
 #include "sync/TillLine.h"
 
 namespace {
@@ -27,11 +28,15 @@ constexpr int kFailuresToOpenAnew = 10;  // the till may have joined anew, under
 
 struct SyncRun::Session {
   Session(std::unique_ptr<Connection> opened, const ShopLink& link, std::int64_t atServer)
-      : connection(std::move(opened)), server(link), upload(*connection, server.line(), atServer) {}
+      : connection(std::move(opened)),
+        server(link),
+        upload(*connection, server.line(), atServer),
+        download(*connection, server.line()) {}
 
   std::unique_ptr<Connection> connection;
   TillLine server;
   Upload upload;
+  Download download;
 };
 
 SyncRun::SyncRun(DataSource file, const SyncPlace& place, Surroundings surroundings)
@@ -73,6 +78,10 @@ Upload::Outcome SyncRun::attempt() try {
   state_.pendingBills = session_->upload.pendingBills();
   state_.atServer = session_->upload.atServer();
   fault_ = session_->upload.fault();
+  if (outcome == Upload::Outcome::kWent) session_->download.look();
+  const bool isWell = outcome == Upload::Outcome::kWent || outcome == Upload::Outcome::kIdle;
+  if (isWell && session_->download.step() == Download::Outcome::kFailed)
+    fault_ = session_->download.fault();
   return outcome;
 } catch (const Failure& failure) {
   fault_ = failure.what();
@@ -83,7 +92,7 @@ Upload::Outcome SyncRun::attempt() try {
 void SyncRun::note(Upload::Outcome outcome) {
   using enum Upload::Outcome;
   const bool isWell = outcome == kWent || outcome == kIdle;
-  tellOnce(isWell ? "" : fault_);
+  tellOnce(fault_);
   failures_ = isWell ? 0 : failures_ + 1;
   if (outcome == kRefused || failures_ % kFailuresToOpenAnew == kFailuresToOpenAnew - 1)
     session_.reset();
