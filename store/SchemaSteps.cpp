@@ -23,8 +23,8 @@ create index sell_phone_slip on sell (phone_slip) where phone_slip is not null;
 }  // namespace
 
 const std::vector<std::string>& schemaSteps() {
-  static const std::vector<std::string> steps = {kFirstTables, kSecondStep,    kThirdStep,
-                                                 kGoodsTables, kStaffCardStep, kJournalTable,
-                                                 kShiftTables, kLinkTable,     kCardTables};
+  static const std::vector<std::string> steps = {
+      kFirstTables,  kSecondStep,  kThirdStep, kGoodsTables, kStaffCardStep,
+      kJournalTable, kShiftTables, kLinkTable, kCardTables,  kShopBillTables};
   return steps;
 }

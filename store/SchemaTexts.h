@@ -7,3 +7,4 @@ extern const char* const kJournalTable;
 extern const char* const kShiftTables;
 extern const char* const kLinkTable;
 extern const char* const kCardTables;
+extern const char* const kShopBillTables;
