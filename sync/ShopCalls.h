@@ -45,6 +45,9 @@ class ShopCalls {
   CardAuthority::Answer charge(const CardAuthority::Charge& charge,
                                ServerLine::Milliseconds patience);
 
+  ServerLine& line() { return line_; }
+  const std::string& till() const { return till_; }
+
  private:
   static Standing standing(const ServerAnswer& answer);
 

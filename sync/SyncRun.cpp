@@ -9,6 +9,7 @@
 #include "store/Connection.h"
 #include "store/DataFile.h"
 #include "store/StoreError.h"
+#include "sync/TillErrands.h"
 #include "sync/TillLine.h"
 
 namespace {
@@ -27,11 +28,15 @@ constexpr int kFailuresToOpenAnew = 10;  // the till may have joined anew, under
 
 struct SyncRun::Session {
   Session(std::unique_ptr<Connection> opened, const ShopLink& link, std::int64_t atServer)
-      : connection(std::move(opened)), server(link), upload(*connection, server.line(), atServer) {}
+      : connection(std::move(opened)),
+        server(link),
+        upload(*connection, server.line(), atServer),
+        errands(*connection, server.line(), link.till) {}
 
   std::unique_ptr<Connection> connection;
   TillLine server;
   Upload upload;
+  TillErrands errands;
 };
 
 SyncRun::SyncRun(DataSource file, const SyncPlace& place, Surroundings surroundings)
@@ -69,7 +74,9 @@ void SyncRun::run() {
 Upload::Outcome SyncRun::attempt() try {
   if (!session_) open();
   session_->connection->requireItsFile();
-  const Upload::Outcome outcome = session_->upload.step();
+  Upload::Outcome outcome = session_->upload.step();
+  if (outcome == Upload::Outcome::kIdle && session_->errands.step())
+    outcome = Upload::Outcome::kWent;
   state_.pendingBills = session_->upload.pendingBills();
   state_.atServer = session_->upload.atServer();
   fault_ = session_->upload.fault();
