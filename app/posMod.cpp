@@ -27,6 +27,7 @@
 #include "store/DataFileLock.h"
 #include "store/PracticeFile.h"
 #include "store/Transaction.h"
+#include "sync/ShopBills.h"
 #include "sync/ShopCards.h"
 
 namespace {
@@ -135,6 +136,7 @@ void posMod::startShop() {
   const std::optional<ShopLink> link = shopLink(*gConn);
   if (!link) return;
   cards = std::make_unique<ShopCards>(*link, gConn->source().path, clock);
+  bills = std::make_unique<ShopBills>(*link, gConn->source().path, clock);
   const std::filesystem::path programs = QCoreApplication::applicationDirPath().toStdString();
   sync = std::make_unique<SyncProgram>(programs / "tillsync", gConn->source());
 }
@@ -147,11 +149,11 @@ void posMod::startBackups() {
 }
 
 BillBooks posMod::billBooks() const {
-  return {*gConn, gSysParam, clock, gOperator, cards.get()};
+  return {*gConn, gSysParam, clock, gOperator, cards.get(), bills.get()};
 }
 
 ReturnBooks posMod::returnBooks() const {
-  return {*gConn, clock, gOperator};
+  return {*gConn, clock, gOperator, bills.get(), gSysParam.OfflineReturn()};
 }
 
 TopUpBooks posMod::topUpBooks() const {

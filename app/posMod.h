@@ -18,6 +18,7 @@
 #include "saleslib/Permission.h"
 
 class BackupKeeper;
+class BillAuthority;
 class BillBooks;
 class CardAuthority;
 class Connection;
@@ -59,6 +60,7 @@ class posMod {
   std::unique_ptr<const Ports> ports;     ///< never none
   std::unique_ptr<BackupKeeper> backups;  ///< the dated ones; none until start, and unless wanted
   std::unique_ptr<CardAuthority> cards;   ///< of a till of a shop with a server; none until start
+  std::unique_ptr<BillAuthority> bills;   ///< the same
   std::unique_ptr<SyncProgram> sync;      ///< the same
 
   /// Takes the till's lock on the data file and opens it: Path of section Database as

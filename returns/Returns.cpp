@@ -55,6 +55,10 @@ QString Returns::open(std::int32_t billNo) {
       return tr("单据“%1”还没有结账，不能退货！").arg(billNo);
     case ReturnBooks::Found::kElsewhere:
       return tr("单据“%1”是 %2 号收银机的，请到那台收银机上退货！").arg(billNo).arg(found.till);
+    case ReturnBooks::Found::kNoAnswer:
+      return tr("没有联网，不能退别台的单！\n单据“%1”是 %2 号收银机的，可以到那台收银机上退货。")
+          .arg(billNo)
+          .arg(found.till);
     case ReturnBooks::Found::kDamaged:
       return qtText(found.damage);
     case ReturnBooks::Found::kSettled:

@@ -96,8 +96,16 @@ bool BillLines::ring(std::shared_ptr<ClsSellItem> line) {
     }
     sale_.ring(std::move(line), stock.left);
     tell(status);
+    warn(stock);
     return true;
   });
+}
+
+void BillLines::warn(const StockOutcome& stock) {
+  if (!stock.isDoubtful) return;
+  screen_.show(sale_.picture());
+  screen_.ShowMessage(tr("%1的库存按本机的账是 %2。现在没有联网，照卖。")
+                          .arg(qtText(sale_.line()->SpName()), qtText(generalNumber(stock.left))));
 }
 
 // Goods are not rung before the change of the line is finished.
@@ -150,6 +158,7 @@ bool BillLines::correct(ClsSellItem changed) {
     }
     sale_.correct(stock.left);
     tell(status);
+    warn(stock);
     return true;
   });
 }

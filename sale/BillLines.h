@@ -39,6 +39,7 @@ class BillLines : private SalePart {
   bool correct(ClsSellItem changed);
   QString statusWith(const ClsSellItem& line) const;
   void tell(const QString& status);
+  void warn(const StockOutcome& stock);
 
   ItemLookup lookup_;
   Checkout& checkout_;

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cstdint>
+#include <utility>
 
 #include "sale/Checkout.h"
 #include "sale/MemberCard.h"
@@ -30,20 +31,49 @@ void HeldBills::RecallBill() {
   if (!sale_.isEmpty()) {
     return screen_.ShowMessage(tr("请先结束或挂起本次销售，再执行调用功能。"));
   }
-  const std::int32_t number = screen_.chooseHeldBill(sale_.held());
-  const auto chosen = std::find_if(sale_.held().begin(), sale_.held().end(),
-                                   [&](const auto& bill) { return bill->BillNo() == number; });
-  if (chosen == sale_.held().end()) return;
-  guarded([&] {
-    takeUp(**chosen);
+  guarded([this] {
+    std::vector<Sale::Bill> bills = listed();
+    const std::int32_t number = screen_.chooseHeldBill(bills);
+    const auto chosen = std::find_if(bills.begin(), bills.end(), [number](const auto& bill) {
+      return bill->BillNo() == number;
+    });
+    if (chosen == bills.end()) return false;
+    const auto& own = sale_.held();
+    const bool isHere = std::any_of(
+        own.begin(), own.end(), [number](const auto& bill) { return bill->BillNo() == number; });
+    isHere ? takeUp(**chosen) : fetch(**chosen);
     return true;
   });
+}
+
+// The other tills' behind the own ones.
+std::vector<Sale::Bill> HeldBills::listed() {
+  if (books_.keepsHeld()) sale_.keepHeld(books_.held());
+  std::vector<Sale::Bill> bills = sale_.held();
+  for (Sale::Bill& bill : books_.heldElsewhere()) bills.push_back(std::move(bill));
+  return bills;
+}
+
+void HeldBills::fetch(const ClsSell& elsewhere) {
+  const BillBooks::Fetched fetched = books_.fetchHeld(elsewhere);
+  switch (fetched.kind) {
+    case BillBooks::Fetched::kHere:
+      sale_.keepHeld(books_.held());
+      return takeUp(*fetched.bill);
+    case BillBooks::Fetched::kGone:
+      return screen_.ShowMessage(tr("这张挂单刚刚已被别的收银机调走。"));
+    case BillBooks::Fetched::kAway:
+      return screen_.ShowMessage(tr("挂着这张单的收银机没有开机或没有联网，拿不过来。"));
+    case BillBooks::Fetched::kNoAnswer:
+      return screen_.ShowMessage(tr("没有等到这张挂单。它如果稍后交过来，会列在本机的挂单里。"));
+  }
 }
 
 void HeldBills::takeUp(const ClsSell& held) {
   const auto recalled = books_.recall(held, *sale_.bill(), [](const ClsSell& bill) {
     static_cast<void>(originalPrice(bill));  // it must fit before the bill is taken up
   });
+  if (!recalled.bill) return screen_.ShowMessage(tr("这张挂单刚刚已被别的收银机调走。"));
   sale_.recall(recalled, books_.cashier().Name());
   memberCard_.show(recalled.member);
   screen_.show(sale_.picture());

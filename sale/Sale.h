@@ -3,6 +3,7 @@
 #include <QString>
 #include <cstdint>
 #include <memory>
+#include <utility>
 #include <vector>
 
 #include "sale/SalePicture.h"
@@ -45,6 +46,8 @@ class Sale {
   void hold(Bill next, const std::string& cashier);
   /// A held bill takes the place of the empty one; all its lines are committed.
   void recall(const BillBooks::Recalled& recalled, const std::string& cashier);
+  /// These are the bills put aside.
+  void keepHeld(std::vector<Bill> held) { held_ = std::move(held); }
   /// The bill is settled and stays on the screen until the next one begins.
   void settle(const QString& status);
   /// The member that counts for the bill, or none, with the lines that tell of it.

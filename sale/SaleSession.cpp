@@ -39,6 +39,7 @@ bool SaleSession::open() {
   TopUpBooks topUps = pos_.topUpBooks();
   reportIncompleteTopUps(topUps, screen_);
   checkout_.tell(books_.cancelOpen());
+  sale_.keepHeld(books_.held());
   sale_.follow(books_.lastSettled());
   if (clockIsBehind()) {
     screen_.messageBox(tr("电脑系统时间错误！\n%1").arg(lastBillDated()), tr("致命错误"));
@@ -237,7 +238,7 @@ void SaleSession::toggleLinePrint() {
 
 // A row that cannot be deleted now is voided when the screen opens next.
 void SaleSession::exit() {
-  if (!sale_.isEmpty() || !sale_.held().empty()) {
+  if (!sale_.isEmpty() || (!sale_.held().empty() && !books_.keepsHeld())) {
     screen_.ShowMessage(tr("还没结束销售或还有挂起单子，不能退出。"));
     return;
   }

@@ -1,5 +1,6 @@
 #include "sale/frmRecord.h"
 
+#include <QCoreApplication>
 #include <QFrame>
 #include <QHBoxLayout>
 #include <QHeaderView>
@@ -7,25 +8,34 @@
 #include <QPushButton>
 #include <QTableView>
 #include <QVBoxLayout>
+#include <algorithm>
 
 #include "base/NumberText.h"
 #include "platform/QtText.h"
 #include "sale/ListModel.h"
 #include "saleslib/ClsSell.h"
+#include "saleslib/ShopLink.h"
 
 namespace {
 
-enum BillColumn { kNumber, kAmount, kTime };
+enum BillColumn { kNumber, kAmount, kTime, kTill };
 enum LineColumn { kCode, kName, kUnit, kPrice, kQuantity, kDiscount, kMoney };
+
+/// Its number tells the till that holds it, and it may be held for long.
+bool isOfShop(const ClsSell& bill) {
+  return bill.BillNo() >= kNumbersPerTill;
+}
 
 QString billCell(const ClsSell& bill, int column, const DateTime& now) {
   switch (column) {
     case kNumber:
       return QString::number(bill.BillNo());
+    case kTill:
+      return QCoreApplication::translate("frmRecord", "%1 号").arg(bill.BillNo() / kNumbersPerTill);
     case kAmount:
       return qtText(twoDecimals(bill.Amount()));
     default:
-      return qtText(shortTime(now));
+      return qtText(shortTime(isOfShop(bill) ? bill.SellTime() : now));
   }
 }
 
@@ -53,7 +63,7 @@ QString lineCell(const ClsSellItem& line, int column) {
 // The controls are made in the order of the Tab key.
 frmRecord::frmRecord(const KeyBoard& keys, QWidget* parent)
     : KeyDrivenDialog(keys, EnterKey::kMapped, parent),
-      bills_(new ListModel({tr("单号"), tr("金额"), tr("时间")}, kAmount, this)),
+      bills_(new ListModel({tr("单号"), tr("金额"), tr("时间"), tr("收银机")}, kAmount, this)),
       lines_(new ListModel(
           {tr("编号"), tr("品名"), tr("单位"), tr("单价"), tr("数量"), tr("折扣"), tr("金额")},
           kPrice, this)),
@@ -121,6 +131,8 @@ std::int32_t frmRecord::Load(const std::vector<std::shared_ptr<ClsSell>>& bills,
   bills_->show(static_cast<int>(bills.size()), [&bills, now](int row, int column) {
     return billCell(*bills[static_cast<std::size_t>(row)], column, now);
   });
+  listSell_->setColumnHidden(kTill, std::none_of(bills.begin(), bills.end(),
+                                                 [](const auto& bill) { return isOfShop(*bill); }));
   listSell_->selectRow(0);
   viewSelectpro();
   exec();

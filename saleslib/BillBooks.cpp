@@ -5,12 +5,14 @@
 #include "base/Failure.h"
 #include "base/NumberText.h"
 #include "base/Words.h"
+#include "saleslib/BillAuthority.h"
 #include "saleslib/BillNotes.h"
 #include "saleslib/CardNumber.h"
 #include "saleslib/CardPayment.h"
 #include "saleslib/ClsDayStat.h"
 #include "saleslib/ClsMemberSvc.h"
 #include "saleslib/ClsSysParam.h"
+#include "saleslib/SharedReturn.h"
 #include "saleslib/ShiftBooks.h"
 #include "store/Connection.h"
 #include "store/StoreError.h"
@@ -22,19 +24,17 @@ constexpr std::int16_t kMayGoNegative = 0;
 constexpr std::int16_t kOpen = 0, kSettled = 1;
 constexpr const char* kNoShift = Words::mark("还没有开班，不能收款。请回到主菜单，先开班。");
 
-void save(ClsSell& bill) {
-  if (!bill.Save()) throw StoreError(bill.ErrText());
-}
-
 }  // namespace
 
 BillBooks::BillBooks(Connection& connection, const ClsSysParam& rules, Clock clock,
-                     std::shared_ptr<const ClsOperator> cashier, CardAuthority* cards)
+                     std::shared_ptr<const ClsOperator> cashier, CardAuthority* cards,
+                     BillAuthority* shop)
     : connection_(connection),
       rules_(rules),
       clock_(std::move(clock)),
       cashier_(std::move(cashier)),
-      cards_(cards) {
+      cards_(cards),
+      shop_(shop) {
   ensure(cashier_ != nullptr, "somebody is logged in who keeps the books");
 }
 
@@ -42,6 +42,16 @@ StockOutcome BillBooks::take(const ClsSellItem& line, double quantity, std::int1
   ClsStock stock;
   stock.Init(connection_, line.SpCode());
   return stock.Move(quantity, rule);
+}
+
+// Without contact this till does not know what came in at the others.
+StockOutcome BillBooks::takeByRule(const ClsSellItem& line, double quantity) {
+  const std::int16_t rule = rules_.StockRule();
+  const bool onlyWarns = shop_ != nullptr && rule != kMayGoNegative && quantity > 0 &&
+                         !rules_.OfflineStock() && shop_->isAway();
+  StockOutcome outcome = take(line, quantity, onlyWarns ? kMayGoNegative : rule);
+  outcome.isDoubtful = onlyWarns && outcome.done() && outcome.left < 0;
+  return outcome;
 }
 
 StockOutcome BillBooks::putBack(const ClsSellItem& line) {
@@ -60,7 +70,7 @@ std::shared_ptr<ClsSell> BillBooks::open() {
 StockOutcome BillBooks::ring(ClsSellItem& line) {
   ensure(line.Id() == 0, "a line is rung once");
   Transaction ringing(connection_);
-  StockOutcome outcome = take(line, line.StockQuantity(), rules_.StockRule());
+  StockOutcome outcome = takeByRule(line, line.StockQuantity());
   if (!outcome.done()) return outcome;
   line.Save();
   BillNotes(connection_).rung(line);
@@ -74,7 +84,7 @@ StockOutcome BillBooks::correct(ClsSellItem& line, ClsSellItem changed) {
          "a line is corrected by a changed copy of itself");
   Transaction correcting(connection_);
   const double more = roundedQuantity(changed.StockQuantity() - line.StockQuantity());
-  StockOutcome outcome = take(line, more, rules_.StockRule());
+  StockOutcome outcome = takeByRule(line, more);
   if (!outcome.done()) return outcome;
   changed.Save();
   BillNotes(connection_).corrected(line, changed);
@@ -108,53 +118,6 @@ std::vector<StockOutcome> BillBooks::cancel(ClsSell& bill, ClsSellItem* line) {
   bill.Void();
   cancelling.commit();
   return refusals;
-}
-
-std::shared_ptr<ClsSell> BillBooks::hold(ClsSell& bill) {
-  ensure(!bill.Items().empty(), "an empty bill is not put aside");
-  ensure(bill.State() == kOpen && !bill.Paid(), "a bill that was paid is not put aside");
-  Transaction holding(connection_);
-  save(bill);
-  BillNotes(connection_).left(EntryKind::kBillSuspended, bill);
-  auto next = open();
-  if (next) holding.commit();
-  return next;
-}
-
-BillBooks::Recalled BillBooks::recall(const ClsSell& held, ClsSell& empty,
-                                      const std::function<void(const ClsSell&)>& accept) {
-  ensure(empty.BillNo() != held.BillNo(), "a held bill takes the place of another one");
-  ensure(held.State() == kOpen && held.AddsUp(), "a held bill is open, and what its lines are");
-  Recalled recalled;
-  recalled.bill = std::make_shared<ClsSell>(held);
-  Transaction recalling(connection_);
-  drop(empty);
-  for (const auto& line : held.Items()) {
-    const StockOutcome outcome = putBack(*line);
-    if (!outcome.done()) throw StoreError(outcome.refusal());
-  }
-  takeAgain(recalled);
-  save(*recalled.bill);
-  BillNotes(connection_).left(EntryKind::kBillRecalled, *recalled.bill);
-  accept(*recalled.bill);
-  recalled.member = member(held.MemberId());
-  recalling.commit();
-  ensure(recalled.stock.size() == recalled.bill->Items().size(), "each line has its stock figure");
-  return recalled;
-}
-
-void BillBooks::takeAgain(Recalled& recalled) {
-  const ClsSell::Items_t lines = recalled.bill->Items();
-  for (const auto& line : lines) {
-    const StockOutcome outcome = take(*line, line->StockQuantity(), rules_.StockRule());
-    if (outcome.done()) {
-      recalled.stock.push_back(outcome.left);
-      continue;
-    }
-    line->Delete();
-    recalled.bill->RemoveItem(*line);
-    recalled.refusals.push_back(outcome);
-  }
 }
 
 void BillBooks::drop(ClsSell& empty) {
@@ -235,6 +198,7 @@ Credit BillBooks::creditMember(const ClsSell& bill) {
 
 std::vector<BillBooks::PaidBill> BillBooks::completePaid() {
   CardPayment(connection_, rules_.OfflineCardLimit(), cards_).giveUpUnpaid();
+  if (shop_ != nullptr) SharedReturn::giveUpUnfinished(connection_);
   ClsDayStat bills;
   bills.PaidQuery(connection_);
   std::vector<PaidBill> paid;

@@ -17,6 +17,7 @@
 #include "saleslib/JournalKinds.h"
 #include "saleslib/StoredCard.h"
 
+class BillAuthority;
 class CardAuthority;
 class ClsDayStat;
 class ClsSysParam;
@@ -29,10 +30,11 @@ class Connection;
 /// stock is an outcome, a broken store throws StoreError.
 class TESSALY_API BillBooks {
  public:
-  /// Connection, rules and whoever decides about cards outlive the books; without one the data file
-  /// decides. There is a cashier (ensure).
+  /// Connection, rules and whoever decides about cards and about the bills of several tills outlive
+  /// the books; without them the data file decides. There is a cashier (ensure).
   BillBooks(Connection& connection, const ClsSysParam& rules, Clock clock,
-            std::shared_ptr<const ClsOperator> cashier, CardAuthority* cards = nullptr);
+            std::shared_ptr<const ClsOperator> cashier, CardAuthority* cards = nullptr,
+            BillAuthority* shop = nullptr);
 
   const ClsOperator& cashier() const { return *cashier_; }
   const ClsSysParam& rules() const { return rules_; }
@@ -56,16 +58,33 @@ class TESSALY_API BillBooks {
   /// Stores a bill that is put aside, and opens the cashier's next one; none, and nothing is
   /// stored, when the operator was removed.
   [[nodiscard]] std::shared_ptr<ClsSell> hold(ClsSell& bill);
+  /// Held bills stay until somebody takes them up, whatever becomes of the program: so in a shop of
+  /// several tills. Without, they are the program's own, and cancelOpen cancels what is left.
+  bool keepsHeld() const { return shop_ != nullptr; }
+  /// The bills that this till keeps held, with their lines, whoever put them aside.
+  std::vector<std::shared_ptr<ClsSell>> held() const;
+
+  /// What the other tills of the shop hold, with their lines, to be looked at; nothing when nobody
+  /// answers.
+  std::vector<std::shared_ptr<ClsSell>> heldElsewhere() const;
+  struct Fetched {
+    enum Kind { kHere, kGone, kAway, kNoAnswer };
+    Kind kind = kNoAnswer;
+    std::shared_ptr<ClsSell> bill = {};  ///< of kHere: held by this till now, under a number of its
+  };
+  /// Has a bill of heldElsewhere handed over by the till that holds it.
+  [[nodiscard]] Fetched fetchHeld(const ClsSell& elsewhere);
 
   struct Recalled {
-    std::shared_ptr<ClsSell> bill;
+    std::shared_ptr<ClsSell> bill;       ///< none: it is held no more, and nothing was done
     std::shared_ptr<ClsMember> member;   ///< of the bill, or none
     std::vector<double> stock;           ///< what each line left, in the order of the bill's lines
     std::vector<StockOutcome> refusals;  ///< of lines that left the bill
   };
-  /// Takes a held bill up again in place of an empty one, which is deleted. Its stock goes back and
-  /// is taken again line by line, under the shop's rule as it is now. `accept` is shown the bill
-  /// before anything is durable, and refuses it by throwing. `held` stays as it is.
+  /// Takes a held bill up again in place of an empty one, which is deleted, as the cashier's own.
+  /// Its stock goes back and is taken again line by line, under the shop's rule as it is now.
+  /// `accept` is shown the bill before anything is durable, and refuses it by throwing. `held`
+  /// stays as it is.
   [[nodiscard]] Recalled recall(const ClsSell& held, ClsSell& empty,
                                 const std::function<void(const ClsSell&)>& accept);
   /// Deletes a bill without lines.
@@ -120,7 +139,9 @@ class TESSALY_API BillBooks {
 
  private:
   StockOutcome take(const ClsSellItem& line, double quantity, std::int16_t rule);
+  StockOutcome takeByRule(const ClsSellItem& line, double quantity);
   StockOutcome putBack(const ClsSellItem& line);
+  std::shared_ptr<ClsSell> takenUp(const ClsSell& held);
   void takeAgain(Recalled& recalled);
   bool hasShift() const;
   bool settleAs(EntryKind kind, ClsSell& bill);
@@ -131,4 +152,5 @@ class TESSALY_API BillBooks {
   Clock clock_;
   std::shared_ptr<const ClsOperator> cashier_;
   CardAuthority* cards_;
+  BillAuthority* shop_;
 };

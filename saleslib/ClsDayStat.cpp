@@ -23,8 +23,13 @@ std::shared_ptr<ClsSell> ClsDayStat::LastSell(Connection& connection) const {
 void ClsDayStat::OpenQuery(Connection& connection, std::int32_t operatorId) {
   select(connection,
          connection.query("select * from sell where operator_id = ? and state = 0 and paid = 0"
-                          " order by id",
+                          " and held = 0 order by id",
                           operatorId));
+  for (const auto& bill : sells_) bill->LoadLines();
+}
+
+void ClsDayStat::HeldQuery(Connection& connection) {
+  select(connection, connection.query("select * from sell where held = 1 order by id"));
   for (const auto& bill : sells_) bill->LoadLines();
 }
 

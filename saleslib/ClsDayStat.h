@@ -25,9 +25,12 @@ class TESSALY_API ClsDayStat {
   /// The settled bill of the shop with the latest time (the highest number among equals), whoever
   /// made it, without lines; none when there is none.
   std::shared_ptr<ClsSell> LastSell(Connection& connection) const;
-  /// Selects the operator's bills that are still open and not paid, in the order of their numbers,
-  /// with their lines loaded.
+  /// Selects the operator's bills that are still open, neither paid nor held, in the order of their
+  /// numbers, with their lines loaded.
   void OpenQuery(Connection& connection, std::int32_t operatorId);
+  /// Selects the bills of all operators that are held for longer than the program runs, in the
+  /// order of their numbers, with their lines loaded.
+  void HeldQuery(Connection& connection);
   /// Selects the bills of all operators that are open although payment was taken (see
   /// ClsSell::SavePaid), in the order of their numbers, without lines.
   void PaidQuery(Connection& connection);

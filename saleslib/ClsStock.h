@@ -11,8 +11,9 @@ class Connection;
 struct TESSALY_API StockOutcome {
   enum Kind { kDone, kShort, kOutOfRange };
   Kind kind = kDone;
-  double left = 0;    ///< in stock after it, or now when it was refused; in stock units
-  std::string goods;  ///< of a refusal: the goods' name and code
+  double left = 0;          ///< in stock after it, or now when it was refused; in stock units
+  std::string goods;        ///< of a refusal: the goods' name and code
+  bool isDoubtful = false;  ///< done although the stock would forbid it: others may know better
 
   [[nodiscard]] bool done() const { return kind == kDone; }
   /// Why it was refused (ensure), for people.

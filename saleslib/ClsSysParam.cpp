@@ -113,6 +113,14 @@ constexpr std::array kDefinitions = {
         "OfflineCardLimit", &kWhole, "0",
         Words::mark("服务器没有回应时，一张卡在一台收银机上最多收多少元；同一张卡最多可能损失 "
                     "收银机台数 × 这个数")},
+    Definition{"OfflineReturn", &kSwitch, "0",
+               Words::mark("连着服务器的店，服务器没有回应时，本机已上传的单据退货：0 不退，1 照退"
+                           "（同一件商品可能在两台各退一次）")},
+    Definition{"OfflineStock", &kSwitch, "0",
+               Words::mark("连着服务器的店，StockRule 是 1 而服务器没有回应时，库存不够："
+                           "0 提醒后照卖，1 不卖")},
+    Definition{"OfflineLoginDays", &kWhole, "7",
+               Words::mark("连着服务器的店，收银机多少天没有连上服务器就不能登录，0 不限")},
 };
 
 const Definition* find(std::string_view name) {
@@ -277,6 +285,15 @@ bool ClsSysParam::KeepsJournal() const {
 }
 Currency ClsSysParam::OfflineCardLimit() const {
   return isOn("OfflineCard") ? Currency::fromYuan(whole("OfflineCardLimit")) : Currency();
+}
+bool ClsSysParam::OfflineReturn() const {
+  return isOn("OfflineReturn");
+}
+bool ClsSysParam::OfflineStock() const {
+  return isOn("OfflineStock");
+}
+std::int16_t ClsSysParam::OfflineLoginDays() const {
+  return whole("OfflineLoginDays");
 }
 bool ClsSysParam::Takes(const TenderKind& kind) const {
   return kind.parameter == nullptr || isOn(kind.parameter);

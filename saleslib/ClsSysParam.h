@@ -46,6 +46,9 @@ class TESSALY_API ClsSysParam {
   /// What a stored-value card may pay at one till while the shop's server does not answer; 0: it
   /// may not (OfflineCard is off).
   Currency OfflineCardLimit() const;
+  bool OfflineReturn() const;  ///< goods of own bills may come back without the server; off
+  bool OfflineStock() const;   ///< without the server the stock rule refuses, not only warns; off
+  std::int16_t OfflineLoginDays() const;  ///< without the server nobody logs in after; 7; 0: never
   /// Whether the shop takes that kind of payment: those with a parameter of their own (PhonePay)
   /// are off.
   bool Takes(const TenderKind& kind) const;

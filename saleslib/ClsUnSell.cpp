@@ -41,9 +41,14 @@ void ClsUnSell::limitTo(double held) {
   }
 }
 
-std::vector<ClsUnSell::Earlier> ClsUnSell::OfLine(Connection& connection, std::int32_t itemId) {
+std::vector<ClsUnSell::Earlier> ClsUnSell::OfLine(Connection& connection, std::int32_t billNo,
+                                                  std::int32_t itemId) {
   std::vector<Earlier> returns;
-  Rows rows = connection.query("select quantity, money from un_sell where item_id = ?", itemId);
+  Rows rows = connection.query(
+      "select quantity, money from un_sell where item_id = ?1 and sell_id = ?2"
+      " union all select quantity, money from return_elsewhere join un_sell on id = un_sell"
+      " where sell_id = ?2 and line = ?1",
+      itemId, billNo);
   while (rows.next()) {
     returns.push_back({rows.number("quantity").value_or(0), ::money(rows, "money")});
   }
@@ -51,6 +56,7 @@ std::vector<ClsUnSell::Earlier> ClsUnSell::OfLine(Connection& connection, std::i
 }
 
 double ClsUnSell::heldByLine() const {
+  if (itemId_ == 0) return quantity_;
   Rows rows = connection_->query("select sellId, amount from sellProducts where id = ?", itemId_);
   ensure(rows.next() && whole32(rows, "sellId") == billNo_, "a returned line is one of its bill");
   return rows.number("amount").value_or(0);

@@ -25,8 +25,10 @@ class TESSALY_API ClsUnSell {
     double quantity = 0;
     Currency money;
   };
-  /// The stored returns against a line. Throws StoreError.
-  static std::vector<Earlier> OfLine(Connection& connection, std::int32_t itemId);
+  /// The stored returns against a line of that bill, which may be another till's. Throws
+  /// StoreError.
+  static std::vector<Earlier> OfLine(Connection& connection, std::int32_t billNo,
+                                     std::int32_t itemId);
 
   /// The record's number; 0 until it is stored.
   std::int32_t Id() const { return id_; }
@@ -34,6 +36,7 @@ class TESSALY_API ClsUnSell {
   void setUnQty(double quantity) { quantity_ = quantity; }
   Currency UnMoney() const { return money_; }
   void setUnMoney(Currency money) { money_ = money; }
+  /// 0 for a line of another till's bill: what it holds is not looked at.
   void setItemId(std::int32_t id) { itemId_ = id; }
   void setOperatorId(std::int16_t id) { operatorId_ = id; }
   void setCost(Currency cost) { cost_ = cost; }

@@ -14,7 +14,8 @@ class Connection;
 class LoginBrake;
 
 /// Who somebody at the till is: by number and password, or by a staff card. Where the shop asks for
-/// approvals (parameter Approval), wrong attempts of either kind are slowed down.
+/// approvals (parameter Approval), wrong attempts of either kind are slowed down. A till of a shop
+/// with a server that was not heard of for too long lets nobody in (parameter OfflineLoginDays).
 class TESSALY_API Identification {
  public:
   /// All of them outlive it.
@@ -32,6 +33,7 @@ class TESSALY_API Identification {
   [[nodiscard]] Answer bySwipe(std::string_view typed);
 
  private:
+  std::string tooLongAway() const;
   template <class Find>
   Answer answer(const Find& find);
 

@@ -52,6 +52,10 @@ const std::vector<EntryKindName>& entryKinds() {
       {kShiftCounted, "shift_counted", Words::mark("清点钱箱")},
       {kShiftClosed, "shift_closed", Words::mark("结班")},
       {kChargeVoided, "charge_voided", Words::mark("撤消储值卡扣款")},
+      {kReturnVoided, "return_voided", Words::mark("撤消退货")},
+      {kReturnedElsewhere, "returned_elsewhere", Words::mark("别台退货")},
+      {kBillReleased, "bill_released", Words::mark("挂单交给别台")},
+      {kBillReceived, "bill_received", Words::mark("接到别台挂单")},
   };
   return kinds;
 }

@@ -50,6 +50,10 @@ enum class EntryKind {
   kShiftCounted,
   kShiftClosed,
   kChargeVoided,
+  kReturnVoided,
+  kReturnedElsewhere,
+  kBillReleased,
+  kBillReceived,
 };
 
 /// A kind as entries have it, and as people call it.

@@ -7,9 +7,14 @@
 
 #include "base/Failure.h"
 #include "base/NumberText.h"
+#include "base/Words.h"
+#include "saleslib/BillAuthority.h"
+#include "saleslib/BillOfRecord.h"
 #include "saleslib/ClsStock.h"
 #include "saleslib/Journal.h"
 #include "saleslib/JournalRecords.h"
+#include "saleslib/ReturnedLine.h"
+#include "saleslib/SharedReturn.h"
 #include "saleslib/ShopLink.h"
 #include "saleslib/StoredCard.h"
 #include "store/Connection.h"
@@ -27,21 +32,25 @@ bool holds(const ClsSell& bill, const ClsSellItem& line) {
                      [&](const auto& each) { return each.get() == &line; });
 }
 
-// The rounding that the customer paid stays in the amount due until nothing of worth is left.
-void lowerLine(ClsSell& bill, ClsSellItem& line, double quantity) {
-  const Currency rounding = bill.Amount() - bill.GoodsAmount();
-  line.setQuantity(roundedQuantity(line.Quantity() - quantity));
-  ensure(line.Quantity() >= 0, "no more comes back than the line holds");
-  line.Save();
-  bill.Recalculate();
-  if (!bill.GoodsAmount().isZero()) bill.setAmount(bill.GoodsAmount() + rounding);
+std::string refusalOf(const BillAuthority::ReturnAnswer& answer, bool isHere) {
+  using enum BillAuthority::Reply;
+  if (answer.reply == kTooMuch)
+    return Words::tr("别的收银机已经退过，这一行现在只剩 %1 可退！", generalNumber(answer.holds));
+  if (answer.reply == kUnknown) return Words::tr("服务器上没有这张单据的这一行，不能退货！");
+  return isHere ? Words::tr("没有联网，已上传的单据现在不能退货！")
+                : Words::tr("没有联网，不能退别台的单！");
 }
 
 }  // namespace
 
 ReturnBooks::ReturnBooks(Connection& connection, Clock clock,
-                         std::shared_ptr<const ClsOperator> taker)
-    : connection_(connection), clock_(std::move(clock)), taker_(std::move(taker)) {
+                         std::shared_ptr<const ClsOperator> taker, BillAuthority* shop,
+                         bool mayGoUnanswered)
+    : connection_(connection),
+      clock_(std::move(clock)),
+      taker_(std::move(taker)),
+      shop_(shop),
+      mayGoUnanswered_(mayGoUnanswered) {
   ensure(taker_ != nullptr, "somebody is logged in who takes goods back");
 }
 
@@ -58,12 +67,20 @@ ReturnBooks::Found ReturnBooks::find(std::int32_t billNo) const {
   return {Found::kSettled, std::move(bill)};
 }
 
-// What a line still holds is known to the till that sold it.
+// What a line of another till's bill still holds the server knows.
 ReturnBooks::Found ReturnBooks::missing(std::int32_t billNo) const {
   const std::optional<ShopLink> link = shopLink(connection_);
   const auto till = static_cast<int>(billNo / kNumbersPerTill);
   if (!link || till == 0 || till == link->till) return {};
-  return {.kind = Found::kElsewhere, .till = till};
+  if (shop_ == nullptr) return {.kind = Found::kElsewhere, .till = till};
+  const BillAuthority::BillAnswer answer = shop_->bill(billNo);
+  if (answer.reply == BillAuthority::Reply::kUnknown) return {};
+  if (answer.reply != BillAuthority::Reply::kDone) return {.kind = Found::kNoAnswer, .till = till};
+  try {
+    return {Found::kSettled, billOfRecord(connection_, nlohmann::json::parse(answer.record), true)};
+  } catch (const std::exception& unreadable) {
+    return {Found::kDamaged, nullptr, unreadable.what()};
+  }
 }
 
 ClsOperator ReturnBooks::cashierOf(const ClsSell& bill) const {
@@ -79,7 +96,11 @@ ClsMember ReturnBooks::memberOf(const ClsSell& bill) const {
 }
 
 std::vector<ClsUnSell::Earlier> ReturnBooks::earlier(const ClsSellItem& line) const {
-  return ClsUnSell::OfLine(connection_, line.Id());
+  return ClsUnSell::OfLine(connection_, line.BillNo(), line.Id());
+}
+
+bool ReturnBooks::isHere(const ClsSell& bill) const {
+  return connection_.query("select 1 from sell where id = ?", bill.BillNo()).next();
 }
 
 ClsUnSell ReturnBooks::record(const ClsSell& bill, const ClsSellItem& line, double quantity,
@@ -88,7 +109,7 @@ ClsUnSell ReturnBooks::record(const ClsSell& bill, const ClsSellItem& line, doub
   record.Init(connection_, bill.BillNo(), 0, clock_);
   record.setUnQty(quantity);
   record.setUnMoney(refund);
-  record.setItemId(line.Id());
+  record.setItemId(isHere(bill) ? line.Id() : 0);
   record.setOperatorId(taker_->Id());
   record.setCost(line.Cost());
   record.setRatio(line.Ratio());
@@ -103,9 +124,34 @@ ReturnBooks::Outcome ReturnBooks::takeBack(ClsSell& bill, ClsSellItem& line, dou
   ensure(bill.State() == kSettled && bill.AddsUp(), "goods come back against a settled bill");
   ensure(holds(bill, line), "a line is taken back from its own bill");
   ensure(quantity > 0 && refund >= Currency(), "goods come back, and money goes out");
+  const bool isShared = shop_ != nullptr && bill.BillNo() >= kNumbersPerTill;
+  return isShared ? takeBackAsked(bill, line, quantity, refund)
+                  : store(bill, line, quantity, refund, nullptr);
+}
+
+ReturnBooks::Outcome ReturnBooks::takeBackAsked(ClsSell& bill, ClsSellItem& line, double quantity,
+                                                Currency refund) {
+  SharedReturn asked(connection_, *shop_, isHere(bill), mayGoUnanswered_);
+  const BillAuthority::ReturnAnswer answer = asked.ask(bill.BillNo(), line.Id(), quantity);
+  if (answer.reply != BillAuthority::Reply::kDone)
+    return {Outcome::kRefused, refusalOf(answer, isHere(bill))};
+  try {
+    Outcome outcome = store(bill, line, quantity, refund, &asked);
+    if (outcome.kind != Outcome::kDone) asked.giveUp();
+    return outcome;
+  } catch (const Failure&) {
+    try {
+      asked.giveUp();
+    } catch (const Failure&) {
+      // the next start gives it up
+    }
+    throw;
+  }
+}
+
+ReturnBooks::Outcome ReturnBooks::store(ClsSell& bill, ClsSellItem& line, double quantity,
+                                        Currency refund, SharedReturn* asked) {
   Transaction all(connection_);
-  const Journal journal(connection_);
-  const std::string before = journal.isOn() ? billMark(connection_, bill.BillNo()) : "";
   const ClsUnSell returned = record(bill, line, quantity, refund);
   if (!(returned.UnQty() > 0)) return {Outcome::kNothingHeld};
   ClsStock stock;
@@ -113,6 +159,21 @@ ReturnBooks::Outcome ReturnBooks::takeBack(ClsSell& bill, ClsSellItem& line, dou
   const StockOutcome put =
       stock.Move(-roundedQuantity(returned.UnQty() * line.Ratio()), kMayGoNegative);
   if (!put.done()) return {Outcome::kRefused, put.refusal()};
+  const std::string key = asked == nullptr ? "" : asked->key();
+  if (isHere(bill)) {
+    storeHere(returned, bill, line, key);
+  } else {
+    storeElsewhere(returned, bill, line, key);
+  }
+  if (asked != nullptr) asked->take();
+  all.commit();
+  return {};
+}
+
+void ReturnBooks::storeHere(const ClsUnSell& returned, ClsSell& bill, ClsSellItem& line,
+                            const std::string& key) {
+  const Journal journal(connection_);
+  const std::string before = journal.isOn() ? billMark(connection_, bill.BillNo()) : "";
   lowerLine(bill, line, returned.UnQty());
   if (bill.MemberId() > 0) debitPurchase(connection_, bill.MemberId(), returned.UnMoney());
   if (!bill.Save()) throw StoreError(bill.ErrText());
@@ -121,6 +182,7 @@ ReturnBooks::Outcome ReturnBooks::takeBack(ClsSell& bill, ClsSellItem& line, dou
     body["before"] = before;
     body["return"] = returnRecord(connection_, returned.Id());
     body["item"] = line.SpCode();
+    if (!key.empty()) body["key"] = key;
     if (bill.MemberId() > 0) {
       body["credit"] = {{"member", bill.MemberId()},
                         {"spent", generalNumber(-returned.UnMoney())},
@@ -128,6 +190,19 @@ ReturnBooks::Outcome ReturnBooks::takeBack(ClsSell& bill, ClsSellItem& line, dou
     }
     return body;
   });
-  all.commit();
-  return {};
+}
+
+// The bill at hand is only looked at: its own till lowers it.
+void ReturnBooks::storeElsewhere(const ClsUnSell& returned, ClsSell& bill, ClsSellItem& line,
+                                 const std::string& key) {
+  connection_.run(
+      "insert into return_elsewhere (un_sell, line, bm, name, price) values (?, ?, ?, ?, ?)",
+      returned.Id(), line.Id(), line.SpCode(), line.SpName(), line.Price());
+  Journal(connection_).note(EntryKind::kGoodsReturned, bill.BillNo(), [&] {
+    return nlohmann::json{{"return", returnRecord(connection_, returned.Id())},
+                          {"item", line.SpCode()},
+                          {"of_line", std::to_string(line.Id())},
+                          {"key", key}};
+  });
+  lowerLine(bill, line, returned.UnQty());
 }

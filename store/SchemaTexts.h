@@ -8,3 +8,4 @@ extern const char* const kShiftTables;
 extern const char* const kLinkTable;
 extern const char* const kCardTables;
 extern const char* const kDownTables;
+extern const char* const kShopBillTables;

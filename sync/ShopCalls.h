@@ -63,6 +63,9 @@ class ShopCalls {
   CardAuthority::Answer charge(const CardAuthority::Charge& charge,
                                ServerLine::Milliseconds patience);
 
+  ServerLine& line() { return line_; }
+  const std::string& till() const { return till_; }
+
  private:
   Changes walk(const DownPlace& place, std::size_t most);
   static Standing standing(const ServerAnswer& answer);

@@ -10,6 +10,7 @@
 #include "store/DataFile.h"
 #include "store/StoreError.h"
 #include "sync/Download.h"
+#include "sync/TillErrands.h"
 #include "sync/TillLine.h"
 
 namespace {
@@ -31,12 +32,14 @@ struct SyncRun::Session {
       : connection(std::move(opened)),
         server(link),
         upload(*connection, server.line(), atServer),
-        download(*connection, server.line()) {}
+        download(*connection, server.line()),
+        errands(*connection, server.line(), link.till) {}
 
   std::unique_ptr<Connection> connection;
   TillLine server;
   Upload upload;
   Download download;
+  TillErrands errands;
 };
 
 SyncRun::SyncRun(DataSource file, const SyncPlace& place, Surroundings surroundings)
@@ -74,7 +77,9 @@ void SyncRun::run() {
 Upload::Outcome SyncRun::attempt() try {
   if (!session_) open();
   session_->connection->requireItsFile();
-  const Upload::Outcome outcome = session_->upload.step();
+  Upload::Outcome outcome = session_->upload.step();
+  if (outcome == Upload::Outcome::kIdle && session_->errands.step())
+    outcome = Upload::Outcome::kWent;
   state_.pendingBills = session_->upload.pendingBills();
   state_.atServer = session_->upload.atServer();
   fault_ = session_->upload.fault();

@@ -67,8 +67,11 @@ class TakingsReader {
 
   void readReturns(Connection& shop) {
     Rows rows = shop.query(
-        "select bm, name, un_sell.quantity, un_sell.ratio, un_sell.money, operator_id from un_sell"
-        " left join sellProducts on sellProducts.id = item_id where un_time >= ? and un_time < ?",
+        "select coalesce(l.bm, e.bm) as bm, coalesce(l.name, e.name) as name, un_sell.quantity,"
+        " un_sell.ratio, un_sell.money, operator_id from un_sell"
+        " left join sellProducts l on l.id = item_id left join return_elsewhere e on un_sell = "
+        "un_sell.id"
+        " where un_time >= ? and un_time < ?",
         DateTime{period_.from}, afterPeriod());
     while (rows.next()) addReturn(rows);
   }

@@ -10,6 +10,7 @@
 
 #include "base/Failure.h"
 #include "base/NumberText.h"
+#include "saleslib/BillAuthority.h"
 #include "saleslib/BillBooks.h"
 #include "saleslib/CardAuthority.h"
 #include "saleslib/ClsSysParam.h"
@@ -55,11 +56,31 @@ class SellingTill {
     ensure(all.settle(*bill), "a paid bill is stored");
     return {bill->BillNo(), generalNumber(bill->Amount())};
   }
-  void takeBack(int number, double quantity) {
-    ReturnBooks returns(*shop, localTime, cashier_);
-    const std::shared_ptr<ClsSell> bill = returns.find(number).bill;
-    static_cast<void>(
-        returns.takeBack(*bill, *bill->Items().back(), quantity, Currency::fromYuan(1)));
+  /// Some of the second item of a bill, for one yuan; refused without a word where there is no
+  /// bill.
+  ReturnBooks::Outcome takeBack(int number, double quantity) {
+    ReturnBooks returns(*shop, localTime, cashier_, bills, rules_.OfflineReturn());
+    const ReturnBooks::Found found = returns.find(number);
+    if (found.bill == nullptr) return {ReturnBooks::Outcome::kRefused};
+    return returns.takeBack(*found.bill, *found.bill->Items().back(), quantity,
+                            Currency::fromYuan(1));
+  }
+  /// Puts a bill aside; its number.
+  int hold(double quantity) {
+    BillBooks all = books();
+    const std::shared_ptr<ClsSell> bill = all.open();
+    ring(all, *bill, "A", "4.05", 1);
+    ring(all, *bill, "B", "1.333", quantity);
+    all.drop(*all.hold(*bill));
+    return bill->BillNo();
+  }
+  /// Takes a held bill up and cancels it; false when it is held no more.
+  bool takeUp(const ClsSell& held) {
+    BillBooks all = books();
+    const std::shared_ptr<ClsSell> empty = all.open();
+    const BillBooks::Recalled recalled = all.recall(held, *empty, [](const ClsSell&) {});
+    recalled.bill ? static_cast<void>(all.cancel(*recalled.bill)) : all.drop(*empty);
+    return recalled.bill != nullptr;
   }
   void topUp(const std::string& card, int yuan) {
     TopUpBooks all(*shop);
@@ -89,7 +110,11 @@ class SellingTill {
   }
 
   std::unique_ptr<Connection> shop;
-  CardAuthority* cards = nullptr;            ///< none: the file decides about cards
+  BillBooks books() { return {*shop, rules_, localTime, cashier_, cards, bills}; }
+  const ClsSysParam& rules() const { return rules_; }
+
+  CardAuthority* cards = nullptr;  ///< none: the file decides about cards
+  BillAuthority* bills = nullptr;  ///< none: the file decides about returns and held bills
   CardOutcome outcome = CardOutcome::kDone;  ///< of the card that was tried last
 
  private:
@@ -104,7 +129,6 @@ class SellingTill {
     )");
     filling.commit();
   }
-  BillBooks books() { return {*shop, rules_, localTime, cashier_, cards}; }
   bool isPaidBy(const std::string& card, BillBooks& all, ClsSell& bill) {
     bill.setAmount(roundedToFen(bill.Amount()));
     ClsSell paid = bill;

@@ -89,17 +89,19 @@ void JournalState::takeRows(const JournalEntry& entry, const Json& body) {
 // Lines leave the stock for the journal when their bill is settled, and come back by a return.
 void JournalState::takeBill(const JournalEntry& entry, const Json& body) {
   if (isKind(entry, EntryKind::kBillOpened)) open.insert(std::stoll(entry.touches));
-  if (isKind(entry, EntryKind::kBillCancelled)) open.erase(std::stoll(entry.touches));
+  if (isKind(entry, EntryKind::kBillCancelled) || isKind(entry, EntryKind::kBillReleased))
+    open.erase(std::stoll(entry.touches));
+  if (isKind(entry, EntryKind::kGoodsReturned)) {
+    const Json& back = body.at("return");
+    move(body.at("item"), quantityOf(back, "quantity") * quantityOf(back, "ratio", 0));
+  }
   if (!body.contains("bill")) return;
   const std::int64_t bill = numberOf(body.at("bill"), "id");
   if (isKind(entry, EntryKind::kBillRedated) && open.contains(bill)) return;
   if (body.contains("before") && !bills.contains(bill)) before.emplace(bill, body.at("before"));
   bills[bill] = entry.seq;
   open.erase(bill);
-  if (body.contains("return")) {
-    const Json& back = body.at("return");
-    move(body.at("item"), quantityOf(back, "quantity") * quantityOf(back, "ratio", 0));
-  } else if (!body.contains("before")) {
+  if (!body.contains("before")) {
     for (const Json& line : body.at("lines"))
       move(line.at("bm"), -(quantityOf(line, "amount") * quantityOf(line, "ratio", 0)));
   }

@@ -71,7 +71,8 @@ constexpr const char* kReturns =
     " l.in_price as line_cost, l.price as price, s.sell_time as bill_time, s.state as state from "
     "un_sell u"
     " left join sellProducts l on l.id = u.item_id and l.sellId = u.sell_id"
-    " left join sell s on s.id = u.sell_id order by u.id";
+    " left join sell s on s.id = u.sell_id"
+    " where u.id not in (select un_sell from return_elsewhere) order by u.id";
 
 std::string wrongTerms(const Row& row) {
   if (row.number("ratio") != row.number("line_ratio")) return Words::tr("单位比例");
