@@ -7,7 +7,7 @@ LineParameters parametersOf(const ServerAddress& address) {
       {"host", address.host},         {"port", std::to_string(address.port)},
       {"dbname", address.database},   {"user", address.user},
       {"password", address.password}, {"application_name", "till"},
-      {"client_encoding", "UTF8"}};
+      {"client_encoding", "UTF8"},    {"target_session_attrs", "read-write"}};
   if (address.isHere()) return parameters;
   parameters.insert(parameters.end(), {{"ssl_min_protocol_version", "TLSv1.3"},
                                        {"channel_binding", "require"},

@@ -6,7 +6,9 @@
 
 /// Where a server is and as whom to log in there.
 struct ServerAddress {
-  std::string host;  ///< a name or an address; a folder for a server on this machine
+  /// A name or an address; a folder for a server on this machine. Several, with "," in between, of
+  /// which only one takes what is written: a standby does not.
+  std::string host;
   int port = 5432;
   std::string database, user, password;
   std::string authority = {};  ///< the certificate that vouches for the server, in PEM (RFC 7468)

@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <cstdlib>
+#include <sstream>
 #include <utility>
 
 #include "base/Failure.h"
@@ -59,7 +60,14 @@ void ServerLine::Closer::operator()(pg_conn* line) const {
   pq().PQfinish(line);
 }
 
-ServerLine::ServerLine(LineParameters parameters) : parameters_(std::move(parameters)) {}
+// The client library would begin with the first one each time, which may be the silent one.
+ServerLine::ServerLine(LineParameters parameters) : parameters_(std::move(parameters)) {
+  for (const auto& [name, value] : parameters_) {
+    if (name != "host" || value.find(',') == std::string::npos) continue;
+    std::istringstream all(value);
+    for (std::string host; std::getline(all, host, ',');) hosts_.push_back(host);
+  }
+}
 
 ServerLine::~ServerLine() = default;
 
@@ -94,6 +102,12 @@ bool ServerLine::wait(bool forWriting, Moment deadline) const {
 
 std::optional<ServerAnswer> ServerLine::openFault(Moment deadline) {
   if (line_ && pq().PQstatus(line_.get()) == CONNECTION_OK) return std::nullopt;
+  std::optional<ServerAnswer> fault = openOnce(deadline);
+  if (fault && !hosts_.empty()) host_ = (host_ + 1) % hosts_.size();
+  return fault;
+}
+
+std::optional<ServerAnswer> ServerLine::openOnce(Moment deadline) {
   try {
     ClientLibrary::loaded();
   } catch (const Failure& failure) {
@@ -102,7 +116,7 @@ std::optional<ServerAnswer> ServerLine::openFault(Moment deadline) {
   std::vector<const char*> names, values;
   for (const auto& [name, value] : parameters_) {
     names.push_back(name.c_str());
-    values.push_back(value.c_str());
+    values.push_back(name == "host" && !hosts_.empty() ? hosts_[host_].c_str() : value.c_str());
   }
   names.push_back(nullptr);
   values.push_back(nullptr);
@@ -186,8 +200,10 @@ ServerAnswer ServerLine::answer(Moment deadline) {
 }
 
 std::string ServerLine::verifierOf(const std::string& password, const std::string& role) {
-  if (const auto failed = openFault(steady_clock::now() + kPatience))
-    throw Failure(Words::tr("连不上服务器：%1", failed->text));
+  std::optional<ServerAnswer> failed = openFault(steady_clock::now() + kPatience);
+  for (std::size_t other = 1; failed && other < hosts_.size(); ++other)
+    failed = openFault(steady_clock::now() + kPatience);
+  if (failed) throw Failure(Words::tr("连不上服务器：%1", failed->text));
   const std::unique_ptr<char, void (*)(void*)> verifier(
       pq().PQencryptPasswordConn(line_.get(), password.c_str(), role.c_str(), "scram-sha-256"),
       pq().PQfreemem);

@@ -32,7 +32,9 @@ struct ServerAnswer {
 std::optional<std::int64_t> wholeAt(const ServerAnswer::Row& row, std::size_t column);
 
 /// A line to a PostgreSQL server that never waits longer than it is told to. The line is opened by
-/// the first question and closed by everything that leaves one unknown. (A name of a host that is
+/// the first question and closed by everything that leaves one unknown. Of several hosts, which the
+/// parameter "host" names with "," between them, each opening tries one: the one that answered, or
+/// behind one that did not, the next. (A name of a host that is
 /// no address is looked up within the system's own time.)
 class ServerLine {
  public:
@@ -74,7 +76,10 @@ class ServerLine {
   std::string fault() const;
   static void noticed(void* line, const char* text);
 
+  std::optional<ServerAnswer> openOnce(Moment deadline);
   LineParameters parameters_;
+  std::vector<std::string> hosts_;  ///< several, or none: then the parameters say it
+  std::size_t host_ = 0;            ///< of these, the one to try
   std::unique_ptr<pg_conn, Closer> line_;
   std::string notice_;
 };

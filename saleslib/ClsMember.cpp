@@ -6,6 +6,7 @@
 
 #include "base/Failure.h"
 #include "base/Words.h"
+#include "saleslib/CardPassword.h"
 #include "saleslib/Fields.h"
 #include "saleslib/Journal.h"
 #include "saleslib/JournalRecords.h"
@@ -118,13 +119,15 @@ void ClsMember::insert() {
       " discount, birthday, card, password, join_date)"
       " values (?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?)",
       bh_, name_, sex_, age_, phone_, address_, other_, enabled_, totalSpent_, points_, discount_,
-      birthday_.value, balance_.value.value_or(Currency()), password_.value.value_or(std::string()),
-      joined_);
+      birthday_.value, balance_.value.value_or(Currency()),
+      keptCardPassword(*connection_, password_.value.value_or(std::string())), joined_);
   id_ = key32(key.value());
   inserted_ = connection_->writeMark();
 }
 
 void ClsMember::update() {
+  std::optional<std::string> password = password_.unwritten(*connection_);
+  if (password) password = keptCardPassword(*connection_, *password);
   const std::int64_t changed = connection_->run(
       "update member set bh = ?, name = ?, sex = ?, age = ?, phone = ?, address = ?, other = ?,"
       " enabled = ?, total_spent = coalesce(?, total_spent), points = coalesce(?, points),"
@@ -132,7 +135,7 @@ void ClsMember::update() {
       " card = coalesce(?, card), password = coalesce(?, password) where id = ?",
       bh_, name_, sex_, age_, phone_, address_, other_, enabled_, newTotal_.unwritten(*connection_),
       newPoints_.unwritten(*connection_), discount_, birthday_.unwritten(*connection_),
-      balance_.unwritten(*connection_), password_.unwritten(*connection_), id_);
+      balance_.unwritten(*connection_), password, id_);
   if (changed == 0) throw StoreError(Words::tr("会员 %1 已被删除，没有保存！", bh_));
 }
 

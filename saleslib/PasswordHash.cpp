@@ -8,12 +8,19 @@
 #include "saleslib/Sodium.h"
 #include "store/StoreError.h"
 
-std::string passwordHash(std::string_view password) {
+namespace {
+
+constexpr std::size_t kCardMemory = 8 << 20;  // bytes
+
+}  // namespace
+
+std::string passwordHash(std::string_view password, HashCost cost) {
   startSodium();
+  const std::size_t memory =
+      cost == HashCost::kCard ? kCardMemory : crypto_pwhash_MEMLIMIT_INTERACTIVE;
   std::array<char, crypto_pwhash_STRBYTES> hash{};
   if (crypto_pwhash_str(hash.data(), password.data(), password.size(),
-                        crypto_pwhash_OPSLIMIT_INTERACTIVE,
-                        crypto_pwhash_MEMLIMIT_INTERACTIVE) != 0) {
+                        crypto_pwhash_OPSLIMIT_INTERACTIVE, memory) != 0) {
     throw StoreError(Words::tr("内存不足，密码没有保存！"));
   }
   return hash.data();

@@ -3,6 +3,8 @@
 #include <algorithm>
 
 #include "base/Failure.h"
+#include "base/Words.h"
+#include "saleslib/CardPassword.h"
 #include "saleslib/ClsSysParam.h"
 #include "saleslib/Journal.h"
 #include "store/Connection.h"
@@ -48,11 +50,19 @@ void joinShop(Connection& connection, const ShopLink& link, std::int64_t highest
       " values (1, ?, ?, ?, ?, ?, ?, ?)",
       link.till, link.epoch, link.host, link.port, link.database, link.password, link.authority);
   numberBillsBehind(connection, link.till, highestBill);
+  hashCardPasswords(connection);
   ClsSysParam parameters;
   parameters.Conn(connection);
   const std::string refused = Journal(connection).isOn() ? "" : parameters.set("Journal", "1");
   if (!refused.empty()) throw StoreError(refused);
   joining.commit();
+}
+
+void moveServer(Connection& connection, const std::string& host) {
+  Transaction moving(connection);
+  if (connection.run("update link set host = ?", host) == 0)
+    throw StoreError(Words::tr("这台收银机还没有加入店铺，请写上加入码。"));
+  moving.commit();
 }
 
 void beginEpoch(Connection& connection, int epoch, std::int64_t highestBill) {

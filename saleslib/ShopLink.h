@@ -13,7 +13,7 @@ class Connection;
 struct TESSALY_API ShopLink {
   int till = 0;      ///< 1 ... kMostTills
   int epoch = 0;     ///< which of the till's histories, as the server counts them
-  std::string host;  ///< a name or an address; a folder for a server on this machine
+  std::string host;  ///< as link/ServerAddress.h has it
   int port = 0;
   std::string database;
   std::string password;   ///< of the till's role at the server
@@ -32,6 +32,9 @@ TESSALY_API std::optional<ShopLink> shopLink(Connection& connection);
 /// `highestBill` that the server has of it, and the journal begins if there is none, since it is
 /// what goes up. One transaction.
 TESSALY_API void joinShop(Connection& connection, const ShopLink& link, std::int64_t highestBill);
+
+/// The shop's server is found there from now on. Throws StoreError in a till that has not joined.
+TESSALY_API void moveServer(Connection& connection, const std::string& host);
 
 /// The till's history became another one at the server. One transaction.
 TESSALY_API void beginEpoch(Connection& connection, int epoch, std::int64_t highestBill);

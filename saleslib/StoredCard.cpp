@@ -1,6 +1,7 @@
 #include "saleslib/StoredCard.h"
 
 #include "base/Failure.h"
+#include "saleslib/CardPassword.h"
 #include "saleslib/Fields.h"
 #include "store/Connection.h"
 #include "store/Literal.h"
@@ -22,9 +23,8 @@ StoredCard cardOf(const Row& row) {
 
 CardOutcome refusal(Connection& connection, const StoredCard& card, const std::string& password) {
   if (!card.isEnabled) return CardOutcome::kBlocked;
-  const bool isTheirs =
-      connection.query("select id from member where bh = ? and password = ?", card.number, password)
-          .next();
+  Rows kept = connection.query("select password from member where bh = ?", card.number);
+  const bool isTheirs = kept.next() && isCardPassword(kept.text("password"), password);
   return isTheirs ? CardOutcome::kDone : CardOutcome::kWrongPassword;
 }
 

@@ -37,18 +37,27 @@ int ShopServer::stepsDone() {
   return static_cast<int>(number(steps.rows.at(0), 0));
 }
 
+std::string ShopServer::stepsBehind(int done) {
+  const auto count = static_cast<int>(serverSteps().size());
+  if (done > count)
+    throw Failure(Words::tr("服务器上的店铺是更新版本的程序建立的（%1 步，这个程序有 %2 步）。",
+                            done, count));
+  std::string script;
+  for (int step = done + 1; step <= count; ++step) {
+    script.append(serverSteps()[static_cast<std::size_t>(step - 1)])
+        .append("\ninsert into shop.step (number) values (" + std::to_string(step) + ");\n");
+  }
+  return script;
+}
+
 int ShopServer::init(const std::string& authority) {
   required(line_.run(kServerRoles, kPatience));
   const auto count = static_cast<int>(serverSteps().size());
   const int done = stepsDone();
-  if (done > count) throw Failure(Words::tr("服务器上的店铺是更新版本的程序建立的。"));
-  for (int step = done + 1; step <= count; ++step) {
-    const std::string number = std::to_string(step);
-    required(line_.run("begin; set local role shop_keeper;\n" +
-                           std::string(serverSteps()[static_cast<std::size_t>(step - 1)]) +
-                           "\ninsert into shop.step (number) values (" + number + "); commit",
-                       kPatience));
-  }
+  if (done > 0 && done < count)
+    throw Failure(Words::tr("店铺已经建好，是较早的版本；请用 tilladmin shop upgrade 升级。"));
+  if (const std::string script = stepsBehind(done); !script.empty())
+    required(line_.run("begin; set local role shop_keeper;\n" + script + "commit", kPatience));
   if (!authority.empty()) {
     required(
         line_.ask("insert into shop.setting values ('authority', $1)"
@@ -56,6 +65,44 @@ int ShopServer::init(const std::string& authority) {
                   {authority}));
   }
   return count - done;
+}
+
+ShopServer::Steps ShopServer::upgrade() {
+  const int done = stepsDone();
+  if (done == 0) throw Failure(Words::tr("服务器上还没有店铺，请先用 tilladmin shop init。"));
+  const std::string script = stepsBehind(done);
+  if (script.empty()) return {done, done};
+  required(line_.run(kServerRoles, kPatience));
+  required(
+      line_.run("begin; set local role shop_keeper;\n" + script + "select shop.rebuild(); commit",
+                kLongPatience));
+  return {done, static_cast<int>(serverSteps().size())};
+}
+
+ShopServer::Standby ShopServer::standby() {
+  const ServerAnswer answer =
+      required(line_.ask("select pg_is_in_recovery(),"
+                         " exists (select from pg_stat_wal_receiver where status = 'streaming'),"
+                         " to_char(pg_last_xact_replay_timestamp(), 'YYYY-MM-DD HH24:MI:SS')"));
+  const ServerAnswer::Row& row = answer.rows.at(0);
+  Standby found{.isStandby = row.at(0) == "t",
+                .hearsFirst = row.at(1) == "t",
+                .lastRepeated = row.at(2).value_or("")};
+  if (stepsDone() == 0)
+    throw Failure(Words::tr("服务器上还没有店铺，请先用 tilladmin shop init。"));
+  const ServerAnswer awaited =
+      required(line_.ask("select value <> '' from shop.setting where name = 'awaits'"));
+  found.wasAwaited = !awaited.rows.empty() && awaited.rows[0].at(0) == "t";
+  return found;
+}
+
+// Its settings may be a copy of the first one's, and name a second server that is none any more:
+// each commit would wait for it for ever.
+void ShopServer::promote() {
+  const ServerAnswer done = required(line_.ask("select pg_promote(true, 300)", {}, kLongPatience));
+  if (done.rows.at(0).at(0) != "t") throw Failure(Words::tr("备机五分钟内没有成为主服务器。"));
+  required(line_.ask("alter system set synchronous_standby_names = ''"));
+  required(line_.ask("select pg_reload_conf()"));
 }
 
 JoinCode ShopServer::addTill(int till, bool again) {

@@ -22,6 +22,25 @@ class ShopServer {
   /// it as it is.
   int init(const std::string& authority);
 
+  struct Steps {
+    int before = 0, after = 0;
+  };
+  /// Brings a shop's tables and functions up to this program's, and makes the rows anew from the
+  /// facts, since a newer version may read in them what the one before did not. All of it or
+  /// nothing; the tills wait meanwhile, and sell on.
+  Steps upgrade();
+
+  /// A second server, which repeats what the first one writes, before it takes its place.
+  struct Standby {
+    bool isStandby = false;
+    bool hearsFirst = false;   ///< the first one is still sending
+    bool wasAwaited = false;   ///< the first one's commits waited for a second server
+    std::string lastRepeated;  ///< its latest commit here, in this server's time; empty: none
+  };
+  Standby standby();
+  /// Makes it the first one, which waits for no other. The one before must never write again.
+  void promote();
+
   /// Makes a till's place and the code that it joins with within a day. One that has joined before
   /// is let in anew only `again`; until then the one that was is shut out.
   JoinCode addTill(int till, bool again);
@@ -59,6 +78,7 @@ class ShopServer {
  private:
   void followChains(Checked& found);
   int stepsDone();
+  static std::string stepsBehind(int done);
 
   ServerLine& line_;
 };

@@ -8,27 +8,12 @@
 #include "base/Failure.h"
 #include "base/NumberText.h"
 #include "base/Text.h"
-#include "store/Connection.h"
-#include "store/IndexWalk.h"
+#include "store/Row.h"
+#include "takings/TakingsSource.h"
 
 namespace {
 
 constexpr int kBillsPerProgress = 1024;
-
-/// Bills in the order of their time, each with its lines one after the other. The columns of a line
-/// stand first, since they are asked for most often.
-std::string billsAndLines() {
-  std::string columns =
-      "select sell.id, ratio, sellProducts.amount as line_quantity, bm, splbmc, money, in_price,"
-      " discount, price, name, sell_time, operator_id, sell.quantity, sell.amount, goods_amount";
-  for (const TenderKind& kind : tenderKinds()) columns.append(", ").append(kind.column);
-  return columns.append(" from ")
-      .append(walkedAlong("sell", "sell_time"))
-      .append(" left join ")
-      .append(walkedAlong("sellProducts", "sellProducts_bill"))
-      .append(" on sellId = sell.id where state = 1 and sell_time >= ? and sell_time < ?")
-      .append(" order by sell_time, sell.id");
-}
 
 // Whole counts, nearly all there are, need no decimals.
 Currency moneyFor(Currency price, double quantity) {
@@ -47,33 +32,29 @@ Currency moneyIn(const Row& row, const char* column) {
 
 class TakingsReader {
  public:
-  TakingsReader(const ReadingPeriod& period, const ReportProgress& goOn)
-      : period_(period), goOn_(goOn), first_(std::min(period.from, period.slowFrom)) {}
+  TakingsReader(TakingsSource& shop, const ReadingPeriod& period, const ReportProgress& goOn)
+      : shop_(shop), period_(period), goOn_(goOn), first_(std::min(period.from, period.slowFrom)) {}
 
-  [[nodiscard]] bool readBills(Connection& shop) {
-    Rows rows = shop.query(billsAndLines().c_str(), DateTime{first_}, afterPeriod());
-    while (rows.next()) {
-      const std::int64_t bill = rows.whole("id").value();
+  [[nodiscard]] bool readBills() {
+    const bool isWhole = shop_.sold(DateTime{first_}, afterPeriod(), [this](const Row& row) {
+      const std::int64_t bill = row.whole("id").value();
       if (bill != bill_) {
         endBill();
         if (++seen_ % kBillsPerProgress == 0 && !goOn_(partDone())) return false;
-        beginBill(bill, rows);
+        beginBill(bill, row);
       }
-      if (const auto ratio = rows.whole("ratio")) addLine(rows, *ratio);
-    }
-    endBill();
-    return true;
+      if (const auto ratio = row.whole("ratio")) addLine(row, *ratio);
+      return true;
+    });
+    if (isWhole) endBill();
+    return isWhole;
   }
 
-  void readReturns(Connection& shop) {
-    Rows rows = shop.query(
-        "select coalesce(l.bm, e.bm) as bm, coalesce(l.name, e.name) as name, un_sell.quantity,"
-        " un_sell.ratio, un_sell.money, operator_id from un_sell"
-        " left join sellProducts l on l.id = item_id left join return_elsewhere e on un_sell = "
-        "un_sell.id"
-        " where un_time >= ? and un_time < ?",
-        DateTime{period_.from}, afterPeriod());
-    while (rows.next()) addReturn(rows);
+  void readReturns() {
+    shop_.returned(DateTime{period_.from}, afterPeriod(), [this](const Row& row) {
+      addReturn(row);
+      return true;
+    });
   }
 
   Takings taken() { return std::move(takings_); }
@@ -98,6 +79,7 @@ class TakingsReader {
     sums_ = {};
     if (!isInPeriod_) return;
     operator_ = row.whole("operator_id").value_or(0);
+    till_ = shop_.hasTills() ? row.whole("till").value_or(0) : 0;
     sums_.bills = 1;
     sums_.quantity = row.number("quantity").value_or(0);
     sums_.due = moneyIn(row, "amount");
@@ -119,6 +101,7 @@ class TakingsReader {
     takings_.byDay[time_.date].add(sums_);
     takings_.byHour[time_.hour].add(sums_);
     takings_.byOperator[operator_].add(sums_);
+    if (shop_.hasTills()) takings_.byTill[till_].add(sums_);
     isInPeriod_ = false;
   }
 
@@ -177,6 +160,7 @@ class TakingsReader {
     takings_.byOperator[row.whole("operator_id").value_or(0)].add(returned);
   }
 
+  TakingsSource& shop_;
   const ReadingPeriod& period_;
   const ReportProgress& goOn_;
   Date first_;
@@ -184,7 +168,7 @@ class TakingsReader {
   SoldAs key_;  ///< kept for its room
 
   // Of the bill at hand.
-  std::int64_t bill_ = 0, operator_ = 0;
+  std::int64_t bill_ = 0, operator_ = 0, till_ = 0;
   int seen_ = 0;
   DateTime time_;
   bool isInPeriod_ = false, moves_ = false;
@@ -193,10 +177,10 @@ class TakingsReader {
 
 }  // namespace
 
-std::optional<Takings> readTakings(Connection& shop, const ReadingPeriod& period,
+std::optional<Takings> readTakings(TakingsSource& shop, const ReadingPeriod& period,
                                    const ReportProgress& goOn) {
-  TakingsReader reader(period, goOn);
-  if (!reader.readBills(shop)) return std::nullopt;
-  reader.readReturns(shop);
+  TakingsReader reader(shop, period, goOn);
+  if (!reader.readBills()) return std::nullopt;
+  reader.readReturns();
   return reader.taken();
 }

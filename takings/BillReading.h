@@ -6,7 +6,7 @@
 #include "base/DateTime.h"
 #include "takings/Sums.h"
 
-class Connection;
+class TakingsSource;
 
 /// Called now and then with the part done, 0 ... 1; false stops the report.
 using ReportProgress = std::function<bool(double part)>;
@@ -20,5 +20,5 @@ struct ReadingPeriod {
 /// Adds up the settled bills whose time is in the period, with their lines, in one walk along the
 /// bills, and the returns that were taken in it. Nothing when it was stopped. Throws StoreError for
 /// a value that is not of its column's kind, and Overflow.
-[[nodiscard]] std::optional<Takings> readTakings(Connection& shop, const ReadingPeriod& period,
+[[nodiscard]] std::optional<Takings> readTakings(TakingsSource& shop, const ReadingPeriod& period,
                                                  const ReportProgress& goOn);

@@ -5,7 +5,8 @@
 #include <utility>
 
 #include "base/Text.h"
-#include "store/Connection.h"
+#include "store/Row.h"
+#include "takings/TakingsSource.h"
 
 namespace {
 
@@ -61,26 +62,21 @@ StockedGoods goodsOf(const Row& row) {
 
 }  // namespace
 
-std::optional<StockLists> readStockLists(Connection& shop, const GoodsByCode& sold, double limit,
+std::optional<StockLists> readStockLists(TakingsSource& shop, const GoodsByCode& sold, double limit,
                                          std::size_t most, const std::function<bool()>& goOn) {
   FirstOf slow(most, isWorthMore);
   FirstOf low(most, isLess);
-  Rows rows = shop.query(
-      "select f_spbm, quantity, f_spmc, f_splbmc, f_zhjj from spda left join stock on spbm = f_spbm"
-      " order by spda.id");
-  for (int seen = 1; rows.next(); ++seen) {
-    if (seen % kGoodsPerProgress == 0 && !goOn()) return std::nullopt;
-    StockedGoods goods = goodsOf(rows);
+  int seen = 0;
+  const bool isWhole = shop.goods([&](const Row& row) {
+    if (++seen % kGoodsPerProgress == 0 && !goOn()) return false;
+    StockedGoods goods = goodsOf(row);
     const auto found = sold.find(asciiLower(goods.code));
     const bool moves = found != sold.end() && found->second.moved;
     if (found != sold.end()) goods.sold = found->second.quantity;
-    if (!rows.isNull("quantity") && goods.stock < limit) low.add(goods);
+    if (!row.isNull("quantity") && goods.stock < limit) low.add(goods);
     if (!moves) slow.add(std::move(goods));
-  }
+    return true;
+  });
+  if (!isWhole) return std::nullopt;
   return StockLists{slow.taken(), low.taken()};
-}
-
-std::string goodsName(Connection& shop, const std::string& code) {
-  Rows row = shop.query("select f_spmc from spda where f_spbm = ?", code);
-  return row.next() ? row.text("f_spmc") : std::string();
 }

@@ -10,7 +10,7 @@
 #include "base/Currency.h"
 #include "takings/Sums.h"
 
-class Connection;
+class TakingsSource;
 
 /// Goods that the report names because of what is in stock. Quantities are in stock units.
 struct StockedGoods {
@@ -38,9 +38,6 @@ using GoodsByCode = std::unordered_map<std::string, GoodsSums>;
 
 /// Goes through the shop's goods once and lists those that did not move, and those whose stock is
 /// below the limit; `most` of each. Nothing when it was stopped. Throws StoreError, Overflow.
-[[nodiscard]] std::optional<StockLists> readStockLists(Connection& shop, const GoodsByCode& sold,
+[[nodiscard]] std::optional<StockLists> readStockLists(TakingsSource& shop, const GoodsByCode& sold,
                                                        double limit, std::size_t most,
                                                        const std::function<bool()>& goOn);
-
-/// What the shop's goods are called by now; empty for an item that is no longer among them.
-std::string goodsName(Connection& shop, const std::string& code);

@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "base/NumberText.h"
+#include "takings/TakingsSource.h"
 
 namespace {
 
@@ -62,8 +63,8 @@ GoodsSums allOf(const Map& map) {
 }
 
 /// The name that the shop's goods have by now, else the one of the books.
-std::string nameOf(Connection& shop, const std::string& code, const std::string& inBooks) {
-  const std::string name = goodsName(shop, code);
+std::string nameOf(TakingsSource& shop, const std::string& code, const std::string& inBooks) {
+  const std::string name = shop.goodsName(code);
   return name.empty() ? inBooks : name;
 }
 
@@ -104,7 +105,7 @@ ReportSection categorySection(const Takings& takings) {
   return section;
 }
 
-ReportSection goodsSection(Connection& shop, const GoodsByCode& goods, std::size_t most) {
+ReportSection goodsSection(TakingsSource& shop, const GoodsByCode& goods, std::size_t most) {
   GoodsByCode sold;
   for (const auto& [code, sums] : goods) {
     if (sums.lines > 0) sold[code] = sums;
@@ -126,7 +127,7 @@ ReportSection goodsSection(Connection& shop, const GoodsByCode& goods, std::size
   return section;
 }
 
-ReportSection returnSection(Connection& shop, const Takings& takings, std::size_t most) {
+ReportSection returnSection(TakingsSource& shop, const Takings& takings, std::size_t most) {
   const auto first =
       largest(takings.returned, most, [](const ReturnSums& sums) { return sums.refunded; });
   ReportSection section{"退货",

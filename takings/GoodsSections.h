@@ -8,7 +8,7 @@
 GoodsByCode byCode(const Takings& takings);
 
 ReportSection categorySection(const Takings& takings);
-ReportSection goodsSection(Connection& shop, const GoodsByCode& goods, std::size_t most);
-ReportSection returnSection(Connection& shop, const Takings& takings, std::size_t most);
+ReportSection goodsSection(TakingsSource& shop, const GoodsByCode& goods, std::size_t most);
+ReportSection returnSection(TakingsSource& shop, const Takings& takings, std::size_t most);
 ReportSection slowSection(const StockedList& slow, const Date& from, const Date& to);
 ReportSection lowSection(const StockedList& low, double limit);

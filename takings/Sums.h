@@ -79,6 +79,7 @@ struct Takings {
   std::map<Date, BillSums> byDay;
   std::map<int, BillSums> byHour;
   std::map<std::int64_t, BillSums> byOperator;  ///< by number
+  std::map<std::int64_t, BillSums> byTill;      ///< by number, of a shop of several tills
   std::map<Tender, TenderSums> byTender;
   std::unordered_map<SoldAs, GoodsSums, SoldAsHash> sold;
   std::unordered_map<std::string, ReturnSums> returned;  ///< by code in lower case

@@ -4,29 +4,21 @@
 #include <utility>
 
 #include "base/Failure.h"
-#include "saleslib/ClsSysParam.h"
 #include "store/Connection.h"
 #include "store/Snapshot.h"
 #include "takings/GoodsReading.h"
 #include "takings/GoodsSections.h"
+#include "takings/TakingsSource.h"
 #include "takings/TimeSections.h"
 
 namespace {
 
 constexpr double kPartOfBills = 0.9;
 
-std::map<std::int64_t, std::string> operatorNames(Connection& shop) {
-  std::map<std::int64_t, std::string> names;
-  Rows rows = shop.query("select id, name from operators");
-  while (rows.next()) names[rows.whole("id").value()] = rows.text("name");
-  return names;
-}
-
-std::vector<std::string> heading(Connection& shop, const ReportTerms& terms, const DateTime& now) {
-  ClsSysParam parameters;
-  parameters.Conn(shop);
+std::vector<std::string> heading(TakingsSource& shop, const ReportTerms& terms,
+                                 const DateTime& now) {
   std::vector<std::string> lines;
-  if (!parameters.ShopName().empty()) lines.push_back(parameters.ShopName());
+  if (const std::string name = shop.shopName(); !name.empty()) lines.push_back(name);
   lines.push_back(dateText(terms.from) + " 至 " + dateText(terms.to));
   lines.push_back("制表时间：" + generalText(now));
   return lines;
@@ -36,8 +28,14 @@ std::vector<std::string> heading(Connection& shop, const ReportTerms& terms, con
 
 std::optional<Report> takingsReport(Connection& shop, const ReportTerms& terms, const DateTime& now,
                                     const ReportProgress& goOn) {
-  ensure(terms.from <= terms.to, "a period does not end before it begins");
   const Snapshot oneState(shop);
+  FileTakings file(shop);
+  return takingsReport(file, terms, now, goOn);
+}
+
+std::optional<Report> takingsReport(TakingsSource& shop, const ReportTerms& terms,
+                                    const DateTime& now, const ReportProgress& goOn) {
+  ensure(terms.from <= terms.to, "a period does not end before it begins");
   const Date slowFrom = terms.slowDays ? plusDays(terms.to, 1 - *terms.slowDays) : terms.from;
   const std::optional<Takings> takings =
       readTakings(shop, {terms.from, terms.to, slowFrom},
@@ -53,11 +51,12 @@ std::optional<Report> takingsReport(Connection& shop, const ReportTerms& terms, 
     makeTextsSound(section);
     report.sections.push_back(std::move(section));
   };
-  const auto names = operatorNames(shop);
+  const auto names = shop.operatorNames();
   add(summarySection(*takings));
   if (isLongerThanAMonth(*takings)) add(monthSection(*takings));
   add(daySection(*takings));
   add(hourSection(*takings));
+  if (shop.hasTills()) add(tillSection(*takings));
   add(operatorSection(*takings, names));
   add(categorySection(*takings));
   add(goodsSection(shop, goods, terms.mostGoods));

@@ -8,6 +8,7 @@
 #include "takings/Report.h"
 
 class Connection;
+class TakingsSource;
 
 /// What the owner asks.
 struct ReportTerms {
@@ -24,4 +25,8 @@ struct ReportTerms {
 /// one state of the data file, however much the till writes meanwhile. Memory grows with goods,
 /// days and operators, not with bills. Nothing when it was stopped. Throws StoreError, Overflow.
 [[nodiscard]] std::optional<Report> takingsReport(Connection& shop, const ReportTerms& terms,
+                                                  const DateTime& now, const ReportProgress& goOn);
+/// The same of another source, whose state stays the same meanwhile; with the takings by till where
+/// it tells them.
+[[nodiscard]] std::optional<Report> takingsReport(TakingsSource& shop, const ReportTerms& terms,
                                                   const DateTime& now, const ReportProgress& goOn);

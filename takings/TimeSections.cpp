@@ -113,6 +113,11 @@ ReportSection hourSection(const Takings& takings) {
   return takingsSection("按时段", "时段", takings.byHour, takings.all, hourText);
 }
 
+ReportSection tillSection(const Takings& takings) {
+  return takingsSection("按收银机", "机号", takings.byTill, takings.all,
+                        [](std::int64_t till) { return std::to_string(till); });
+}
+
 ReportSection operatorSection(const Takings& takings, const Names& names) {
   ReportSection section = takingsSection("按操作员", "操作员", takings.byOperator, takings.all,
                                          [&](std::int64_t who) { return nameOf(who, names); });

@@ -15,6 +15,7 @@ bool isLongerThanAMonth(const Takings& takings);
 ReportSection monthSection(const Takings& takings);
 ReportSection daySection(const Takings& takings);
 ReportSection hourSection(const Takings& takings);
+ReportSection tillSection(const Takings& takings);
 /// `names` by number.
 ReportSection operatorSection(const Takings& takings,
                               const std::map<std::int64_t, std::string>& names);

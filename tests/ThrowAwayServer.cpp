@@ -78,6 +78,20 @@ ThrowAwayServer::ThrowAwayServer(Reach reach) : hasPort_(reach == Reach::kPort) 
   makeEmpty();
 }
 
+ThrowAwayServer::ThrowAwayServer(StandbyOf other) : hasPort_(false) {
+  if (geteuid() == 0 && chown(folder().c_str(), 65534, 65534) != 0)
+    throw std::runtime_error("cannot give the folder away");
+  run(programFolder() + "pg_basebackup --checkpoint=fast --no-sync --write-recovery-conf -U owner" +
+      " -h " + other.first.folder().string() + " -p " + std::to_string(other.first.port()) +
+      " -D " + data());
+  set("unix_socket_directories = '" + folder().string() + "'");
+  start();
+}
+
+void ThrowAwayServer::reload() {
+  run(programFolder() + "pg_ctl reload -D " + data());
+}
+
 void ThrowAwayServer::makeEmpty() {
   line_.reset();
   LineParameters parameters = owner();

@@ -16,6 +16,11 @@ class ThrowAwayServer {
 
   /// Throws std::runtime_error when there is none on this machine or it does not start.
   explicit ThrowAwayServer(Reach reach = Reach::kSocket);
+  /// One that repeats what the other writes, from now on; that one sends it everything.
+  struct StandbyOf {
+    const ThrowAwayServer& first;
+  };
+  explicit ThrowAwayServer(StandbyOf other);
   ~ThrowAwayServer();
   ThrowAwayServer(const ThrowAwayServer&) = delete;
   ThrowAwayServer& operator=(const ThrowAwayServer&) = delete;
@@ -30,6 +35,8 @@ class ThrowAwayServer {
   /// Its database, without anything in it.
   void makeEmpty();
   void start();
+  /// Reads its settings anew.
+  void reload();
   void stop();
   /// Ends all of its processes at once, as a power cut does.
   void kill();

@@ -5,10 +5,13 @@
 #include "base/Words.h"
 #include "store/Connection.h"
 
-void DataFileOptions::addTo(CLI::App& command) {
-  command.add_option(Words::tr("数据文件"), path, Words::tr("店里的数据文件，例如 data/POS.mdb"))
-      ->required();
+CLI::Option* DataFileOptions::addTo(CLI::App& command) {
+  CLI::Option* file =
+      command
+          .add_option(Words::tr("数据文件"), path, Words::tr("店里的数据文件，例如 data/POS.mdb"))
+          ->required();
   addPasswordTo(command);
+  return file;
 }
 
 void DataFileOptions::addPasswordTo(CLI::App& command) {

@@ -8,7 +8,8 @@
 
 namespace CLI {
 class App;
-}
+class Option;
+}  // namespace CLI
 class Connection;
 
 /// What every command takes: the data file as its first argument, and the file's password.
@@ -17,7 +18,8 @@ struct DataFileOptions {
   std::string password = kBuiltInPassword;
   bool asks = false;
 
-  void addTo(CLI::App& command);
+  /// The file's own option, which is required.
+  CLI::Option* addTo(CLI::App& command);
   /// The password alone, for a command that finds the data file among other words.
   void addPasswordTo(CLI::App& command);
   /// Asks for the password when it is to be asked for; before any other of the command's passwords.

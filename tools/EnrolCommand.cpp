@@ -5,10 +5,8 @@
 #include <string>
 
 #include "base/Words.h"
-#include "link/ServerLine.h"
 #include "saleslib/ShopLink.h"
-#include "server/ShopServer.h"
-#include "shop/Refusal.h"
+#include "server/Joining.h"
 #include "store/Connection.h"
 #include "store/DataFileLock.h"
 #include "tools/DataFileOptions.h"
@@ -17,35 +15,22 @@ namespace {
 
 struct Options {
   DataFileOptions file;
-  std::string host, code, database = "till";
-  int port = 5432;
+  JoinRequest request;
 };
 
-// The server knows the new password before the file does: whoever is cut short in between asks for
-// another code, and nothing was written here.
 void enrol(const Options& options, Console& console) {
-  const std::optional<JoinCode> code = JoinCode::parse(options.code);
-  if (!code) throw Refusal(Words::tr("加入码有 20 个字符，写的不是：%1", options.code));
   const DataSource source = options.file.source(console);
   const DataFileLock closed(source.path);
   const std::unique_ptr<Connection> connection = DataFileOptions::open(source, console);
-  ServerLine line(joiningParameters({.host = options.host,
-                                     .port = options.port,
-                                     .database = options.database,
-                                     .user = "till_" + std::to_string(code->till),
-                                     .password = code->secret}));
-  const std::string password = drawPassword();
-  const ShopServer::Joined joined = ShopServer::enrol(line, code->till, password);
-  joinShop(*connection,
-           {.till = code->till,
-            .epoch = joined.epoch,
-            .host = options.host,
-            .port = options.port,
-            .database = options.database,
-            .password = password,
-            .authority = joined.authority},
-           joined.highestBill);
-  console.out << Words::tr("这台收银机加入了店铺，机号 %1。", code->till) << '\n';
+  if (options.request.code.empty()) {
+    moveServer(*connection, options.request.host);
+    console.out << Words::tr("服务器的地址改成了 %1。", options.request.host) << '\n';
+    return;
+  }
+  requireJoinable(*connection);
+  const JoinedShop joined = joinAtServer(options.request);
+  joinShop(*connection, joined.link, joined.highestBill);
+  console.out << Words::tr("这台收银机加入了店铺，机号 %1。", joined.link.till) << '\n';
 }
 
 }  // namespace
@@ -56,13 +41,15 @@ void addEnrolCommand(CLI::App& app, Console& console) {
   const auto options = std::make_shared<Options>();
   options->file.addTo(*command);
   command
-      ->add_option(Words::tr("服务器"), options->host,
-                   Words::tr("服务器的名称或地址，和它的证书上写的一样"))
+      ->add_option(
+          Words::tr("服务器"), options->request.host,
+          Words::tr("服务器的名称或地址，和它的证书上写的一样；有备机的写两个，用逗号隔开"))
       ->required();
-  command
-      ->add_option(Words::tr("加入码"), options->code, Words::tr("tilladmin shop add-till 给出的"))
-      ->required();
-  command->add_option("--port", options->port, Words::tr("服务器的端口，一般是 5432"));
-  command->add_option("--database", options->database, Words::tr("服务器上的数据库，一般是 till"));
+  command->add_option(
+      Words::tr("加入码"), options->request.code,
+      Words::tr("tilladmin shop add-till 给出的；已经加入的不写，只改服务器的地址"));
+  command->add_option("--port", options->request.port, Words::tr("服务器的端口，一般是 5432"));
+  command->add_option("--database", options->request.database,
+                      Words::tr("服务器上的数据库，一般是 till"));
   command->callback([options, &console] { enrol(*options, console); });
 }

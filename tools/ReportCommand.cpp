@@ -8,13 +8,16 @@
 #include <string>
 
 #include "base/Words.h"
+#include "link/ServerLine.h"
 #include "saleslib/Journal.h"
+#include "saleslib/ShopLink.h"
 #include "shop/Refusal.h"
 #include "store/Connection.h"
 #include "takings/ReportFile.h"
 #include "takings/TakingsReport.h"
 #include "tools/DataFileOptions.h"
 #include "tools/ParserTexts.h"
+#include "tools/ServerTakings.h"
 
 namespace {
 
@@ -26,6 +29,8 @@ constexpr const char* kStandardOutput = "-";
 
 struct Options {
   DataFileOptions file;
+  std::string server;
+  std::optional<int> till;
   std::string from, to, out;
   std::string format = "text";
   std::optional<int> slowDays;
@@ -87,10 +92,14 @@ ReportProgress progressOn(Console& console) {
   };
 }
 
-void report(const Options& options, Console& console) {
-  const ReportTerms terms = termsOf(options, console.clock().date);
-  const ReportFormat format = formatOf(options.format);
-  const std::string target = targetOf(options, terms, format);
+Report reportOfServer(const Options& options, const ReportTerms& terms, Console& console) {
+  ServerLine line({{"dbname", options.server}});
+  ServerTakings shop(line, options.till);
+  return takingsReport(shop, terms, console.clock(), progressOn(console)).value();
+}
+
+Report reportOfFile(const Options& options, const ReportTerms& terms, const std::string& target,
+                    Console& console) {
   const std::unique_ptr<Connection> connection = options.file.open(console);
   std::error_code ignored;
   if (fs::equivalent(connection->source().path, target, ignored)) {
@@ -99,10 +108,19 @@ void report(const Options& options, Console& console) {
   Journal(*connection)
       .note(EntryKind::kReported, {},
             {{"from", dateText(terms.from)}, {"to", dateText(terms.to)}, {"file", target}});
-  const std::optional<Report> made =
-      takingsReport(*connection, terms, console.clock(), progressOn(console));
-  if (target == kStandardOutput) return print(made.value(), format, console);
-  writeReport(target, made.value(), format);
+  return takingsReport(*connection, terms, console.clock(), progressOn(console)).value();
+}
+
+void report(const Options& options, Console& console) {
+  if (options.file.path.empty() == options.server.empty())
+    throw Refusal(Words::tr("请写明数据文件，或者用 --server 写明服务器，两样写一样。"));
+  const ReportTerms terms = termsOf(options, console.clock().date);
+  const ReportFormat format = formatOf(options.format);
+  const std::string target = targetOf(options, terms, format);
+  const Report made = options.server.empty() ? reportOfFile(options, terms, target, console)
+                                             : reportOfServer(options, terms, console);
+  if (target == kStandardOutput) return print(made, format, console);
+  writeReport(target, made, format);
   console.out << Words::tr("已写到 %1", target) << '\n';
 }
 
@@ -113,7 +131,13 @@ void addReportCommand(CLI::App& app, Console& console) {
       app.add_subcommand("report", Words::tr("经营报表：按日、时段、操作员、分类和商品的营业额和毛"
                                              "利，付款方式，折扣，退货，没有动销和库存不足的商品"));
   const auto options = std::make_shared<Options>();
-  options->file.addTo(*command);
+  options->file.addTo(*command)->required(false);
+  CLI::Option* server = command->add_option(
+      "--server", options->server,
+      Words::tr("不看一个数据文件，看服务器上全店的账，例如 \"dbname=till\"；怎样连和 shop 一样"));
+  command->add_option("--till", options->till, Words::tr("只看服务器上这台收银机的账"))
+      ->check(wholeNumber(1, kMostTills))
+      ->needs(server);
   command->add_option("--from", options->from, Words::tr("从哪天起；不写从本月一日起"));
   command->add_option("--to", options->to, Words::tr("到哪天止（含这一天）；不写到今天"));
   command

@@ -21,7 +21,7 @@ struct Options {
   std::string server = "dbname=till";
   std::string authority;
   int till = 0;
-  bool again = false, rebuild = false;
+  bool again = false, rebuild = false, firstIsOff = false, mayLose = false;
 
   ServerLine line() const { return ServerLine({{"dbname", server}}); }
 };
@@ -39,6 +39,45 @@ void init(const Options& options, Console& console) {
   const int steps = ShopServer(line).init(fileText(options.authority));
   console.out << (steps > 0 ? Words::tr("服务器上的店铺已建好（%1 步）", steps)
                             : Words::tr("服务器上的店铺已是最新的"))
+              << '\n';
+}
+
+void upgrade(const Options& options, Console& console) {
+  ServerLine line = options.line();
+  const ShopServer::Steps steps = ShopServer(line).upgrade();
+  console.out << (steps.before == steps.after
+                      ? Words::tr("服务器上的店铺已是最新的")
+                      : Words::tr("服务器上的店铺从第 %1 步升级到第 %2 步，账表已按记录重新做好",
+                                  steps.before, steps.after))
+              << '\n';
+}
+
+// What can be seen from here is refused; that the first server never writes again, nobody here
+// sees.
+void promote(const Options& options, Console& console) {
+  ServerLine line = options.line();
+  ShopServer server(line);
+  const ShopServer::Standby found = server.standby();
+  if (!found.isStandby) throw Refusal(Words::tr("这不是备机：它已经是主服务器。"));
+  if (found.hearsFirst)
+    throw Refusal(Words::tr("主服务器还在运行，还在向这台备机传。要切换，先关掉主服务器。"));
+  console.out << Words::tr("备机收到的最后一笔：%1",
+                           found.lastRepeated.empty() ? "-" : found.lastRepeated)
+              << '\n';
+  if (!found.wasAwaited && !options.mayLose) {
+    throw Refusal(
+        Words::tr("主服务器没有等这台备机（synchronous_standby_names 没有设），它答应过的账这里可能"
+                  "没有。各台会补传自己的账，服务器上改过的不会回来。仍要切换，加 --may-lose。"));
+  }
+  if (!options.firstIsOff) {
+    throw Refusal(
+        Words::tr("原来的主服务器必须关着，以后也不能再当服务器开：两台都收账，账就分开了。确认它关"
+                  "了，再加 --first-is-off。"));
+  }
+  server.promote();
+  console.out << Words::tr(
+                     "备机已经是主服务器。各台收银机加入时写过两个地址的，自己会找到它；没有写的"
+                     "，在各台用 tilladmin enrol 加数据文件和新地址。")
               << '\n';
 }
 
@@ -114,10 +153,19 @@ void addShopCommand(CLI::App& app, Console& console, int& exitCode) {
         ->check(wholeNumber(1, kMostTills));
     return added;
   };
-  CLI::App* making = command("init", Words::tr("建店，或者升级到这个版本"));
+  CLI::App* making = command("init", Words::tr("建店"));
   making->add_option("--authority", options->authority,
                      Words::tr("店铺自己的证书（PEM 文件），收银机凭它认服务器"));
   making->callback([options, &console] { init(*options, console); });
+  command("upgrade", Words::tr("装了新版本的程序以后，把服务器上的店铺升级到这个版本"))
+      ->callback([options, &console] { upgrade(*options, console); });
+  CLI::App* promoting =
+      command("promote", Words::tr("主服务器坏了：让这台备机当主服务器（在备机上执行）"));
+  promoting->add_flag("--first-is-off", options->firstIsOff,
+                      Words::tr("确认原来的主服务器关着，以后也不再当服务器"));
+  promoting->add_flag("--may-lose", options->mayLose,
+                      Words::tr("主服务器没有等这台备机，也要切换"));
+  promoting->callback([options, &console] { promote(*options, console); });
   CLI::App* adding = takesTill(command("add-till", Words::tr("加一台收银机，给出它的加入码")));
   adding->add_flag("--again", options->again,
                    Words::tr("它已经加入过：换了机器或者重装，原来的那台从此不能再传"));

@@ -29,14 +29,25 @@ TEST_F(ShopTest, IsMadeAndJoinedAtTheCommandLine) {
   shop(1, "服务器没有照办", "tills");
   shop(0, "已建好", "init");
   shop(0, "已是最新", "init");
+  shop(0, "已是最新", "upgrade");
+  shop(1, "已经是主服务器", "promote --first-is-off");
   shop(1, "读不出", "init --authority ./none.crt");
   const std::string code = codeOf("2"), host = server.folder().string();
   shop(0, "2\t等它加入\t从没联系过", "tills");
   expect(1, "20 个字符", "enrol @ " + host + " ABC" + place());
-  expect(1, "连不上服务器", "enrol @ " + host + " 02000-00000-00000-00000" + place());
+  expect(1, "没有接受加入码", "enrol @ " + host + " 02000-00000-00000-00000" + place());
+  expect(1, "连不上服务器", "enrol @ ./nowhere " + code + place());
+  expect(1, "还没有加入", "enrol @ elsewhere");
+  execute(
+      "insert into shift (id, opened, opened_by, opened_name, cash_float) values (1, '2026-11-22', "
+      "1, '', 0)");
+  expect(1, "请先结班", "enrol @ " + host + " " + code + place());
+  execute("delete from shift");
   EXPECT_FALSE(shopLink(*open())) << "what was refused has written nothing";
   expect(0, "机号 2", "enrol @ " + host + " " + code + place());
   expect(0, "账目正确", "check @");
+  expect(0, "改成了 a,b", "enrol @ a,b");
+  expect(0, "", "enrol @ " + host);
   expect(1, "日志不能停", "param set @ Journal=0");
   shop(0, "已加入\t在线\t已到 0 条", "tills");
   {

@@ -1,0 +1,17 @@
+#pragma once
+
+#include <string>
+
+class Connection;
+
+/// Passwords of stored-value cards. A till of its own keeps them as they are typed; in a shop with
+/// a server, where members are at many places, they are salted hashes (libsodium's password
+/// hashing, Argon2id, 8 MiB).
+
+/// As this data file keeps it. An empty one stays empty. Throws StoreError.
+std::string keptCardPassword(Connection& connection, const std::string& typed);
+/// Whether that was typed of which the file keeps this.
+[[nodiscard]] bool isCardPassword(const std::string& kept, const std::string& typed);
+/// Makes hashes of all passwords that are none, some milliseconds each, and has the journal know
+/// the members anew. In the caller's transaction; throws StoreError.
+void hashCardPasswords(Connection& connection);

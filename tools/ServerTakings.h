@@ -1,0 +1,42 @@
+#pragma once
+
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "link/ServerLine.h"
+#include "takings/TakingsSource.h"
+
+/// The bills of all tills at a shop's server, or of one of them, in the state that they are in when
+/// this is made. It throws Failure, with the server's words.
+class ServerTakings : public TakingsSource {
+ public:
+  /// The line, logged in as the shop's owner, outlives this.
+  ServerTakings(ServerLine& line, std::optional<int> till);
+  ~ServerTakings() override;
+  ServerTakings(const ServerTakings&) = delete;
+  ServerTakings& operator=(const ServerTakings&) = delete;
+
+  [[nodiscard]] bool sold(const DateTime& from, const DateTime& until, const Taker& taker) override;
+  void returned(const DateTime& from, const DateTime& until, const Taker& taker) override;
+  [[nodiscard]] bool goods(const Taker& taker) override;
+  std::string goodsName(const std::string& code) override;
+  std::map<std::int64_t, std::string> operatorNames() override;
+  std::string shopName() override;
+  bool hasTills() const override { return true; }
+
+ private:
+  using Columns = std::vector<std::string>;
+  struct Time {
+    const char* column;
+    DateTime from, until;
+  };
+  /// The rows of the view of that time, in the order of its columns.
+  bool walk(const Columns& columns, const std::string& view, const Time& time,
+            const std::string& order, const Taker& taker);
+  bool walk(const Columns& columns, const std::string& query, const ServerAnswer::Row& values,
+            const Taker& taker);
+
+  ServerLine& line_;
+  std::optional<int> till_;
+};
