@@ -205,19 +205,21 @@ void ShopServer::followChains(Checked& found) {
   ChainCheck chains(found.faults, kMostFaults);
   const ServerAnswer epochs =
       required(line_.ask("select till, epoch, from_seq, from_hash from"
-                         " shop.epoch"));
+                         " shop.history"));
   for (const ServerAnswer::Row& row : epochs.rows) chains.addEpoch(row);
-  ServerAnswer::Row last = {"0", "0", "0"};
+  ServerAnswer::Row last = {"0", "0", "0", "0"};
   for (;;) {
     const ServerAnswer page = required(line_.ask(
-        "select till, epoch, seq, time, entry_till, operator, approver, kind, touches, body, hash"
-        " from shop.fact where (shop, till, epoch, seq) > (1, $1, $2, $3)"
+        "select shop.row_till(shop, till), epoch, seq, time, entry_till, operator, approver, kind,"
+        " touches, body, hash, shop, till"
+        " from shop.fact where (shop, till, epoch, seq) > ($1, $2, $3, $4)"
         " order by shop, till, epoch, seq limit 500",
         last, kLongPatience));
     if (page.rows.empty()) return;
     for (const ServerAnswer::Row& row : page.rows) chains.take(row);
     found.facts += static_cast<std::int64_t>(page.rows.size());
-    last.assign(page.rows.back().begin(), page.rows.back().begin() + 3);
+    const ServerAnswer::Row& row = page.rows.back();
+    last = {row.at(11), row.at(12), row.at(1), row.at(2)};
   }
 }
 
