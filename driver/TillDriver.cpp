@@ -7,6 +7,8 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include <map>
+#include <sstream>
 #include <stdexcept>
 #include <vector>
 
@@ -107,6 +109,19 @@ void TillDriver::tabTo(std::string_view control) {
     if (presses == kMostTabs) throw std::runtime_error("Tab never reaches " + std::string(control));
     key("Tab");
     sync();
+  }
+}
+
+void TillDriver::play(const std::string& script) {
+  static const std::map<char, void (TillDriver::*)(std::string_view)> kOthers = {
+      {'\'', &TillDriver::type},
+      {'=', &TillDriver::enter},
+      {'>', &TillDriver::waitFor},
+      {'@', &TillDriver::tabTo}};
+  std::istringstream words(script);
+  for (std::string word; words >> word; sync()) {
+    const auto other = kOthers.find(word.front());
+    other == kOthers.end() ? key(word) : (this->*other->second)(word.substr(1));
   }
 }
 

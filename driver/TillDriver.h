@@ -25,6 +25,9 @@ class TillDriver {
   void enter(std::string_view text);
   /// Presses Tab until that control has the keyboard.
   void tabTo(std::string_view control);
+  /// Keys by their names, one after the other, with blanks between; "'text" types it, "=text" types
+  /// it and presses Enter, ">window" waits for a window, "@control" goes there by Tab.
+  void play(const std::string& script);
   /// Waits until the keys sent so far have been delivered.
   void sync();
   /// Waits until the window of that name is the active one.

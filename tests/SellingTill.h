@@ -22,15 +22,15 @@
 #include "store/Transaction.h"
 
 /// A till without windows: the sale library at work on a data file of its own, with three goods of
-/// which a thousand are in stock and two cards with 10,000 yuan each. Its file has no password.
+/// which a thousand are in stock and two cards with 10,000 yuan each.
 class SellingTill {
  public:
   static constexpr int kStock = 1000, kBalance = 10'000;
 
   /// Makes the file where there is none.
-  explicit SellingTill(const std::filesystem::path& file)
-      : shop(std::filesystem::exists(file) ? openDataFile({file, ""})
-                                           : createDataFile({file, ""}, fill)) {
+  explicit SellingTill(const std::filesystem::path& file, const std::string& password = {})
+      : shop(std::filesystem::exists(file) ? openDataFile({file, password})
+                                           : createDataFile({file, password}, fill)) {
     shop->setUser({.number = [] { return 1; }, .clock = localTime});
     rules_.Conn(*shop);
     cashier_->Init(*shop, 1);
@@ -91,14 +91,6 @@ class SellingTill {
   std::string value(const char* query) const {
     Rows rows = shop->query(query);
     return rows.next() ? rows.text("value") : "(no row)";
-  }
-  /// What the file has in stock of the second item, as if no bill were open.
-  std::string stock() const {
-    return value(
-        "select round((select quantity from stock where spbm = 'B') + coalesce((select"
-        " sum(l.amount * ratio) from sellProducts l join sell s on s.id = l.sellId where s.state = "
-        "0"
-        " and bm = 'B'), 0), 6) as value");
   }
   std::string balance(const std::string& card) const {
     Rows rows = shop->query("select card from member where bh = ?", card);

@@ -1,8 +1,6 @@
 #include "kill/Day.h"
 
 #include <algorithm>
-#include <map>
-#include <sstream>
 #include <stdexcept>
 #include <tuple>
 
@@ -33,19 +31,8 @@ const std::string& Day::anyCard() {
   return std::next(goods_.cards().begin(), below(goods_.cards().size()))->first;
 }
 
-/// Keys by their names, one after the other; "'text" types it, "=text" types it and presses Enter,
-/// ">window" waits for a window, "@control" goes there by Tab.
 void Day::play(const std::string& script) {
-  static const std::map<char, void (TillDriver::*)(std::string_view)> kOthers = {
-      {'\'', &TillDriver::type},
-      {'=', &TillDriver::enter},
-      {'>', &TillDriver::waitFor},
-      {'@', &TillDriver::tabTo}};
-  std::istringstream words(script);
-  for (std::string word; words >> word; till_->sync()) {
-    const auto other = kOthers.find(word.front());
-    other == kOthers.end() ? till_->key(word) : (till_->*other->second)(word.substr(1));
-  }
+  till_->play(script);
 }
 
 void Day::confirm(const std::string& what, const std::string& window, Journal::Step step,

@@ -6,7 +6,39 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include <filesystem>
+#include <fstream>
 #include <stdexcept>
+
+namespace fs = std::filesystem;
+
+namespace {
+
+std::string firstLineOf(const fs::path& file) {
+  std::ifstream open(file);
+  std::string line;
+  std::getline(open, line);
+  return line;
+}
+
+/// Of a process that has not ended.
+bool isCalled(const fs::path& process, const std::string& name, const std::string& text) {
+  return firstLineOf(process / "cmdline").find(text) != std::string::npos &&
+         (name.empty() || firstLineOf(process / "comm") == name);
+}
+
+}  // namespace
+
+void killProcesses(const std::string& name, const std::string& text) {
+  for (bool found = true; found;) {
+    found = false;
+    for (const auto& process : fs::directory_iterator("/proc")) {
+      if (!isCalled(process.path(), name, text)) continue;
+      found = true;
+      ::kill(std::stoi(process.path().filename().string()), SIGKILL);
+    }
+  }
+}
 
 Process::Process(const std::vector<std::string>& words) {
   std::vector<char*> arguments;

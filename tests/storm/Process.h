@@ -5,6 +5,10 @@
 #include <string>
 #include <vector>
 
+/// Kills those of all processes whose program is called that ("": whatever it is called) and was
+/// started with words that contain the text; returns when there are none left.
+void killProcesses(const std::string& name, const std::string& text);
+
 /// A program that runs beside this one, and is killed with this object at the latest.
 class Process {
  public:

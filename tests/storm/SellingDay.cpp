@@ -1,4 +1,4 @@
-#include "storm/StormTill.h"
+#include "storm/SellingDay.h"
 
 #include <fcntl.h>
 #include <unistd.h>
@@ -17,8 +17,8 @@ const char* const kCards[] = {"8001", "8002"};
 
 /// A till that has begun its day, whose cards the server decides about.
 struct LiveTill {
-  explicit LiveTill(const std::string& file)
-      : till(file), cards(shopLink(*till.shop).value(), file, localTime) {
+  explicit LiveTill(const std::string& file, const std::string& password = {})
+      : till(file, password), cards(shopLink(*till.shop).value(), file, localTime) {
     till.cards = &cards;
     till.begin();
   }
@@ -28,12 +28,22 @@ struct LiveTill {
 
 }  // namespace
 
-void beginStormTill(const std::string& file) {
-  LiveTill begun(file);
+void beginSellingDay(const std::string& file, const std::string& password) {
+  LiveTill begun(file, password);
 }
 
-void playStormTill(const std::string& file, const std::string& shown, unsigned seed) {
-  const int paper = open(shown.c_str(), O_WRONLY | O_APPEND | O_CREAT | O_CLOEXEC, 0600);
+int openShown(const std::string& shown) {
+  return open(shown.c_str(), O_WRONLY | O_APPEND | O_CREAT | O_CLOEXEC, 0600);
+}
+
+void showBill(int paper, int number, const std::string& due) {
+  const std::string line = std::to_string(number) + " " + due + "\n";
+  if (write(paper, line.data(), line.size()) != static_cast<ssize_t>(line.size()))
+    throw std::runtime_error("the customer sees nothing");
+}
+
+void playSellingDay(const std::string& file, const std::string& shown, unsigned seed) {
+  const int paper = openShown(shown);
   std::mt19937 random(seed);
   LiveTill live(file);
   SellingTill& till = live.till;
@@ -47,8 +57,7 @@ void playStormTill(const std::string& file, const std::string& shown, unsigned s
     } else {
       const double quantity = 0.25 * static_cast<double>(1 + random() % 8);
       const auto [number, due] = till.sell(quantity, what < 5 ? kCards[random() % 2] : "");
-      const std::string line = std::to_string(number) + " " + due + "\n";
-      ensure(write(paper, line.data(), line.size()) > 0, "the customer sees it");
+      showBill(paper, number, due);
       last = number;
     }
     std::this_thread::sleep_for(std::chrono::milliseconds(random() % 20));
