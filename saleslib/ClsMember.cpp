@@ -9,6 +9,8 @@
 #include "saleslib/Fields.h"
 #include "saleslib/Journal.h"
 #include "saleslib/JournalRecords.h"
+#include "saleslib/PasswordHash.h"
+#include "saleslib/ShopLink.h"
 #include "store/Connection.h"
 #include "store/StoreError.h"
 #include "store/Transaction.h"
@@ -16,6 +18,17 @@
 namespace {
 
 constexpr std::size_t kLongestText = 100;
+
+// In a shop with several tills a card's password goes to the server: only as a hash.
+std::optional<std::string> stored(Connection& connection, const std::optional<std::string>& typed) {
+  return typed && !typed->empty() && shopLink(connection) ? passwordHash(*typed) : typed;
+}
+
+std::string hashOf(Connection& connection, std::int32_t id) {
+  Rows row = connection.query("select password from member where id = ?", id);
+  return row.next() && shopLink(connection) && isHash(row.text("password")) ? row.text("password")
+                                                                           : "";
+}
 
 }  // namespace
 
@@ -59,7 +72,10 @@ bool ClsMember::Save() {
     isNew ? insert() : update();
     Journal(*connection_)
         .note(isNew ? EntryKind::kMemberAdded : EntryKind::kMemberChanged, bh_, [&] {
-          return nlohmann::json{{"member", memberRecord(*connection_, id_)}};
+          nlohmann::json body = {{"member", memberRecord(*connection_, id_)}};
+          if (const std::string hash = hashOf(*connection_, id_); !hash.empty())
+            body["secret"] = hash;
+          return body;
         });
     saving.commit();
   } catch (const StoreError& error) {
@@ -118,7 +134,7 @@ void ClsMember::insert() {
       " discount, birthday, card, password, join_date)"
       " values (?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?)",
       bh_, name_, sex_, age_, phone_, address_, other_, enabled_, totalSpent_, points_, discount_,
-      birthday_.value, balance_.value.value_or(Currency()), password_.value.value_or(std::string()),
+      birthday_.value, balance_.value.value_or(Currency()), stored(*connection_, password_.value).value_or(std::string()),
       joined_);
   id_ = key32(key.value());
   inserted_ = connection_->writeMark();
@@ -132,7 +148,7 @@ void ClsMember::update() {
       " card = coalesce(?, card), password = coalesce(?, password) where id = ?",
       bh_, name_, sex_, age_, phone_, address_, other_, enabled_, newTotal_.unwritten(*connection_),
       newPoints_.unwritten(*connection_), discount_, birthday_.unwritten(*connection_),
-      balance_.unwritten(*connection_), password_.unwritten(*connection_), id_);
+      balance_.unwritten(*connection_), stored(*connection_, password_.unwritten(*connection_)), id_);
   if (changed == 0) throw StoreError(Words::tr("会员 %1 已被删除，没有保存！", bh_));
 }
 

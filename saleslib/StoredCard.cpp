@@ -2,6 +2,7 @@
 
 #include "base/Failure.h"
 #include "saleslib/Fields.h"
+#include "saleslib/PasswordHash.h"
 #include "store/Connection.h"
 #include "store/Literal.h"
 #include "store/Transaction.h"
@@ -22,9 +23,9 @@ StoredCard cardOf(const Row& row) {
 
 CardOutcome refusal(Connection& connection, const StoredCard& card, const std::string& password) {
   if (!card.isEnabled) return CardOutcome::kBlocked;
-  const bool isTheirs =
-      connection.query("select id from member where bh = ? and password = ?", card.number, password)
-          .next();
+  Rows row = connection.query("select password from member where bh = ?", card.number);
+  const std::string kept = row.next() ? row.text("password") : "";
+  const bool isTheirs = isHash(kept) ? passwordMatches(kept, password) : kept == password;
   return isTheirs ? CardOutcome::kDone : CardOutcome::kWrongPassword;
 }
 

@@ -81,7 +81,8 @@ Download::Outcome Download::write() {
     for (std::size_t row = written_; row < end; ++row) apply(came_.rows[row], masters);
     if (place_.isWalking) removeRest(end, placeBehind(written_), masters);
     masters.note();
-    company_ == Company::kAlone ? static_cast<void>(0) : updateFragmentIndexInSteps(connection_);
+    if (company_ == Company::kTill) updateFragmentIndexInSteps(connection_);
+    if (company_ == Company::kAlone && came_.isLast) updateFragmentIndex(connection_);
     keepDownPlace(connection_, placeBehind(end));
     writing.commit();
   }
