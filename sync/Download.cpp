@@ -37,8 +37,9 @@ Download::Download(Connection& connection, ServerLine& line, Company company)
 Download::Outcome Download::step(Moment now) try {
   if (!isWaiting_) return isWanted_ ? ask() : Outcome::kIdle;
   if (company_ == Company::kTill && now - last_ < kPause) return Outcome::kMore;
+  const Moment begun = std::chrono::steady_clock::now();
   const Outcome outcome = write();
-  last_ = std::max(now, std::chrono::steady_clock::now());
+  last_ = now + (std::chrono::steady_clock::now() - begun);
   return outcome;
 } catch (const StoreBusy&) {
   return Outcome::kMore;
