@@ -11,8 +11,6 @@
 
 namespace {
 
-constexpr const char* kHashBegins = "$argon2id$";
-
 std::string hashOf(const std::string& typed) {
   return passwordHash(typed, HashCost::kCard);
 }
@@ -24,7 +22,7 @@ std::string keptCardPassword(Connection& connection, const std::string& typed) {
 }
 
 bool isCardPassword(const std::string& kept, const std::string& typed) {
-  return kept.starts_with(kHashBegins) ? passwordMatches(kept, typed) : kept == typed;
+  return isHash(kept) ? passwordMatches(kept, typed) : kept == typed;
 }
 
 void hashCardPasswords(Connection& connection) {
@@ -32,7 +30,7 @@ void hashCardPasswords(Connection& connection) {
   Rows rows = connection.query("select id, password from member where password <> ''");
   while (rows.next()) {
     std::string password = rows.text("password");
-    if (!password.starts_with(kHashBegins))
+    if (!isHash(password))
       bare.emplace_back(rows.whole("id").value_or(0), std::move(password));
   }
   for (const auto& [member, password] : bare)

@@ -2,6 +2,8 @@
 
 #include <string>
 
+#include "saleslib/Export.h"
+
 class Connection;
 
 /// Passwords of stored-value cards. A till of its own keeps them as they are typed; in a shop with
@@ -14,4 +16,4 @@ std::string keptCardPassword(Connection& connection, const std::string& typed);
 [[nodiscard]] bool isCardPassword(const std::string& kept, const std::string& typed);
 /// Makes hashes of all passwords that are none, some milliseconds each, and has the journal know
 /// the members anew. In the caller's transaction; throws StoreError.
-void hashCardPasswords(Connection& connection);
+TESSALY_API void hashCardPasswords(Connection& connection);

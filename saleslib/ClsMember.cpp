@@ -10,6 +10,8 @@
 #include "saleslib/Fields.h"
 #include "saleslib/Journal.h"
 #include "saleslib/JournalRecords.h"
+#include "saleslib/PasswordHash.h"
+#include "saleslib/ShopLink.h"
 #include "store/Connection.h"
 #include "store/StoreError.h"
 #include "store/Transaction.h"
@@ -17,6 +19,13 @@
 namespace {
 
 constexpr std::size_t kLongestText = 100;
+
+/// What a shop's other tills check the card's password against; empty at a till of its own.
+std::string hashOf(Connection& connection, std::int32_t id) {
+  Rows row = connection.query("select password from member where id = ?", id);
+  return row.next() && shopLink(connection) && isHash(row.text("password")) ? row.text("password")
+                                                                           : "";
+}
 
 }  // namespace
 
@@ -60,7 +69,10 @@ bool ClsMember::Save() {
     isNew ? insert() : update();
     Journal(*connection_)
         .note(isNew ? EntryKind::kMemberAdded : EntryKind::kMemberChanged, bh_, [&] {
-          return nlohmann::json{{"member", memberRecord(*connection_, id_)}};
+          nlohmann::json body = {{"member", memberRecord(*connection_, id_)}};
+          if (const std::string hash = hashOf(*connection_, id_); !hash.empty())
+            body["secret"] = hash;
+          return body;
         });
     saving.commit();
   } catch (const StoreError& error) {

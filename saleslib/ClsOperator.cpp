@@ -7,6 +7,7 @@
 #include "saleslib/Journal.h"
 #include "saleslib/JournalRecords.h"
 #include "saleslib/PasswordHash.h"
+#include "saleslib/ShopLink.h"
 #include "store/Connection.h"
 #include "store/StoreError.h"
 #include "store/Transaction.h"
@@ -47,7 +48,9 @@ void ClsOperator::Save() {
   if (!found_ || edited_ || newRights_) {
     const EntryKind kind = found_ ? EntryKind::kOperatorChanged : EntryKind::kOperatorAdded;
     Journal(*connection_).note(kind, id_, [this] {
-      return nlohmann::json{{"operator", operatorRecord(*connection_, id_)}};
+      nlohmann::json body = {{"operator", operatorRecord(*connection_, id_)}};
+      if (newPasswordHash_ && shopLink(*connection_)) body["secret"] = *newPasswordHash_;
+      return body;
     });
   }
   transaction.commit();

@@ -31,7 +31,7 @@ struct Definition {
 };
 
 constexpr std::size_t kLongestText = 200;
-constexpr std::string_view kJournal = "Journal";
+constexpr std::string_view kJournal = "Journal", kGoodsImport = "GoodsImport";
 
 std::optional<std::string> readText(std::string_view text) {
   if (hasControlCharacter(text) || characters(text) > kLongestText) return std::nullopt;
@@ -163,6 +163,8 @@ std::string ClsSysParam::set(std::string_view name, std::string_view value) {
   const std::optional<std::string> kept = definition->kind->read(value);
   if (definition->name == kJournal && kept == "0" && shopLink(*connection_))
     return Words::tr("这台收银机连着店铺的服务器，日志不能停。");
+  if (definition->name == kGoodsImport && kept == "1" && shopLink(*connection_))
+    return Words::tr("这台收银机连着店铺的服务器，商品从办公室来。");
   const std::string before = this->value(definition->name);
   Transaction transaction(*connection_);
   const std::int64_t known =

@@ -15,6 +15,10 @@ namespace {
 
 using Json = nlohmann::json;
 
+// What came down from a shop's server of the others' stock is not this till's to tell.
+constexpr const char* kOwnStock =
+    "select spbm, round(quantity - coalesce((select amount from down_others where tbl = 'stock'"
+    " and key = spbm), 0), 6) as quantity from stock";
 constexpr std::size_t kItemsAtOnce = 500;
 constexpr std::size_t kRowsAtOnce = 50;
 constexpr std::size_t kBillsAtOnce = 200;
@@ -84,7 +88,7 @@ std::string JournalBase::quantityText(const std::string& item, double inStock) c
 
 void JournalBase::stateStock() const {
   Json stock = Json::object();
-  Rows rows = connection_.query("select spbm, quantity from stock");
+  Rows rows = connection_.query(kOwnStock);
   while (rows.next()) {
     const std::string item = rows.text("spbm");
     stock[item] = quantityText(item, rows.number("quantity").value_or(0));
@@ -98,7 +102,7 @@ void JournalBase::noteStock(const std::vector<std::string>& items) const {
   if (!Journal(connection_).isOn()) return;
   Json stock = Json::object();
   for (const std::string& item : items) {
-    Rows row = connection_.query("select spbm, quantity from stock where spbm = ?", item);
+    Rows row = connection_.query((std::string(kOwnStock) + " where spbm = ?").c_str(), item);
     if (!row.next()) continue;
     stock[row.text("spbm")] = quantityText(item, row.number("quantity").value_or(0));
     if (stock.size() < kItemsAtOnce) continue;

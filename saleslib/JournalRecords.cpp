@@ -65,11 +65,16 @@ nlohmann::json topUpRecord(Connection& connection, std::int64_t id) {
 }
 
 nlohmann::json memberRecord(Connection& connection, std::int64_t id) {
-  Rows row = connection.query("select * from member where id = ?", id);
+  Rows row = connection.query(
+      "select *, round(card - coalesce((select amount from down_others where tbl = 'card'"
+      " and key = bh), 0), 4) as own_card from member where id = ?",
+      id);
   if (!row.next()) return {};
-  Json member = recordOf(
-      row, {"id", "bh", "name", "hyzklb", "sex", "age", "phone", "address", "other", "enabled",
-            "discount", "birthday", "join_date", "card", "total_spent", "points"});
+  Json member =
+      recordOf(row, {"id", "bh", "name", "hyzklb", "sex", "age", "phone", "address", "other",
+                     "enabled", "discount", "birthday", "join_date", "total_spent", "points"});
+  const std::string card = row.text("own_card");
+  if (!card.empty() && card != "0") member["card"] = card;
   addMark(member, row);
   return member;
 }

@@ -53,7 +53,8 @@ void joinShop(Connection& connection, const ShopLink& link, std::int64_t highest
   hashCardPasswords(connection);
   ClsSysParam parameters;
   parameters.Conn(connection);
-  const std::string refused = Journal(connection).isOn() ? "" : parameters.set("Journal", "1");
+  std::string refused = Journal(connection).isOn() ? "" : parameters.set("Journal", "1");
+  if (refused.empty() && parameters.GoodsImport()) refused = parameters.set("GoodsImport", "0");
   if (!refused.empty()) throw StoreError(refused);
   joining.commit();
 }

@@ -163,8 +163,8 @@ begin
   if f.kind in ('member_added', 'member_changed') then
     perform shop.change_member(body->'member', body->>'secret');
   elsif f.kind in ('operator_added', 'operator_changed') and body->>'secret' is not null then
-    update shop.change c set body = c.body || jsonb_build_object('password', apply.body->>'secret')
-      where c.tbl = 'operators' and c.key = apply.body->'operator'->>'id' and c.body is not null;
+    update shop.change c set body = c.body || jsonb_build_object('password', f.body::jsonb->>'secret')
+      where c.tbl = 'operators' and c.key = f.touches and c.body is not null;
   end if;
 end $$;
 

@@ -7,9 +7,11 @@
 #include "base/Failure.h"
 #include "base/Words.h"
 #include "link/ServerLine.h"
+#include "saleslib/CardPassword.h"
 #include "saleslib/MasterTables.h"
 #include "saleslib/ShopLink.h"
 #include "store/Connection.h"
+#include "store/Transaction.h"
 
 namespace {
 
@@ -59,6 +61,13 @@ void sendTable(Connection& office, const MasterTable& table, Sending& sending) {
   }
 }
 
+// Once and for all: a hash made anew each time would be news to every till.
+void hashPasswords(Connection& office) {
+  Transaction hashing(office);
+  hashCardPasswords(office);
+  hashing.commit();
+}
+
 }  // namespace
 
 Published publish(ServerLine& line, Connection& office, const PublishProgress& progress) {
@@ -67,6 +76,7 @@ Published publish(ServerLine& line, Connection& office, const PublishProgress& p
         Words::tr("这是一台收银机的数据文件。请用办公室的数据文件：不加入店铺，商品、会员和操作员都"
                   "在里面。"));
   }
+  hashPasswords(office);
   required(
       line.run("begin; create temporary table incoming (tbl text collate \"C\","
                " key text collate \"C\", body jsonb, primary key (tbl, key)) on commit drop",

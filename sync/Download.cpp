@@ -37,8 +37,9 @@ Download::Download(Connection& connection, ServerLine& line, Company company)
 Download::Outcome Download::step(Moment now) try {
   if (!isWaiting_) return isWanted_ ? ask() : Outcome::kIdle;
   if (company_ == Company::kTill && now - last_ < kPause) return Outcome::kMore;
+  const Moment begun = std::chrono::steady_clock::now();
   const Outcome outcome = write();
-  last_ = std::max(now, std::chrono::steady_clock::now());
+  last_ = now + (std::chrono::steady_clock::now() - begun);
   return outcome;
 } catch (const StoreBusy&) {
   return Outcome::kMore;
@@ -81,7 +82,8 @@ Download::Outcome Download::write() {
     for (std::size_t row = written_; row < end; ++row) apply(came_.rows[row], masters);
     if (place_.isWalking) removeRest(end, placeBehind(written_), masters);
     masters.note();
-    company_ == Company::kAlone ? static_cast<void>(0) : updateFragmentIndexInSteps(connection_);
+    if (company_ == Company::kTill) updateFragmentIndexInSteps(connection_);
+    if (company_ == Company::kAlone && came_.isLast) updateFragmentIndex(connection_);
     keepDownPlace(connection_, placeBehind(end));
     writing.commit();
   }

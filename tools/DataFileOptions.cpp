@@ -3,6 +3,8 @@
 #include <CLI/CLI.hpp>
 
 #include "base/Words.h"
+#include "saleslib/ShopLink.h"
+#include "shop/Refusal.h"
 #include "store/Connection.h"
 
 CLI::Option* DataFileOptions::addTo(CLI::App& command) {
@@ -33,6 +35,19 @@ DataSource DataFileOptions::newSource(Console& console) const {
 
 std::unique_ptr<Connection> DataFileOptions::open(Console& console) const {
   return open(source(console), console);
+}
+
+std::unique_ptr<Connection> DataFileOptions::openOffice(Console& console) const {
+  std::unique_ptr<Connection> connection = open(console);
+  requireOffice(*connection);
+  return connection;
+}
+
+void DataFileOptions::requireOffice(Connection& connection) {
+  if (!shopLink(connection)) return;
+  throw Refusal(Words::tr(
+      "这是连着服务器的收银机。商品、会员、操作员和店铺参数在办公室的数据文件里改，再用 tilladmin "
+      "shop publish 发到各台收银机。"));
 }
 
 std::unique_ptr<Connection> DataFileOptions::open(const DataSource& source, Console& console) {

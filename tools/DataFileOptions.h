@@ -28,5 +28,9 @@ struct DataFileOptions {
   DataSource newSource(Console& console) const;
   /// Opens the file for the owner's tool, who writes at the console's time. Throws StoreError.
   std::unique_ptr<Connection> open(Console& console) const;
+  /// The same for a command that changes what a shop with a server publishes: refused in a file
+  /// that belongs to one of its tills.
+  std::unique_ptr<Connection> openOffice(Console& console) const;
+  static void requireOffice(Connection& connection);
   static std::unique_ptr<Connection> open(const DataSource& source, Console& console);
 };

@@ -9,14 +9,36 @@
 #include "server/Joining.h"
 #include "store/Connection.h"
 #include "store/DataFileLock.h"
+#include "sync/Download.h"
+#include "sync/TillLine.h"
 #include "tools/DataFileOptions.h"
 
 namespace {
+
+constexpr std::size_t kRowsPerProgress = 50'000;
 
 struct Options {
   DataFileOptions file;
   JoinRequest request;
 };
+
+// What does not come now, tillsync fetches beside the till.
+void fetchAll(Connection& connection, Console& console) {
+  TillLine server(shopLink(connection).value());
+  Download download(connection, server.line(), Download::Company::kAlone);
+  Download::Outcome outcome = Download::Outcome::kMore;
+  for (std::size_t told = 0; outcome == Download::Outcome::kMore;) {
+    outcome = download.step();
+    if (download.rows() < told + kRowsPerProgress) continue;
+    told = download.rows();
+    console.err << Words::tr("已取 %1 行", told) << std::endl;
+  }
+  console.out
+      << (outcome == Download::Outcome::kIdle
+              ? Words::tr("店铺的商品、会员、操作员和参数已取来（%1 行）。", download.rows())
+              : Words::tr("店铺的商品还没有取全（%1）；打开收银程序后接着取。", download.fault()))
+      << '\n';
+}
 
 void enrol(const Options& options, Console& console) {
   const DataSource source = options.file.source(console);
@@ -31,6 +53,7 @@ void enrol(const Options& options, Console& console) {
   const JoinedShop joined = joinAtServer(options.request);
   joinShop(*connection, joined.link, joined.highestBill);
   console.out << Words::tr("这台收银机加入了店铺，机号 %1。", joined.link.till) << '\n';
+  fetchAll(*connection, console);
 }
 
 }  // namespace

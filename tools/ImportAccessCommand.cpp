@@ -95,7 +95,7 @@ void importAccess(const Options& options, Console& console) {
   const AccessPlan plan = planned(file, options.choices, console.clock());
   if (options.listsOnly || options.file.path.empty()) return list(file, plan, console);
   requireComplete(plan);
-  const std::unique_ptr<Connection> connection = options.file.open(console);
+  const std::unique_ptr<Connection> connection = options.file.openOffice(console);
   TakeOver takeOver(*connection, file, plan,
                     [&console](const std::string& table, std::int64_t rows) {
                       console.err << Words::tr("%1 已读 %2 行", shown(table), rows) << std::endl;

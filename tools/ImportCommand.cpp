@@ -100,10 +100,17 @@ void print(const Imported& imported, const List& list, Console& console) {
   }
 }
 
+/// Stock that was counted is a till's own news: it goes up.
+bool isCount(const std::vector<List>& lists) {
+  return std::ranges::all_of(
+      lists, [](const List& list) { return equalIgnoringCase(list.table, "stock"); });
+}
+
 void importTables(const Options& options, Console& console) {
   const std::vector<List> lists = listsOf(options);
   for (const List& list : lists) opened(list.csv);  // before the first is read for minutes
   const std::unique_ptr<Connection> connection = options.file.open(console);
+  if (!isCount(lists)) DataFileOptions::requireOffice(*connection);
   Transaction all(*connection);
   std::vector<Imported> done;
   for (const List& list : lists) done.push_back(importList(*connection, list, options, console));
@@ -118,7 +125,7 @@ int importSheet(const Options& options, Console& console) {
     throw Refusal(Words::tr("商品表一次导入一个文件；几个文件要各配一个 --table。"));
   GoodsImportOptions goods = options.goods;
   goods.sheet = options.csvs.front();
-  const std::unique_ptr<Connection> connection = options.file.open(console);
+  const std::unique_ptr<Connection> connection = options.file.openOffice(console);
   return importGoodsSheet(*connection, goods, console);
 }
 

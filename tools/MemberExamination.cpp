@@ -6,6 +6,7 @@
 #include "base/NumberText.h"
 #include "base/Words.h"
 #include "saleslib/ClsMember.h"
+#include "saleslib/ShopLink.h"
 #include "store/Connection.h"
 #include "tools/Examination.h"
 
@@ -144,6 +145,7 @@ void examineMembers(const Examination& books) {
   examineRecords(books);
   examineNames(books);
   examinePurchases(books);
+  if (shopLink(books.connection)) return;  // other tills load and charge its cards, too
   examineBalances(books);
   examineTopUps(books);
 }

@@ -48,7 +48,7 @@ std::string rightsOf(const ClsOperator& person) {
 }
 
 void add(const Options& options, Console& console) {
-  const std::unique_ptr<Connection> connection = options.file.open(console);
+  const std::unique_ptr<Connection> connection = options.file.openOffice(console);
   addOperator(*connection, {options.number, options.name, passwordOf(options, console),
                             rightsMeant(options.rights)});
   console.out << Words::tr("已增加操作员 %1 %2", options.number, trimmed(options.name)) << '\n';
@@ -71,7 +71,7 @@ void list(const Options& options, Console& console) {
 }
 
 void changePassword(const Options& options, Console& console) {
-  const std::unique_ptr<Connection> connection = options.file.open(console);
+  const std::unique_ptr<Connection> connection = options.file.openOffice(console);
   ClsOperator person = existingOperator(*connection, options.number);
   person.setPassword(passwordOf(options, console));
   person.Save();
@@ -81,7 +81,7 @@ void changePassword(const Options& options, Console& console) {
 void changeRights(const Options& options, Console& console) {
   if (options.rights.empty() && options.taken.empty())
     throw Refusal(Words::tr("要给什么权限写 --give，要收回什么权限写 --take。"));
-  const std::unique_ptr<Connection> connection = options.file.open(console);
+  const std::unique_ptr<Connection> connection = options.file.openOffice(console);
   changeRights(*connection, options.number, options.rights, options.taken);
   const ClsOperator person = existingOperator(*connection, options.number);
   console.out << Words::tr("操作员 %1 现在的权限：%2。已经登录的，下次登录时算数。",
@@ -90,7 +90,7 @@ void changeRights(const Options& options, Console& console) {
 }
 
 void remove(const Options& options, Console& console) {
-  const std::unique_ptr<Connection> connection = options.file.open(console);
+  const std::unique_ptr<Connection> connection = options.file.openOffice(console);
   const ClsOperator person = existingOperator(*connection, options.number);
   removeOperator(*connection, options.number);
   console.out << Words::tr("已删除操作员 %1", shownName(options, person)) << '\n';

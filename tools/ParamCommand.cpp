@@ -8,6 +8,7 @@
 
 #include "base/Words.h"
 #include "saleslib/ClsSysParam.h"
+#include "saleslib/MasterTables.h"
 #include "shop/Refusal.h"
 #include "store/Connection.h"
 #include "store/Transaction.h"
@@ -42,6 +43,10 @@ void setOne(ClsSysParam& parameters, const std::string& setting) {
 
 void set(const Options& options, Console& console) {
   const std::unique_ptr<Connection> connection = options.file.open(console);
+  for (const std::string& setting : options.settings) {
+    if (!isOfTill(setting.substr(0, setting.find('='))))
+      DataFileOptions::requireOffice(*connection);
+  }
   Transaction transaction(*connection);
   ClsSysParam parameters;
   parameters.Conn(*connection);

@@ -9,12 +9,16 @@
 #include "base/Words.h"
 #include "link/ServerLine.h"
 #include "saleslib/ShopLink.h"
+#include "server/Publishing.h"
 #include "server/ShopServer.h"
 #include "shop/Refusal.h"
+#include "store/Connection.h"
+#include "tools/DataFileOptions.h"
 #include "tools/ParserTexts.h"
 
 namespace {
 
+constexpr std::int64_t kRowsPerProgress = 50'000;
 constexpr std::int64_t kToldClockSeconds = 120;  // what a till's clock may be off unsaid
 
 struct Options {
@@ -22,6 +26,7 @@ struct Options {
   std::string authority;
   int till = 0;
   bool again = false, rebuild = false, firstIsOff = false, mayLose = false;
+  DataFileOptions file;
 
   ServerLine line() const { return ServerLine({{"dbname", server}}); }
 };
@@ -133,6 +138,17 @@ void revoke(const Options& options, Console& console) {
   console.out << Words::tr("收银机 %1 已停用；它传来的账还在。", options.till) << '\n';
 }
 
+void publish(const Options& options, Console& console) {
+  const std::unique_ptr<Connection> office = options.file.openOffice(console);
+  ServerLine line = options.line();
+  const Published done = publish(line, *office, [&console](std::int64_t rows) {
+    if (rows % kRowsPerProgress == 0) console.err << Words::tr("已送 %1 行", rows) << std::endl;
+  });
+  console.out << Words::tr("已发布：新增 %1 行，改动 %2 行，删除 %3 行；各台收银机自己来取。",
+                           done.added, done.changed, done.removed)
+              << '\n';
+}
+
 }  // namespace
 
 void addShopCommand(CLI::App& app, Console& console, int& exitCode) {
@@ -175,6 +191,15 @@ void addShopCommand(CLI::App& app, Console& console, int& exitCode) {
   CLI::App* checking = command("check", Words::tr("核对每台传来的记录和按它们做的账表"));
   checking->add_flag("--rebuild", options->rebuild, Words::tr("按记录重新做账表"));
   checking->callback([options, &console, &exitCode] { check(*options, console, exitCode); });
+  CLI::App* publishing = command(
+      "publish", Words::tr("把办公室数据文件里的商品、会员、操作员和店铺参数发到各台收银机"));
+  options->file.addTo(*publishing);
+  publishing->footer(Words::tr(
+      "办公室的数据文件是不加入店铺的一个文件：商品、会员、操作员和店铺参数都在里面，tilladmin "
+      "的命令照样用。只发上次发布以后改过的；上次发布过、现在没有的，在各台也删掉（会员是停用）。\n"
+      "不发的：库存、余额、累计消费和积分，以及各台自己的参数 "
+      "Journal、BackupOnExit、GoodsImport。"));
+  publishing->callback([options, &console] { publish(*options, console); });
   takesTill(command("revoke", Words::tr("停用一台收银机")))->callback([options, &console] {
     revoke(*options, console);
   });

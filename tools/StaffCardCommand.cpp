@@ -23,7 +23,7 @@ struct Options {
 };
 
 void run(const Options& options, Console& console) {
-  const std::unique_ptr<Connection> connection = options.file.open(console);
+  const std::unique_ptr<Connection> connection = options.file.openOffice(console);
   const ClsOperator person = existingOperator(*connection, options.number);
   const std::string shown = std::to_string(options.number) + " " + person.Name();
   if (options.removed) {

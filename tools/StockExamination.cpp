@@ -31,7 +31,9 @@ void examineNotedStock(const Examination& books, const JournalState& state) {
   std::map<std::string, double> expected = state.stock;
   for (const auto& [item, quantity] : takenByOpen(books.connection))
     expected[item] = roundedQuantity(expected[item] - quantity);
-  Rows rows = books.connection.query("select spbm, quantity from stock");
+  Rows rows = books.connection.query(
+      "select spbm, round(quantity - coalesce((select amount from down_others where tbl = 'stock'"
+      " and key = spbm), 0), 6) as quantity from stock");
   while (rows.next()) {
     const auto item = expected.find(asciiLower(rows.text("spbm")));
     const double noted = item == expected.end() ? 0 : item->second;

@@ -32,6 +32,9 @@ TEST_F(ShopTest, IsMadeAndJoinedAtTheCommandLine) {
   shop(0, "已是最新", "upgrade");
   shop(1, "已经是主服务器", "promote --first-is-off");
   shop(1, "读不出", "init --authority ./none.crt");
+  expect(0, "", "create ./office.mdb --file-password=");
+  expect(0, "", "param set ./office.mdb ShopName=小店 --file-password=");
+  shop(0, "新增 1 行，改动 0 行，删除 0 行", "publish ./office.mdb --file-password=");
   const std::string code = codeOf("2"), host = server.folder().string();
   shop(0, "2\t等它加入\t从没联系过", "tills");
   expect(1, "20 个字符", "enrol @ " + host + " ABC" + place());
@@ -45,9 +48,16 @@ TEST_F(ShopTest, IsMadeAndJoinedAtTheCommandLine) {
   execute("delete from shift");
   EXPECT_FALSE(shopLink(*open())) << "what was refused has written nothing";
   expect(0, "机号 2", "enrol @ " + host + " " + code + place());
+  EXPECT_THAT(out, HasSubstr("已取来（1 行）"));
+  EXPECT_EQ(value("select value from sys_param where name = 'ShopName'"), "小店");
   expect(0, "账目正确", "check @");
   expect(0, "改成了 a,b", "enrol @ a,b");
   expect(0, "", "enrol @ " + host);
+  write("goods.csv", "f_spbm,f_spmc\n1,茶\n");
+  for (const char* refused : {"import @ --table spda ./goods.csv", "param set @ ShopName=x",
+                              "operator add @ 1 张三 --password 1"})
+    expect(1, "shop publish", refused);
+  expect(1, "连着服务器的收银机", "shop publish @ --server " + at);
   expect(1, "日志不能停", "param set @ Journal=0");
   shop(0, "已加入\t在线\t已到 0 条", "tills");
   {
