@@ -8,6 +8,7 @@
 #include "sale/SalePart.h"
 
 class Checkout;
+struct StockOutcome;
 
 /// Bill lines and totals: what Enter does, and how lines are rung, changed and removed. That the
 /// figures fit is known before the books are written; a failure is shown and the sale goes on.

@@ -26,6 +26,12 @@ bool isOfShop(const ClsSell& bill) {
   return bill.BillNo() >= kNumbersPerTill;
 }
 
+std::string heldSince(const ClsSell& bill, const DateTime& now) {
+  if (!isOfShop(bill)) return shortTime(now);
+  const DateTime since = bill.SellTime();
+  return (since.date == now.date ? "" : dateText(since.date) + " ") + shortTime(since);
+}
+
 QString billCell(const ClsSell& bill, int column, const DateTime& now) {
   switch (column) {
     case kNumber:
@@ -35,7 +41,7 @@ QString billCell(const ClsSell& bill, int column, const DateTime& now) {
     case kAmount:
       return qtText(twoDecimals(bill.Amount()));
     default:
-      return qtText(shortTime(isOfShop(bill) ? bill.SellTime() : now));
+      return qtText(heldSince(bill, now));
   }
 }
 

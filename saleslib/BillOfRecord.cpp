@@ -30,7 +30,7 @@ class RecordRow : public Row {
 std::shared_ptr<ClsSell> read(Connection& connection, const Json& record, bool isSettled) {
   Json row = record.at("bill");
   row["state"] = isSettled ? "1" : "0";
-  const std::shared_ptr<ClsSell> bill = ClsSell::fromRow(connection, RecordRow(row));
+  std::shared_ptr<ClsSell> bill = ClsSell::fromRow(connection, RecordRow(row));
   const Currency due = bill->Amount();
   for (Json line : record.at("lines")) {
     line["sellId"] = row.at("id");

@@ -61,14 +61,13 @@ $$;
 
 alter function shop.apply(shop.fact) rename to apply_sale;
 create function shop.apply(f shop.fact) returns void language plpgsql as $$
-declare
-  body jsonb := f.body::jsonb;
 begin
   case f.kind
-    when 'return_voided' then perform shop.void_return(f, body->'back');
+    when 'return_voided' then perform shop.void_return(f, f.body::jsonb->'back');
     when 'returned_elsewhere' then
       update shop.return_asked set told = f.seq
-      where till = (body->'elsewhere'->>'till')::integer and key = body->'elsewhere'->>'key';
+      where till = (f.body::jsonb->'elsewhere'->>'till')::integer
+        and key = f.body::jsonb->'elsewhere'->>'key';
     else perform shop.apply_sale(f);
   end case;
 end $$;

@@ -46,6 +46,10 @@
         <source>没有可删除的行：已确认的商品不能单独删除，只能整单撤消。</source>
         <translation>No line can be deleted: confirmed lines can only be voided with the whole bill.</translation>
     </message>
+    <message>
+        <source>%1的库存按本机的账是 %2。现在没有联网，照卖。</source>
+        <translation>By this till&apos;s books %1 has a stock of %2. The server is away now, so it is sold all the same.</translation>
+    </message>
 </context>
 <context>
     <name>BillModel</name>
@@ -469,6 +473,18 @@ Take the payment like this?</translation>
     <message>
         <source>%1，已从本单中去掉。</source>
         <translation>%1 It was taken off this bill.</translation>
+    </message>
+    <message>
+        <source>这张挂单刚刚已被别的收银机调走。</source>
+        <translation>Another till has just taken this held bill up.</translation>
+    </message>
+    <message>
+        <source>挂着这张单的收银机没有开机或没有联网，拿不过来。</source>
+        <translation>The till that holds this bill is off or not connected: it can&apos;t be handed over.</translation>
+    </message>
+    <message>
+        <source>没有等到这张挂单。它如果稍后交过来，会列在本机的挂单里。</source>
+        <translation>The held bill did not come in time. If it comes later, it is among the held bills of this till.</translation>
     </message>
 </context>
 <context>
@@ -1367,6 +1383,12 @@ Take the payment like this?</translation>
     <message>
         <source>单据“%1”是 %2 号收银机的，请到那台收银机上退货！</source>
         <translation>Bill &quot;%1&quot; is of till %2. Take the goods back there.</translation>
+    </message>
+    <message>
+        <source>没有联网，不能退别台的单！
+单据“%1”是 %2 号收银机的，可以到那台收银机上退货。</source>
+        <translation>The server is away: goods of another till&apos;s bill can&apos;t be taken back here!
+Bill “%1” is till %2&apos;s; the goods can be taken back there.</translation>
     </message>
 </context>
 <context>
@@ -5487,6 +5509,58 @@ The questions were not all answered. Nothing was made.</translation>
         <source>这台机器没有 %1，连不上服务器。</source>
         <translation>This machine has no %1; the server cannot be reached.</translation>
     </message>
+    <message>
+        <source>服务器给的单据读不出来：%1</source>
+        <translation>The server&apos;s bill cannot be read: %1</translation>
+    </message>
+    <message>
+        <source>连着服务器的店，服务器没有回应时，本机已上传的单据退货：0 不退，1 照退（同一件商品可能在两台各退一次）</source>
+        <translation>In a shop with a server that does not answer, returns against this till&apos;s uploaded bills: 0 refused, 1 allowed (the same goods may come back at two tills)</translation>
+    </message>
+    <message>
+        <source>连着服务器的店，StockRule 是 1 而服务器没有回应时，库存不够：0 提醒后照卖，1 不卖</source>
+        <translation>In a shop with a server that does not answer, with StockRule 1, when stock runs short: 0 warn and sell, 1 refuse</translation>
+    </message>
+    <message>
+        <source>连着服务器的店，收银机多少天没有连上服务器就不能登录，0 不限</source>
+        <translation>In a shop with a server, after how many days without it nobody can log in at a till; 0: never</translation>
+    </message>
+    <message>
+        <source>这台收银机已经超过 %1 天没有连上店铺的服务器，不能登录。请先接通网络。</source>
+        <translation>This till has not reached the shop&apos;s server for more than %1 days, so nobody can log in. Connect it to the network first.</translation>
+    </message>
+    <message>
+        <source>撤消退货</source>
+        <translation>Return given up</translation>
+    </message>
+    <message>
+        <source>别台退货</source>
+        <translation>Returned at another till</translation>
+    </message>
+    <message>
+        <source>挂单交给别台</source>
+        <translation>Held bill given to another till</translation>
+    </message>
+    <message>
+        <source>接到别台挂单</source>
+        <translation>Held bill come from another till</translation>
+    </message>
+    <message>
+        <source>别的收银机已经退过，这一行现在只剩 %1 可退！</source>
+        <translation>Another till has taken some of it back: only %1 of this line can still be returned!</translation>
+    </message>
+    <message>
+        <source>服务器上没有这张单据的这一行，不能退货！</source>
+        <translation>The server does not have this line of the bill: it cannot be taken back!</translation>
+    </message>
+    <message>
+        <source>没有联网，已上传的单据现在不能退货！</source>
+        <translation>The server is away: goods of an uploaded bill cannot be taken back now!</translation>
+    </message>
+    <message>
+        <source>没有联网，不能退别台的单！</source>
+        <translation>The server is away: goods of another till&apos;s bill can&apos;t be taken back here!</translation>
+    </message>
 </context>
 <context>
     <name>WorkProgress</name>
@@ -6571,6 +6645,14 @@ Member since: %3</translation>
     <message>
         <source>所选单子商品(Tab键切换过来)：</source>
         <translation>Goods of the bill (Tab goes there):</translation>
+    </message>
+    <message>
+        <source>%1 号</source>
+        <translation>Till %1</translation>
+    </message>
+    <message>
+        <source>收银机</source>
+        <translation>Till</translation>
     </message>
 </context>
 <context>

@@ -1,3 +1,4 @@
+#include "OtherTill.h"
 #include "ReturnsFixture.h"
 
 class ReturnsTest : public ReturnsFixture {
@@ -34,6 +35,42 @@ TEST_F(ReturnsTest, OnlyASettledBillOfThatNumberLoads) {
   pos.gConn->runScript("update sellProducts set amount = 9 where sellId = 1");
   EXPECT_EQ(load("1"), "单据 1 的商品明细与合计不符，数据文件可能已损坏，请与管理员联系！")
       << "a damaged bill is not returned against";
+}
+
+TEST_F(ReturnsTest, AnotherTillsBillIsTakenBackByTheServersLeaveAlone) {
+  OtherTill other;
+  pos.gConn->runScript("insert into link values (1, 2, 1, '', 0, '', '', '')");
+  Returns all{ReturnBooks(*pos.gConn, pos.clock, pos.gOperator, &other)};
+  const auto takeBack = [&all](double quantity) {
+    all.chooseById(1);
+    return all.takeBack(quantity, Currency::fromYuan(2)).toStdString();
+  };
+  using enum BillAuthority::Reply;
+  const std::pair<BillAuthority::Reply, const char*> refusals[] = {
+      {kNone, "没有联网，不能退别台的单！"},
+      {kUnknown, "服务器上没有这张单据的这一行，不能退货！"},
+      {kTooMuch, "别的收银机已经退过，这一行现在只剩 0.5 可退！"}};
+  for (const auto& [reply, refusal] : refusals) {
+    other.reply = kDone;
+    ASSERT_EQ(all.load("30000007").toStdString(), "");
+    other.reply = reply;
+    EXPECT_EQ(takeBack(1), refusal);
+  }
+  EXPECT_EQ(stored("count(*) as v from return_pending"), "0");
+  EXPECT_EQ(stored("quantity as v from stock where spbm = '1001'"), "93");
+  other.reply = kDone;
+  ASSERT_EQ(all.load("30000007").toStdString(), "");
+  EXPECT_EQ(takeBack(2), "");
+  EXPECT_EQ(
+      stored("sell_id || ' ' || item_id || ' ' || quantity || ' ' || money as v from un_sell"),
+      "30000007 0 2 2");
+  EXPECT_EQ(stored("quantity as v from stock where spbm = '1001'"), "95");
+  ASSERT_EQ(all.load("30000007").toStdString(), "");
+  all.chooseById(1);
+  EXPECT_NE(all.doubt(1, Currency::fromYuan(4)), "") << "what was refunded before counts";
+  other.reply = kNone;
+  EXPECT_EQ(all.load("30000007").toStdString(),
+            "没有联网，不能退别台的单！\n单据“30000007”是 3 号收银机的，可以到那台收银机上退货。");
 }
 
 TEST_F(ReturnsTest, EverythingThatAReturnTouchesAgreesWithWhatCameBack) {

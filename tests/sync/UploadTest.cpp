@@ -153,8 +153,10 @@ TEST_F(UploadTest, KeepsBothHistoriesOfAFileThatWasPutBack) {
 }
 
 TEST_F(UploadTest, KeepsWhatItCannotReadAndGoesOn) {
+  std::string steps;
+  for (const char* step : serverSteps()) steps += step;
   for (const EntryKindName& kind : entryKinds())
-    EXPECT_THAT(serverSteps().at(1), HasSubstr("'" + std::string(kind.key) + "'"));
+    EXPECT_NE(steps.find("'" + std::string(kind.key) + "'"), std::string::npos) << kind.key;
   const auto till = join(1, "till");
   Connection& file = *till->till.shop;
   addEntry(file, "bill_settled", "no JSON");
