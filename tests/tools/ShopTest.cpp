@@ -39,10 +39,11 @@ TEST_F(ShopTest, IsMadeAndJoinedAtTheCommandLine) {
   expect(1, "连不上服务器", "enrol @ ./nowhere " + code + place());
   expect(1, "还没有加入", "enrol @ elsewhere");
   execute(
-      "insert into shift (id, opened, opened_by, opened_name, cash_float) values (1, '2026-11-22', "
-      "1, '', 0)");
-  expect(1, "请先结班", "enrol @ " + host + " " + code + place());
-  execute("delete from shift");
+      "insert into sell (id, sell_time, operator_id, state) values (1, '2026-11-22', 1, 0);"
+      "insert into sellProducts (sellId, insert_Date, bm, amount, price, discount, money)"
+      " values (1, '2026-11-22', 'A', 1, 1, 1, 1)");
+  expect(1, "还有没结完的单据", "enrol @ " + host + " " + code + place());
+  execute("delete from sellProducts; delete from sell");
   EXPECT_FALSE(shopLink(*open())) << "what was refused has written nothing";
   expect(0, "机号 2", "enrol @ " + host + " " + code + place());
   expect(0, "账目正确", "check @");
