@@ -16,7 +16,7 @@
 
 namespace {
 
-constexpr int kFieldWidth = 360;  // pixels: a code, or two addresses
+constexpr int kFieldWidth = 440;  // pixels: a code, or two addresses
 
 QString standingText(const posMod& pos) {
   const std::optional<ShopLink> link = shopLink(*pos.gConn);
@@ -38,7 +38,6 @@ frmJoin::frmJoin(posMod& pos, QWidget* parent)
   setWindowTitle(tr("加入店铺"));
   txtServer_->setPlaceholderText(tr("名称或地址，和证书上一样"));
   txtCode_->setPlaceholderText("XXXXX-XXXXX-XXXXX-XXXXX");
-  txtServer_->setMinimumWidth(kFieldWidth);
   lblState_->setWordWrap(true);
   auto* below = new QVBoxLayout;
   below->addWidget(lblState_);
@@ -47,6 +46,7 @@ frmJoin::frmJoin(posMod& pos, QWidget* parent)
                      {{label("lblServer", tr("服务器：")), txtServer_},
                       {label("lblCode", tr("加入码：")), txtCode_}},
                      below);
+  txtServer_->setMinimumWidth(kFieldWidth);
   connect(cmdOk_, &QPushButton::clicked, this, &frmJoin::join);
   connect(cmdCancel_, &QPushButton::clicked, this, &QDialog::reject);
   enterLeads(txtServer_, txtCode_);

@@ -5583,6 +5583,18 @@ The questions were not all answered. Nothing was made.</translation>
         <source>备机五分钟内没有成为主服务器。</source>
         <translation>The standby did not become the first server within five minutes.</translation>
     </message>
+    <message>
+        <source>合并了 %1 行很早的库存和储值卡变动，合计不变</source>
+        <translation>Added up %1 rows of old movements of stock and cards; the sums are the same</translation>
+    </message>
+    <message>
+        <source>把很早的库存和储值卡变动合并成合计，查库存更快</source>
+        <translation>Add up old movements of stock and cards, so that stock is looked up faster</translation>
+    </message>
+    <message>
+        <source>多少天以前的；不写是 400，不要比各台的备份新</source>
+        <translation>From how many days ago back; 400 unless given; no newer than the tills&apos; backups</translation>
+    </message>
 </context>
 <context>
     <name>WorkProgress</name>
