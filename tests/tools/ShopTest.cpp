@@ -45,8 +45,13 @@ TEST_F(ShopTest, IsMadeAndJoinedAtTheCommandLine) {
   expect(1, "还有没结完的单据", "enrol @ " + host + " " + code + place());
   execute("delete from sellProducts; delete from sell");
   EXPECT_FALSE(shopLink(*open())) << "what was refused has written nothing";
+  execute(
+      "insert into member (bh, name, card, password, join_date)"
+      " values ('8001', '陈', 10, '1111', '2026-01-01 00:00:00')");
+  expect(0, "", "param set @ Journal=1");
   expect(0, "机号 2", "enrol @ " + host + " " + code + place());
   expect(0, "账目正确", "check @");
+  EXPECT_EQ(value("select substr(password, 1, 10) as value from member"), "$argon2id$");
   expect(0, "改成了 a,b", "enrol @ a,b");
   expect(0, "", "enrol @ " + host);
   expect(1, "日志不能停", "param set @ Journal=0");
