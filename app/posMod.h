@@ -85,6 +85,8 @@ class posMod {
   /// server it starts what brings there what happens. Needs the data file open.
   /// Throws StoreError.
   void start();
+  /// The same of the till's shop alone, for a till that has joined one since.
+  void startShop();
   /// The books, kept by who is logged in (ensure); what they are made of outlives them.
   BillBooks billBooks() const;
   ReturnBooks returnBooks() const;
@@ -113,6 +115,5 @@ class posMod {
 
  private:
   void startBackups();
-  void startShop();
   std::filesystem::path backupPath() const;
 };

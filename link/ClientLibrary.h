@@ -13,6 +13,7 @@ class ClientLibrary {
   /// Loads it the first time. Throws Failure where the machine does not have it.
   static const ClientLibrary& loaded();
 
+// NOLINTNEXTLINE(bugprone-macro-parentheses): a function is declared by its bare name
 #define TILL_CLIENT_FUNCTION(name) decltype(&::name) name = found<decltype(&::name)>(#name)
   TILL_CLIENT_FUNCTION(PQclear);
   TILL_CLIENT_FUNCTION(PQconnectPoll);

@@ -97,6 +97,8 @@ constexpr std::array kDefinitions = {
                Words::mark("收银程序的更多功能里有经营报表（要有 report 权限）：0 否，1 是")},
     Definition{"Practice", &kSwitch, "0",
                Words::mark("收银程序的更多功能里有练习，练习不入账：0 否，1 是")},
+    Definition{"JoinShop", &kSwitch, "0",
+               Words::mark("收银程序的更多功能里有加入店铺，加入有服务器的店：0 否，1 是")},
     Definition{"Approval", &kSwitch, "0",
                Words::mark("操作员没有权限的操作要有人授权：0 否，1 是")},
     Definition{"Shifts", &kSwitch, "0",
@@ -269,6 +271,9 @@ bool ClsSysParam::CheckPayment() const {
 }
 bool ClsSysParam::GoodsImport() const {
   return isOn("GoodsImport");
+}
+bool ClsSysParam::JoinShop() const {
+  return isOn("JoinShop");
 }
 bool ClsSysParam::Practice() const {
   return isOn("Practice");

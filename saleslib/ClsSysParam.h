@@ -38,6 +38,7 @@ class TESSALY_API ClsSysParam {
   bool BackupOnExit() const;       ///< off
   bool CheckPayment() const;       ///< ask before figures that are likely mistyped; off
   bool GoodsImport() const;        ///< goods sheets may be imported at the till; off
+  bool JoinShop() const;           ///< joining a shop in the till's further menu; off
   bool Approval() const;           ///< deeds need a right or an approval; off
   bool Practice() const;           ///< practising in the till's further menu; off
   bool OwnerReport() const;        ///< the owner's report in the till's further menu; off

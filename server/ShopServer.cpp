@@ -14,6 +14,7 @@ using std::chrono_literals::operator""min;
 constexpr auto kPatience = std::chrono::milliseconds(1min);
 constexpr auto kLongPatience = std::chrono::milliseconds(12h);  // of what goes through everything
 constexpr std::size_t kMostFaults = 20;
+constexpr int kFoldedAtOnce = 50;  // items
 
 const ServerAnswer& required(const ServerAnswer& answer) {
   if (!answer.isDone()) throw Failure(Words::tr("服务器没有照办：%1", answer.text));
@@ -77,6 +78,23 @@ ShopServer::Steps ShopServer::upgrade() {
       line_.run("begin; set local role shop_keeper;\n" + script + "select shop.rebuild(); commit",
                 kLongPatience));
   return {done, static_cast<int>(serverSteps().size())};
+}
+
+std::int64_t ShopServer::fold(int days) {
+  std::int64_t gone = 0;
+  for (const char* step :
+       {"select last, gone from shop.fold_movements($1, $2, now() - $3::interval)",
+        "select last, gone from shop.fold_cards($1, $2, now() - $3::interval)"}) {
+    for (std::string behind;;) {
+      const ServerAnswer done = required(
+          line_.ask(step, {behind, std::to_string(kFoldedAtOnce), std::to_string(days) + " days"},
+                    kPatience));
+      gone += number(done.rows.at(0), 1);
+      if (!done.rows[0][0]) break;
+      behind = *done.rows[0][0];
+    }
+  }
+  return gone;
 }
 
 ShopServer::Standby ShopServer::standby() {

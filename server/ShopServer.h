@@ -30,6 +30,10 @@ class ShopServer {
   /// nothing; the tills wait meanwhile, and sell on.
   Steps upgrade();
 
+  /// Adds up what moved in stock and on cards longer ago than that, in place, so that sums over it
+  /// stay quick; in small steps beside the selling tills. Gives how many rows that saved.
+  std::int64_t fold(int days);
+
   /// A second server, which repeats what the first one writes, before it takes its place.
   struct Standby {
     bool isStandby = false;

@@ -85,7 +85,7 @@ frmMain::Entries frmMain::furtherEntries() {
       {tr("销 售 查 询"), "search"}, {tr("经 营 报 表"), "report"},  {tr("退    货"), "unsell"},
       {tr("增 加 会 员"), "addmen"}, {tr("导 入 商 品"), "goodsin"}, {tr("键 盘 设 置"), "keyset"},
       {tr("班    次"), "shift"},     {tr("日    志"), "journal"},    {tr("练    习"), "practice"},
-      {tr("更 换 操 作 员"), kExit}, {tr("帮    助"), "help"}};
+      {tr("加 入 店 铺"), "join"},   {tr("更 换 操 作 员"), kExit},  {tr("帮    助"), "help"}};
 }
 
 void frmMain::addScreens(frmMenu& menu, const Entries& entries) {

@@ -6,6 +6,7 @@
 
 #include "goodsin/GoodsCompletion.h"
 #include "goodsin/frmGoodsIn.h"
+#include "joining/frmJoin.h"
 #include "members/cardStored.h"
 #include "members/frmFMember.h"
 #include "platform/QtText.h"
@@ -73,6 +74,8 @@ std::map<QString, frmMain::Screen> Till::screens() {
   std::map<QString, frmMain::Screen> all = fixedScreens();
   if (pos_.gSysParam.GoodsImport())
     all["goodsin"] = {true, [this] { show<frmGoodsIn>(pos_); }, Right::kSettings};
+  if (pos_.gSysParam.JoinShop())
+    all["join"] = {true, [this] { show<frmJoin>(pos_); }, Right::kSettings};
   if (pos_.gSysParam.Practice()) all["practice"] = {true, [this] { practise(); }};
   if (pos_.gSysParam.OwnerReport())
     all["report"] = {true, [this] { reportTakings(); }, Right::kReport};

@@ -19,12 +19,14 @@
 namespace {
 
 constexpr std::int64_t kRowsPerProgress = 50'000;
+constexpr int kFactsAtTills = 400;  // days: no copy of a till's file that is put back is older
+constexpr int kMostDays = 36'500;
 constexpr std::int64_t kToldClockSeconds = 120;  // what a till's clock may be off unsaid
 
 struct Options {
   std::string server = "dbname=till";
   std::string authority;
-  int till = 0;
+  int till = 0, days = kFactsAtTills;
   bool again = false, rebuild = false, firstIsOff = false, mayLose = false;
   DataFileOptions file;
 
@@ -132,6 +134,13 @@ void check(const Options& options, Console& console, int& exitCode) {
   console.out << Words::tr("查过 %1 条记录，%2 张单据", found.facts, found.bills) << '\n';
 }
 
+void fold(const Options& options, Console& console) {
+  ServerLine line = options.line();
+  console.out << Words::tr("合并了 %1 行很早的库存和储值卡变动，合计不变",
+                           ShopServer(line).fold(options.days))
+              << '\n';
+}
+
 void revoke(const Options& options, Console& console) {
   ServerLine line = options.line();
   ShopServer(line).revoke(options.till);
@@ -200,6 +209,12 @@ void addShopCommand(CLI::App& app, Console& console, int& exitCode) {
       "不发的：库存、余额、累计消费和积分，以及各台自己的参数 "
       "Journal、BackupOnExit、GoodsImport。"));
   publishing->callback([options, &console] { publish(*options, console); });
+  CLI::App* folding = command("fold", Words::tr("把很早的库存和储值卡变动合并成合计，查库存更快"));
+  folding
+      ->add_option("--days", options->days,
+                   Words::tr("多少天以前的；不写是 400，不要比各台的备份新"))
+      ->check(wholeNumber(0, kMostDays));
+  folding->callback([options, &console] { fold(*options, console); });
   takesTill(command("revoke", Words::tr("停用一台收银机")))->callback([options, &console] {
     revoke(*options, console);
   });

@@ -5274,16 +5274,8 @@ The questions were not all answered. Nothing was made.</translation>
         <translation>server</translation>
     </message>
     <message>
-        <source>服务器的名称或地址，和它的证书上写的一样</source>
-        <translation>The server&apos;s name or address, as its certificate has it</translation>
-    </message>
-    <message>
         <source>加入码</source>
         <translation>code</translation>
-    </message>
-    <message>
-        <source>tilladmin shop add-till 给出的</source>
-        <translation>As tilladmin shop add-till gave it</translation>
     </message>
     <message>
         <source>服务器的端口，一般是 5432</source>
@@ -5386,10 +5378,6 @@ The questions were not all answered. Nothing was made.</translation>
         <translation>The till&apos;s number, from 1</translation>
     </message>
     <message>
-        <source>建店，或者升级到这个版本</source>
-        <translation>Make the shop, or bring it to this version</translation>
-    </message>
-    <message>
         <source>店铺自己的证书（PEM 文件），收银机凭它认服务器</source>
         <translation>The shop&apos;s own certificate (a PEM file), by which tills know the server</translation>
     </message>
@@ -5474,10 +5462,6 @@ The questions were not all answered. Nothing was made.</translation>
         <translation>The server did not do it: %1</translation>
     </message>
     <message>
-        <source>服务器上的店铺是更新版本的程序建立的。</source>
-        <translation>The shop at the server was made by a newer version of this program.</translation>
-    </message>
-    <message>
         <source>收银机 %1 已经加入。换机器或者重装要写 --again，原来的那台从此不能再传。</source>
         <translation>Till %1 has joined already. For another machine, or after a new installation, add --again; the old one can bring nothing from then on.</translation>
     </message>
@@ -5560,6 +5544,130 @@ The questions were not all answered. Nothing was made.</translation>
     <message>
         <source>没有联网，不能退别台的单！</source>
         <translation>The server is away: goods of another till&apos;s bill can&apos;t be taken back here!</translation>
+    </message>
+    <message>
+        <source>收银程序的更多功能里有加入店铺，加入有服务器的店：0 否，1 是</source>
+        <translation>The till&apos;s further menu has Join shop, to join a shop with a server: 0 no, 1 yes</translation>
+    </message>
+    <message>
+        <source>这台收银机还没有加入店铺，请写上加入码。</source>
+        <translation>This till has not joined a shop; please give the code.</translation>
+    </message>
+    <message>
+        <source>服务器的地址改成了 %1。</source>
+        <translation>The server&apos;s address is now %1.</translation>
+    </message>
+    <message>
+        <source>服务器的名称或地址，和它的证书上写的一样；有备机的写两个，用逗号隔开</source>
+        <translation>The server&apos;s name or address, as its certificate has it; with a standby server give both, with a comma between them</translation>
+    </message>
+    <message>
+        <source>tilladmin shop add-till 给出的；已经加入的不写，只改服务器的地址</source>
+        <translation>What tilladmin shop add-till gave; without it, a till that has joined changes the server&apos;s address only</translation>
+    </message>
+    <message>
+        <source>请写明数据文件，或者用 --server 写明服务器，两样写一样。</source>
+        <translation>Please name either the data file, or the server with --server.</translation>
+    </message>
+    <message>
+        <source>不看一个数据文件，看服务器上全店的账，例如 &quot;dbname=till&quot;；怎样连和 shop 一样</source>
+        <translation>Not one data file but the whole shop&apos;s books at the server, for instance &quot;dbname=till&quot;; connected to as by shop</translation>
+    </message>
+    <message>
+        <source>只看服务器上这台收银机的账</source>
+        <translation>Only this till&apos;s books at the server</translation>
+    </message>
+    <message>
+        <source>服务器上的店铺从第 %1 步升级到第 %2 步，账表已按记录重新做好</source>
+        <translation>The shop at the server was upgraded from step %1 to step %2, and its rows made anew from the entries</translation>
+    </message>
+    <message>
+        <source>这不是备机：它已经是主服务器。</source>
+        <translation>This is no standby: it is the first server already.</translation>
+    </message>
+    <message>
+        <source>主服务器还在运行，还在向这台备机传。要切换，先关掉主服务器。</source>
+        <translation>The first server is still running and sending to this standby. Shut it down before you switch.</translation>
+    </message>
+    <message>
+        <source>备机收到的最后一笔：%1</source>
+        <translation>Last received by the standby: %1</translation>
+    </message>
+    <message>
+        <source>主服务器没有等这台备机（synchronous_standby_names 没有设），它答应过的账这里可能没有。各台会补传自己的账，服务器上改过的不会回来。仍要切换，加 --may-lose。</source>
+        <translation>The first server did not wait for this standby (synchronous_standby_names is not set), so what it acknowledged may be missing here. The tills bring their own books again; what was changed at the server does not come back. To switch all the same, add --may-lose.</translation>
+    </message>
+    <message>
+        <source>原来的主服务器必须关着，以后也不能再当服务器开：两台都收账，账就分开了。确认它关了，再加 --first-is-off。</source>
+        <translation>The first server must be off, and must never be started as a server again: with two that take books, the books part. When you are sure that it is off, add --first-is-off.</translation>
+    </message>
+    <message>
+        <source>备机已经是主服务器。各台收银机加入时写过两个地址的，自己会找到它；没有写的，在各台用 tilladmin enrol 加数据文件和新地址。</source>
+        <translation>The standby is now the first server. Tills that joined with both addresses find it by themselves; at the others run tilladmin enrol with the data file and the new address.</translation>
+    </message>
+    <message>
+        <source>建店</source>
+        <translation>Make the shop</translation>
+    </message>
+    <message>
+        <source>装了新版本的程序以后，把服务器上的店铺升级到这个版本</source>
+        <translation>After a new version of the program was installed, bring the shop at the server up to it</translation>
+    </message>
+    <message>
+        <source>主服务器坏了：让这台备机当主服务器（在备机上执行）</source>
+        <translation>The first server is broken: make this standby the first server (run there)</translation>
+    </message>
+    <message>
+        <source>确认原来的主服务器关着，以后也不再当服务器</source>
+        <translation>The first server is off, and will not be a server again</translation>
+    </message>
+    <message>
+        <source>主服务器没有等这台备机，也要切换</source>
+        <translation>Switch although the first server did not wait for this standby</translation>
+    </message>
+    <message>
+        <source>服务器没有接受加入码：打错了、用过了、过期了，或者没有允许这台电脑。%1</source>
+        <translation>The server did not accept the code: it is mistyped, used or expired, or this computer is not let in. %1</translation>
+    </message>
+    <message>
+        <source>服务器的证书没有通过：它不是店铺的证书签的，或者上面没有“%1”。加入码已经用掉，改好证书以后再要一个。%2</source>
+        <translation>The server&apos;s certificate does not do: it is not signed by the shop&apos;s, or does not name “%1”. The code is used up; ask for another one when the certificate is mended. %2</translation>
+    </message>
+    <message>
+        <source>还有没结完的单据，请先在前台销售里结完或者取消。</source>
+        <translation>There are open bills; please settle or cancel them in the sale first.</translation>
+    </message>
+    <message>
+        <source>班次还开着，请先结班。</source>
+        <translation>A shift is open; please close it first.</translation>
+    </message>
+    <message>
+        <source>服务器上的店铺是更新版本的程序建立的（%1 步，这个程序有 %2 步）。</source>
+        <translation>The shop at the server was made by a newer version of the program (%1 steps, this one has %2).</translation>
+    </message>
+    <message>
+        <source>店铺已经建好，是较早的版本；请用 tilladmin shop upgrade 升级。</source>
+        <translation>The shop has been made, by an earlier version; please upgrade it with tilladmin shop upgrade.</translation>
+    </message>
+    <message>
+        <source>服务器上还没有店铺，请先用 tilladmin shop init。</source>
+        <translation>There is no shop at the server yet; please run tilladmin shop init first.</translation>
+    </message>
+    <message>
+        <source>备机五分钟内没有成为主服务器。</source>
+        <translation>The standby did not become the first server within five minutes.</translation>
+    </message>
+    <message>
+        <source>合并了 %1 行很早的库存和储值卡变动，合计不变</source>
+        <translation>Added up %1 rows of old movements of stock and cards; the sums are the same</translation>
+    </message>
+    <message>
+        <source>把很早的库存和储值卡变动合并成合计，查库存更快</source>
+        <translation>Add up old movements of stock and cards, so that stock is looked up faster</translation>
+    </message>
+    <message>
+        <source>多少天以前的；不写是 400，不要比各台的备份新</source>
+        <translation>From how many days ago back; 400 unless given; no newer than the tills&apos; backups</translation>
     </message>
 </context>
 <context>
@@ -6299,6 +6407,49 @@ Member since: %3</translation>
     </message>
 </context>
 <context>
+    <name>frmJoin</name>
+    <message>
+        <source>请在服务器上用 tilladmin shop add-till 要加入码。</source>
+        <translation>At the server, tilladmin shop add-till gives the code.</translation>
+    </message>
+    <message>
+        <source>已经加入，机号 %1，服务器 %2。</source>
+        <translation>Joined as till %1, server %2.</translation>
+    </message>
+    <message>
+        <source>取消</source>
+        <translation>Cancel</translation>
+    </message>
+    <message>
+        <source>加入店铺</source>
+        <translation>Join shop</translation>
+    </message>
+    <message>
+        <source>名称或地址，和证书上一样</source>
+        <translation>Name or address, as in its certificate</translation>
+    </message>
+    <message>
+        <source>加 入 店 铺</source>
+        <translation>Join shop</translation>
+    </message>
+    <message>
+        <source>服务器：</source>
+        <translation>Server:</translation>
+    </message>
+    <message>
+        <source>加入码：</source>
+        <translation>Code:</translation>
+    </message>
+    <message>
+        <source>正在加入……</source>
+        <translation>Joining …</translation>
+    </message>
+    <message>
+        <source>加入(&amp;J)</source>
+        <translation>&amp;Join</translation>
+    </message>
+</context>
+<context>
     <name>frmJournal</name>
     <message>
         <source>查询(&amp;S)</source>
@@ -6549,6 +6700,10 @@ Member since: %3</translation>
     <message>
         <source>班    次</source>
         <translation>Shift</translation>
+    </message>
+    <message>
+        <source>加 入 店 铺</source>
+        <translation>Join shop</translation>
     </message>
 </context>
 <context>

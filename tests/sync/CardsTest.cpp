@@ -6,6 +6,8 @@
 #include <fstream>
 #include <functional>
 
+#include "saleslib/ClsMember.h"
+#include "saleslib/StoredCard.h"
 #include "saleslib/SyncState.h"
 #include "sync/ShopCards.h"
 #include "sync/ShopServerFixture.h"
@@ -101,6 +103,23 @@ TEST_F(CardsTest, SpendsACardOnceWhicheverTillAsks) {
   second.joined->bring();
   EXPECT_EQ(balance("8001"), "2035.8");
   expectSound();
+}
+
+TEST_F(CardsTest, KnowsACardsPasswordByItsHash) {
+  const auto till = join(1, "till");
+  Connection& file = *till->till.shop;
+  ClsMember newer;
+  newer.Init(file, 0, localTime);
+  newer.setBh("8003");
+  newer.setName("李");
+  newer.setPassword("2222");
+  ASSERT_TRUE(newer.Save()) << newer.ErrText();
+  EXPECT_EQ(till->till.value("select count(*) as value from member where password like '$argon2%'"),
+            "3");
+  for (const auto& [card, password] : {std::pair("8001", "1111"), std::pair("8003", "2222")}) {
+    EXPECT_EQ(provenCard(file, card, password).outcome, CardOutcome::kDone);
+    EXPECT_EQ(provenCard(file, card, "1112").outcome, CardOutcome::kWrongPassword);
+  }
 }
 
 TEST_F(CardsTest, TakesBackWhatWasNotAnswered) {

@@ -45,6 +45,34 @@ TEST_F(StandbyTest, TakesOverWithoutLosingWhatWasAnswered) {
   server_->start();
 }
 
+TEST_F(StandbyTest, FoldsWhatMovedLongAgoWithoutChangingASum) {
+  auto till = join(1, "till");
+  for (int bill = 0; bill < 3; ++bill) {
+    till->till.sell(1, "8001");
+    till->bring();
+  }
+  for (int bill = 0; bill < 2; ++bill) till->till.sell(1, "8001");
+  till->bring();
+  const std::string before = stock(), held = balance("8001");
+  EXPECT_EQ(shop().fold(1), 0) << "nothing is that old";
+  EXPECT_EQ(value("select count(*) from shop.movement"), "10");
+  EXPECT_EQ(shop().fold(0), 12) << "of each item and the card one row stays";
+  EXPECT_EQ(shop().fold(0), 0);
+  EXPECT_EQ(stock(), before);
+  EXPECT_EQ(balance("8001"), held);
+  expectSound();
+  till->till.topUp("8001", 5);
+  till->till.sell(2);
+  till->bring();
+  EXPECT_EQ(stock(), "993");
+  EXPECT_EQ(shop().fold(0), 3);
+  expectSound();
+  value("update shop.movement set quantity = quantity - 1 where item = 'b' returning item");
+  EXPECT_THAT(shop().check(true).faults, testing::SizeIs(1));
+  EXPECT_EQ(value("select count(*) from shop.movement"), "12") << "made anew from the facts";
+  EXPECT_EQ(stock(), "993");
+}
+
 struct UpgradeTest : ShopServerFixture {
   /// The server as the version before this one made it.
   void makeOlder() {

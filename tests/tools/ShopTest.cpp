@@ -42,15 +42,21 @@ TEST_F(ShopTest, IsMadeAndJoinedAtTheCommandLine) {
   expect(1, "连不上服务器", "enrol @ ./nowhere " + code + place());
   expect(1, "还没有加入", "enrol @ elsewhere");
   execute(
-      "insert into shift (id, opened, opened_by, opened_name, cash_float) values (1, '2026-11-22', "
-      "1, '', 0)");
-  expect(1, "请先结班", "enrol @ " + host + " " + code + place());
-  execute("delete from shift");
+      "insert into sell (id, sell_time, operator_id, state) values (1, '2026-11-22', 1, 0);"
+      "insert into sellProducts (sellId, insert_Date, bm, amount, price, discount, money)"
+      " values (1, '2026-11-22', 'A', 1, 1, 1, 1)");
+  expect(1, "还有没结完的单据", "enrol @ " + host + " " + code + place());
+  execute("delete from sellProducts; delete from sell");
   EXPECT_FALSE(shopLink(*open())) << "what was refused has written nothing";
+  execute(
+      "insert into member (bh, name, card, password, join_date)"
+      " values ('8001', '陈', 10, '1111', '2026-01-01 00:00:00')");
+  expect(0, "", "param set @ Journal=1");
   expect(0, "机号 2", "enrol @ " + host + " " + code + place());
   EXPECT_THAT(out, HasSubstr("已取来（1 行）"));
   EXPECT_EQ(value("select value from sys_param where name = 'ShopName'"), "小店");
   expect(0, "账目正确", "check @");
+  EXPECT_EQ(value("select substr(password, 1, 10) as value from member"), "$argon2id$");
   expect(0, "改成了 a,b", "enrol @ a,b");
   expect(0, "", "enrol @ " + host);
   write("goods.csv", "f_spbm,f_spmc\n1,茶\n");
