@@ -165,7 +165,7 @@ end $$;
 
 -- Where a till's history goes on from another one of its own: as the server decided, and at head
 -- office as the facts themselves tell.
-create view shop.history as
+create view shop.fork as
   select till, epoch, from_seq, from_hash from shop.epoch
   union all
   select shop.row_till(first.shop, first.till), first.epoch, first.seq - 1, before.hash

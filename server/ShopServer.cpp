@@ -223,7 +223,7 @@ void ShopServer::followChains(Checked& found) {
   ChainCheck chains(found.faults, kMostFaults);
   const ServerAnswer epochs =
       required(line_.ask("select till, epoch, from_seq, from_hash from"
-                         " shop.history"));
+                         " shop.fork"));
   for (const ServerAnswer::Row& row : epochs.rows) chains.addEpoch(row);
   ServerAnswer::Row last = {"0", "0", "0", "0"};
   for (;;) {

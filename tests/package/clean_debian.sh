@@ -25,8 +25,8 @@ clean_up() {
     kill "${started[i]}" 2>/dev/null || true
     wait "${started[i]}" 2>/dev/null || true
   done
-  for place in tmp/.X11-unix var/cache/apt/archives dev/pts proc; do
-    umount "$root/$place" 2>/dev/null || true
+  for place in "$work"/*/{tmp/.X11-unix,var/cache/apt/archives,dev/pts,dev/shm,proc}; do
+    umount --lazy "$place" 2>/dev/null || true
   done
   rm -rf --one-file-system "$work"
 }
