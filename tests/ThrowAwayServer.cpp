@@ -18,12 +18,17 @@ namespace fs = std::filesystem;
 
 namespace {
 
-/// Of the newest version that is installed.
-std::string programFolder() {
+/// Of the newest version that is installed; empty when none is.
+fs::path newestFolder() {
   fs::path newest;
   std::error_code none;
   for (const auto& version : fs::directory_iterator("/usr/lib/postgresql", none))
     newest = std::max(newest, version.path() / "bin");
+  return newest;
+}
+
+std::string programFolder() {
+  const fs::path newest = newestFolder();
   if (newest.empty()) throw std::runtime_error("there is no PostgreSQL here (postgresql-15)");
   return newest.string() + "/";
 }
@@ -63,6 +68,10 @@ std::vector<pid_t> childrenOf(pid_t parent) {
 
 }  // namespace
 
+bool ThrowAwayServer::isInstalled() {
+  return !newestFolder().empty();
+}
+
 ThrowAwayServer::ThrowAwayServer(Reach reach) : hasPort_(reach == Reach::kPort) {
   if (hasPort_) port_ = freePort();
   if (geteuid() == 0 && chown(folder().c_str(), 65534, 65534) != 0)
@@ -89,6 +98,7 @@ void ThrowAwayServer::makeEmpty() {
 }
 
 ThrowAwayServer::~ThrowAwayServer() {
+  if (!fs::exists(data() + "/postmaster.pid")) return;  // it was killed
   try {
     run(programFolder() + "pg_ctl stop --mode=immediate --wait --timeout=60 -D " + data());
   } catch (const std::exception& failure) {
