@@ -22,6 +22,15 @@ function(add_room name)
   use_qt(${name} ${ROOM_QT})
 endfunction()
 
+# Everything that is installed, so that whoever installs can build just that.
+add_custom_target(programs)
+
+# install_program(<target>): puts a program or a library of ours into the installed folder.
+function(install_program target)
+  add_dependencies(programs ${target})
+  install(TARGETS ${target} RUNTIME DESTINATION . LIBRARY DESTINATION .)
+endfunction()
+
 # Links Qt and shares the precompiled header, or turns the Qt tooling off.
 function(use_qt name wanted)
   if(wanted)

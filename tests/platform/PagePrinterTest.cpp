@@ -54,9 +54,10 @@ TEST_F(PagePrinterTest, NamesSortInPrintOrder) {
 }
 
 TEST_F(PagePrinterTest, PaperIsAsWideAsTheRollAndAsLongAsTheText) {
+  const std::string tooLong(10'000, 'x');
   for (const auto& [roll, lines] : {std::pair{kWide, 3}, {kNarrow, 3}, {kWide, 200}}) {
     PageDocument document = receipt("r", lines);
-    document.texts.push_back({1, 0, std::string(10'000, 'x')});
+    document.texts.push_back({1, 0, tooLong});
     print(roll, document);
     const auto size = QRegularExpression(R"(Pages: +1\n[^$]*Page size: +([\d.]+) x ([\d.]+) pts)")
                           .match(told("pdfinfo"));
