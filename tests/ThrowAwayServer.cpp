@@ -18,6 +18,8 @@ namespace fs = std::filesystem;
 
 namespace {
 
+constexpr std::size_t kLogShown = 2000;
+
 /// Of the newest version that is installed; empty when none is.
 fs::path newestFolder() {
   fs::path newest;
@@ -64,6 +66,15 @@ std::vector<pid_t> childrenOf(pid_t parent) {
     if (file >> own >> name >> state >> itsParent && itsParent == parent) children.push_back(own);
   }
   return children;
+}
+
+/// Returns when a process that was told to stop does nothing any more, or is gone.
+void awaitStop(pid_t process) {
+  for (std::string name, state; state != "T"; std::this_thread::yield()) {
+    pid_t own = 0;
+    std::ifstream file("/proc/" + std::to_string(process) + "/stat");
+    if (!(file >> own >> name >> state)) return;
+  }
 }
 
 }  // namespace
@@ -128,8 +139,9 @@ void ThrowAwayServer::start() {
     run(programFolder() + "pg_ctl start --wait --timeout=60 -D " + data() + " -l " + log);
   } catch (const std::runtime_error& failure) {
     std::ifstream file(log);
+    const std::string told(std::istreambuf_iterator<char>(file), {});
     throw std::runtime_error(failure.what() + std::string("\n") +
-                             std::string(std::istreambuf_iterator<char>(file), {}));
+                             told.substr(told.size() - std::min(told.size(), kLogShown)));
   }
 }
 
@@ -144,7 +156,8 @@ void ThrowAwayServer::kill() {
   std::ifstream file(lock);
   pid_t first = 0;
   if (!(file >> first) || first <= 1) return;
-  ::kill(first, SIGSTOP);  // it starts no more
+  ::kill(first, SIGSTOP);
+  awaitStop(first);  // from here on it starts no more
   std::vector<pid_t> all = childrenOf(first);
   all.push_back(first);
   for (const pid_t each : all) ::kill(each, SIGKILL);
