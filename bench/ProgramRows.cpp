@@ -1,8 +1,8 @@
-#include <fstream>
 #include <string>
 
 #include "bench/Goods.h"
 #include "bench/ProgramFolder.h"
+#include "bench/ResidentMemory.h"
 #include "bench/Run.h"
 #include "bench/ShopFile.h"
 #include "driver/TillDriver.h"
@@ -24,16 +24,6 @@ void start(Run& run, benchmark::State& state, Measured& row) {
     state.SetIterationTime(startSeconds(folder, row.till));
   }
   row.claims = {{"ratio", row.ratio(), 1.5}};
-}
-
-/// Resident memory of a process, in MiB.
-double residentMiB(int process) {
-  std::ifstream status("/proc/" + std::to_string(process) + "/status");
-  for (std::string line; std::getline(status, line);) {
-    constexpr std::string_view kName = "VmRSS:";
-    if (line.starts_with(kName)) return std::stod(line.substr(kName.size())) / 1024;
-  }
-  throw std::runtime_error("no VmRSS");
 }
 
 void logIn(TillDriver& till) {

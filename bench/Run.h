@@ -47,5 +47,6 @@ void addSaleRows(Run& run);
 void addJournalRows(Run& run);
 void addWindowRows(Run& run);
 void addReportRows(Run& run);
+void addShopRows(Run& run);
 void addProgramRows(Run& run);
 void addImportRow(Run& run);

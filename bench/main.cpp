@@ -69,6 +69,7 @@ int main(int argc, char** argv) {
   addLookUpRows(run);
   addSaleRows(run);
   addJournalRows(run);
+  addShopRows(run);
   addWindowRows(run);
   addReportRows(run);
   addImportRow(run);

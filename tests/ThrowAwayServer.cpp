@@ -18,12 +18,19 @@ namespace fs = std::filesystem;
 
 namespace {
 
-/// Of the newest version that is installed.
-std::string programFolder() {
+constexpr std::size_t kLogShown = 2000;
+
+/// Of the newest version that is installed; empty when none is.
+fs::path newestFolder() {
   fs::path newest;
   std::error_code none;
   for (const auto& version : fs::directory_iterator("/usr/lib/postgresql", none))
     newest = std::max(newest, version.path() / "bin");
+  return newest;
+}
+
+std::string programFolder() {
+  const fs::path newest = newestFolder();
   if (newest.empty()) throw std::runtime_error("there is no PostgreSQL here (postgresql-15)");
   return newest.string() + "/";
 }
@@ -61,7 +68,20 @@ std::vector<pid_t> childrenOf(pid_t parent) {
   return children;
 }
 
+/// Returns when a process that was told to stop does nothing any more, or is gone.
+void awaitStop(pid_t process) {
+  for (std::string name, state; state != "T"; std::this_thread::yield()) {
+    pid_t own = 0;
+    std::ifstream file("/proc/" + std::to_string(process) + "/stat");
+    if (!(file >> own >> name >> state)) return;
+  }
+}
+
 }  // namespace
+
+bool ThrowAwayServer::isInstalled() {
+  return !newestFolder().empty();
+}
 
 ThrowAwayServer::ThrowAwayServer(Reach reach) : hasPort_(reach == Reach::kPort) {
   if (hasPort_) port_ = freePort();
@@ -103,6 +123,7 @@ void ThrowAwayServer::makeEmpty() {
 }
 
 ThrowAwayServer::~ThrowAwayServer() {
+  if (!fs::exists(data() + "/postmaster.pid")) return;  // it was killed
   try {
     run(programFolder() + "pg_ctl stop --mode=immediate --wait --timeout=60 -D " + data());
   } catch (const std::exception& failure) {
@@ -132,8 +153,9 @@ void ThrowAwayServer::start() {
     run(programFolder() + "pg_ctl start --wait --timeout=60 -D " + data() + " -l " + log);
   } catch (const std::runtime_error& failure) {
     std::ifstream file(log);
+    const std::string told(std::istreambuf_iterator<char>(file), {});
     throw std::runtime_error(failure.what() + std::string("\n") +
-                             std::string(std::istreambuf_iterator<char>(file), {}));
+                             told.substr(told.size() - std::min(told.size(), kLogShown)));
   }
 }
 
@@ -148,7 +170,8 @@ void ThrowAwayServer::kill() {
   std::ifstream file(lock);
   pid_t first = 0;
   if (!(file >> first) || first <= 1) return;
-  ::kill(first, SIGSTOP);  // it starts no more
+  ::kill(first, SIGSTOP);
+  awaitStop(first);  // from here on it starts no more
   std::vector<pid_t> all = childrenOf(first);
   all.push_back(first);
   for (const pid_t each : all) ::kill(each, SIGKILL);

@@ -14,7 +14,9 @@ class ThrowAwayServer {
  public:
   enum class Reach { kSocket, kPort };
 
-  /// Throws std::runtime_error when there is none on this machine or it does not start.
+  /// Whether there is one on this machine.
+  static bool isInstalled();
+  /// Throws std::runtime_error when there is none or it does not start.
   explicit ThrowAwayServer(Reach reach = Reach::kSocket);
   /// One that repeats what the other writes, from now on; that one sends it everything.
   struct StandbyOf {

@@ -38,7 +38,7 @@ class KeyedDay {
     if (what == 0 && held_ == 0 && !sold_.empty()) return takeBack();
     ring();
     if (what < 3 && held_ < kMostHeld) return putAside();
-    settle(what > 6);
+    settle(what > 4);
     if (held_ > 0 && below(2) == 0) takeUp();
   }
 

@@ -44,14 +44,24 @@ Proxy::~Proxy() {
   close(listener_);
 }
 
+// A thread that has ended keeps its memory until it is joined.
 void Proxy::serve(const std::stop_token& over) {
-  std::list<std::jthread> lines;
+  struct Line {
+    std::atomic<bool> hasEnded = false;
+    std::jthread thread;
+  };
+  std::list<Line> lines;
   while (!over.stop_requested()) {
+    lines.remove_if([](const Line& line) { return line.hasEnded.load(); });
     pollfd ready{listener_, POLLIN, 0};
     if (poll(&ready, 1, kLookMs) <= 0) continue;
     const int client = accept4(listener_, nullptr, nullptr, SOCK_CLOEXEC);
-    if (client >= 0)
-      lines.emplace_back([this, client](const std::stop_token& ended) { carry(client, ended); });
+    if (client < 0) continue;
+    Line& line = lines.emplace_back();
+    line.thread = std::jthread([this, client, &line](const std::stop_token& ended) {
+      carry(client, ended);
+      line.hasEnded = true;
+    });
   }
 }
 

@@ -9,9 +9,8 @@
 #include <utility>
 
 #include "SellingTill.h"
+#include "ShopJoining.h"
 #include "link/ServerLine.h"
-#include "saleslib/ShopLink.h"
-#include "server/ShopServer.h"
 #include "store/Connection.h"
 #include "store/DataFile.h"
 #include "storm/SellingDay.h"
@@ -42,31 +41,14 @@ Storm::Storm(int tills, bool byKeys, unsigned seed)
   for (int each = 1; each <= tills; ++each) {
     tills_.push_back(std::make_unique<StormTill>(each, byKeys, folder_.path()));
     StormTill& till = *tills_.back();
-    join(till);
+    joinThrowAwayShop(server_, *SellingTill(till.file(), till.password()).shop, each,
+                      folder_.path().string());
     const Figures start = figuresOf(till);
     for (const auto& [name, figure] : start) expected_.emplace(name, figure);
     addDifference(expected_, {}, start);
     till.start(draw());
     if (!byKeys) till.startSync();
   }
-}
-
-void Storm::join(StormTill& till) {
-  const std::string role = "till_" + std::to_string(till.number());
-  ServerLine owner(server_.owner());
-  const JoinCode code = ShopServer(owner).addTill(till.number(), false);
-  ServerLine line(
-      joiningParameters({server_.folder().string(), server_.port(), "books", role, code.secret}));
-  const ShopServer::Joined joined = ShopServer::enrol(line, till.number(), "password");
-  joinShop(*SellingTill(till.file(), till.password()).shop,
-           {.till = till.number(),
-            .epoch = joined.epoch,
-            .host = folder_.path().string(),
-            .port = server_.port(),
-            .database = "books",
-            .password = "password",
-            .authority = ""},
-           joined.highestBill);
 }
 
 Figures Storm::figuresOf(const StormTill& till) const {

@@ -42,7 +42,6 @@ class Storm {
   void print() const;
 
  private:
-  void join(StormTill& till);
   unsigned draw() { return static_cast<unsigned>(random_()); }
   void pause(unsigned mostMs);
   void blow();

@@ -6,9 +6,8 @@
 #include <string>
 
 #include "SellingTill.h"
+#include "ShopJoining.h"
 #include "TemporaryFolder.h"
-#include "ThrowAwayServer.h"
-#include "server/ShopServer.h"
 #include "sync/Upload.h"
 
 /// A shop with a real server, empty at each test, and tills that join it.
@@ -67,18 +66,7 @@ class ShopServerFixture : public testing::Test {
   };
   std::unique_ptr<Joined> join(int number, const std::string& file, bool again = false) {
     auto joined = std::make_unique<Joined>(folder.file(file), number);
-    const JoinCode code = shop().addTill(number, again);
-    ServerLine line(joiningParameters(address(number, code.secret)));
-    const ShopServer::Joined place = ShopServer::enrol(line, number, "password");
-    joinShop(*joined->till.shop,
-             {.till = number,
-              .epoch = place.epoch,
-              .host = server_->folder().string(),
-              .port = server_->port(),
-              .database = "books",
-              .password = "password",
-              .authority = ""},
-             place.highestBill);
+    joinThrowAwayShop(*server_, *joined->till.shop, number, server_->folder().string(), again);
     joined->connect();
     return joined;
   }
