@@ -5278,6 +5278,56 @@ The questions were not all answered. Nothing was made.</translation>
         <translation>code</translation>
     </message>
     <message>
+        <source>服务器传来的 %1 读不懂：%2</source>
+        <translation>What the server sent of %1 cannot be read: %2</translation>
+    </message>
+    <message>
+        <source>这是一台收银机的数据文件。请用办公室的数据文件：不加入店铺，商品、会员和操作员都在里面。</source>
+        <translation>This is a till&apos;s data file. Use the office&apos;s: it joins no shop, and has the goods, members and operators.</translation>
+    </message>
+    <message>
+        <source>已送 %1 行</source>
+        <translation>%1 rows sent</translation>
+    </message>
+    <message>
+        <source>已发布：新增 %1 行，改动 %2 行，删除 %3 行；各台收银机自己来取。</source>
+        <translation>Published: %1 rows added, %2 changed, %3 removed; the tills fetch them by themselves.</translation>
+    </message>
+    <message>
+        <source>把办公室数据文件里的商品、会员、操作员和店铺参数发到各台收银机</source>
+        <translation>bring goods, members, operators and shop parameters of the office&apos;s data file to the tills</translation>
+    </message>
+    <message>
+        <source>办公室的数据文件是不加入店铺的一个文件：商品、会员、操作员和店铺参数都在里面，tilladmin 的命令照样用。只发上次发布以后改过的；上次发布过、现在没有的，在各台也删掉（会员是停用）。
+不发的：库存、余额、累计消费和积分，以及各台自己的参数 Journal、BackupOnExit、GoodsImport。</source>
+        <translation>The office&apos;s data file joins no shop: it has the goods, members, operators and shop parameters, and tilladmin&apos;s commands work on it as ever. Only what changed since the last publishing is sent; what was published and is gone is removed at the tills, too (members are blocked).
+Not sent: stock, balances, purchases and points, and the tills&apos; own parameters Journal, BackupOnExit, GoodsImport.</translation>
+    </message>
+    <message>
+        <source>这是连着服务器的收银机。商品、会员、操作员和店铺参数在办公室的数据文件里改，再用 tilladmin shop publish 发到各台收银机。</source>
+        <translation>This till has a shop&apos;s server. Change goods, members, operators and shop parameters in the office&apos;s data file, then send them to the tills by tilladmin shop publish.</translation>
+    </message>
+    <message>
+        <source>已取 %1 行</source>
+        <translation>%1 rows fetched</translation>
+    </message>
+    <message>
+        <source>店铺的商品、会员、操作员和参数已取来（%1 行）。</source>
+        <translation>The shop&apos;s goods, members, operators and parameters are here (%1 rows).</translation>
+    </message>
+    <message>
+        <source>店铺的商品还没有取全（%1）；打开收银程序后接着取。</source>
+        <translation>Not all of the shop&apos;s goods are here yet (%1); the open till goes on fetching them.</translation>
+    </message>
+    <message>
+        <source>这台收银机连着店铺的服务器，商品从办公室来。</source>
+        <translation>This till has a shop&apos;s server: goods come from the office.</translation>
+    </message>
+    <message>
+        <source>tilladmin shop add-till 给出的</source>
+        <translation>As tilladmin shop add-till gave it</translation>
+    </message>
+    <message>
         <source>服务器的端口，一般是 5432</source>
         <translation>The server&apos;s port, usually 5432</translation>
     </message>

@@ -61,7 +61,7 @@ TEST_F(ShopTest, IsMadeAndJoinedAtTheCommandLine) {
   expect(0, "", "enrol @ " + host);
   write("goods.csv", "f_spbm,f_spmc\n1,茶\n");
   for (const char* refused : {"import @ --table spda ./goods.csv", "param set @ ShopName=x",
-                              "operator add @ 1 张三 --password 1"})
+                              "operator add @ --number 1 --name 张三 --password 1"})
     expect(1, "shop publish", refused);
   expect(1, "连着服务器的收银机", "shop publish @ --server " + at);
   expect(1, "日志不能停", "param set @ Journal=0");
