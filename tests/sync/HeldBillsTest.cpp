@@ -113,7 +113,7 @@ TEST_F(HeldBillsTest, AreNotGivenUpForNobody) {
   EXPECT_TRUE(want(second, "key", bill).isWaiting);
   owner->ask("update shop.held set wanted_at = now() - interval '6 seconds'");
   first.errand();
-  EXPECT_EQ(first.till.books().held().size(), 1U) << "whoever wanted it went away";
+  ASSERT_EQ(first.till.books().held().size(), 1U) << "whoever wanted it went away";
   owner->ask("update shop.till set last_contact = now() - interval '11 seconds' where till = 1");
   EXPECT_EQ(want(second, "key", bill).reply, BillAuthority::Reply::kAway);
   first.errand();
