@@ -99,7 +99,7 @@ void pressKeys(benchmark::State& state, Measured& row, TwoTills& tills) {
 void longestKey(Run& run, benchmark::State& state, Measured& row) {
   Enrolled shop(run);
   for ([[maybe_unused]] auto _ : state) {
-    using enum Weather;
+    using enum Proxy::Weather;
     for (const Weather weather : {kFair, kCut, kSwallow, kLoseAnswer, kSlow}) {
       shop.beside.network().set(weather);
       for (int bill = 0; bill < 2; ++bill) pressKeys(state, row, shop.tills);

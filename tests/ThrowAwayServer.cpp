@@ -123,8 +123,8 @@ void ThrowAwayServer::makeEmpty() {
 }
 
 ThrowAwayServer::~ThrowAwayServer() {
-  if (!fs::exists(data() + "/postmaster.pid")) return;  // it was killed
   try {
+    if (!fs::exists(data() + "/postmaster.pid")) return;  // it was killed
     run(programFolder() + "pg_ctl stop --mode=immediate --wait --timeout=60 -D " + data());
   } catch (const std::exception& failure) {
     std::fputs(failure.what(), stderr);
@@ -207,7 +207,7 @@ void ThrowAwayServer::set(const std::string& setting) const {
 }
 
 std::string ThrowAwayServer::write(const std::string& name, const std::string& text) const {
-  const std::string path = folder_.file(name);
+  std::string path = folder_.file(name);
   std::ofstream(path) << text;
   fs::permissions(path, fs::perms::owner_read | fs::perms::owner_write);
   if (geteuid() == 0 && chown(path.c_str(), 65534, 65534) != 0)

@@ -156,7 +156,7 @@ void Day::settle() {
 void Day::typeTenders(Ledger::Bill& bill) {
   bill.paidWith(Tender::kCash) = bill.goodsAmount() + Currency::fromYuan(below(50));
   if (chance(50)) {
-    bill.paidWith(Tender::kFavorable) = Currency::fromScaled(below(100) * 100);
+    bill.paidWith(Tender::kFavorable) = Currency::fromScaled(std::int64_t{below(100)} * 100);
     bill.salesman = static_cast<int>(below(9));
     bill.paidWith(Tender::kBankCard) = Currency::fromYuan(below(20));
     if (chance(50)) {

@@ -6,6 +6,7 @@
 #include <stdexcept>
 #include <string_view>
 #include <thread>
+#include <utility>
 
 #include "base/NumberText.h"
 #include "driver/TillDriver.h"
