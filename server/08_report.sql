@@ -41,9 +41,9 @@ create view shop.returned as
   left join shop.sale s on s.bill = t.bill
   left join shop.sale_line l on (l.till, l.epoch, l.bill, l.line) = (s.till, s.epoch, t.bill, t.line);
 
--- Who the operators are and what the shop is called, as the tills told it last.
+-- Who the operators are: as the owner published them, else as the tills told it last.
 create index fact_names on shop.fact (place)
-  where kind in ('books_stated', 'operator_added', 'operator_changed', 'parameter_set');
+  where kind in ('books_stated', 'operator_added', 'operator_changed');
 
 create view shop.report_operators as
   select distinct on (id) id, name
@@ -53,10 +53,18 @@ create view shop.report_operators as
                coalesce(body::jsonb->'operators',
                         jsonb_build_array(body::jsonb->'operator'))) o
         where kind in ('books_stated', 'operator_added', 'operator_changed')
-          and jsonb_typeof(o) = 'object') told
+          and jsonb_typeof(o) = 'object'
+        union all
+        select null, key::bigint, body->>'name' from shop.change
+        where tbl = 'operators' and body is not null) told
   order by id, place desc;
 
+create view shop.report_names as
+  select tbl, key, coalesce(body->>'f_spmc', body->>'value') as name from shop.change
+  where tbl in ('spda', 'sys_param');
 create view shop.report_goods as
-  select item as f_spbm, quantity, null::text as f_spmc, null::text as f_splbmc,
-         null::numeric as f_zhjj
-  from shop.stock order by item;
+  select coalesce(c.body->>'f_spbm', s.item) as f_spbm, s.quantity, c.body->>'f_spmc' as f_spmc,
+         c.body->>'f_splbmc' as f_splbmc, shop.amount_of(c.body->>'f_zhjj') as f_zhjj
+  from (select key, body from shop.change where tbl = 'spda' and body is not null) c
+  full join shop.stock s on s.item = c.key
+  order by 1;

@@ -81,7 +81,7 @@ declare
   marks text := '';
 begin
   foreach name in array array['sale', 'sale_line', 'taken_back', 'stock_base', 'movement_sums', 'card',
-                              'card_sums'] loop
+                              'card_sums', 'own_stated'] loop
     execute format('select coalesce(sum(hashtextextended(t::text, 0)::numeric), 0) || '':'' ||
                     count(*) from shop.%I t', name) into mark;
     marks := marks || name || '=' || mark || ' ';

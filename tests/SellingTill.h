@@ -96,6 +96,14 @@ class SellingTill {
     Rows rows = shop->query("select card from member where bh = ?", card);
     return rows.next() ? rows.text("card") : "(no card)";
   }
+  /// What the file has in stock of the second item, as if no bill were open.
+  std::string stock() const {
+    return value(
+        "select round((select quantity from stock where spbm = 'B') + coalesce((select"
+        " sum(l.amount * ratio) from sellProducts l join sell s on s.id = l.sellId where s.state = "
+        "0"
+        " and bm = 'B'), 0), 6) as value");
+  }
 
   void set(const char* parameter, const char* value) {
     ensure(rules_.set(parameter, value).empty(), "a parameter has values of its kind");

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "base/Failure.h"
+#include "base/Text.h"
 #include "base/Words.h"
 #include "saleslib/Tenders.h"
 #include "store/Row.h"
@@ -93,8 +94,8 @@ bool ServerTakings::goods(const Taker& taker) {
 }
 
 std::string ServerTakings::goodsName(const std::string& code) {
-  const ServerAnswer row = required(
-      line_.ask("select f_spmc from shop.report_goods where lower(f_spbm) = lower($1)", {code}));
+  const ServerAnswer row = required(line_.ask(
+      "select name from shop.report_names where tbl = 'spda' and key = $1", {asciiLower(code)}));
   return row.rows.empty() ? "" : row.rows[0].at(0).value_or("");
 }
 
@@ -107,7 +108,7 @@ std::map<std::int64_t, std::string> ServerTakings::operatorNames() {
 }
 
 std::string ServerTakings::shopName() {
-  const ServerAnswer row =
-      required(line_.ask("select value from shop.setting where name = 'shop_name'"));
+  const ServerAnswer row = required(
+      line_.ask("select name from shop.report_names where tbl = 'sys_param' and key = 'shopname'"));
   return row.rows.empty() ? "" : row.rows[0].at(0).value_or("");
 }

@@ -5324,10 +5324,6 @@ Not sent: stock, balances, purchases and points, and the tills&apos; own paramet
         <translation>This till has a shop&apos;s server: goods come from the office.</translation>
     </message>
     <message>
-        <source>tilladmin shop add-till 给出的</source>
-        <translation>As tilladmin shop add-till gave it</translation>
-    </message>
-    <message>
         <source>服务器的端口，一般是 5432</source>
         <translation>The server&apos;s port, usually 5432</translation>
     </message>
