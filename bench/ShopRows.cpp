@@ -10,6 +10,7 @@
 #include "saleslib/ShopLink.h"
 #include "store/Connection.h"
 #include "store/DataFile.h"
+#include "sync/LiveLine.h"
 #include "sync/ShopCards.h"
 #include "sync/Upload.h"
 
@@ -140,7 +141,7 @@ void deadQuestion(Run& run, benchmark::State& state, Measured& row) {
       if (ask() != CardAuthority::Answer::kNone) throw std::runtime_error("an answer from nobody");
     }));
   }
-  const double patience = std::chrono::duration<double, std::micro>(ShopCards::kPatience).count();
+  const double patience = std::chrono::duration<double, std::micro>(LiveLine::kPatience).count();
   row.claims = {{"of the patience", row.till.most() / patience, 1.05}};
 }
 

@@ -30,8 +30,7 @@ void hashCardPasswords(Connection& connection) {
   Rows rows = connection.query("select id, password from member where password <> ''");
   while (rows.next()) {
     std::string password = rows.text("password");
-    if (!isHash(password))
-      bare.emplace_back(rows.whole("id").value_or(0), std::move(password));
+    if (!isHash(password)) bare.emplace_back(rows.whole("id").value_or(0), std::move(password));
   }
   for (const auto& [member, password] : bare)
     connection.run("update member set password = ? where id = ?", hashOf(password), member);

@@ -24,7 +24,7 @@ constexpr std::size_t kLongestText = 100;
 std::string hashOf(Connection& connection, std::int32_t id) {
   Rows row = connection.query("select password from member where id = ?", id);
   return row.next() && shopLink(connection) && isHash(row.text("password")) ? row.text("password")
-                                                                           : "";
+                                                                            : "";
 }
 
 }  // namespace

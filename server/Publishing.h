@@ -17,6 +17,6 @@ using PublishProgress = std::function<void(std::int64_t rows)>;
 /// Holds the masters (saleslib/MasterTables.h) of the office's data file against those of the
 /// shop's server, logged in as its owner, and writes there what the owner changed since he
 /// published last; what he published before and has no more is gone. One transaction. What tills
-/// changed meanwhile stays. Passwords of cards become hashes in the office's file first. Throws Failure, with the server's words, and Refusal's like for a
-/// till's file.
+/// changed meanwhile stays. Passwords of cards become hashes in the office's file first. Throws
+/// Failure, with the server's words, and Refusal's like for a till's file.
 Published publish(ServerLine& line, Connection& office, const PublishProgress& progress);

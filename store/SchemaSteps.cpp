@@ -24,7 +24,7 @@ create index sell_phone_slip on sell (phone_slip) where phone_slip is not null;
 
 const std::vector<std::string>& schemaSteps() {
   static const std::vector<std::string> steps = {
-      kFirstTables,  kSecondStep,  kThirdStep, kGoodsTables, kStaffCardStep,
-      kJournalTable, kShiftTables, kLinkTable, kCardTables,  kDownTables, kShopBillTables};
+      kFirstTables, kSecondStep, kThirdStep,  kGoodsTables, kStaffCardStep, kJournalTable,
+      kShiftTables, kLinkTable,  kCardTables, kDownTables,  kShopBillTables};
   return steps;
 }

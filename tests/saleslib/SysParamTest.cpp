@@ -15,12 +15,12 @@ TEST_F(SysParamTest, EveryParameterHasASoundValueAndOnlySuchAreStored) {
       if (!each.value.empty()) all += each.name + "=" + each.value + " ";
     return all;
   };
-  EXPECT_EQ(
-      values(),
-      "StockRule=0 RoundJiao=0 RoundYuan=0 PointUnit=10 GeneralRate=1 VipRate=0.95 "
-      "SilverRate=1 GoldRate=1 BackupOnExit=0 CheckPayment=0 GoodsImport=0 PhonePay=0 "
-      "OwnerReport=0 Practice=0 JoinShop=0 Approval=0 Shifts=0 Journal=0 OfflineCard=0 OfflineCardLimit=0 "
-      "OfflineReturn=0 OfflineStock=0 OfflineLoginDays=7 ");
+  EXPECT_EQ(values(),
+            "StockRule=0 RoundJiao=0 RoundYuan=0 PointUnit=10 GeneralRate=1 VipRate=0.95 "
+            "SilverRate=1 GoldRate=1 BackupOnExit=0 CheckPayment=0 GoodsImport=0 PhonePay=0 "
+            "OwnerReport=0 Practice=0 JoinShop=0 Approval=0 Shifts=0 Journal=0 OfflineCard=0 "
+            "OfflineCardLimit=0 "
+            "OfflineReturn=0 OfflineStock=0 OfflineLoginDays=7 ");
 
   const std::tuple<const char*, std::string, const char*> attempts[] = {
       {"shopname", "小店 'A' %", ""},
@@ -40,12 +40,12 @@ TEST_F(SysParamTest, EveryParameterHasASoundValueAndOnlySuchAreStored) {
   for (const auto& [name, value, refusal] : attempts) EXPECT_EQ(shop.set(name, value), refusal);
   for (const bool readAgain : {false, true}) {
     if (readAgain) shop.Conn(connection);
-    EXPECT_EQ(
-        values(),
-        "ShopName=小店 'A' % StockRule=1 RoundJiao=0 RoundYuan=1 PointUnit=20 "
-        "GeneralRate=0.88 VipRate=0.95 SilverRate=1 GoldRate=1 BackupOnExit=0 "
-        "CheckPayment=0 GoodsImport=0 PhonePay=0 "
-        "OwnerReport=0 Practice=0 JoinShop=0 Approval=0 Shifts=0 Journal=0 OfflineCard=0 OfflineCardLimit=0 "
-        "OfflineReturn=0 OfflineStock=0 OfflineLoginDays=7 ");
+    EXPECT_EQ(values(),
+              "ShopName=小店 'A' % StockRule=1 RoundJiao=0 RoundYuan=1 PointUnit=20 "
+              "GeneralRate=0.88 VipRate=0.95 SilverRate=1 GoldRate=1 BackupOnExit=0 "
+              "CheckPayment=0 GoodsImport=0 PhonePay=0 "
+              "OwnerReport=0 Practice=0 JoinShop=0 Approval=0 Shifts=0 Journal=0 OfflineCard=0 "
+              "OfflineCardLimit=0 "
+              "OfflineReturn=0 OfflineStock=0 OfflineLoginDays=7 ");
   }
 }
