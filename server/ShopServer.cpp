@@ -55,8 +55,7 @@ int ShopServer::init(const std::string& authority) {
   required(line_.run(kServerRoles, kPatience));
   const auto count = static_cast<int>(serverSteps().size());
   const int done = stepsDone();
-  if (done > 0 && done < count)
-    throw Failure(Words::tr("店铺已经建好，是较早的版本；请用 tilladmin shop upgrade 升级。"));
+  if (done > 0) requireCurrent();
   if (const std::string script = stepsBehind(done); !script.empty())
     required(line_.run("begin; set local role shop_keeper;\n" + script + "commit", kPatience));
   if (!authority.empty()) {
@@ -66,6 +65,11 @@ int ShopServer::init(const std::string& authority) {
                   {authority}));
   }
   return count - done;
+}
+
+void ShopServer::requireCurrent() {
+  if (stepsDone() < static_cast<int>(serverSteps().size()))
+    throw Failure(Words::tr("店铺已经建好，是较早的版本；请用 tilladmin shop upgrade 升级。"));
 }
 
 ShopServer::Steps ShopServer::upgrade() {
@@ -81,6 +85,7 @@ ShopServer::Steps ShopServer::upgrade() {
 }
 
 std::int64_t ShopServer::fold(int days) {
+  requireCurrent();
   std::int64_t gone = 0;
   for (const char* step :
        {"select last, gone from shop.fold_movements($1, $2, now() - $3::interval)",
@@ -195,6 +200,7 @@ std::vector<ShopServer::Till> ShopServer::tills() {
 }
 
 ShopServer::Checked ShopServer::check(bool rebuild) {
+  requireCurrent();
   Checked found;
   followChains(found);
   const ServerAnswer sums = required(

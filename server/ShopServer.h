@@ -29,6 +29,8 @@ class ShopServer {
   /// facts, since a newer version may read in them what the one before did not. All of it or
   /// nothing; the tills wait meanwhile, and sell on.
   Steps upgrade();
+  /// Throws Failure for a shop of an older version, for what that cannot do.
+  void requireCurrent();
 
   /// Adds up what moved in stock and on cards longer ago than that, in place, so that sums over it
   /// stay quick; in small steps beside the selling tills. Gives how many rows that saved.

@@ -150,6 +150,7 @@ void revoke(const Options& options, Console& console) {
 void publish(const Options& options, Console& console) {
   const std::unique_ptr<Connection> office = options.file.openOffice(console);
   ServerLine line = options.line();
+  ShopServer(line).requireCurrent();
   const Published done = publish(line, *office, [&console](std::int64_t rows) {
     if (rows % kRowsPerProgress == 0) console.err << Words::tr("已送 %1 行", rows) << std::endl;
   });
