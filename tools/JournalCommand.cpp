@@ -23,13 +23,6 @@ struct Options {
   std::optional<int> operatorId, till;
 };
 
-std::optional<Date> dayOf(const std::string& typed, const Date& today) {
-  if (typed.empty()) return std::nullopt;
-  const std::optional<Date> day = parseTypedDate(typed, today.year);
-  if (!day) throw Refusal(Words::tr("不是日期：%1", typed));
-  return day;
-}
-
 /// A kind's key, which may be typed as people call the kind.
 std::string kindOf(const std::string& typed) {
   if (typed.empty() || entryKindOf(typed) != nullptr) return typed;
@@ -40,8 +33,8 @@ std::string kindOf(const std::string& typed) {
 }
 
 JournalFilter filterOf(const Options& options, const Date& today) {
-  return {.from = dayOf(options.from, today),
-          .to = dayOf(options.to, today),
+  return {.from = typedDay(options.from, today),
+          .to = typedDay(options.to, today),
           .kind = kindOf(options.kind),
           .operatorId = options.operatorId,
           .till = options.till};

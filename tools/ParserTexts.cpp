@@ -9,6 +9,7 @@
 #include "base/NumberText.h"
 #include "base/Text.h"
 #include "base/Words.h"
+#include "shop/Refusal.h"
 
 namespace {
 
@@ -108,4 +109,11 @@ CLI::Validator wholeNumber(std::int64_t least, std::int64_t most) {
                        : Words::tr("应是 %1 到 %2 的整数，写的是“%3”", least, most, typed);
       },
       "");
+}
+
+std::optional<Date> typedDay(const std::string& typed, const Date& today) {
+  if (typed.empty()) return std::nullopt;
+  const std::optional<Date> day = parseTypedDate(typed, today.year);
+  if (!day) throw Refusal(Words::tr("不是日期：%1", typed));
+  return day;
 }

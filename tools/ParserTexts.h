@@ -1,8 +1,11 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <vector>
+
+#include "base/DateTime.h"
 
 namespace CLI {
 class App;
@@ -23,3 +26,7 @@ std::string inChinese(const CLI::ParseError& error);
 CLI::Validator oneOf(std::vector<std::string> words);
 /// A whole number in these bounds.
 CLI::Validator wholeNumber(std::int64_t least, std::int64_t most);
+
+/// A day as people type one, in this year where they left it out; nothing when nothing was typed.
+/// Throws Refusal.
+std::optional<Date> typedDay(const std::string& typed, const Date& today);

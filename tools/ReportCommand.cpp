@@ -38,17 +38,10 @@ struct Options {
   std::size_t mostGoods = ReportTerms().mostGoods;
 };
 
-Date dateOf(const std::string& typed, const Date& byDefault) {
-  if (typed.empty()) return byDefault;
-  const std::optional<Date> date = parseTypedDate(typed, byDefault.year);
-  if (!date) throw Refusal(Words::tr("不是日期：%1", typed));
-  return *date;
-}
-
 ReportTerms termsOf(const Options& options, const Date& today) {
   ReportTerms terms;
-  terms.from = dateOf(options.from, {today.year, today.month, 1});
-  terms.to = dateOf(options.to, today);
+  terms.from = typedDay(options.from, today).value_or(Date{today.year, today.month, 1});
+  terms.to = typedDay(options.to, today).value_or(today);
   if (terms.to < terms.from) throw Refusal(Words::tr("--to 的日期比 --from 早。"));
   terms.slowDays = options.slowDays;
   terms.stockBelow = options.stockBelow;
@@ -94,7 +87,7 @@ ReportProgress progressOn(Console& console) {
 
 Report reportOfServer(const Options& options, const ReportTerms& terms, Console& console) {
   ServerLine line({{"dbname", options.server}});
-  ServerTakings shop(line, options.till);
+  ServerTakings shop(line, {.till = options.till});
   return takingsReport(shop, terms, console.clock(), progressOn(console)).value();
 }
 

@@ -41,7 +41,7 @@ class ServerRow : public Row {
 
 }  // namespace
 
-ServerTakings::ServerTakings(ServerLine& line, std::optional<int> till) : line_(line), till_(till) {
+ServerTakings::ServerTakings(ServerLine& line, Part part) : line_(line), part_(part) {
   required(line_.ask("begin isolation level repeatable read read only"));
 }
 
@@ -70,7 +70,8 @@ bool ServerTakings::walk(const Columns& columns, const std::string& view, const 
                          const std::string& order, const Taker& taker) {
   const std::string column = time.column;
   std::string query = view + " where " + column + " >= $1 and " + column + " < $2";
-  if (till_) query += " and till = " + std::to_string(*till_);
+  if (part_.till) query += " and till = " + std::to_string(*part_.till);
+  if (part_.bill) query += " and bill = " + std::to_string(*part_.bill);
   return walk(columns, query + " order by " + order,
               {storedText(time.from), storedText(time.until)}, taker);
 }
@@ -78,12 +79,13 @@ bool ServerTakings::walk(const Columns& columns, const std::string& view, const 
 bool ServerTakings::sold(const DateTime& from, const DateTime& until, const Taker& taker) {
   Columns columns = {"id",       "ratio",    "line_quantity", "bm",   "splbmc",    "money",
                      "in_price", "discount", "price",         "name", "sell_time", "operator_id",
-                     "quantity", "amount",   "goods_amount",  "till"};
+                     "quantity", "amount",   "goods_amount",  "till", "bill"};
   for (const TenderKind& kind : tenderKinds()) columns.emplace_back(kind.column);
   return walk(columns, "shop.sold", {"sell_time", from, until}, "sell_time, id, line", taker);
 }
 
 void ServerTakings::returned(const DateTime& from, const DateTime& until, const Taker& taker) {
+  if (part_.bill) return;
   walk({"bm", "name", "quantity", "ratio", "money", "operator_id"}, "shop.returned",
        {"un_time", from, until}, "un_time, till, seq", taker);
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <optional>
 #include <string>
 #include <vector>
@@ -11,8 +12,13 @@
 /// this is made. It throws Failure, with the server's words.
 class ServerTakings : public TakingsSource {
  public:
+  /// Of all bills, only these.
+  struct Part {
+    std::optional<int> till = {};
+    std::optional<std::int64_t> bill = {};  ///< by its number; returns are left out then
+  };
   /// The line, logged in as the shop's owner, outlives this.
-  ServerTakings(ServerLine& line, std::optional<int> till);
+  ServerTakings(ServerLine& line, Part part);
   ~ServerTakings() override;
   ServerTakings(const ServerTakings&) = delete;
   ServerTakings& operator=(const ServerTakings&) = delete;
@@ -38,5 +44,5 @@ class ServerTakings : public TakingsSource {
             const Taker& taker);
 
   ServerLine& line_;
-  std::optional<int> till_;
+  Part part_;
 };

@@ -15,6 +15,7 @@
 #include "store/Connection.h"
 #include "tools/DataFileOptions.h"
 #include "tools/ParserTexts.h"
+#include "tools/ShopSales.h"
 
 namespace {
 
@@ -201,6 +202,7 @@ void addShopCommand(CLI::App& app, Console& console, int& exitCode) {
   CLI::App* checking = command("check", Words::tr("核对每台传来的记录和按它们做的账表"));
   checking->add_flag("--rebuild", options->rebuild, Words::tr("按记录重新做账表"));
   checking->callback([options, &console, &exitCode] { check(*options, console, exitCode); });
+  addShopSales(*command("sales", shopSalesMeaning()), options->server, console);
   CLI::App* publishing = command(
       "publish", Words::tr("把办公室数据文件里的商品、会员、操作员和店铺参数发到各台收银机"));
   options->file.addTo(*publishing);

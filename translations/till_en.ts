@@ -5715,6 +5715,30 @@ Not sent: stock, balances, purchases and points, and the tills&apos; own paramet
         <source>多少天以前的；不写是 400，不要比各台的备份新</source>
         <translation>From how many days ago back; 400 unless given; no newer than the tills&apos; backups</translation>
     </message>
+    <message>
+        <source>合计 %1 单，%2 行，数量 %3，金额 %4</source>
+        <translation>in all %1 bills, %2 lines, quantity %3, amount %4</translation>
+    </message>
+    <message>
+        <source>列出各台卖出的每一行，最早的在前，最后是合计：机号、单号、时间、操作员、货号、品名、数量、单价、折扣、金额，各用制表符分开；退了的已减去</source>
+        <translation>lists each line that the tills sold, the earliest first, and the sums at the end: till, bill, time, operator, item number, name, quantity, price, discount, amount, separated by tabs; what was taken back is taken off</translation>
+    </message>
+    <message>
+        <source>从哪天起；不写从今天起</source>
+        <translation>the first day; from today if not given</translation>
+    </message>
+    <message>
+        <source>只列小票上这个单号的一单；不写日期就不论哪天</source>
+        <translation>only the bill with this number on its receipt; of any day if none is given</translation>
+    </message>
+    <message>
+        <source>只列这位操作员</source>
+        <translation>only this operator</translation>
+    </message>
+    <message>
+        <source>只列货号或品名里有这些字的</source>
+        <translation>only what has these characters in its number or name</translation>
+    </message>
 </context>
 <context>
     <name>WorkProgress</name>

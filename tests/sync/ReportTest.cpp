@@ -1,7 +1,10 @@
+#include <sstream>
+
 #include "sync/ShopServerFixture.h"
 #include "takings/ReportFile.h"
 #include "takings/TakingsReport.h"
 #include "tools/ServerTakings.h"
+#include "tools/Tool.h"
 
 namespace {
 
@@ -17,7 +20,7 @@ struct WholeReportTest : ShopServerFixture {
   }
   Report ofServer(std::optional<int> till) {
     owner->close();
-    ServerTakings whole(*owner, till);
+    ServerTakings whole(*owner, {.till = till});
     return made(whole);
   }
   static Report ofFile(Connection& file) {
@@ -61,6 +64,35 @@ TEST_F(WholeReportTest, SaysOfEachTillWhatItsFileSaysAndAddsThemUp) {
       all += std::get<Currency>(figure(ofFile(*(*till)->till.shop), sum));
     EXPECT_EQ(figure(wholeShop, sum), ReportCell(all)) << sum;
   }
+}
+
+TEST_F(WholeReportTest, ListsWhatTheTillsSoldAndFindsABill) {
+  const auto first = join(1, "first"), second = join(2, "second");
+  const int part = first->till.sell(7.5).first, whole = first->till.sell(3).first;
+  const int other = second->till.sell(2).first;
+  first->till.takeBack(part, 1.5);
+  first->till.takeBack(whole, 3);
+  first->bring();
+  second->bring();
+  owner->close();
+  std::string server;
+  for (const auto& [name, value] : server_->owner()) server += name + "=" + value + " ";
+  const auto sales = [&server](std::vector<const char*> further) {
+    further.insert(further.begin(), {"tilladmin", "shop", "sales", "--server", server.c_str()});
+    std::istringstream in;
+    std::ostringstream out;
+    Console console{in, out, out, localTime};
+    EXPECT_EQ(runTool(static_cast<int>(further.size()), further.data(), console), 0);
+    return out.str();
+  };
+  EXPECT_THAT(sales({}), HasSubstr("合计 3 单，5 行，数量 11，金额 22.82"));
+  EXPECT_THAT(sales({"--till", "2"}), AllOf(HasSubstr("2\t" + std::to_string(other) + '\t'),
+                                            HasSubstr("合计 1 单，2 行，数量 3")));
+  EXPECT_THAT(
+      sales({"--bill", std::to_string(part).c_str()}),
+      AllOf(HasSubstr("\tB\tB\t6\t1.333\t1\t8.00\n"), HasSubstr("合计 1 单，2 行，数量 7")));
+  EXPECT_THAT(sales({"--goods", "b", "--operator", "1"}), HasSubstr("合计 2 单，2 行，数量 8"));
+  EXPECT_THAT(sales({"--operator", "2"}), HasSubstr("合计 0 单，0 行，数量 0，金额 0.00"));
 }
 
 }  // namespace
