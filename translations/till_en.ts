@@ -5715,6 +5715,10 @@ Not sent: stock, balances, purchases and points, and the tills&apos; own paramet
         <source>多少天以前的；不写是 400，不要比各台的备份新</source>
         <translation>From how many days ago back; 400 unless given; no newer than the tills&apos; backups</translation>
     </message>
+    <message>
+        <source>在总部：只发给这个店，在它那里先于发给各店的算数</source>
+        <translation>At head office: for this shop alone, where it counts before what is for all shops</translation>
+    </message>
 </context>
 <context>
     <name>WorkProgress</name>
