@@ -221,6 +221,19 @@ TEST_F(ChainTest, AddsShopsUpAndChargesTheirCards) {
   }
   enter(kHead);
   server_->start();
+
+  enter(2);
+  server_->copy();
+  sell();
+  server_->putBack();
+  type("select pg_drop_replication_slot", 2);
+  enter(kHead);
+  value("set client_min_messages = warning");
+  for (const char* each : {"alter subscription shop_1 disable", "alter subscription shop_1 set",
+                           "drop subscription", "create subscription", "select shop.fill"})
+    type(each, 2);
+  sell();
+  EXPECT_EQ(soon(kBills, "13"), "13") << "a shop that was put back is heard again";
   expectSound();
 }
 
