@@ -70,7 +70,8 @@ void hashPasswords(Connection& office) {
 
 }  // namespace
 
-Published publish(ServerLine& line, Connection& office, const PublishProgress& progress) {
+Published publish(ServerLine& line, Connection& office, std::optional<int> shop,
+                  const PublishProgress& progress) {
   if (shopLink(office)) {
     throw Failure(
         Words::tr("这是一台收银机的数据文件。请用办公室的数据文件：不加入店铺，商品、会员和操作员都"
@@ -85,8 +86,10 @@ Published publish(ServerLine& line, Connection& office, const PublishProgress& p
   for (const MasterTable& table : masterTables()) sendTable(office, table, sending);
   sending.send();
   required(line.run("analyze incoming", kPatience));
-  const ServerAnswer answer =
-      required(line.ask("select added, changed, removed from shop.publish()", {}, kPatience));
+  const ServerAnswer answer = required(
+      shop ? line.ask("select added, changed, removed from shop.publish_for($1)",
+                      {std::to_string(*shop)}, kPatience)
+           : line.ask("select added, changed, removed from shop.publish()", {}, kPatience));
   required(line.run("commit", kPatience));
   const ServerAnswer::Row& row = answer.rows.at(0);
   return {.added = wholeAt(row, 0).value_or(0),

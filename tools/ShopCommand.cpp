@@ -4,6 +4,7 @@
 #include <fstream>
 #include <iterator>
 #include <memory>
+#include <optional>
 #include <string>
 
 #include "base/Words.h"
@@ -22,12 +23,14 @@ namespace {
 constexpr std::int64_t kRowsPerProgress = 50'000;
 constexpr int kFactsAtTills = 400;  // days: no copy of a till's file that is put back is older
 constexpr int kMostDays = 36'500;
+constexpr int kMostShops = 2'000;
 constexpr std::int64_t kToldClockSeconds = 120;  // what a till's clock may be off unsaid
 
 struct Options {
   std::string server = "dbname=till";
   std::string authority;
   int till = 0, days = kFactsAtTills;
+  std::optional<int> shop;
   bool again = false, rebuild = false, firstIsOff = false, mayLose = false;
   DataFileOptions file;
 
@@ -152,7 +155,7 @@ void publish(const Options& options, Console& console) {
   const std::unique_ptr<Connection> office = options.file.openOffice(console);
   ServerLine line = options.line();
   ShopServer(line).requireCurrent();
-  const Published done = publish(line, *office, [&console](std::int64_t rows) {
+  const Published done = publish(line, *office, options.shop, [&console](std::int64_t rows) {
     if (rows % kRowsPerProgress == 0) console.err << Words::tr("已送 %1 行", rows) << std::endl;
   });
   console.out << Words::tr("已发布：新增 %1 行，改动 %2 行，删除 %3 行；各台收银机自己来取。",
@@ -206,6 +209,10 @@ void addShopCommand(CLI::App& app, Console& console, int& exitCode) {
   CLI::App* publishing = command(
       "publish", Words::tr("把办公室数据文件里的商品、会员、操作员和店铺参数发到各台收银机"));
   options->file.addTo(*publishing);
+  publishing
+      ->add_option("--shop", options->shop,
+                   Words::tr("在总部：只发给这个店，在它那里先于发给各店的算数"))
+      ->check(wholeNumber(1, kMostShops));
   publishing->footer(Words::tr(
       "办公室的数据文件是不加入店铺的一个文件：商品、会员、操作员和店铺参数都在里面，tilladmin "
       "的命令照样用。只发上次发布以后改过的；上次发布过、现在没有的，在各台也删掉（会员是停用）。\n"

@@ -5739,6 +5739,10 @@ Not sent: stock, balances, purchases and points, and the tills&apos; own paramet
         <source>只列货号或品名里有这些字的</source>
         <translation>only what has these characters in its number or name</translation>
     </message>
+    <message>
+        <source>在总部：只发给这个店，在它那里先于发给各店的算数</source>
+        <translation>At head office: for this shop alone, where it counts before what is for all shops</translation>
+    </message>
 </context>
 <context>
     <name>WorkProgress</name>
