@@ -10,7 +10,6 @@
 #include "base/Words.h"
 #include "link/ServerLine.h"
 #include "saleslib/Journal.h"
-#include "saleslib/ShopLink.h"
 #include "shop/Refusal.h"
 #include "store/Connection.h"
 #include "takings/ReportFile.h"
@@ -129,7 +128,7 @@ void addReportCommand(CLI::App& app, Console& console) {
       "--server", options->server,
       Words::tr("不看一个数据文件，看服务器上全店的账，例如 \"dbname=till\"；怎样连和 shop 一样"));
   command->add_option("--till", options->till, Words::tr("只看服务器上这台收银机的账"))
-      ->check(wholeNumber(1, kMostTills))
+      ->check(wholeNumber(1, kMostTillsOfChain))
       ->needs(server);
   command->add_option("--from", options->from, Words::tr("从哪天起；不写从本月一日起"));
   command->add_option("--to", options->to, Words::tr("到哪天止（含这一天）；不写到今天"));

@@ -8,6 +8,9 @@
 #include "link/ServerLine.h"
 #include "takings/TakingsSource.h"
 
+/// The highest number of a till at a server: at head office it carries its shop's, x 1000.
+constexpr int kMostTillsOfChain = 2'000'999;
+
 /// The bills of all tills at a shop's server, or of one of them, in the state that they are in when
 /// this is made. It throws Failure, with the server's words.
 class ServerTakings : public TakingsSource {

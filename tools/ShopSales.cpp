@@ -11,7 +11,6 @@
 #include "base/Text.h"
 #include "base/Words.h"
 #include "link/ServerLine.h"
-#include "saleslib/ShopLink.h"
 #include "shop/Refusal.h"
 #include "store/Row.h"
 #include "tools/ParserTexts.h"
@@ -116,7 +115,7 @@ void addShopSales(CLI::App& command, const std::string& server, Console& console
   command.add_option("--from", options->from, Words::tr("从哪天起；不写从今天起"));
   command.add_option("--to", options->to, Words::tr("到哪天止（含这一天）；不写到今天"));
   command.add_option("--till", options->part.till, Words::tr("只列这台收银机"))
-      ->check(wholeNumber(1, kMostTills));
+      ->check(wholeNumber(1, kMostTillsOfChain));
   command
       .add_option("--bill", options->part.bill,
                   Words::tr("只列小票上这个单号的一单；不写日期就不论哪天"))
