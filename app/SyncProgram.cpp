@@ -64,7 +64,9 @@ void SyncProgram::start() {
 
 QString SyncProgram::stateText(const DateTime& now) const {
   if (!state_) return {};
-  if (state_->isRefused) return tr("服务器不认这台收银机，请告诉店主");
+  using enum SyncState::Refusal;
+  if (state_->refusal == kTill) return tr("服务器不认这台收银机，请告诉店主");
+  if (state_->refusal == kCertificate) return tr("服务器的证书不对，请告诉店主");
   const std::int64_t minutes = secondsBetween(state_->contact, now) / 60;
   if (minutes < kSilentMinutes) return {};
   return tr("离线 %1 分钟，%2 单未上传").arg(minutes).arg(state_->pendingBills);

@@ -26,7 +26,7 @@ class SyncProgram {
   SyncProgram& operator=(const SyncProgram&) = delete;
 
   /// For a screen: empty while the server answers, else for how long it has not and how many bills
-  /// it lacks, or that it does not take this till.
+  /// it lacks, or why it and this till do not come together.
   QString stateText(const DateTime& now) const;
 
  private:

@@ -35,6 +35,7 @@ class ClientLibrary {
   TILL_CLIENT_FUNCTION(PQresultStatus);
   TILL_CLIENT_FUNCTION(PQsendQuery);
   TILL_CLIENT_FUNCTION(PQsendQueryParams);
+  TILL_CLIENT_FUNCTION(PQsetErrorVerbosity);
   TILL_CLIENT_FUNCTION(PQsetNoticeProcessor);
   TILL_CLIENT_FUNCTION(PQsetnonblocking);
   TILL_CLIENT_FUNCTION(PQsocket);

@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <cstdlib>
+#include <regex>
 #include <sstream>
 #include <utility>
 
@@ -91,6 +92,25 @@ ServerAnswer ServerLine::unknown(const std::string& why) {
   return answer;
 }
 
+// The library tells the code of what refused a line nowhere but in its longer text: "FATAL:  28P01:
+// password ...", with the server's place in its own source in a further line. The words of a wrong
+// certificate are the library's, too.
+ServerAnswer ServerLine::notLetIn() {
+  static const std::regex code(":  ([0-9A-Z]{5}): ");
+  const std::string words = fault();
+  std::smatch found;
+  if (std::regex_search(words, found, code)) {
+    const std::string reason = found.suffix().str();
+    ServerAnswer answer =
+        unknown(found.prefix().str() + ": " + reason.substr(0, reason.find('\n')));
+    answer.state = found[1];
+    return answer;
+  }
+  ServerAnswer answer = unknown(words);
+  if (words.find("certificate") != std::string::npos) answer.state = answer.kWrongCertificate;
+  return answer;
+}
+
 bool ServerLine::wait(bool forWriting, Moment deadline) const {
   const auto left =
       std::chrono::duration_cast<Milliseconds>(deadline - steady_clock::now()).count();
@@ -123,11 +143,13 @@ std::optional<ServerAnswer> ServerLine::openOnce(Moment deadline) {
   line_.reset(pq().PQconnectStartParams(names.data(), values.data(), 1));
   if (!line_ || pq().PQstatus(line_.get()) == CONNECTION_BAD) return unknown(fault());
   pq().PQsetNoticeProcessor(line_.get(), &ServerLine::noticed, this);
+  pq().PQsetErrorVerbosity(line_.get(), PQERRORS_VERBOSE);
   for (auto next = PGRES_POLLING_WRITING; next != PGRES_POLLING_OK;
        next = pq().PQconnectPoll(line_.get())) {
-    if (next == PGRES_POLLING_FAILED) return unknown(fault());
+    if (next == PGRES_POLLING_FAILED) return notLetIn();
     if (!wait(next == PGRES_POLLING_WRITING, deadline)) return unknown("the server is silent");
   }
+  pq().PQsetErrorVerbosity(line_.get(), PQERRORS_DEFAULT);
   if (pq().PQsetnonblocking(line_.get(), 1) != 0) return unknown(fault());
   return std::nullopt;
 }

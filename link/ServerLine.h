@@ -21,8 +21,11 @@ struct ServerAnswer {
   using Row = std::vector<std::optional<std::string>>;
 
   Kind kind = kUnknown;
-  std::string text = {};   ///< the server's or the system's own words
-  std::string state = {};  ///< of a refusal: SQLSTATE
+  std::string text = {};  ///< the server's or the system's own words
+  /// SQLSTATE of a refusal, and of a server that did not let the line in; of a line that was not
+  /// opened because of the server's certificate, this one.
+  std::string state = {};
+  static constexpr const char* kWrongCertificate = "TL0CA";
   std::vector<Row> rows = {};
 
   bool isDone() const { return kind == kAnswer; }
@@ -70,6 +73,7 @@ class ServerLine {
   std::optional<ServerAnswer> openFault(Moment deadline);
   ServerAnswer askOpen(const char* statement, const ServerAnswer::Row& values, Moment deadline);
   ServerAnswer unknown(const std::string& why);
+  ServerAnswer notLetIn();
   ServerAnswer answer(Moment deadline);
   bool receive(Moment deadline);
   bool wait(bool forWriting, Moment deadline) const;

@@ -33,11 +33,13 @@ std::optional<SyncState> readSyncState(const std::filesystem::path& dataFile) {
   std::ifstream file(placeOf(dataFile));
   std::string date, time;
   SyncState state;
-  if (!(file >> date >> time >> state.pendingBills >> state.isRefused >> state.atServer))
+  int refusal = 0;
+  if (!(file >> date >> time >> state.pendingBills >> refusal >> state.atServer))
     return std::nullopt;
   const std::optional<DateTime> contact = parseDateTime(date + " " + time);
   if (!contact) return std::nullopt;
   state.contact = *contact;
+  state.refusal = static_cast<SyncState::Refusal>(refusal);
   return state;
 }
 
@@ -57,7 +59,7 @@ void SyncPlace::write(const SyncState& state) const {
   std::array<char, 80> line{};
   std::snprintf(line.data(), line.size(), "%s %20lld %d %20lld\n",
                 storedText(state.contact).c_str(), static_cast<long long>(state.pendingBills),
-                state.isRefused ? 1 : 0, static_cast<long long>(state.atServer));
+                static_cast<int>(state.refusal), static_cast<long long>(state.atServer));
   const std::string text = line.data();
   if (pwrite(file_, text.data(), text.size(), 0) < 0) return;  // nobody depends on it
 }

@@ -12,8 +12,14 @@
 struct TESSALY_API SyncState {
   DateTime contact;               ///< when the server answered last, by this machine's clock
   std::int64_t pendingBills = 0;  ///< settled, and not at the server
-  bool isRefused = false;         ///< the server does not take this till
-  std::int64_t atServer = 0;      ///< number of the last entry there, as the server told
+  /// What somebody has to do something about; without it a server that does not answer is away.
+  enum class Refusal {
+    kNone,
+    kTill,         ///< the server does not take this till
+    kCertificate,  ///< whoever answers has not the certificate of the shop's server
+  };
+  Refusal refusal = Refusal::kNone;
+  std::int64_t atServer = 0;  ///< number of the last entry there, as the server told
 };
 
 /// None when nobody has written it yet.

@@ -29,6 +29,8 @@ void requireKnown(const ServerAddress& address) {
   ServerLine line(tillParameters(address, authority.path()));
   const ServerAnswer answer = line.ask("select 1");
   if (answer.isDone()) return;
+  if (answer.state != ServerAnswer::kWrongCertificate)
+    throw Failure(Words::tr("服务器没有再回应。加入码已经用掉，请再要一个。%1", answer.text));
   throw Failure(
       Words::tr("服务器的证书没有通过：它不是店铺的证书签的，或者上面没有“%1”。加入码已经"
                 "用掉，改好证书以后再要一个。%2",

@@ -25,6 +25,12 @@ constexpr auto kWithoutTill = 1min;
 constexpr auto kBetweenNotes = 1s;
 constexpr int kFailuresToOpenAnew = 10;  // the till may have joined anew, under another password
 
+SyncState::Refusal refusalOf(Upload::Outcome outcome) {
+  if (outcome == Upload::Outcome::kWrongServer) return SyncState::Refusal::kCertificate;
+  return outcome == Upload::Outcome::kRefused ? SyncState::Refusal::kTill
+                                              : SyncState::Refusal::kNone;
+}
+
 }  // namespace
 
 struct SyncRun::Session {
@@ -99,12 +105,13 @@ void SyncRun::note(Upload::Outcome outcome) {
   const bool isWell = outcome == kWent || outcome == kIdle;
   tellOnce(fault_);
   failures_ = isWell ? 0 : failures_ + 1;
-  if (outcome == kRefused || failures_ % kFailuresToOpenAnew == kFailuresToOpenAnew - 1)
-    session_.reset();
+  const SyncState::Refusal before = state_.refusal;
+  if (outcome != kIdle) state_.refusal = refusalOf(outcome);
+  const bool isForPeople = state_.refusal != SyncState::Refusal::kNone;
+  if (isForPeople || failures_ % kFailuresToOpenAnew == kFailuresToOpenAnew - 1) session_.reset();
   if (outcome == kWent) state_.contact = surroundings_.clock();
-  if (outcome != kIdle) state_.isRefused = outcome == kRefused;
   const auto now = steady_clock::now();
-  if (now - written_ < kBetweenNotes) return;
+  if (now - written_ < kBetweenNotes && state_.refusal == before) return;
   place_.write(state_);
   written_ = now;
 }
@@ -117,7 +124,7 @@ void SyncRun::tellOnce(const std::string& fault) {
 
 SyncRun::Milliseconds SyncRun::waitAfter(Upload::Outcome outcome) {
   using enum Upload::Outcome;
-  if (outcome == kRefused) return kWaitForPeople;
+  if (outcome == kRefused || outcome == kWrongServer) return kWaitForPeople;
   if (outcome != kFailed) {
     wait_ = kShortestWait;
     return outcome == kIdle ? kShortestWait : 0ms;

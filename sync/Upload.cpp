@@ -24,9 +24,11 @@ bool isAnotherHistory(const std::string& state) {
   return state == "TL002" || state == "TL003" || state == "TL004";
 }
 
-/// It will not take the till until somebody does something.
+/// It will not take the till until somebody does something: as who it is (class 28 of SQLSTATE), at
+/// that database (3D), or at all.
 bool isForPeople(const std::string& state) {
-  return state.starts_with("TL") && !isAnotherHistory(state);
+  return state.starts_with("28") || state.starts_with("3D") ||
+         (state.starts_with("TL") && !isAnotherHistory(state));
 }
 
 }  // namespace
@@ -60,8 +62,7 @@ Upload::Outcome Upload::send(const std::vector<JournalEntry>& entries, Moment no
 // Its number alone would not do: a file that was put back from a copy has other entries of the same
 // numbers, and would bring nothing until it has more of them than the server.
 Upload::Outcome Upload::follow(const ShopCalls::Standing& standing, Moment now) {
-  if (standing.kind != ServerAnswer::kAnswer)
-    return failed(standing.kind, standing.fault, standing.state);
+  if (standing.kind != ServerAnswer::kAnswer) return failed(standing.fault, standing.state);
   if (standing.epoch != epoch_ || !hasEntry(connection_, standing.place)) return beginEpoch();
   place_ = known_ = standing.place;
   answered_ = now;
@@ -77,7 +78,7 @@ Upload::Outcome Upload::beginEpoch() {
     own = lastEntries(connection_, own.back().seq, kEntriesTold);
     begun = calls_.newEpoch(epoch_, own);
   }
-  if (begun.kind != ServerAnswer::kAnswer) return failed(begun.kind, begun.fault, begun.state);
+  if (begun.kind != ServerAnswer::kAnswer) return failed(begun.fault, begun.state);
   ::beginEpoch(connection_, begun.epoch, begun.highestBill);
   epoch_ = begun.epoch;
   return Outcome::kWent;
@@ -85,10 +86,9 @@ Upload::Outcome Upload::beginEpoch() {
 
 // An unknown answer may have been done or not: only the server can say where to go on. A full disk
 // there, or whatever else it says of itself, passes.
-Upload::Outcome Upload::failed(ServerAnswer::Kind kind, const std::string& fault,
-                               const std::string& state) {
+Upload::Outcome Upload::failed(const std::string& fault, const std::string& state) {
   place_.reset();
   fault_ = fault;
-  return kind == ServerAnswer::kRefusal && isForPeople(state) ? Outcome::kRefused
-                                                              : Outcome::kFailed;
+  if (state == ServerAnswer::kWrongCertificate) return Outcome::kWrongServer;
+  return isForPeople(state) ? Outcome::kRefused : Outcome::kFailed;
 }

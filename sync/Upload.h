@@ -22,10 +22,11 @@ class Upload {
   Upload(Connection& connection, ServerLine& line, std::int64_t atServer = 0);
 
   enum class Outcome {
-    kWent,     ///< the server answered; there may be more to do at once
-    kIdle,     ///< nothing to ask now
-    kFailed,   ///< no answer, or one to begin anew after
-    kRefused,  ///< the server does not take this till, until somebody does something
+    kWent,         ///< the server answered; there may be more to do at once
+    kIdle,         ///< nothing to ask now
+    kFailed,       ///< no answer, or one to begin anew after
+    kRefused,      ///< the server does not take this till, until somebody does something
+    kWrongServer,  ///< nor the till the server, whose certificate is not the shop's
   };
   /// The next question, if there is one to be asked at that moment. Throws StoreError.
   Outcome step(Moment now = std::chrono::steady_clock::now());
@@ -40,7 +41,7 @@ class Upload {
   Outcome greet(Moment now);
   Outcome send(const std::vector<JournalEntry>& entries, Moment now);
   Outcome beginEpoch();
-  Outcome failed(ServerAnswer::Kind kind, const std::string& fault, const std::string& state);
+  Outcome failed(const std::string& fault, const std::string& state);
   Outcome follow(const ShopCalls::Standing& standing, Moment now);
   ShopCalls::Told told();
 

@@ -1820,6 +1820,10 @@ Last goods: %3</translation>
         <source>离线 %1 分钟，%2 单未上传</source>
         <translation>Offline %1 min, %2 bills to send</translation>
     </message>
+    <message>
+        <source>服务器的证书不对，请告诉店主</source>
+        <translation>The server&apos;s certificate is wrong; tell the owner</translation>
+    </message>
 </context>
 <context>
     <name>TenderSum</name>
@@ -5742,6 +5746,10 @@ Not sent: stock, balances, purchases and points, and the tills&apos; own paramet
     <message>
         <source>在总部：只发给这个店，在它那里先于发给各店的算数</source>
         <translation>At head office: for this shop alone, where it counts before what is for all shops</translation>
+    </message>
+    <message>
+        <source>服务器没有再回应。加入码已经用掉，请再要一个。%1</source>
+        <translation>The server did not answer again. The code is used up; ask for another one. %1</translation>
     </message>
 </context>
 <context>

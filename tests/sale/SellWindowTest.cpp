@@ -272,9 +272,12 @@ TEST_F(SellWindowTest, SaysInItsHeadingThatTheServerIsAway) {
       for (const char* side : {"title1", "title3"})
         EXPECT_FALSE(window.findChild<QLabel*>(side)->geometry().intersects(time.geometry()));
     };
-    expectHeading({{{2026, 11, 22}, 8, 53, 3}, 8, false, 0}, "09:05:03　离线 12 分钟，8 单未上传");
-    expectHeading({{{2026, 11, 22}, 9, 5, 3}, 0, true, 0},
+    using enum SyncState::Refusal;
+    expectHeading({{{2026, 11, 22}, 8, 53, 3}, 8, kNone, 0}, "09:05:03　离线 12 分钟，8 单未上传");
+    expectHeading({{{2026, 11, 22}, 9, 5, 3}, 0, kTill, 0},
                   "09:05:03　服务器不认这台收银机，请告诉店主");
-    expectHeading({{{2026, 11, 22}, 9, 4, 4}, 8, false, 0}, "当前时间：09:05:03");
+    expectHeading({{{2026, 11, 22}, 9, 5, 3}, 0, kCertificate, 0},
+                  "09:05:03　服务器的证书不对，请告诉店主");
+    expectHeading({{{2026, 11, 22}, 9, 4, 4}, 8, kNone, 0}, "当前时间：09:05:03");
   });
 }

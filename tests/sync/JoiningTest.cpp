@@ -4,9 +4,12 @@
 
 #include "link/AuthorityFile.h"
 #include "saleslib/ClsSysParam.h"
+#include "server/Joining.h"
 #include "sync/ShopServerFixture.h"
 
+using testing::EndsWith;
 using testing::HasSubstr;
+using testing::ThrowsMessage;
 
 struct JoiningTest : ShopServerFixture {
   static ServerAnswer asTill(int till, const std::string& password, const char* statement) {
@@ -27,6 +30,12 @@ TEST_F(JoiningTest, OpensTheFunctionsAndNothingElseToATill) {
     EXPECT_EQ(asTill(1, "password", forbidden).state, "42501") << forbidden;
   }
   EXPECT_EQ(asTill(1, "password", "select * from api.enrol(1, 'SCRAM-SHA-256$')").state, "TL001");
+  EXPECT_EQ(asTill(1, "another", kHello).state, "28P01");
+  const auto till = join(3, "three");
+  shop().revoke(3);
+  EXPECT_EQ(till->bring(), -1) << "it is told that it is not wanted, and not that nobody is there";
+  EXPECT_THAT(till->upload->fault(),
+              EndsWith("FATAL: password authentication failed for user \"till_3\""));
   shop().revoke(1);
   EXPECT_EQ(asTill(1, "password", kHello).kind, ServerAnswer::kUnknown);
   EXPECT_EQ(shop().tills().at(0).status, "revoked");
@@ -98,10 +107,19 @@ TEST_F(CertifiedServer, IsKnownByItsAuthorityAfterTheCode) {
     parameters.insert(parameters.end(), more.begin(), more.end());
     return ServerLine(parameters).ask("select * from api.hello(1, 0, 0, '')");
   };
-  EXPECT_FALSE(hello(till.authority).isDone()) << "the code is used up";
+  EXPECT_EQ(hello(till.authority).state, "28P01") << "the code is used up";
   till.password = "password";
   EXPECT_TRUE(hello(till.authority).isDone());
-  EXPECT_THAT(hello(read("other.crt")).text, HasSubstr("certificate verify failed"));
+  const char* const kWrong = ServerAnswer::kWrongCertificate;
+  EXPECT_EQ(hello(read("other.crt")).state, kWrong);
   till.host = "localhost";
-  EXPECT_FALSE(hello(till.authority).isDone()) << "the certificate is for another name";
+  EXPECT_EQ(hello(till.authority).state, kWrong) << "the certificate is for another name";
+
+  const auto joinWith = [&](const JoinCode& typed) {
+    return [&, typed] { joinAtServer({"127.0.0.1", typed.shown(), server.port(), "books"}); };
+  };
+  EXPECT_THAT(joinWith(code), ThrowsMessage<Failure>(HasSubstr("服务器没有接受加入码")));
+  shop.init(read("other.crt"));
+  EXPECT_THAT(joinWith(shop.addTill(2, false)),
+              ThrowsMessage<Failure>(HasSubstr("服务器的证书没有通过")));
 }

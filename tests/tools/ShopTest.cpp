@@ -1,3 +1,5 @@
+#include <chrono>
+
 #include "Owner.h"
 #include "ThrowAwayServer.h"
 #include "link/ServerLine.h"
@@ -7,8 +9,11 @@
 using testing::HasSubstr;
 
 struct ShopTest : OwnerTest {
-  ShopTest() {
-    for (const auto& [name, value] : server.owner()) at += name + "=" + value + "~";
+  ShopTest() { at = placeOf(server); }
+  static std::string placeOf(const ThrowAwayServer& server) {
+    std::string place;
+    for (const auto& [name, value] : server.owner()) place += name + "=" + value + "~";
+    return place;
   }
   void shop(int code, const std::string& said, const std::string& words) {
     expect(code, said, "shop " + words + " --server " + at);
@@ -84,4 +89,20 @@ TEST_F(ShopTest, IsMadeAndJoinedAtTheCommandLine) {
   shop(1, "--again", "add-till 2");
   shop(0, "", "revoke 2");
   shop(0, "已停用", "tills");
+}
+
+TEST_F(ShopTest, PutsTheSecondServerInTheFirstOnesPlaceOnceThatIsOff) {
+  shop(0, "已建好", "init");
+  ThrowAwayServer second(ThrowAwayServer::StandbyOf{server});
+  at = placeOf(second);
+  shop(1, "还在运行", "promote --first-is-off --may-lose");
+  server.kill();
+  const auto limit = std::chrono::steady_clock::now() + std::chrono::seconds(30);
+  while (second.value("select count(*) from pg_stat_wal_receiver") != "0")
+    ASSERT_LT(std::chrono::steady_clock::now(), limit);
+  shop(1, "没有等这台备机", "promote --first-is-off");
+  shop(1, "必须关着", "promote --may-lose");
+  EXPECT_EQ(second.value("select pg_is_in_recovery()"), "t") << "what was refused did nothing";
+  shop(0, "备机已经是主服务器", "promote --first-is-off --may-lose");
+  EXPECT_THAT(codeOf("1"), HasSubstr("-")) << "it takes what is written";
 }
