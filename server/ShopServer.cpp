@@ -106,10 +106,12 @@ ShopServer::Standby ShopServer::standby() {
   const ServerAnswer answer =
       required(line_.ask("select pg_is_in_recovery(),"
                          " exists (select from pg_stat_wal_receiver where status = 'streaming'),"
-                         " to_char(pg_last_xact_replay_timestamp(), 'YYYY-MM-DD HH24:MI:SS')"));
+                         " to_char(pg_last_xact_replay_timestamp(), 'YYYY-MM-DD HH24:MI:SS'),"
+                         " (select last_msg_receipt_time from pg_stat_wal_receiver)::text"));
   const ServerAnswer::Row& row = answer.rows.at(0);
   Standby found{.isStandby = row.at(0) == "t",
                 .hearsFirst = row.at(1) == "t",
+                .lastHeard = row.at(3).value_or(""),
                 .lastRepeated = row.at(2).value_or("")};
   if (stepsDone() == 0)
     throw Failure(Words::tr("服务器上还没有店铺，请先用 tilladmin shop init。"));

@@ -39,7 +39,8 @@ class ShopServer {
   /// A second server, which repeats what the first one writes, before it takes its place.
   struct Standby {
     bool isStandby = false;
-    bool hearsFirst = false;   ///< the first one is still sending
+    bool hearsFirst = false;   ///< the first one is still sending, as far as is noticed
+    std::string lastHeard;     ///< when it sent something last, in this server's time; empty: never
     bool wasAwaited = false;   ///< the first one's commits waited for a second server
     std::string lastRepeated;  ///< its latest commit here, in this server's time; empty: none
   };

@@ -1,11 +1,13 @@
 #include "tools/ShopCommand.h"
 
 #include <CLI/CLI.hpp>
+#include <chrono>
 #include <fstream>
 #include <iterator>
 #include <memory>
 #include <optional>
 #include <string>
+#include <thread>
 
 #include "base/Words.h"
 #include "link/ServerLine.h"
@@ -24,6 +26,7 @@ constexpr std::int64_t kRowsPerProgress = 50'000;
 constexpr int kFactsAtTills = 400;  // days: no copy of a till's file that is put back is older
 constexpr int kMostDays = 36'500;
 constexpr int kMostShops = 2'000;
+constexpr int kLineSeconds = 90;  // a pulled wire is noticed after a minute (wal_receiver_timeout)
 constexpr std::int64_t kToldClockSeconds = 120;  // what a till's clock may be off unsaid
 
 struct Options {
@@ -63,12 +66,27 @@ void upgrade(const Options& options, Console& console) {
               << '\n';
 }
 
+// The first server's wire may have been pulled a moment ago, which nobody has noticed yet. One that
+// runs says something before that.
+ShopServer::Standby awaitSilence(ShopServer& server, Console& console) {
+  ShopServer::Standby found = server.standby();
+  const std::string heard = found.lastHeard;
+  if (found.hearsFirst)
+    console.err << Words::tr("看主服务器是不是真的停了，最多一分半钟……") << std::endl;
+  for (int second = 0; found.hearsFirst && found.lastHeard == heard && second < kLineSeconds;
+       ++second) {
+    std::this_thread::sleep_for(std::chrono::seconds(1));
+    found = server.standby();
+  }
+  return found;
+}
+
 // What can be seen from here is refused; that the first server never writes again, nobody here
 // sees.
 void promote(const Options& options, Console& console) {
   ServerLine line = options.line();
   ShopServer server(line);
-  const ShopServer::Standby found = server.standby();
+  const ShopServer::Standby found = awaitSilence(server, console);
   if (!found.isStandby) throw Refusal(Words::tr("这不是备机：它已经是主服务器。"));
   if (found.hearsFirst)
     throw Refusal(Words::tr("主服务器还在运行，还在向这台备机传。要切换，先关掉主服务器。"));

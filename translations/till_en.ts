@@ -5751,6 +5751,10 @@ Not sent: stock, balances, purchases and points, and the tills&apos; own paramet
         <source>服务器没有再回应。加入码已经用掉，请再要一个。%1</source>
         <translation>The server did not answer again. The code is used up; ask for another one. %1</translation>
     </message>
+    <message>
+        <source>看主服务器是不是真的停了，最多一分半钟……</source>
+        <translation>Looking whether the first server has really stopped, for a minute and a half at most ...</translation>
+    </message>
 </context>
 <context>
     <name>WorkProgress</name>

@@ -47,8 +47,9 @@ start() {
   started+=($!)
 }
 
+# For so many seconds: PATIENCE=N wait_until COMMAND...
 wait_until() {
-  local patience=$((SECONDS + 60))
+  local patience=$((SECONDS + ${PATIENCE:-60}))
   until "$@"; do
     ((SECONDS < patience)) || fail "waited in vain for: $*"
     sleep 0.1
