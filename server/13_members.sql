@@ -168,7 +168,8 @@ begin
 end $$;
 
 -- What the others did of each of these keys of one kind, all of them in one statement: a till that
--- begins has a million to ask for.
+-- begins has a million to ask for. The keys of changes have a collation of their own, with which no
+-- index here would be used.
 create view shop.counted_part as
   select 'stock' as tbl, item as key, counted as amount from shop.stock_base
   union all select 'card', number, counted from shop.card
@@ -180,6 +181,8 @@ create view shop.moved_part as
 create function shop.parts_of_others(of_till integer, kind text, keys text[])
 returns table (key text, part numeric) language plpgsql stable as $$
 declare
+  its_kind text collate "default" := kind;
+  its_keys text[] collate "default" := keys;
   epochs integer[];
   lasts bigint[];
 begin
@@ -187,22 +190,22 @@ begin
   return query
     select k.key, coalesce(c.total, 0) + coalesce(m.total, 0) - coalesce(m.own, 0)
                   - coalesce(s.amount, 0)
-    from unnest(keys) as k(key)
+    from unnest(its_keys) as k(key)
     left join lateral (
       select o.epoch, o.seq, o.amount from shop.own_stated o
       join unnest(epochs, lasts) as h(epoch, last) on h.epoch = o.epoch and o.seq <= h.last
-      where (o.tbl, o.key, o.till) = (kind, k.key, of_till)
+      where (o.tbl, o.key, o.till) = (its_kind, k.key, of_till)
       order by o.epoch desc, o.seq desc limit 1) s on true
     left join lateral (
       select sum(p.amount) as total from shop.counted_part p
-      where (p.tbl, p.key) = (kind, k.key)) c on true
+      where (p.tbl, p.key) = (its_kind, k.key)) c on true
     left join lateral (
       select sum(p.amount) as total,
              sum(p.amount) filter (
                where p.till = of_till and (s.epoch is null or (p.epoch, p.seq) > (s.epoch, s.seq))
                  and exists (select from unnest(epochs, lasts) as h(epoch, last)
                              where h.epoch = p.epoch and p.seq <= h.last)) as own
-      from shop.moved_part p where (p.tbl, p.key) = (kind, k.key)) m on true;
+      from shop.moved_part p where (p.tbl, p.key) = (its_kind, k.key)) m on true;
 end $$;
 create or replace function shop.others(of_till integer, tbl text, key text) returns numeric
 language sql stable as $$
@@ -249,7 +252,7 @@ begin
              horizon, c.tbl, c.key,
              case when shop.is_sum(c.tbl) then jsonb_build_object('others', s.part)
                   else c.body end) order by c.tbl, c.key), '[]') into changes
-    from page c left join sums s on (s.tbl, s.key) = (c.tbl, c.key);
+    from page c left join sums s on s.tbl = c.tbl and s.key collate "C" = c.key;
   whole := coalesce((select jsonb_agg(p.tbl) from
     (select n.tbl from unnest(array['SP_LB', 'operator_cards', 'operator_rights', 'operators',
                                     'spda', 'tmda']) as n(tbl)
