@@ -64,6 +64,22 @@ std::string ClsSysParam::set(std::string_view name, std::string_view value) {
   return {};
 }
 
+std::string ClsSysParam::unset(std::string_view name) {
+  ensure(connection_ != nullptr, "ClsSysParam is bound before it is used");
+  const ParameterDefinition* definition = parameterDefinition(name);
+  if (definition == nullptr) return Words::tr("没有这个参数：%1", name);
+  if (definition->name == kJournal) return Words::tr("日志要用 Journal=0 停。");
+  const std::string before = value(definition->name);
+  Transaction transaction(*connection_);
+  if (connection_->run("delete from sys_param where name = ?", definition->name) == 0) return {};
+  Journal(*connection_).note(EntryKind::kParameterSet, definition->name, [&] {
+    return nlohmann::json{{"parameters", {{definition->name, nullptr}}}, {"before", before}};
+  });
+  transaction.commit();
+  values_.erase(definition->name);
+  return {};
+}
+
 // The parameter Journal begins and ends the journal itself.
 void ClsSysParam::note(const std::string& name, const std::string& before,
                        const std::string& value) {

@@ -68,6 +68,10 @@ class TESSALY_API ClsSysParam {
   /// and at most 1; a text is one line of at most 200 characters. Returns an empty text, or the
   /// reason why not (unknown name, wrong kind). Throws StoreError.
   [[nodiscard]] std::string set(std::string_view name, std::string_view value);
+  /// Forgets what is set, so that the parameter's sound value is in force, and notes that; where
+  /// nothing is set it does nothing. Returns as set does; Journal can only be set. Throws
+  /// StoreError.
+  [[nodiscard]] std::string unset(std::string_view name);
   /// What set would answer, without storing anything.
   [[nodiscard]] static std::string refusal(std::string_view name, std::string_view value);
 

@@ -13,14 +13,13 @@ using Json = nlohmann::json;
 using Columns = std::initializer_list<const char*>;
 
 // What is empty or nothing is left out: a further column changes no record of a row without it.
-void add(Json& record, const Row& row, const char* column) {
-  std::string text = row.text(column);
-  if (!text.empty() && text != "0") record[column] = std::move(text);
+void add(Json& record, const char* name, std::string text) {
+  if (!text.empty() && text != "0") record[name] = std::move(text);
 }
 
 Json recordOf(const Row& row, const Columns& columns) {
   Json record = Json::object();
-  for (const char* column : columns) add(record, row, column);
+  for (const char* column : columns) add(record, column, row.text(column));
   return record;
 }
 
@@ -42,7 +41,7 @@ nlohmann::json billRecord(Connection& connection, std::int64_t number) {
   Json bill =
       recordOf(row, {"id", "sell_time", "operator_id", "quantity", "goods_amount", "amount",
                      "card_no", "phone_slip", "salesman", "member_id", "shift", "cash_kept"});
-  for (const TenderKind& kind : tenderKinds()) add(bill, row, kind.column);
+  for (const TenderKind& kind : tenderKinds()) add(bill, kind.column, row.text(kind.column));
   Json lines = Json::array();
   Rows rows = connection.query("select * from sellProducts where sellId = ? order by id", number);
   while (rows.next()) {
@@ -67,14 +66,17 @@ nlohmann::json topUpRecord(Connection& connection, std::int64_t id) {
 nlohmann::json memberRecord(Connection& connection, std::int64_t id) {
   Rows row = connection.query(
       "select *, round(card - coalesce((select amount from down_others where tbl = 'card'"
-      " and key = bh), 0), 4) as own_card from member where id = ?",
+      " and key = bh), 0), 4) as own_card, round(total_spent - coalesce((select amount from"
+      " down_others where tbl = 'spent' and key = bh), 0), 4) as own_spent,"
+      " cast(points - coalesce((select amount from down_others where tbl = 'points'"
+      " and key = bh), 0) as integer) as own_points from member where id = ?",
       id);
   if (!row.next()) return {};
-  Json member =
-      recordOf(row, {"id", "bh", "name", "hyzklb", "sex", "age", "phone", "address", "other",
-                     "enabled", "discount", "birthday", "join_date", "total_spent", "points"});
-  const std::string card = row.text("own_card");
-  if (!card.empty() && card != "0") member["card"] = card;
+  Json member = recordOf(row, {"id", "bh", "name", "hyzklb", "sex", "age", "phone", "address",
+                               "other", "enabled", "discount", "birthday", "join_date"});
+  add(member, "card", row.text("own_card"));
+  add(member, "total_spent", row.text("own_spent"));
+  add(member, "points", row.text("own_points"));
   addMark(member, row);
   return member;
 }

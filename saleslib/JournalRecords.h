@@ -18,7 +18,7 @@ TESSALY_API nlohmann::json billRecord(Connection& connection, std::int64_t numbe
 TESSALY_API nlohmann::json returnRecord(Connection& connection, std::int64_t id);
 TESSALY_API nlohmann::json topUpRecord(Connection& connection, std::int64_t id);
 /// With balance (card), purchases (total_spent) and points, as they are at that moment; in a till
-/// of a shop with a server without what other tills loaded and charged.
+/// of a shop with a server without what other tills loaded, charged, sold and gave points for.
 TESSALY_API nlohmann::json memberRecord(Connection& connection, std::int64_t id);
 /// With the list of rights and the mark of a staff card.
 TESSALY_API nlohmann::json operatorRecord(Connection& connection, std::int64_t id);

@@ -114,7 +114,9 @@ void addTexts(Listed& list, const Json& body) {
   if (body.contains("line")) list.add(shownLine(body.at("line")));
   if (body.contains("parameters") && body.contains("before")) {
     for (const auto& [name, value] : body.at("parameters").items())
-      list.add(Words::tr("%1 改成 %2", Listed::textIn(body, "before"), value.get<std::string>()));
+      list.add(value.is_null() ? Words::tr("%1 改成没有设置", Listed::textIn(body, "before"))
+                               : Words::tr("%1 改成 %2", Listed::textIn(body, "before"),
+                                           value.get<std::string>()));
   }
   for (const auto& [name, caption] : kTexts) list.add(body, name, caption);
 }

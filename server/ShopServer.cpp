@@ -89,7 +89,8 @@ std::int64_t ShopServer::fold(int days) {
   std::int64_t gone = 0;
   for (const char* step :
        {"select last, gone from shop.fold_movements($1, $2, now() - $3::interval)",
-        "select last, gone from shop.fold_cards($1, $2, now() - $3::interval)"}) {
+        "select last, gone from shop.fold_cards($1, $2, now() - $3::interval)",
+        "select last, gone from shop.fold_credits($1, $2, now() - $3::interval)"}) {
     for (std::string behind;;) {
       const ServerAnswer done = required(
           line_.ask(step, {behind, std::to_string(kFoldedAtOnce), std::to_string(days) + " days"},

@@ -20,11 +20,15 @@ alter table sell add column phone_slip text collate nocase;
 create index sell_phone_slip on sell (phone_slip) where phone_slip is not null;
 )";
 
+// What other tills sold to members and gave points for comes down, too: a till that passed over it
+// compares everything once.
+const char* const kMemberSumsStep = "delete from down_place;";
+
 }  // namespace
 
 const std::vector<std::string>& schemaSteps() {
   static const std::vector<std::string> steps = {
-      kFirstTables, kSecondStep, kThirdStep,  kGoodsTables, kStaffCardStep, kJournalTable,
-      kShiftTables, kLinkTable,  kCardTables, kDownTables,  kShopBillTables};
+      kFirstTables, kSecondStep, kThirdStep,  kGoodsTables, kStaffCardStep,  kJournalTable,
+      kShiftTables, kLinkTable,  kCardTables, kDownTables,  kShopBillTables, kMemberSumsStep};
   return steps;
 }

@@ -104,7 +104,7 @@ DownPlace Download::placeBehind(std::size_t end) const {
 }
 
 void Download::apply(const ShopCalls::Change& change, MasterRows& masters) {
-  if (change.tbl == "stock" || change.tbl == "card") {
+  if (isOthersPart(change.tbl)) {
     if (change.body.empty()) return;
     const nlohmann::json others = nlohmann::json::parse(change.body).at("others");
     return followOthers(connection_, change.tbl, change.key, others.get<double>());

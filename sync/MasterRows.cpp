@@ -108,6 +108,13 @@ void MasterRows::putParameter(const std::string& body) {
   static_cast<void>(parameters.set(name, value));
 }
 
+void MasterRows::removeParameter(const std::string& name) {
+  if (isOfTill(name)) return;
+  ClsSysParam parameters;
+  parameters.Conn(connection_);
+  static_cast<void>(parameters.unset(name));
+}
+
 void MasterRows::touched(const MasterTable& table, const std::string& key) {
   if (std::string_view(table.name) == "member") members_.insert(key);
   if (isOfOperator(table))
@@ -116,7 +123,7 @@ void MasterRows::touched(const MasterTable& table, const std::string& key) {
 
 void MasterRows::remove(const MasterTable& table, const std::string& key) {
   const std::string_view name = table.name;
-  if (name == "sys_param") return;
+  if (name == "sys_param") return removeParameter(key);
   if (name == "operators") return removeOperator(parseWhole32(key).value_or(0));
   const std::string text =
       name == "member"

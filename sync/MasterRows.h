@@ -18,7 +18,7 @@ class MasterRows {
   /// `body` is a row as JSON.
   void put(const MasterTable& table, const std::string& key, const std::string& body);
   /// The row is gone at the server. A member only cannot pay and buy as one any more, since bills
-  /// name it, and parameters stay.
+  /// name it, and a parameter has its sound value.
   void remove(const MasterTable& table, const std::string& key);
   /// Removes what is behind the one key, up to the other or, with none, to the table's end, and is
   /// not among `kept`.
@@ -29,6 +29,7 @@ class MasterRows {
 
  private:
   void putParameter(const std::string& body);
+  void removeParameter(const std::string& name);
   void touched(const MasterTable& table, const std::string& key);
   void removeOperator(std::int64_t id);
   void noteOperator(std::int64_t id);

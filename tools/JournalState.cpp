@@ -78,7 +78,9 @@ void JournalState::takeRows(const JournalEntry& entry, const Json& body) {
       stock[asciiLower(item)] = required(parseNumber(quantity.get<std::string>()), item);
   }
   if (body.contains("parameters")) {
-    for (const auto& [name, value] : body.at("parameters").items()) parameters[name] = value;
+    for (const auto& [name, value] : body.at("parameters").items())
+      value.is_null() ? static_cast<void>(parameters.erase(name))
+                      : static_cast<void>(parameters[name] = value);
   }
   if (body.contains("bills")) {
     const Json& some = body.at("bills");

@@ -58,7 +58,8 @@ void examineNames(const Examination& books) {
 void examinePurchases(const Examination& books) {
   Rows rows = books.connection.query(
       "select m.bh as bh, m.total_spent as total, round(b.bought + coalesce(r.back, 0), 2) as least"
-      " from member m"
+      " from (select id, bh, round(total_spent - coalesce((select amount from down_others"
+      "  where tbl = 'spent' and key = bh), 0), 4) as total_spent from member) m"
       " join (select member_id, sum(amount) as bought from sell where state = 1 and member_id <> 0"
       "  group by member_id) b on b.member_id = m.id"
       " left join (select s.member_id as member_id, count(*) as count,"

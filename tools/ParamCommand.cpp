@@ -55,6 +55,20 @@ void set(const Options& options, Console& console) {
   console.out << Words::tr("已设置 %1 个参数", options.settings.size()) << '\n';
 }
 
+void unset(const Options& options, Console& console) {
+  const std::unique_ptr<Connection> connection = options.file.open(console);
+  DataFileOptions::requireOffice(*connection);
+  Transaction transaction(*connection);
+  ClsSysParam parameters;
+  parameters.Conn(*connection);
+  for (const std::string& name : options.settings) {
+    if (const std::string reason = parameters.unset(name); !reason.empty())
+      throw Refusal(Words::tr("%1：%2", name, reason));
+  }
+  transaction.commit();
+  console.out << Words::tr("%1 个参数不再设置，用默认值", options.settings.size()) << '\n';
+}
+
 std::string parametersExplained() {
   std::string text = Words::tr("参数：\n");
   const std::vector<ClsSysParam::Parameter> parameters = ClsSysParam().list();
@@ -70,7 +84,7 @@ std::string parametersExplained() {
 }  // namespace
 
 void addParamCommand(CLI::App& app, Console& console) {
-  CLI::App* parent = app.add_subcommand("param", Words::tr("店铺参数：列出、设置"));
+  CLI::App* parent = app.add_subcommand("param", Words::tr("店铺参数：列出、设置、取消设置"));
   parent->require_subcommand(1);
   const auto options = std::make_shared<Options>();
   CLI::App* listing =
@@ -83,4 +97,10 @@ void addParamCommand(CLI::App& app, Console& console) {
   setting->add_option(Words::tr("参数名=值"), options->settings, Words::tr("可以写几个"))
       ->required();
   setting->callback([options, &console] { set(*options, console); });
+  CLI::App* unsetting =
+      parent->add_subcommand("unset", Words::tr("取消参数的设置，用默认值（全部成功才算数）"));
+  options->file.addTo(*unsetting);
+  unsetting->add_option(Words::tr("参数名"), options->settings, Words::tr("可以写几个"))
+      ->required();
+  unsetting->callback([options, &console] { unset(*options, console); });
 }

@@ -3968,10 +3968,6 @@ One wrong line, and nothing is imported; it says which line and what is wrong. T
 </translation>
     </message>
     <message>
-        <source>店铺参数：列出、设置</source>
-        <translation>shop parameters: list, set</translation>
-    </message>
-    <message>
         <source>列出全部参数；# 开头的一行说明下一行的参数</source>
         <translation>list all parameters; a line that begins with # explains the next one</translation>
     </message>
@@ -5754,6 +5750,30 @@ Not sent: stock, balances, purchases and points, and the tills&apos; own paramet
     <message>
         <source>看主服务器是不是真的停了，最多一分半钟……</source>
         <translation>Looking whether the first server has really stopped, for a minute and a half at most ...</translation>
+    </message>
+    <message>
+        <source>日志要用 Journal=0 停。</source>
+        <translation>The journal is ended by Journal=0.</translation>
+    </message>
+    <message>
+        <source>%1 改成没有设置</source>
+        <translation>%1 is set no more</translation>
+    </message>
+    <message>
+        <source>%1 个参数不再设置，用默认值</source>
+        <translation>%1 parameters are set no more and have their defaults</translation>
+    </message>
+    <message>
+        <source>店铺参数：列出、设置、取消设置</source>
+        <translation>Shop parameters: list, set, unset</translation>
+    </message>
+    <message>
+        <source>取消参数的设置，用默认值（全部成功才算数）</source>
+        <translation>Unset parameters, so that they have their defaults (all of them or none)</translation>
+    </message>
+    <message>
+        <source>参数名</source>
+        <translation>name</translation>
     </message>
 </context>
 <context>

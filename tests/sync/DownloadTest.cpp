@@ -27,6 +27,13 @@ struct DownloadTest : FetchingFixture {
     owner->close();
     return publish(*owner, *office, {}, [](std::int64_t) {});
   }
+  /// A member's purchases and points in the shop.
+  static std::string figures(const std::string& card) {
+    return value(
+        "select string_agg(trim_scale(amount)::text, ' ' order by what desc)"
+        " from shop.member_sum where number = '" +
+        card + "'");
+  }
   static std::string goods(Fetching& till) {
     return till.till.value("select count(*) as value from tmda");
   }
@@ -60,6 +67,15 @@ TEST_F(DownloadTest, BringsWhatTheOfficePublished) {
   EXPECT_EQ(till.till.value("select value from sys_param where name = 'Journal'"), "1");
   EXPECT_EQ(publishAll().changed, 0);
   expectIndexed(till);
+
+  const char* const kNames = "select count(*) as value from sys_param where name = 'ShopName'";
+  change("delete from sys_param where name = 'ShopName'");
+  publishAll();
+  till.bring();
+  EXPECT_EQ(till.till.value(kNames), "0") << "set no more";
+  till.till.set("ShopName", "旧店");
+  till.compareAll();
+  EXPECT_EQ(till.till.value(kNames), "0");
 }
 
 // Numbers would be wrong here: the change that began first is seen last.
@@ -137,6 +153,8 @@ TEST_F(DownloadTest, AddsWhatTheOthersSoldAndChargedOnce) {
     EXPECT_EQ(balance("8001"), onCard);
     EXPECT_EQ(first.till.balance("8001"), onCard);
     EXPECT_EQ(second.till.balance("8001"), onCard);
+    EXPECT_EQ(first.figures("8001"), figures("8001"));
+    EXPECT_EQ(second.figures("8001"), figures("8001"));
   };
   first.till.sell(3, "8001");
   const int bill = second.till.sell(2, "8001").first;
@@ -151,6 +169,10 @@ TEST_F(DownloadTest, AddsWhatTheOthersSoldAndChargedOnce) {
   EXPECT_EQ(first.till.stock(), "992") << "its own sale and the other's return";
   both();
   expectAlike("992", "10085.23");
+  EXPECT_EQ(figures("8001"), "13.77 2") << "of 8.05 and 6.72, less one yuan";
+  first.compareAll();
+  second.compareAll();
+  expectAlike("992", "10085.23");
 
   first.till.shop->run("update stock set quantity = 500 where spbm = 'B'");
   {
@@ -160,6 +182,30 @@ TEST_F(DownloadTest, AddsWhatTheOthersSoldAndChargedOnce) {
   }
   both();
   expectAlike("500", "10085.23");
+  expectSound();
+}
+
+// A member's points are a small number at a till, and may be many in the shop.
+TEST_F(DownloadTest, AddsPointsAsSoonAsThereIsRoomForThem) {
+  Fetching first(join(1, "first")), second(join(2, "second"));
+  const auto setPoints = [](Fetching& till, std::int16_t points) {
+    ClsMember member;
+    member.Init(*till.till.shop, 1, localTime);
+    member.setPoints(points);
+    EXPECT_TRUE(member.Save()) << member.ErrText();
+    till.bring();
+  };
+  setPoints(first, 30'000);
+  setPoints(second, 20'000);
+  first.bring();
+  EXPECT_EQ(figures("8001"), "0 50000");
+  EXPECT_EQ(first.figures("8001"), "0 32767");
+  EXPECT_EQ(second.figures("8001"), "0 32767");
+  setPoints(first, 1'000);
+  for (Fetching* each : {&first, &second}) {
+    each->bring();
+    EXPECT_EQ(each->figures("8001"), figures("8001"));
+  }
   expectSound();
 }
 
@@ -173,6 +219,7 @@ TEST_F(DownloadTest, LetsMembersAndPasswordsOfOneTillReachTheOthers) {
   member.setBh("9001");
   member.setName("新会员");
   member.setPassword("2468");
+  member.setTotalSpent(Currency::fromYuan(7));
   ASSERT_TRUE(member.Save()) << member.ErrText();
   ClsOperator cashier;
   cashier.Init(*first.till.shop, 1);
@@ -184,6 +231,7 @@ TEST_F(DownloadTest, LetsMembersAndPasswordsOfOneTillReachTheOthers) {
   second.bring();
   second.bring();
   EXPECT_EQ(second.till.balance("9001"), "30");
+  EXPECT_EQ(second.figures("9001"), "7 0");
   EXPECT_EQ(provenCard(*second.till.shop, "9001", "2468").outcome, CardOutcome::kDone);
   EXPECT_EQ(provenCard(*second.till.shop, "9001", "").outcome, CardOutcome::kWrongPassword);
   const char* const kPassword = "select password as value from operators where id = 1";

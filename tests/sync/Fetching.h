@@ -22,6 +22,16 @@ struct FetchingFixture : ShopServerFixture {
         if (outcome != Download::Outcome::kMore) return;
       }
     }
+    /// As a till does that passed over something, or that was killed before it kept its place.
+    void compareAll() {
+      till.shop->run("delete from down_place");
+      connect();
+      bring();
+    }
+    std::string figures(const std::string& card) {
+      Rows row = till.shop->query("select total_spent, points from member where bh = ?", card);
+      return row.next() ? row.text("total_spent") + " " + row.text("points") : "(no member)";
+    }
     std::string price(const std::string& code) {
       Rows row = joined->till.shop->query("select xsdj from tmda where sptm = ?", code);
       return row.next() ? row.text("xsdj") : "(gone)";

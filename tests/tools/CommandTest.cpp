@@ -172,6 +172,11 @@ TEST_F(CommandTest, ParametersAreSetAllOrNone) {
     expect(1, bad, "param set @ ShopName=别的 " + bad);
   expect(0, "ShopName=惠邻=便利店\n", "param list @");
   EXPECT_THAT(out, HasSubstr("PointUnit=5\n"));
+  for (const std::string bad : {"Colour", "Journal"})
+    expect(1, bad, "param unset @ ShopName " + bad);
+  expect(0, "", "param unset @ pointunit");
+  expect(0, "ShopName=惠邻=便利店\n", "param list @");
+  EXPECT_THAT(out, HasSubstr("PointUnit=10\t"));
 }
 
 TEST_F(CommandTest, AReportGoesToThePeriodsFileOrTheStandardOutput) {
