@@ -48,5 +48,6 @@ void addJournalRows(Run& run);
 void addWindowRows(Run& run);
 void addReportRows(Run& run);
 void addShopRows(Run& run);
+void addDownRows(Run& run);
 void addProgramRows(Run& run);
 void addImportRow(Run& run);

@@ -20,6 +20,15 @@ void ServerBeside::join(Connection& till) {
   joinThrowAwayShop(server_, till, 1, folder_.path().string());
 }
 
+LineParameters ServerBeside::till() {
+  return tillParameters({.host = server_.folder().string(),
+                         .port = server_.port(),
+                         .database = "books",
+                         .user = "till_1",
+                         .password = "password"},
+                        "");
+}
+
 void ServerBeside::await(Connection& till) {
   Rows last = till.query("select max(seq) as seq from fact");
   if (!last.next()) throw std::runtime_error("the till keeps no journal");

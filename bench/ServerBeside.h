@@ -16,6 +16,8 @@ class ServerBeside {
 
   /// The file's till becomes the shop's first one.
   void join(Connection& till);
+  /// The way to the server for that till, past the network.
+  LineParameters till();
   /// Returns when the server has all that this till has written.
   void await(Connection& till);
 

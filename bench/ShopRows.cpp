@@ -1,15 +1,9 @@
-#include <signal.h>
-
 #include <iostream>
 #include <stdexcept>
 #include <utility>
 
-#include "bench/ResidentMemory.h"
-#include "bench/ServerBeside.h"
-#include "bench/TwoTills.h"
+#include "bench/Enrolled.h"
 #include "saleslib/ShopLink.h"
-#include "store/Connection.h"
-#include "store/DataFile.h"
 #include "sync/LiveLine.h"
 #include "sync/ShopCards.h"
 #include "sync/Upload.h"
@@ -19,26 +13,6 @@ namespace {
 using Weather = Proxy::Weather;
 
 constexpr std::size_t kLinesPerBill = 20;
-
-/// A till of a shop with a server, and one alone.
-struct Enrolled {
-  explicit Enrolled(Run& run) : tills(run, [this](Connection& shop) { beside.join(shop); }) {
-    beside.await(*tills.other().pos().gConn);
-  }
-  /// What goes on beside the till would still be at work in the next row.
-  ~Enrolled() {
-    if (tillsync() > 0) ::kill(tillsync(), SIGKILL);
-  }
-  Enrolled(const Enrolled&) = delete;
-  Enrolled& operator=(const Enrolled&) = delete;
-
-  int tillsync() {
-    return processOf("tillsync", tills.other().pos().gConn->source().path.string());
-  }
-
-  ServerBeside beside;
-  TwoTills tills;
-};
 
 /// Rings line after line; `between` is what is done to the network before each bill.
 void ringIn(Run& run, benchmark::State& state, Measured& row, double limit,
@@ -113,22 +87,10 @@ void longestKey(Run& run, benchmark::State& state, Measured& row) {
   row.claims = {{"longest", row.till.most() / row.bare.most(), 5}};
 }
 
-/// A data file that joined the shop, and no till.
-struct File {
-  File(Run& run, ServerBeside& beside)
-      : folder(run.shops.emptyFolder()),
-        connection(createDataFile({folder->path() / "POS.mdb", kBuiltInPassword})) {
-    beside.join(*connection);
-  }
-
-  std::unique_ptr<BenchFolder> folder;
-  std::unique_ptr<Connection> connection;
-};
-
 /// From the question to the moment when nobody waits any more, on a line that goes dead.
 void deadQuestion(Run& run, benchmark::State& state, Measured& row) {
   ServerBeside beside;
-  const File file(run, beside);
+  const JoinedFile file(run, beside);
   ShopCards cards(shopLink(*file.connection).value(), file.connection->source().path, localTime);
   auto ask = [&, key = 0]() mutable {
     return cards.charge({std::to_string(++key), 1, "880001", Currency::fromYuan(1)}).kind;
@@ -179,12 +141,7 @@ void backlog(Run& run, benchmark::State& state, Measured& row) {
   Enrolled shop(run);
   shop.beside.network().set(Weather::kCut);
   Connection& file = *shop.tills.other().pos().gConn;
-  ServerLine line(tillParameters({.host = shop.beside.server().folder().string(),
-                                  .port = shop.beside.server().port(),
-                                  .database = "books",
-                                  .user = "till_1",
-                                  .password = "password"},
-                                 ""));
+  ServerLine line(shop.beside.till());
   Upload upload(file, line);
   const auto bring = [&] {
     while (upload.step() == Upload::Outcome::kWent) continue;

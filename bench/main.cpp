@@ -70,6 +70,7 @@ int main(int argc, char** argv) {
   addSaleRows(run);
   addJournalRows(run);
   addShopRows(run);
+  addDownRows(run);
   addWindowRows(run);
   addReportRows(run);
   addImportRow(run);

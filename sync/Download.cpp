@@ -80,7 +80,7 @@ Download::Outcome Download::write() {
     Transaction writing(connection_);
     MasterRows masters(connection_);
     for (std::size_t row = written_; row < end; ++row) apply(came_.rows[row], masters);
-    if (place_.isWalking) removeRest(end, placeBehind(written_), masters);
+    if (place_.isWalking) removeRest(end, written_ == 0 ? place_ : placeBehind(written_), masters);
     masters.note();
     if (company_ == Company::kTill) updateFragmentIndexInSteps(connection_);
     if (company_ == Company::kAlone && came_.isLast) updateFragmentIndex(connection_);

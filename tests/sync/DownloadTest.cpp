@@ -114,6 +114,17 @@ TEST_F(DownloadTest, GoesOnWhereItWasKilled) {
   expectIndexed(till);
 }
 
+TEST_F(DownloadTest, KeepsTheGoodsWhenTheLastPageOfAllIsFull) {
+  Fetching till(join(1, "till"));
+  till.bring();
+  addGoods(1, 246);
+  change("insert into sys_param values ('ShopName', '小店')");
+  publishAll();
+  ASSERT_EQ(value("select count(*) from shop.change"), "500") << "a page";
+  till.compareAll();
+  EXPECT_EQ(goods(till), "246");
+}
+
 TEST_F(DownloadTest, ComparesEverythingWithAServerThatWasPutBack) {
   Fetching till(join(1, "till"));
   addGoods(1, 300);
