@@ -89,6 +89,7 @@ Upload::Outcome SyncRun::attempt() try {
   state_.pendingBills = session_->upload.pendingBills();
   state_.atServer = session_->upload.atServer();
   fault_ = session_->upload.fault();
+  if (fault_.empty()) fault_ = session_->errands.fault();
   if (outcome == Upload::Outcome::kWent) session_->download.look();
   const bool isWell = outcome == Upload::Outcome::kWent || outcome == Upload::Outcome::kIdle;
   if (isWell && session_->download.step() == Download::Outcome::kFailed)
