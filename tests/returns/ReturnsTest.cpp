@@ -55,6 +55,7 @@ TEST_F(ReturnsTest, AnotherTillsBillIsTakenBackByTheServersLeaveAlone) {
     ASSERT_EQ(all.load("30000007").toStdString(), "");
     other.reply = reply;
     EXPECT_EQ(takeBack(1), refusal);
+    EXPECT_EQ(all.bill() != nullptr, reply == kNone) << "what nobody answered changed nothing";
   }
   EXPECT_EQ(stored("count(*) as v from return_pending"), "0");
   EXPECT_EQ(stored("quantity as v from stock where spbm = '1001'"), "93");

@@ -54,7 +54,7 @@ TEST_F(ReturnsTest, UndoesWhatWasNotAnswered) {
     second.way.pass();
     return BillAuthority::ReturnAnswer{};
   };
-  EXPECT_EQ(second.till.takeBack(bill, 3).kind, Outcome::kRefused);
+  EXPECT_EQ(second.till.takeBack(bill, 3).kind, Outcome::kNoAnswer);
   EXPECT_EQ(asked("state = 'open'"), "1");
   second.errand();
   second.way.trouble = [this]() -> BillAuthority::ReturnAnswer {
