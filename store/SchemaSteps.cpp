@@ -20,11 +20,17 @@ alter table sell add column phone_slip text collate nocase;
 create index sell_phone_slip on sell (phone_slip) where phone_slip is not null;
 )";
 
+// When the shop's server last answered: what was before begins its days now.
+const char* const kContactStep = R"(
+alter table link add column contact datetime;  -- within ten minutes; by this machine's clock
+update link set contact = strftime('%Y-%m-%d %H:%M:%S', 'now', 'localtime');
+)";
+
 }  // namespace
 
 const std::vector<std::string>& schemaSteps() {
   static const std::vector<std::string> steps = {
-      kFirstTables, kSecondStep, kThirdStep,  kGoodsTables, kStaffCardStep, kJournalTable,
-      kShiftTables, kLinkTable,  kCardTables, kDownTables,  kShopBillTables};
+      kFirstTables, kSecondStep, kThirdStep,  kGoodsTables, kStaffCardStep,  kJournalTable,
+      kShiftTables, kLinkTable,  kCardTables, kDownTables,  kShopBillTables, kContactStep};
   return steps;
 }

@@ -190,10 +190,17 @@ TEST_F(HeldBillsTest, TheOwnerRulesWhatATillMayDoWithoutContact) {
 
   LoginBrake brake(std::chrono::steady_clock::now);
   Identification who(*first.till.shop, first.till.rules(), brake);
+  noteContact(*first.till.shop, DateTime{Date{2026, 1, 1}});
+  std::filesystem::remove(first.file().string() + ".sync");
+  EXPECT_THAT(who.byPassword("1", "").refusal, HasSubstr("超过 7 天"))
+      << "whoever takes the file beside it away does not prolong it";
+  first.till.shop->run("update link set contact = null");
   EXPECT_THAT(who.byPassword("1", "").refusal, HasSubstr("超过 7 天"));
   first.till.set("OfflineLoginDays", "0");
   EXPECT_THAT(who.byPassword("1", "").refusal, Not(HasSubstr("服务器")));
   first.till.set("OfflineLoginDays", "1");
-  first.lose(false);
+  first.runSync([] { return DateTime{Date{2026, 1, 2}}; });
+  EXPECT_THAT(who.byPassword("1", "").refusal, HasSubstr("超过 1 天"));
+  first.runSync(localTime);
   EXPECT_THAT(who.byPassword("1", "").refusal, Not(HasSubstr("服务器")));
 }
