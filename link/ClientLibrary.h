@@ -30,6 +30,7 @@ class ClientLibrary {
   TILL_CLIENT_FUNCTION(PQisBusy);
   TILL_CLIENT_FUNCTION(PQnfields);
   TILL_CLIENT_FUNCTION(PQntuples);
+  TILL_CLIENT_FUNCTION(PQnotifies);
   TILL_CLIENT_FUNCTION(PQresultErrorField);
   TILL_CLIENT_FUNCTION(PQresultErrorMessage);
   TILL_CLIENT_FUNCTION(PQresultStatus);

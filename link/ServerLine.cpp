@@ -151,7 +151,35 @@ std::optional<ServerAnswer> ServerLine::openOnce(Moment deadline) {
   }
   pq().PQsetErrorVerbosity(line_.get(), PQERRORS_DEFAULT);
   if (pq().PQsetnonblocking(line_.get(), 1) != 0) return unknown(fault());
-  return std::nullopt;
+  return channel_.empty() ? std::nullopt : listen(deadline);
+}
+
+// A server where nobody may listen is asked without being called.
+std::optional<ServerAnswer> ServerLine::listen(Moment deadline) {
+  isCalled_ = true;
+  ServerAnswer heard = askOpen(("listen " + channel_).c_str(), {}, deadline);
+  if (heard.kind != ServerAnswer::kUnknown) return std::nullopt;
+  return std::optional<ServerAnswer>(std::in_place, std::move(heard));
+}
+
+void ServerLine::listenTo(std::string channel) {
+  if (channel == channel_) return;
+  channel_ = std::move(channel);
+  close();
+}
+
+// A line that turns out to be broken is opened anew by the next question.
+bool ServerLine::wasCalled() {
+  struct Releaser {
+    void operator()(PGnotify* call) const { pq().PQfreemem(call); }
+  };
+  if (line_ && pq().PQconsumeInput(line_.get()) == 0) close();
+  while (line_) {
+    const std::unique_ptr<PGnotify, Releaser> call(pq().PQnotifies(line_.get()));
+    if (!call) break;
+    isCalled_ = true;
+  }
+  return std::exchange(isCalled_, false);
 }
 
 ServerAnswer ServerLine::ask(const char* statement, const ServerAnswer::Row& values,

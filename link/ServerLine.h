@@ -60,6 +60,12 @@ class ServerLine {
   ServerAnswer run(const std::string& script, Milliseconds patience);
   void close();
 
+  /// From now on the line listens to that channel of the server's (LISTEN), whenever it is open.
+  void listenTo(std::string channel);
+  /// Whether somebody called there (NOTIFY) since this was asked last, or the line was opened since
+  /// and may have missed a call. Waits for nothing.
+  bool wasCalled();
+
   /// What the server keeps to know a role's password by, without the password (SCRAM-SHA-256,
   /// RFC 5803). Throws Failure when the line cannot be opened.
   std::string verifierOf(const std::string& password, const std::string& role);
@@ -81,9 +87,11 @@ class ServerLine {
   static void noticed(void* line, const char* text);
 
   std::optional<ServerAnswer> openOnce(Moment deadline);
+  std::optional<ServerAnswer> listen(Moment deadline);
   LineParameters parameters_;
   std::vector<std::string> hosts_;  ///< several, or none: then the parameters say it
   std::size_t host_ = 0;            ///< of these, the one to try
   std::unique_ptr<pg_conn, Closer> line_;
-  std::string notice_;
+  std::string notice_, channel_;
+  bool isCalled_ = false;
 };

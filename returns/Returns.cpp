@@ -140,25 +140,34 @@ QString Returns::takeBack(double quantity, Currency refund) {
   ensure(bill_ != nullptr && line_ != nullptr, "a line of a loaded bill is taken back");
   if (!(quantity > 0)) return tr("没有可退的数量！");
   if (refund < Currency()) return tr("实退金额不能是负数！");
-  QString refusal;
   try {
-    refusal = store(quantity, refund);
+    return follow(books_.takeBack(*bill_, *line_, quantity, refund));
   } catch (const Failure& broken) {
-    refusal = qtText(broken.what());
+    loadAgain();
+    return qtText(broken.what());
   }
-  if (refusal.isEmpty()) {
-    line_ = nullptr;
-  } else {
-    // The bill at hand was being changed: what counts is what the data file holds.
-    const std::int32_t lineId = line_->Id();
-    const QString gone = load(QString::number(bill_->BillNo()));
-    if (gone.isEmpty()) chooseById(lineId);
-  }
-  return refusal;
 }
 
-QString Returns::store(double quantity, Currency refund) {
-  const ReturnBooks::Outcome outcome = books_.takeBack(*bill_, *line_, quantity, refund);
-  if (outcome.kind == ReturnBooks::Outcome::kNothingHeld) return tr("没有可退的数量！");
-  return qtText(outcome.why);
+QString Returns::follow(const ReturnBooks::Outcome& outcome) {
+  switch (outcome.kind) {
+    case ReturnBooks::Outcome::kDone:
+      line_ = nullptr;
+      return {};
+    case ReturnBooks::Outcome::kNothingHeld:
+      loadAgain();
+      return tr("没有可退的数量！");
+    case ReturnBooks::Outcome::kRefused:
+      loadAgain();
+      return qtText(outcome.why);
+    case ReturnBooks::Outcome::kNoAnswer:
+      return qtText(outcome.why);  // to ask for the bill again would be two seconds more
+  }
+  return {};
+}
+
+// The bill at hand was being changed: what counts is what the data file holds.
+void Returns::loadAgain() {
+  const std::int32_t lineId = line_->Id();
+  const QString gone = load(QString::number(bill_->BillNo()));
+  if (gone.isEmpty()) chooseById(lineId);
 }

@@ -58,7 +58,8 @@ class Returns {
   void unload();
   QString open(std::int32_t billNo);
   Currency overpaid() const;
-  QString store(double quantity, Currency refund);
+  QString follow(const ReturnBooks::Outcome& outcome);
+  void loadAgain();
 
   ReturnBooks books_;
   std::shared_ptr<ClsSell> bill_;

@@ -33,6 +33,10 @@ void HeldBills::RecallBill() {
   }
   guarded([this] {
     std::vector<Sale::Bill> bills = listed();
+    if (bills.empty() && books_.isCutOff()) {
+      screen_.ShowMessage(tr("没有联网，看不到别台挂的单。"));
+      return false;
+    }
     const std::int32_t number = screen_.chooseHeldBill(bills);
     const auto chosen = std::find_if(bills.begin(), bills.end(), [number](const auto& bill) {
       return bill->BillNo() == number;
@@ -64,6 +68,8 @@ void HeldBills::fetch(const ClsSell& elsewhere) {
       return screen_.ShowMessage(tr("这张挂单刚刚已被别的收银机调走。"));
     case BillBooks::Fetched::kAway:
       return screen_.ShowMessage(tr("挂着这张单的收银机没有开机或没有联网，拿不过来。"));
+    case BillBooks::Fetched::kUnreadable:
+      return screen_.ShowMessage(tr("这张挂单读不出来，请告诉店主。"));
     case BillBooks::Fetched::kNoAnswer:
       return screen_.ShowMessage(tr("没有等到这张挂单。它如果稍后交过来，会列在本机的挂单里。"));
   }

@@ -19,7 +19,8 @@ class TESSALY_API BillAuthority {
 
   /// The server is known to be away: a question would be answered by nobody.
   virtual bool isAway() const = 0;
-  /// The number of the journal's last entry that the server is known to have.
+  /// The number of the journal's last entry that the server is known to have; the highest there is
+  /// when nothing is known, for then it may have them all.
   virtual std::int64_t atServer() const = 0;
 
   enum class Reply {

@@ -67,8 +67,10 @@ class TESSALY_API BillBooks {
   /// What the other tills of the shop hold, with their lines, to be looked at; nothing when nobody
   /// answers.
   std::vector<std::shared_ptr<ClsSell>> heldElsewhere() const;
+  /// Whether that is because the server is away.
+  bool isCutOff() const;
   struct Fetched {
-    enum Kind { kHere, kGone, kAway, kNoAnswer };
+    enum Kind { kHere, kGone, kAway, kUnreadable, kNoAnswer };
     Kind kind = kNoAnswer;
     std::shared_ptr<ClsSell> bill = {};  ///< of kHere: held by this till now, under a number of its
   };

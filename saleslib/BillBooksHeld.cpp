@@ -43,9 +43,18 @@ std::vector<std::shared_ptr<ClsSell>> BillBooks::held() const {
 std::vector<std::shared_ptr<ClsSell>> BillBooks::heldElsewhere() const {
   std::vector<std::shared_ptr<ClsSell>> bills;
   if (shop_ == nullptr) return bills;
-  for (const BillAuthority::HeldBill& each : shop_->heldElsewhere())
-    bills.push_back(heldBill(connection_, each.basket));
+  for (const BillAuthority::HeldBill& each : shop_->heldElsewhere()) {
+    try {
+      bills.push_back(heldBill(connection_, each.basket));
+    } catch (const StoreError&) {
+      // one that cannot be read hides no other
+    }
+  }
   return bills;
+}
+
+bool BillBooks::isCutOff() const {
+  return shop_ != nullptr && shop_->isAway();
 }
 
 BillBooks::Fetched BillBooks::fetchHeld(const ClsSell& elsewhere) {
@@ -58,6 +67,7 @@ BillBooks::Fetched BillBooks::fetchHeld(const ClsSell& elsewhere) {
   if (given.reply == kNone) return {Fetched::kNoAnswer};
   if (given.reply != kDone) return {Fetched::kGone};
   const std::int64_t number = receiveHeld(connection_, key, given.basket);
+  if (number == 0) return {Fetched::kUnreadable};
   auto bill = std::make_shared<ClsSell>();
   if (!bill->Open(connection_, key32(number), 0, clock_)) return {Fetched::kGone};
   bill->LoadLines();

@@ -31,6 +31,12 @@ Json basketOf(Connection& connection, std::int64_t bill) {
   return basket;
 }
 
+std::string memberOf(const std::string& basket) {
+  const Json record = Json::parse(basket, nullptr, false);
+  const auto member = record.find("member");
+  return member != record.end() && member->is_string() ? member->get<std::string>() : "";
+}
+
 void moveStock(Connection& connection, const ClsSellItem& line, double quantity) {
   ClsStock stock;
   stock.Init(connection, line.SpCode());
@@ -110,14 +116,18 @@ std::shared_ptr<ClsSell> heldBill(Connection& connection, const std::string& bas
   return billOfRecord(connection, Json::parse(basket, nullptr, false), false);
 }
 
-std::int64_t receiveHeld(Connection& connection, const std::string& key,
-                         const std::string& basket) {
+namespace {
+
+std::string errandOf(const std::string& key) {
+  return "held:" + key;
+}
+
+std::int64_t receive(Connection& connection, const std::string& key, const std::string& basket) {
   Transaction receiving(connection);
-  const std::string errand = "held:" + key;
+  const std::string errand = errandOf(key);
   if (!beginErrand(connection, errand)) return errandResult(connection, errand);
   const std::shared_ptr<ClsSell> given = heldBill(connection, basket);
-  const std::int64_t number =
-      newBill(connection, *given, Json::parse(basket).value("member", std::string()));
+  const std::int64_t number = newBill(connection, *given, memberOf(basket));
   const Journal journal(connection);
   journal.note(EntryKind::kBillOpened, number, [&] {
     return Json{{"cashier", given->OperatorId()}};
@@ -129,4 +139,27 @@ std::int64_t receiveHeld(Connection& connection, const std::string& key,
   endErrand(connection, errand, number);
   receiving.commit();
   return number;
+}
+
+void refuse(Connection& connection, const std::string& key, const std::string& why) {
+  Transaction refusing(connection);
+  if (!beginErrand(connection, errandOf(key))) return;
+  Journal(connection).note(EntryKind::kBillRefused, std::string(), {{"key", key}, {"reason", why}});
+  refusing.commit();
+}
+
+}  // namespace
+
+// What cannot be read today cannot be read tomorrow: asked for again and again, it would stand in
+// the way of nothing but be a fault for ever.
+std::int64_t receiveHeld(Connection& connection, const std::string& key,
+                         const std::string& basket) {
+  try {
+    return receive(connection, key, basket);
+  } catch (const StoreBusy&) {
+    throw;
+  } catch (const StoreError& failure) {
+    refuse(connection, key, failure.what());
+    return 0;
+  }
 }

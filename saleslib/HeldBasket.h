@@ -24,7 +24,8 @@ TESSALY_API std::string heldBaskets(Connection& connection);
 TESSALY_API bool releaseHeld(Connection& connection, std::int64_t bill, const std::string& key,
                              int toTill);
 /// Makes a held bill of this till out of a basket that was given up for it, and takes its stock;
-/// once, however often it comes. The bill's number, which may be gone if it came before.
+/// once, however often it comes. The bill's number, which may be gone if it came before; 0 for a
+/// basket that cannot be read or stored, which the journal tells.
 TESSALY_API std::int64_t receiveHeld(Connection& connection, const std::string& key,
                                      const std::string& basket);
 

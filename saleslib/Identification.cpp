@@ -11,7 +11,6 @@
 #include "saleslib/LoginBrake.h"
 #include "saleslib/ShopLink.h"
 #include "saleslib/StaffCard.h"
-#include "saleslib/SyncState.h"
 #include "store/Connection.h"
 
 namespace {
@@ -24,9 +23,9 @@ constexpr std::int64_t kSecondsOfDay = 86'400;
 std::string Identification::tooLongAway() const {
   const std::int16_t days = rules_.OfflineLoginDays();
   if (days == 0 || !shopLink(connection_)) return {};
-  const std::optional<SyncState> state = readSyncState(connection_.source().path);
+  const std::optional<DateTime> contact = lastContact(connection_);
   const DateTime now = connection_.user().clock();
-  if (!state || secondsBetween(state->contact, now) <= days * kSecondsOfDay) return {};
+  if (contact && secondsBetween(*contact, now) <= days * kSecondsOfDay) return {};
   return Words::tr("这台收银机已经超过 %1 天没有连上店铺的服务器，不能登录。请先接通网络。", days);
 }
 

@@ -56,6 +56,7 @@ const std::vector<EntryKindName>& entryKinds() {
       {kReturnedElsewhere, "returned_elsewhere", Words::mark("别台退货")},
       {kBillReleased, "bill_released", Words::mark("挂单交给别台")},
       {kBillReceived, "bill_received", Words::mark("接到别台挂单")},
+      {kBillRefused, "bill_refused", Words::mark("别台挂单读不出来")},
   };
   return kinds;
 }

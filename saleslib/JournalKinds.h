@@ -54,6 +54,7 @@ enum class EntryKind {
   kReturnedElsewhere,
   kBillReleased,
   kBillReceived,
+  kBillRefused,
 };
 
 /// A kind as entries have it, and as people call it.

@@ -134,7 +134,8 @@ ReturnBooks::Outcome ReturnBooks::takeBackAsked(ClsSell& bill, ClsSellItem& line
   SharedReturn asked(connection_, *shop_, isHere(bill), mayGoUnanswered_);
   const BillAuthority::ReturnAnswer answer = asked.ask(bill.BillNo(), line.Id(), quantity);
   if (answer.reply != BillAuthority::Reply::kDone)
-    return {Outcome::kRefused, refusalOf(answer, isHere(bill))};
+    return {answer.reply == BillAuthority::Reply::kNone ? Outcome::kNoAnswer : Outcome::kRefused,
+            refusalOf(answer, isHere(bill))};
   try {
     Outcome outcome = store(bill, line, quantity, refund, &asked);
     if (outcome.kind != Outcome::kDone) asked.giveUp();

@@ -44,9 +44,14 @@ class TESSALY_API ReturnBooks {
   std::vector<ClsUnSell::Earlier> earlier(const ClsSellItem& line) const;
 
   struct Outcome {
-    enum Kind { kDone, kNothingHeld, kRefused };
+    enum Kind {
+      kDone,
+      kNothingHeld,
+      kRefused,
+      kNoAnswer,  ///< the server's: bill and line are as they were
+    };
     Kind kind = kDone;
-    std::string why = {};  ///< of kRefused, for people
+    std::string why = {};  ///< of the last two, for people
   };
   /// Takes that much of a line of the bill (ensure) back for that refund: return record, stock,
   /// line, bill and member, in one transaction. The record is limited to what the line still holds,

@@ -46,9 +46,10 @@ void joinShop(Connection& connection, const ShopLink& link, std::int64_t highest
   Transaction joining(connection);
   connection.run("delete from link");
   connection.run(
-      "insert into link (one, till, epoch, host, port, database, password, authority)"
-      " values (1, ?, ?, ?, ?, ?, ?, ?)",
-      link.till, link.epoch, link.host, link.port, link.database, link.password, link.authority);
+      "insert into link (one, till, epoch, host, port, database, password, authority, contact)"
+      " values (1, ?, ?, ?, ?, ?, ?, ?, ?)",
+      link.till, link.epoch, link.host, link.port, link.database, link.password, link.authority,
+      connection.user().clock());
   numberBillsBehind(connection, link.till, highestBill);
   hashCardPasswords(connection);
   ClsSysParam parameters;
@@ -64,6 +65,20 @@ void moveServer(Connection& connection, const std::string& host) {
   if (connection.run("update link set host = ?", host) == 0)
     throw StoreError(Words::tr("这台收银机还没有加入店铺，请写上加入码。"));
   moving.commit();
+}
+
+std::optional<DateTime> lastContact(Connection& connection) {
+  Rows row = connection.query("select contact from link");
+  return row.next() ? row.dateTime("contact") : std::nullopt;
+}
+
+void noteContact(Connection& connection, const DateTime& now) {
+  const std::optional<DateTime> before = lastContact(connection);
+  const std::int64_t since = before ? secondsBetween(*before, now) : -1;
+  if (since >= 0 && since < std::chrono::seconds(kBetweenContacts).count()) return;
+  Transaction noting(connection);
+  connection.run("update link set contact = ?", now);
+  noting.commit();
 }
 
 void beginEpoch(Connection& connection, int epoch, std::int64_t highestBill) {

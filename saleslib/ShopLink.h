@@ -1,9 +1,11 @@
 #pragma once
 
+#include <chrono>
 #include <cstdint>
 #include <optional>
 #include <string>
 
+#include "base/DateTime.h"
 #include "saleslib/Export.h"
 
 class Connection;
@@ -35,6 +37,14 @@ TESSALY_API void joinShop(Connection& connection, const ShopLink& link, std::int
 
 /// The shop's server is found there from now on. Throws StoreError in a till that has not joined.
 TESSALY_API void moveServer(Connection& connection, const std::string& host);
+
+/// When the server last answered this till, by this machine's clock and within kBetweenContacts;
+/// nothing where it never did. Whoever takes away what lies beside the data file does not change
+/// it.
+TESSALY_API std::optional<DateTime> lastContact(Connection& connection);
+/// The server answers. Stored unless that was done less than kBetweenContacts ago.
+TESSALY_API void noteContact(Connection& connection, const DateTime& now);
+inline constexpr std::chrono::minutes kBetweenContacts{10};
 
 /// The till's history became another one at the server. One transaction.
 TESSALY_API void beginEpoch(Connection& connection, int epoch, std::int64_t highestBill);

@@ -15,6 +15,8 @@
 
 namespace {
 
+constexpr std::int64_t kNotKnown = -1;
+
 std::string placeOf(const std::filesystem::path& dataFile) {
   return dataFile.string() + ".sync";
 }
@@ -34,11 +36,12 @@ std::optional<SyncState> readSyncState(const std::filesystem::path& dataFile) {
   std::string date, time;
   SyncState state;
   int refusal = 0;
-  if (!(file >> date >> time >> state.pendingBills >> refusal >> state.atServer))
-    return std::nullopt;
+  std::int64_t atServer = kNotKnown;
+  if (!(file >> date >> time >> state.pendingBills >> refusal >> atServer)) return std::nullopt;
   const std::optional<DateTime> contact = parseDateTime(date + " " + time);
   if (!contact) return std::nullopt;
   state.contact = *contact;
+  if (atServer != kNotKnown) state.atServer = atServer;
   state.refusal = static_cast<SyncState::Refusal>(refusal);
   return state;
 }
@@ -59,7 +62,8 @@ void SyncPlace::write(const SyncState& state) const {
   std::array<char, 80> line{};
   std::snprintf(line.data(), line.size(), "%s %20lld %d %20lld\n",
                 storedText(state.contact).c_str(), static_cast<long long>(state.pendingBills),
-                static_cast<int>(state.refusal), static_cast<long long>(state.atServer));
+                static_cast<int>(state.refusal),
+                static_cast<long long>(state.atServer.value_or(kNotKnown)));
   const std::string text = line.data();
   if (pwrite(file_, text.data(), text.size(), 0) < 0) return;  // nobody depends on it
 }

@@ -19,7 +19,8 @@ struct TESSALY_API SyncState {
     kCertificate,  ///< whoever answers has not the certificate of the shop's server
   };
   Refusal refusal = Refusal::kNone;
-  std::int64_t atServer = 0;  ///< number of the last entry there, as the server told
+  /// Number of the last entry there, as the server told; none when that was lost with the file.
+  std::optional<std::int64_t> atServer = {};
 };
 
 /// None when nobody has written it yet.

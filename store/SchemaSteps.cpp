@@ -23,12 +23,18 @@ create index sell_phone_slip on sell (phone_slip) where phone_slip is not null;
 // What other tills sold to members and gave points for comes down, too: a till that passed over it
 // compares everything once.
 const char* const kMemberSumsStep = "delete from down_place;";
+// When the shop's server last answered: what was before begins its days now.
+const char* const kContactStep = R"(
+alter table link add column contact datetime;  -- within ten minutes; by this machine's clock
+update link set contact = strftime('%Y-%m-%d %H:%M:%S', 'now', 'localtime');
+)";
 
 }  // namespace
 
 const std::vector<std::string>& schemaSteps() {
   static const std::vector<std::string> steps = {
-      kFirstTables, kSecondStep, kThirdStep,  kGoodsTables, kStaffCardStep,  kJournalTable,
-      kShiftTables, kLinkTable,  kCardTables, kDownTables,  kShopBillTables, kMemberSumsStep};
+      kFirstTables,    kSecondStep,     kThirdStep,  kGoodsTables, kStaffCardStep,
+      kJournalTable,   kShiftTables,    kLinkTable,  kCardTables,  kDownTables,
+      kShopBillTables, kMemberSumsStep, kContactStep};
   return steps;
 }

@@ -84,8 +84,8 @@ BillCalls::Wish BillCalls::want(const std::string& key, int till, std::int64_t b
   return {outcome == "away" ? Reply::kAway : Reply::kUnknown};
 }
 
-bool BillCalls::hold(const std::string& baskets) {
-  return ask("select api.hold($1, $2)", {baskets}).isDone();
+ServerAnswer BillCalls::hold(const std::string& baskets) {
+  return ask("select api.hold($1, $2)", {baskets});
 }
 
 BillCalls::Errands BillCalls::errands() {

@@ -35,8 +35,8 @@ class BillCalls {
 
   // What the program beside the till asks
 
-  /// All that the till holds (heldBaskets). False when that is not known to have come.
-  bool hold(const std::string& baskets);
+  /// All that the till holds (heldBaskets).
+  ServerAnswer hold(const std::string& baskets);
   struct Errand {
     bool isWanted = false;  ///< that bill, by that till; else its basket is given up to this one
     std::string key;

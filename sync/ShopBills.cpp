@@ -1,5 +1,6 @@
 #include "sync/ShopBills.h"
 
+#include <cstdint>
 #include <thread>
 
 #include "sync/BillCalls.h"
@@ -20,7 +21,8 @@ const auto kAnswered = [](const auto& answer) {
 
 std::int64_t ShopBills::atServer() const {
   const std::optional<SyncState> last = line_.state();
-  return last ? last->atServer : 0;
+  const std::optional<std::int64_t> known = last ? last->atServer : std::nullopt;
+  return known.value_or(INT64_MAX);
 }
 
 BillAuthority::ReturnAnswer ShopBills::takeBack(const Return& wanted) {

@@ -53,10 +53,7 @@ SyncRun::SyncRun(DataSource file, const SyncPlace& place, Surroundings surroundi
       place_(place),
       surroundings_(std::move(surroundings)),
       wait_(kShortestWait),
-      lastMoment_(steady_clock::time_point::max()) {
-  const std::optional<SyncState> before = readSyncState(file_.path);
-  state_ = before.value_or(SyncState{.contact = surroundings_.clock()});
-}
+      lastMoment_(steady_clock::time_point::max()) {}
 
 SyncRun::~SyncRun() = default;
 
@@ -64,12 +61,19 @@ void SyncRun::open() {
   std::unique_ptr<Connection> connection = openDataFile(file_);
   const std::optional<ShopLink> link = shopLink(*connection);
   ensure(link.has_value(), "run has looked");
-  session_ = std::make_unique<Session>(std::move(connection), *link, state_.atServer);
+  session_ = std::make_unique<Session>(std::move(connection), *link, state_.atServer.value_or(0));
+}
+
+void SyncRun::begin() {
+  const std::unique_ptr<Connection> file = openDataFile(file_);
+  if (!shopLink(*file))
+    throw StoreError(Words::tr("这台收银机没有加入店铺的服务器（tilladmin enrol）。"));
+  const DateTime kept = lastContact(*file).value_or(surroundings_.clock());
+  state_ = readSyncState(file_.path).value_or(SyncState{.contact = kept});
 }
 
 void SyncRun::run() {
-  if (!shopLink(*openDataFile(file_)))
-    throw StoreError(Words::tr("这台收银机没有加入店铺的服务器（tilladmin enrol）。"));
+  begin();
   for (;;) {
     const Upload::Outcome outcome = attempt();
     note(outcome);
@@ -87,8 +91,9 @@ Upload::Outcome SyncRun::attempt() try {
   if (outcome == Upload::Outcome::kIdle && session_->errands.step())
     outcome = Upload::Outcome::kWent;
   state_.pendingBills = session_->upload.pendingBills();
-  state_.atServer = session_->upload.atServer();
+  if (outcome == Upload::Outcome::kWent) keepContact();
   fault_ = session_->upload.fault();
+  if (fault_.empty()) fault_ = session_->errands.fault();
   if (outcome == Upload::Outcome::kWent) session_->download.look();
   const bool isWell = outcome == Upload::Outcome::kWent || outcome == Upload::Outcome::kIdle;
   if (isWell && session_->download.step() == Download::Outcome::kFailed)
@@ -100,6 +105,14 @@ Upload::Outcome SyncRun::attempt() try {
   return Upload::Outcome::kFailed;
 }
 
+void SyncRun::keepContact() try {
+  state_.contact = surroundings_.clock();
+  state_.atServer = session_->upload.atServer();
+  noteContact(*session_->connection, state_.contact);
+} catch (const StoreBusy&) {
+  // the next answer is as good
+}
+
 void SyncRun::note(Upload::Outcome outcome) {
   using enum Upload::Outcome;
   const bool isWell = outcome == kWent || outcome == kIdle;
@@ -109,7 +122,6 @@ void SyncRun::note(Upload::Outcome outcome) {
   if (outcome != kIdle) state_.refusal = refusalOf(outcome);
   const bool isForPeople = state_.refusal != SyncState::Refusal::kNone;
   if (isForPeople || failures_ % kFailuresToOpenAnew == kFailuresToOpenAnew - 1) session_.reset();
-  if (outcome == kWent) state_.contact = surroundings_.clock();
   const auto now = steady_clock::now();
   if (now - written_ < kBetweenNotes && state_.refusal == before) return;
   place_.write(state_);

@@ -34,8 +34,11 @@ class SyncRun {
  private:
   struct Session;
 
+  void begin();
   Upload::Outcome attempt();
   void open();
+  /// The server has answered.
+  void keepContact();
   void note(Upload::Outcome outcome);
   void tellOnce(const std::string& fault);
   Milliseconds waitAfter(Upload::Outcome outcome);

@@ -2,6 +2,7 @@
 
 #include <chrono>
 #include <cstdint>
+#include <string>
 #include <vector>
 
 #include "sync/BillCalls.h"
@@ -15,25 +16,30 @@ class Connection;
 class TillErrands {
  public:
   using Moment = std::chrono::steady_clock::time_point;
-  /// A till that holds a bill asks so often whether somebody wants it; one that holds none, as
-  /// often as it is heard of anyway.
+  /// So often it looks whether the till put a bill aside or took one up.
   static constexpr std::chrono::milliseconds kBetweenLooks{200};
+  /// The server calls a till whose bill somebody wants; so often it is asked all the same.
   static constexpr std::chrono::seconds kHeartbeat{3};
 
   /// Connection and line outlive the errands. The till belongs to a shop.
-  TillErrands(Connection& connection, ServerLine& line, int till)
-      : connection_(connection), calls_(line, till) {}
+  TillErrands(Connection& connection, ServerLine& line, int till);
 
   /// What is due at that moment. True when something was done, which may be to be brought now.
   /// Throws StoreError.
   bool step(Moment now = std::chrono::steady_clock::now());
+  /// What of it could not be done when that was last tried; the others are done all the same.
+  const std::string& fault() const { return fault_; }
 
  private:
+  bool tellHeld(BillCalls& calls, const std::vector<std::int64_t>& held);
   bool runErrands(BillCalls& calls);
   bool followReturns(BillCalls& calls);
+  template <class Errand>
+  bool did(const Errand& errand);
 
   Connection& connection_;
   ShopCalls calls_;
   Moment looked_, beaten_;
   std::vector<std::int64_t> told_;  ///< what the server was told to be held here
+  std::string fault_;
 };

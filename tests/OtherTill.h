@@ -20,10 +20,13 @@ struct OtherTill : BillAuthority {
   std::int64_t atServer() const override { return 0; }
   ReturnAnswer takeBack(const Return& /*wanted*/) override { return {reply, 0.5}; }
   BillAnswer bill(std::int64_t /*number*/) override { return {reply, kBill}; }
-  std::vector<HeldBill> heldElsewhere() override { return {{3, 30'000'007, kBill}}; }
+  std::vector<HeldBill> heldElsewhere() override {
+    return holds ? std::vector<HeldBill>{{3, 30'000'007, kBill}} : std::vector<HeldBill>();
+  }
   HandOver handOver(const std::string& /*key*/, int /*till*/, std::int64_t /*bill*/) override {
     return {reply, kBill};
   }
 
   Reply reply = Reply::kDone;
+  bool holds = true;
 };

@@ -486,6 +486,14 @@ Take the payment like this?</translation>
         <source>没有等到这张挂单。它如果稍后交过来，会列在本机的挂单里。</source>
         <translation>The held bill did not come in time. If it comes later, it is among the held bills of this till.</translation>
     </message>
+    <message>
+        <source>没有联网，看不到别台挂的单。</source>
+        <translation>The server is away: held bills of other tills cannot be shown.</translation>
+    </message>
+    <message>
+        <source>这张挂单读不出来，请告诉店主。</source>
+        <translation>This held bill cannot be read. Please tell the owner.</translation>
+    </message>
 </context>
 <context>
     <name>Identification</name>
@@ -5774,6 +5782,10 @@ Not sent: stock, balances, purchases and points, and the tills&apos; own paramet
     <message>
         <source>参数名</source>
         <translation>name</translation>
+    </message>
+    <message>
+        <source>别台挂单读不出来</source>
+        <translation>Held bill of another till unreadable</translation>
     </message>
 </context>
 <context>

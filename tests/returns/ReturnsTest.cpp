@@ -29,7 +29,7 @@ TEST_F(ReturnsTest, OnlyASettledBillOfThatNumberLoads) {
   }
   EXPECT_EQ(stored("count(*) as v from sell"), "2") << "number 0 opened no bill";
   EXPECT_EQ(load("30000001"), "没有找到“30000001”单据！");
-  pos.gConn->runScript("insert into link values (1, 2, 1, '', 0, '', '', '')");
+  pos.gConn->runScript("insert into link values (1, 2, 1, '', 0, '', '', '', null)");
   EXPECT_EQ(load("30000001"), "单据“30000001”是 3 号收银机的，请到那台收银机上退货！");
   EXPECT_EQ(load("20000001"), "没有找到“20000001”单据！");
   pos.gConn->runScript("update sellProducts set amount = 9 where sellId = 1");
@@ -39,7 +39,7 @@ TEST_F(ReturnsTest, OnlyASettledBillOfThatNumberLoads) {
 
 TEST_F(ReturnsTest, AnotherTillsBillIsTakenBackByTheServersLeaveAlone) {
   OtherTill other;
-  pos.gConn->runScript("insert into link values (1, 2, 1, '', 0, '', '', '')");
+  pos.gConn->runScript("insert into link values (1, 2, 1, '', 0, '', '', '', null)");
   Returns all{ReturnBooks(*pos.gConn, pos.clock, pos.gOperator, &other)};
   const auto takeBack = [&all](double quantity) {
     all.chooseById(1);
@@ -55,6 +55,7 @@ TEST_F(ReturnsTest, AnotherTillsBillIsTakenBackByTheServersLeaveAlone) {
     ASSERT_EQ(all.load("30000007").toStdString(), "");
     other.reply = reply;
     EXPECT_EQ(takeBack(1), refusal);
+    EXPECT_EQ(all.bill() != nullptr, reply == kNone) << "what nobody answered changed nothing";
   }
   EXPECT_EQ(stored("count(*) as v from return_pending"), "0");
   EXPECT_EQ(stored("quantity as v from stock where spbm = '1001'"), "93");

@@ -35,7 +35,13 @@ TEST_F(OtherTillsTest, GoesOnWithWhatAnotherTillHolds) {
   auto shop = std::make_unique<OtherTill>();
   OtherTill& other = *shop;
   pos.bills = std::move(shop);
-  const auto choose = [this](BillAuthority::Reply reply, const char* said) {
+  const auto hear = [this](const char* said) {
+    hands.at("frmMsg", [said](QWidget& message) {
+      EXPECT_EQ(message.findChild<QLabel*>("Label1")->text(), said);
+      Hands::pressNow(Key_Escape);
+    });
+  };
+  const auto choose = [&](BillAuthority::Reply reply, const char* said) {
     hands.at("frmRecord", [](QWidget& form) {
       const auto* bills = form.findChild<QTableView*>("listSell")->model();
       EXPECT_EQ(bills->index(0, 2).data().toString(), "08:00");
@@ -44,15 +50,15 @@ TEST_F(OtherTillsTest, GoesOnWithWhatAnotherTillHolds) {
       Hands::pressNow(Key_Return);
     });
     static_cast<OtherTill&>(*pos.bills).reply = reply;
-    if (*said != '\0') {
-      hands.at("frmMsg", [said](QWidget& message) {
-        EXPECT_EQ(message.findChild<QLabel*>("Label1")->text(), said);
-        Hands::pressNow(Key_Escape);
-      });
-    }
+    if (*said != '\0') hear(said);
     press({Key_F6});
   };
   show([&] {
+    other.holds = false;
+    other.reply = BillAuthority::Reply::kNone;
+    hear("没有联网，看不到别台挂的单。");
+    press({Key_F6});
+    other.holds = true;
     choose(BillAuthority::Reply::kAway, "挂着这张单的收银机没有开机或没有联网，拿不过来。");
     choose(BillAuthority::Reply::kUnknown, "这张挂单刚刚已被别的收银机调走。");
     choose(BillAuthority::Reply::kNone, "没有等到这张挂单。它如果稍后交过来，会列在本机的挂单里。");

@@ -124,6 +124,52 @@ TEST_F(HeldBillsTest, AreNotGivenUpForNobody) {
   EXPECT_EQ(second.till.books().held().size(), 0U);
 }
 
+TEST_F(HeldBillsTest, ATillIsCalledWhenItsBillIsWantedAndAsksSeldomElse) {
+  const int bill = first.till.hold(3);
+  TillErrands errands(*first.till.shop, *first.joined->line, 1);
+  auto now = std::chrono::steady_clock::now();
+  errands.step(now);
+  errands.step(now += TillErrands::kBetweenLooks);
+  const char* kHeard = "select last_contact from shop.till where till = 1";
+  const std::string heard = value(kHeard);
+  for (int look = 0; look < 10; ++look) errands.step(now += TillErrands::kBetweenLooks);
+  EXPECT_EQ(value(kHeard), heard) << "nobody wants it";
+  EXPECT_TRUE(want(second, "key", bill).isWaiting);
+  const auto deadline = std::chrono::steady_clock::now() + std::chrono::seconds(10);
+  while (!errands.step(now) && std::chrono::steady_clock::now() < deadline)
+    std::this_thread::yield();
+  EXPECT_THAT(first.till.books().held(), IsEmpty()) << "given up before the next heartbeat";
+}
+
+// Each such row was the end of all errands of the till, for as long as it stood there.
+TEST_F(HeldBillsTest, ABasketThatCannotBeReadIsNotedOnceAndStandsInNoWay) {
+  first.till.hold(3);
+  first.errand();
+  for (const char* basket :
+       {"[]", "{\"bill\": 7}", "{\"bill\": {\"id\": 1}, \"lines\": [{}, 1]}"}) {
+    const std::string text = std::string("'") + basket + "', md5('" + basket + "')";
+    owner->ask(
+        ("insert into shop.handed (from_till, bill, to_till, basket, key) values (1, 5, 2, " +
+         text + ")")
+            .c_str());
+    owner->ask(("insert into shop.held (till, bill, basket, wanted_key) values (1, length('" +
+                std::string(basket) + "'), " + text + ")")
+                   .c_str());
+  }
+  const auto elsewhere = second.till.books().heldElsewhere();
+  ASSERT_THAT(elsewhere, SizeIs(1)) << "those that can be read";
+  EXPECT_TRUE(want(second, "good", 10'000'001).isWaiting);
+  ASSERT_TRUE(releaseHeld(*first.till.shop, 10'000'001, "good", 2));
+  first.errand();
+  for (int round = 0; round < 2; ++round) {
+    second.errand();
+    EXPECT_THAT(second.till.books().held(), SizeIs(1)) << "the one that can be read";
+    EXPECT_EQ(second.count("fact where kind = 'bill_refused'"), "3");
+    EXPECT_EQ(value("select count(*) from shop.fault where till = 2"), "3");
+    EXPECT_EQ(value("select count(*) from shop.handed where not received"), "0");
+  }
+}
+
 TEST_F(HeldBillsTest, TheOwnerRulesWhatATillMayDoWithoutContact) {
   first.till.set("StockRule", "1");
   const auto ring = [this](double quantity) {
@@ -144,10 +190,17 @@ TEST_F(HeldBillsTest, TheOwnerRulesWhatATillMayDoWithoutContact) {
 
   LoginBrake brake(std::chrono::steady_clock::now);
   Identification who(*first.till.shop, first.till.rules(), brake);
+  noteContact(*first.till.shop, DateTime{Date{2026, 1, 1}});
+  std::filesystem::remove(first.file().string() + ".sync");
+  EXPECT_THAT(who.byPassword("1", "").refusal, HasSubstr("超过 7 天"))
+      << "whoever takes the file beside it away does not prolong it";
+  first.till.shop->run("update link set contact = null");
   EXPECT_THAT(who.byPassword("1", "").refusal, HasSubstr("超过 7 天"));
   first.till.set("OfflineLoginDays", "0");
   EXPECT_THAT(who.byPassword("1", "").refusal, Not(HasSubstr("服务器")));
   first.till.set("OfflineLoginDays", "1");
-  first.lose(false);
+  first.runSync([] { return DateTime{Date{2026, 1, 2}}; });
+  EXPECT_THAT(who.byPassword("1", "").refusal, HasSubstr("超过 1 天"));
+  first.runSync(localTime);
   EXPECT_THAT(who.byPassword("1", "").refusal, Not(HasSubstr("服务器")));
 }

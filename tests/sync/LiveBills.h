@@ -7,6 +7,7 @@
 #include "saleslib/SyncState.h"
 #include "sync/ShopBills.h"
 #include "sync/ShopServerFixture.h"
+#include "sync/SyncRun.h"
 #include "sync/TillErrands.h"
 
 /// The shop's server behind something that happens to a question.
@@ -48,6 +49,16 @@ struct LiveBills : ShopServerFixture {
         joined->bring();
         joined->now += TillErrands::kHeartbeat;
       } while (errands.step(joined->now));
+    }
+    /// Until all is brought.
+    void runSync(Clock clock) const {
+      const SyncPlace place(file());
+      SyncRun(till.shop->source(), place,
+              {.pause = [](auto) {},
+               .isTillGone = [] { return true; },
+               .tell = [](auto&) {},
+               .clock = std::move(clock)})
+          .run();
     }
     void lose(bool isLost) const {
       const DateTime contact = isLost ? DateTime{Date{2026, 1, 1}} : localTime();

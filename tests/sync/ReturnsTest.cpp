@@ -1,3 +1,5 @@
+#include <filesystem>
+
 #include "sync/LiveBills.h"
 
 using testing::HasSubstr;
@@ -54,7 +56,7 @@ TEST_F(ReturnsTest, UndoesWhatWasNotAnswered) {
     second.way.pass();
     return BillAuthority::ReturnAnswer{};
   };
-  EXPECT_EQ(second.till.takeBack(bill, 3).kind, Outcome::kRefused);
+  EXPECT_EQ(second.till.takeBack(bill, 3).kind, Outcome::kNoAnswer);
   EXPECT_EQ(asked("state = 'open'"), "1");
   second.errand();
   second.way.trouble = [this]() -> BillAuthority::ReturnAnswer {
@@ -86,6 +88,10 @@ TEST_F(ReturnsTest, FollowsTheOwnersRuleWithoutContact) {
   const int known = first.till.sell(3).first;
   first.errand();
   const int fresh = first.till.sell(2).first;
+  std::filesystem::remove(first.file().string() + ".sync");
+  first.way.trouble = [] { return BillAuthority::ReturnAnswer(); };
+  EXPECT_EQ(first.till.takeBack(known, 1).kind, Outcome::kNoAnswer) << "nobody knows who has it";
+  first.way.trouble = [this] { return first.way.pass(); };
   for (LiveTill* till : {&first, &second}) till->lose(true);
   EXPECT_EQ(first.till.takeBack(fresh, 1).kind, Outcome::kDone) << "nobody else knows it";
   EXPECT_THAT(first.till.takeBack(known, 1).why, HasSubstr("没有联网"));
