@@ -86,7 +86,7 @@ class Office {
 
  private:
   void publishAll() {
-    publish(line_, *file_, [](std::int64_t) {});
+    publish(line_, *file_, {}, [](std::int64_t) {});
   }
   void ask(const char* statement, const std::string& number) {
     const ServerAnswer answer = line_.ask(statement, {number}, 5min);

@@ -19,7 +19,7 @@ namespace {
 using std::chrono::milliseconds;
 using std::chrono::steady_clock;
 
-constexpr auto kDrainPatience = std::chrono::seconds(90);
+constexpr auto kDrainPatience = std::chrono::seconds(90);  // without anything that moves
 
 [[noreturn]] void fail(const std::string& what) {
   throw std::runtime_error(what);
@@ -179,10 +179,13 @@ void Storm::drain(StormTill& till) {
   const std::string place = last.text("place");
   const std::string known =
       "select applied || ' ' || hash from shop.till where till = " + std::to_string(till.number());
-  const auto deadline = steady_clock::now() + kDrainPatience;
-  while (server_.value(known) != place) {
+  std::string there;
+  auto deadline = steady_clock::now() + kDrainPatience;
+  for (std::string now; (now = server_.value(known)) != place;) {
     till.requireSync();
-    if (steady_clock::now() > deadline) fail(till.name() + " is not drained");
+    if (now != std::exchange(there, now)) deadline = steady_clock::now() + kDrainPatience;
+    if (steady_clock::now() > deadline)
+      fail(till.name() + " is not drained: " + now + " instead of " + place);
     std::this_thread::sleep_for(milliseconds(20));
   }
 }
