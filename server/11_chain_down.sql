@@ -278,6 +278,19 @@ create or replace view shop.returned as
   from shop.taken_back t
   left join shop.sale s on s.bill = t.bill and s.till / 1000 = t.till / 1000
   left join shop.sale_line l on (l.till, l.epoch, l.bill, l.line) = (s.till, s.epoch, t.bill, t.line);
+-- Head office has no tills to tell of stock and cards.
+create or replace function shop.touch_stock() returns trigger language plpgsql as $$
+begin
+  insert into shop.touched select distinct till, 'stock', item from written
+    where (select shop.number()) > 0;
+  return null;
+end $$;
+create or replace function shop.touch_cards() returns trigger language plpgsql as $$
+begin
+  insert into shop.touched select distinct till, 'card', number from written
+    where (select shop.number()) > 0;
+  return null;
+end $$;
 drop index shop.taken_back_bill;  -- taken_back_line begins alike
 
 revoke all on all functions in schema api, shop from public;
