@@ -18,7 +18,7 @@ struct ChainDownTest : ChainFixture {
   /// The office of that server changes its file and publishes it.
   void publishAt(int number, Connection& office, const std::string& change,
                  std::optional<int> shop = {}) {
-    if (!change.empty()) office.runScript(change.c_str());
+    if (!change.empty()) office.runScript(change);
     enter(number);
     publish(*owner, office, shop, [](std::int64_t) {});
     enter(kHead);
@@ -120,11 +120,11 @@ TEST_F(ChainDownTest, BringsHeadOfficesGoodsToTheTillsOfItsShops) {
   EXPECT_EQ(soonPrices(*first, "99 10 99 6"), "99 10 99 6");
 
   ClsMember member;
-  member.Init(*first->till.shop, 0, localTime);
+  member.Init(*second->till.shop, 0, localTime);
   member.setBh("9001");
   member.setName("新会员");
   ASSERT_TRUE(member.Save()) << member.ErrText();
-  first->bring();
+  second->bring();
   EXPECT_EQ(soon("select count(*) from shop.change where key = '9001'", "1"), "1");
   EXPECT_EQ(value("select count(*) from shop.fault"), "0");
 }
