@@ -53,7 +53,22 @@ begin
 end $$;
 create trigger master_merged after insert or update or delete on shop.master
   for each row execute function shop.master_changed();
-alter table shop.master enable always trigger master_merged;
+alter table shop.master enable replica trigger master_merged;
+
+-- What is not replicated comes in bulk.
+create function shop.merge_masters() returns void language plpgsql as $$
+begin
+  create temporary table best on commit drop as
+    select distinct on (tbl, key) tbl, key, body from shop.master
+    where shop in (0, shop.number()) order by tbl, key, shop desc;
+  analyze best;
+  update shop.change c set body = coalesce(b.body, c.published), head = b.body
+    from shop.change n left join best b using (tbl, key)
+    where (n.tbl, n.key) = (c.tbl, c.key) and n.head is distinct from b.body;
+  insert into shop.change (tbl, key, body, head) select tbl, key, body, body from best b
+    where not exists (select from shop.change c where (c.tbl, c.key) = (b.tbl, b.key));
+  drop table best;
+end $$;
 
 -- A row may come that was fetched before.
 create function shop.master_comes() returns trigger language plpgsql as $$
@@ -117,6 +132,7 @@ begin
     where not exists (select from shop.master m
                       where (m.shop, m.tbl, m.key) = (its_shop, i.tbl, i.key));
   get diagnostics added = row_count;
+  perform shop.merge_masters();
   insert into shop.publishing (shop, mark) values (its_shop, shop.masters_mark(its_shop));
 end $$;
 
@@ -157,6 +173,7 @@ begin
         where known.body <> excluded.body
       returning 1)
   select (select count(*) from gone) + (select count(*) from kept) into changed;
+  perform shop.merge_masters();
   return changed;
 end $$;
 create function shop.publishing_came() returns trigger language plpgsql as $$
@@ -261,6 +278,19 @@ create or replace view shop.returned as
   from shop.taken_back t
   left join shop.sale s on s.bill = t.bill and s.till / 1000 = t.till / 1000
   left join shop.sale_line l on (l.till, l.epoch, l.bill, l.line) = (s.till, s.epoch, t.bill, t.line);
+-- Head office has no tills to tell of stock and cards.
+create or replace function shop.touch_stock() returns trigger language plpgsql as $$
+begin
+  insert into shop.touched select distinct till, 'stock', item from written
+    where (select shop.number()) > 0;
+  return null;
+end $$;
+create or replace function shop.touch_cards() returns trigger language plpgsql as $$
+begin
+  insert into shop.touched select distinct till, 'card', number from written
+    where (select shop.number()) > 0;
+  return null;
+end $$;
 drop index shop.taken_back_bill;  -- taken_back_line begins alike
 
 revoke all on all functions in schema api, shop from public;
