@@ -8,40 +8,67 @@
 
 namespace {
 
-// A union of names and figures each; ?1 is what names of a till end with.
-constexpr const char* kAtTill =
-    "select 'stock of ' || lower(spbm) as name, quantity as figure from stock"
-    " union all select 'card of ' || lower(bh), card from member"
-    " union all select 'bills of ' || ?1, count(*) from sell where state = 1"
+// Names and figures each; ?1 is what names of a till end with. What a held bill took is no fact
+// yet.
+constexpr const char* kStockAndCards =
+    "with held as (select bm, sum(l.amount * ratio) as quantity from sellProducts l join sell s"
+    " on s.id = l.sellId where s.held = 1 group by bm)"
+    " select 'stock of ' || lower(spbm) as name, s.quantity + coalesce(h.quantity, 0) as figure"
+    " from stock s left join held h on h.bm = s.spbm"
+    " union all select 'card of ' || lower(bh), card from member";
+constexpr const char* kOthersPart =
+    "select tbl || ' of ' || lower(key) as name, amount as figure from down_others";
+constexpr const char* kOfTill =
+    "select 'bills of ' || ?1 as name, count(*) as figure from sell where state = 1"
     " union all select 'lines of ' || ?1, count(*) from sell s join sellProducts l"
     " on s.id = l.sellId where state = 1"
     " union all select 'returns of ' || ?1, count(*) from un_sell"
     " union all select 'entries of ' || ?1, count(*) from fact";
-constexpr const char* kAtServer =
+constexpr const char* kStockAndCardsAtServer =
     "select 'stock of ' || item, quantity from shop.stock"
-    " union all select 'card of ' || number, balance from shop.card_balance"
-    " union all select 'bills of ' || till, count(*) from shop.sale group by till"
+    " union all select 'card of ' || number, balance from shop.card_balance";
+constexpr const char* kOfTillsAtServer =
+    "select 'bills of ' || till, count(*) from shop.sale group by till"
     " union all select 'lines of ' || till, count(*) from shop.sale_line group by till"
     " union all select 'returns of ' || till, count(*) from shop.taken_back group by till"
     " union all select 'entries of ' || till, count(*) from shop.fact group by till";
 
 constexpr double kSame = 0.00005;  // the sums of thousands of figures with four decimals
 
-}  // namespace
-
-Figures figuresOf(Connection& till, int number) {
+Figures figuresOf(Rows rows) {
   Figures figures;
-  Rows rows = till.query(kAtTill, std::to_string(number));
   while (rows.next()) figures[rows.text("name")] = std::stod(rows.text("figure"));
   return figures;
 }
 
-Figures figuresOf(ServerLine& server) {
-  const ServerAnswer answer = server.ask(kAtServer);
+Figures figuresOf(const ServerAnswer& answer) {
   if (!answer.isDone()) throw std::runtime_error(answer.text);
   Figures figures;
   for (const ServerAnswer::Row& row : answer.rows)
     figures[row.at(0).value_or("")] = std::stod(row.at(1).value_or("0"));
+  return figures;
+}
+
+}  // namespace
+
+Figures ownFigures(Connection& till, int number) {
+  Figures figures = shopFigures(till);
+  addDifference(figures, figuresOf(till.query(kOfTill, std::to_string(number))),
+                figuresOf(till.query(kOthersPart)));
+  return figures;
+}
+
+Figures shopFigures(Connection& till) {
+  return figuresOf(till.query(kStockAndCards));
+}
+
+Figures shopFigures(ServerLine& server) {
+  return figuresOf(server.ask(kStockAndCardsAtServer));
+}
+
+Figures allFigures(ServerLine& server) {
+  Figures figures = shopFigures(server);
+  figures.merge(figuresOf(server.ask(kOfTillsAtServer)));
   return figures;
 }
 

@@ -10,10 +10,13 @@ class ServerLine;
 /// each card, and how many bills, lines, returns and entries there are of each till.
 using Figures = std::map<std::string, double>;
 
-/// By a till's data file.
-Figures figuresOf(Connection& till, int number);
-/// By the server's rows. Throws std::runtime_error.
-Figures figuresOf(ServerLine& server);
+/// What a till did itself, by its data file: without what came down of the others' stock and cards.
+Figures ownFigures(Connection& till, int number);
+/// The shop's stock and cards as a till shows them, and as the server adds them up.
+Figures shopFigures(Connection& till);
+Figures shopFigures(ServerLine& server);
+/// All that the server has. Throws std::runtime_error, as the one before.
+Figures allFigures(ServerLine& server);
 
 /// Adds what one has more than the other.
 void addDifference(Figures& sums, const Figures& more, const Figures& less);

@@ -42,7 +42,7 @@ Storm::Storm(int tills, bool byKeys, unsigned seed)
     StormTill& till = *tills_.back();
     joinThrowAwayShop(server_, *SellingTill(till.file(), till.password()).shop, each,
                       folder_.path().string());
-    const Figures start = figuresOf(till);
+    const Figures start = ownFigures(till);
     for (const auto& [name, figure] : start) expected_.emplace(name, figure);
     addDifference(expected_, {}, start);
     till.start(draw());
@@ -50,8 +50,8 @@ Storm::Storm(int tills, bool byKeys, unsigned seed)
   }
 }
 
-Figures Storm::figuresOf(const StormTill& till) const {
-  return ::figuresOf(*openDataFile({till.file(), till.password()}), till.number());
+Figures Storm::ownFigures(const StormTill& till) const {
+  return ::ownFigures(*openDataFile({till.file(), till.password()}), till.number());
 }
 
 void Storm::pause(unsigned mostMs) {
@@ -139,9 +139,9 @@ void Storm::putTillBack() {
   till.begin();
   drain(till);
   till.killSync();
-  const Figures gone = figuresOf(till);
+  const Figures gone = ownFigures(till);
   till.putBack();
-  addDifference(expected_, gone, figuresOf(till));
+  addDifference(expected_, gone, ownFigures(till));
   // An entry of the same second could be the same in both histories, and is then one.
   std::this_thread::sleep_for(std::chrono::seconds(1));
   till.start(draw());
@@ -160,11 +160,12 @@ void Storm::clearAndCompare() {
   for (const auto& till : tills_) drain(*till);
   for (const auto& till : tills_) {
     compareShown(*till);
-    addDifference(expected_, figuresOf(*till), {});
+    addDifference(expected_, ownFigures(*till), {});
   }
   ServerLine owner(server_.owner());
-  const std::string wrong = difference(expected_, ::figuresOf(owner));
+  const std::string wrong = difference(expected_, allFigures(owner));
   if (!wrong.empty()) fail(wrong);
+  for (const auto& till : tills_) requireFollowed(*till, shopFigures(owner));
   compareCharges();
   const ShopServer::Checked checked = ShopServer(owner).check(false);
   if (!checked.faults.empty()) fail(checked.faults.front());
@@ -182,6 +183,19 @@ void Storm::drain(StormTill& till) {
   while (server_.value(known) != place) {
     till.requireSync();
     if (steady_clock::now() > deadline) fail(till.name() + " is not drained");
+    std::this_thread::sleep_for(milliseconds(20));
+  }
+}
+
+// What the others did comes down once all of it is there.
+void Storm::requireFollowed(StormTill& till, const Figures& shop) {
+  const auto file = openDataFile({till.file(), till.password()});
+  const auto deadline = steady_clock::now() + kDrainPatience;
+  for (;;) {
+    const std::string wrong = difference(shopFigures(*file), shop);
+    if (wrong.empty()) return;
+    till.requireSync();
+    if (steady_clock::now() > deadline) fail(till.name() + " does not follow: " + wrong);
     std::this_thread::sleep_for(milliseconds(20));
   }
 }

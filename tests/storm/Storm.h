@@ -49,7 +49,8 @@ class Storm {
   void drain(StormTill& till);
   void compareShown(const StormTill& till);
   void compareCharges();
-  Figures figuresOf(const StormTill& till) const;
+  void requireFollowed(StormTill& till, const Figures& shop);
+  Figures ownFigures(const StormTill& till) const;
 
   TemporaryFolder folder_;
   ThrowAwayServer server_;
