@@ -262,6 +262,4 @@ begin
     where till = asking;
 end $$;
 
-revoke all on all functions in schema api, shop from public;
-grant execute on all functions in schema api to tills;
-revoke execute on function api.charge_for_shop from tills;
+revoke all on all functions in schema shop from public;

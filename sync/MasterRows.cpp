@@ -87,11 +87,10 @@ bool isOfOperator(const MasterTable& table) {
 void MasterRows::put(const MasterTable& table, const std::string& key, const std::string& body) {
   if (std::string_view(table.name) == "sys_param") return putParameter(body);
   const std::vector<Value> values = table.valuesOf(body);
-  std::int64_t written = connection_.runBound(updateText(table).c_str(), values);
-  if (written == 0) {
-    written = connection_.runBound(insertText(table).c_str(), values);
-    if (written > 0 && std::string_view(table.name) == "member") giveOthersPart(connection_, key);
-  }
+  // In this order a till's first million rows need one look each.
+  std::int64_t written = connection_.runBound(insertText(table).c_str(), values);
+  if (written > 0 && std::string_view(table.name) == "member") giveOthersPart(connection_, key);
+  if (written == 0) written = connection_.runBound(updateText(table).c_str(), values);
   if (written > 0) touched(table, key);
 }
 

@@ -10,26 +10,26 @@ namespace {
 
 // Names and figures each; ?1 is what names of a till end with. What a held bill took is no fact
 // yet.
-constexpr const char* kShared =
+constexpr const char* kStockAndCards =
     "with held as (select bm, sum(l.amount * ratio) as quantity from sellProducts l join sell s"
     " on s.id = l.sellId where s.held = 1 group by bm)"
     " select 'stock of ' || lower(spbm) as name, s.quantity + coalesce(h.quantity, 0) as figure"
     " from stock s left join held h on h.bm = s.spbm"
     " union all select 'card of ' || lower(bh), card from member"
-    " union all select 'spent of ' || lower(bh), total_spent from member"
-    " union all select 'points of ' || lower(bh), points from member";
+    " union all select 'spent of ' || lower(bh), total_spent from member";
 constexpr const char* kOthersPart =
-    "select tbl || ' of ' || lower(key) as name, amount as figure from down_others";
+    "select tbl || ' of ' || lower(key) as name, amount as figure from down_others"
+    " where tbl <> 'points'";
 constexpr const char* kOfTill =
     "select 'bills of ' || ?1 as name, count(*) as figure from sell where state = 1"
     " union all select 'lines of ' || ?1, count(*) from sell s join sellProducts l"
     " on s.id = l.sellId where state = 1"
     " union all select 'returns of ' || ?1, count(*) from un_sell"
     " union all select 'entries of ' || ?1, count(*) from fact";
-constexpr const char* kSharedAtServer =
+constexpr const char* kStockAndCardsAtServer =
     "select 'stock of ' || item, quantity from shop.stock"
     " union all select 'card of ' || number, balance from shop.card_balance"
-    " union all select what || ' of ' || number, amount from shop.member_sum";
+    " union all select 'spent of ' || number, amount from shop.member_sum where what = 'spent'";
 constexpr const char* kOfTillsAtServer =
     "select 'bills of ' || till, count(*) from shop.sale group by till"
     " union all select 'lines of ' || till, count(*) from shop.sale_line group by till"
@@ -62,11 +62,11 @@ Figures ownFigures(Connection& till, int number) {
 }
 
 Figures shopFigures(Connection& till) {
-  return figuresOf(till.query(kShared));
+  return figuresOf(till.query(kStockAndCards));
 }
 
 Figures shopFigures(ServerLine& server) {
-  return figuresOf(server.ask(kSharedAtServer));
+  return figuresOf(server.ask(kStockAndCardsAtServer));
 }
 
 Figures allFigures(ServerLine& server) {

@@ -6,12 +6,12 @@
 class Connection;
 class ServerLine;
 
-/// What is held against each other in the end, by its name: what is in stock of each item and on
-/// each card, what each member bought and has points for, and how many bills, lines, returns and
-/// entries there are of each till.
+/// What is held against each other in the end, by its name: what is in stock of each item, on each
+/// card and bought by each member, and how many bills, lines, returns and entries there are of each
+/// till.
 using Figures = std::map<std::string, double>;
 
-/// What a till did itself, by its data file: without what came down of the others' doings.
+/// What a till did itself, by its data file: without what came down of the others.
 Figures ownFigures(Connection& till, int number);
 /// The shop's stock, cards and members as a till shows them, and as the server adds them up.
 Figures shopFigures(Connection& till);
