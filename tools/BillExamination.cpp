@@ -66,12 +66,17 @@ class BillExamination {
   std::string bill_;  ///< "单据 5", for the texts
 };
 
+// Of what came back at another till of the shop there is the entry that followed it.
+constexpr const char* kBillsWithReturns =
+    "select sell_id from un_sell"
+    " union select cast(touches as integer) from fact where kind = 'returned_elsewhere'"
+    " order by sell_id";
+
 BillExamination::BillExamination(const Examination& books)
     : books_(books),
       bills_(books.connection.query("select * from sell order by id")),
       lines_(books.connection.query("select * from sellProducts order by sellId, id")),
-      returns_(
-          books.connection.query("select sell_id from un_sell group by sell_id order by sell_id")),
+      returns_(books.connection.query(kBillsWithReturns)),
       moreLines_(lines_.next()),
       moreReturns_(returns_.next()) {
   ClsSysParam rules;

@@ -1,6 +1,7 @@
 #include <filesystem>
 
 #include "sync/LiveBills.h"
+#include "tools/Examination.h"
 
 using testing::HasSubstr;
 using Outcome = ReturnBooks::Outcome;
@@ -47,6 +48,23 @@ TEST_F(ReturnsTest, TakesALineBackOnceWhicheverTillDoes) {
   EXPECT_EQ(value("select trim_scale(sum(quantity)) from shop.taken_back"), "2");
   expectSound();
   EXPECT_TRUE(shop().check(true).faults.empty());
+}
+
+TEST_F(ReturnsTest, TheSellersBooksAgreeWithWhatCameBackElsewhere) {
+  const auto faults = [this] {
+    std::string found;
+    const auto add = [&found](const std::string& text) { found += text; };
+    examineBills({*first.till.shop, localTime(), add, add, [](auto) {}});
+    return found;
+  };
+  const int bill = first.till.sell(3, "8001").first;
+  first.errand();
+  EXPECT_EQ(faults(), "");
+  EXPECT_EQ(second.till.takeBack(bill, 1).kind, Outcome::kDone);
+  second.errand();
+  first.errand();
+  ASSERT_EQ(asked("told is not null"), "1");
+  EXPECT_EQ(faults(), "") << "the card paid for what was due then";
 }
 
 TEST_F(ReturnsTest, UndoesWhatWasNotAnswered) {
