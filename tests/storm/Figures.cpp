@@ -10,7 +10,7 @@ namespace {
 
 // Names and figures each; ?1 is what names of a till end with. What a held bill took is no fact
 // yet.
-constexpr const char* kStockAndCards =
+constexpr const char* kShared =
     "with held as (select bm, sum(l.amount * ratio) as quantity from sellProducts l join sell s"
     " on s.id = l.sellId where s.held = 1 group by bm)"
     " select 'stock of ' || lower(spbm) as name, s.quantity + coalesce(h.quantity, 0) as figure"
@@ -26,7 +26,7 @@ constexpr const char* kOfTill =
     " on s.id = l.sellId where state = 1"
     " union all select 'returns of ' || ?1, count(*) from un_sell"
     " union all select 'entries of ' || ?1, count(*) from fact";
-constexpr const char* kStockAndCardsAtServer =
+constexpr const char* kSharedAtServer =
     "select 'stock of ' || item, quantity from shop.stock"
     " union all select 'card of ' || number, balance from shop.card_balance"
     " union all select 'spent of ' || number, amount from shop.member_sum where what = 'spent'";
@@ -62,11 +62,11 @@ Figures ownFigures(Connection& till, int number) {
 }
 
 Figures shopFigures(Connection& till) {
-  return figuresOf(till.query(kStockAndCards));
+  return figuresOf(till.query(kShared));
 }
 
 Figures shopFigures(ServerLine& server) {
-  return figuresOf(server.ask(kStockAndCardsAtServer));
+  return figuresOf(server.ask(kSharedAtServer));
 }
 
 Figures allFigures(ServerLine& server) {
