@@ -81,8 +81,10 @@ create trigger master_known before insert on shop.master
   for each row execute function shop.master_comes();
 alter table shop.master enable replica trigger master_known;
 
--- As before, but for what head office has: of that the shop's own row waits until it has it no more.
-create or replace function shop.publish(out added bigint, out changed bigint, out removed bigint)
+-- As before, but for what head office has: of that the shop's own row waits until it has it no more,
+-- so it is noted as published before the others are looked at.
+alter function shop.publish() rename to publish_rows;
+create function shop.publish(out added bigint, out changed bigint, out removed bigint)
 language plpgsql as $$
 begin
   if shop.number() = 0 then
@@ -93,24 +95,7 @@ begin
     from shop.change n left join incoming i using (tbl, key)
     where (n.tbl, n.key) = (c.tbl, c.key) and n.head is not null
       and n.published is distinct from i.body;
-  delete from incoming i using shop.change c
-    where (i.tbl, i.key) = (c.tbl, c.key) and c.head is not null;
-  update shop.change c set body = null, published = null
-    where published is not null and head is null
-      and not exists (select from incoming i where (i.tbl, i.key) = (c.tbl, c.key));
-  get diagnostics removed = row_count;
-  select count(*) into changed from incoming i join shop.change c using (tbl, key)
-    where c.published is distinct from i.body and c.body is not null
-      and c.body is distinct from i.body;
-  update shop.change c set body = i.body, published = i.body from incoming i
-    where (i.tbl, i.key) = (c.tbl, c.key) and c.body is not null
-      and c.published is distinct from i.body;
-  insert into shop.change (tbl, key, body, published) select tbl, key, body, body from incoming i
-    where not exists (select from shop.change c
-                      where (c.tbl, c.key) = (i.tbl, i.key) and c.body is not null)
-    on conflict on constraint change_pkey do update
-      set body = excluded.body, published = excluded.published;
-  get diagnostics added = row_count;
+  select p.added, p.changed, p.removed into added, changed, removed from shop.publish_rows() p;
 end $$;
 
 -- At head office: what is in incoming, for that shop or (0) for all.
