@@ -5,8 +5,8 @@
 class Connection;
 
 /// What other tills did to this till's stock, cards and members. The server tells their part as a
-/// whole, and the file keeps what it was told last: the difference is added to what the till has, so
-/// that nothing is added twice and what the till itself does meanwhile stays. `kind` is "stock",
+/// whole, and the file keeps what it was told last: the difference is added to what the till has,
+/// so that nothing is added twice and what the till itself does meanwhile stays. `kind` is "stock",
 /// "card", "spent" (what a member bought, in yuan) or "points", `key` an item or a card's number.
 /// Points for which their column has no room are added when there is some. Inside a transaction.
 /// Throws StoreError.
