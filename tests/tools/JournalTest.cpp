@@ -140,7 +140,8 @@ TEST_F(JournalTest, GoesOnWithWhatTheOwnersToolDoes) {
         "operator password @ --number 2 --password 9", "operator card @ --number 2",
         "operator card @ --number 2 --remove", "operator remove @ --number 2",
         "operator add @ --number 4 --name 新 --password 4 --right journal",
-        "param set @ ShopName=店", "param unset @ ShopName", "export @ - --table stock", "report @"}) {
+        "param set @ ShopName=店", "param unset @ ShopName", "export @ - --table stock",
+        "report @"}) {
     expect(0, "", command);
     expect(0, "账目正确", "check @");
   }
