@@ -91,26 +91,6 @@ void Storm::blow() {
   ++faults_[name];
 }
 
-void Storm::loseACharge() {
-  constexpr auto kUntilTillsAskNoMore = std::chrono::seconds(4);
-  constexpr auto kUntilTheyAskAgain = std::chrono::seconds(4);
-  const auto charged = [this] {
-    return server_.value("select count(*) from shop.charge where asked is not null");
-  };
-  for (int tries = 0; tries < 10; ++tries) {
-    proxy_.set(Proxy::Weather::kLoseAnswer);
-    const std::string before = charged();
-    const auto deadline = steady_clock::now() + kUntilTillsAskNoMore;
-    while (charged() == before && steady_clock::now() < deadline)
-      std::this_thread::sleep_for(milliseconds(20));
-    const bool isLost = charged() != before;
-    proxy_.set(Proxy::Weather::kFair);
-    std::this_thread::sleep_for(kUntilTheyAskAgain);
-    if (isLost) return static_cast<void>(++faults_["a charge's answer lost"]);
-  }
-  fail("no till charged a card");
-}
-
 void Storm::letServerForget() {
   server_.set("synchronous_commit = off");
   server_.stop();

@@ -22,10 +22,6 @@ class Storm {
   /// One more fault: a kill of a till, of a tillsync or of the server, or weather in the network.
   void strike();
 
-  /// Answers are lost until that to a card's charge is among them: a till worked by keys charges
-  /// too seldom for chance.
-  void loseACharge();
-
   /// From now on the server answers before it has written; forget has it lose that.
   void letServerForget();
   void forget();

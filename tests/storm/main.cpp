@@ -25,7 +25,6 @@ struct Options {
 /// All faults there are, of the server's disk too, which is put back from the middle.
 void storm(Storm& storm, int faults) {
   for (int fault = 0; fault < faults; ++fault) {
-    if (fault == faults / 4) storm.loseACharge();
     if (fault == faults / 2) storm.copyServer();
     if (fault == faults * 3 / 4) storm.putServerBack();
     storm.strike();
