@@ -4,8 +4,8 @@
 
 #include <algorithm>
 #include <cstdlib>
-#include <regex>
 #include <sstream>
+#include <string_view>
 #include <utility>
 
 #include "base/Failure.h"
@@ -92,18 +92,38 @@ ServerAnswer ServerLine::unknown(const std::string& why) {
   return answer;
 }
 
+namespace {
+
+constexpr std::string_view kBeforeCode = ":  ", kBehindCode = ": ";
+constexpr std::size_t kCode = 5;
+
+/// Where what stands before a code begins; npos without one.
+std::size_t beforeCode(const std::string& words) {
+  const auto isOfCode = [](char each) {
+    return (each >= '0' && each <= '9') || (each >= 'A' && each <= 'Z');
+  };
+  std::size_t at = words.find(kBeforeCode);
+  for (; at != std::string::npos; at = words.find(kBeforeCode, at + 1)) {
+    const std::string_view rest = std::string_view(words).substr(at + kBeforeCode.size());
+    const std::string_view code = rest.substr(0, kCode);
+    if (code.size() == kCode && std::ranges::all_of(code, isOfCode) &&
+        rest.substr(kCode).starts_with(kBehindCode))
+      break;
+  }
+  return at;
+}
+
+}  // namespace
+
 // The library tells the code of what refused a line nowhere but in its longer text: "FATAL:  28P01:
 // password ...", with the server's place in its own source in a further line. The words of a wrong
 // certificate are the library's, too.
 ServerAnswer ServerLine::notLetIn() {
-  static const std::regex code(":  ([0-9A-Z]{5}): ");
   const std::string words = fault();
-  std::smatch found;
-  if (std::regex_search(words, found, code)) {
-    const std::string reason = found.suffix().str();
-    ServerAnswer answer =
-        unknown(found.prefix().str() + ": " + reason.substr(0, reason.find('\n')));
-    answer.state = found[1];
+  if (const std::size_t at = beforeCode(words); at != std::string::npos) {
+    const std::string reason = words.substr(at + kBeforeCode.size() + kCode + kBehindCode.size());
+    ServerAnswer answer = unknown(words.substr(0, at) + ": " + reason.substr(0, reason.find('\n')));
+    answer.state = words.substr(at + kBeforeCode.size(), kCode);
     return answer;
   }
   ServerAnswer answer = unknown(words);
